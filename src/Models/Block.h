@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Models/BlockType.h"
+#include "Models/TodoItem.h"
+
+#include <QByteArray>
+#include <QList>
+
+#include <optional>
+
+/// One piece of a page. The optional fields are truly optional: absent differs from false or empty and
+/// stays absent in the data file.
+struct Block {
+    QUuid id = QUuid::createUuid();
+    BlockType type = BlockType::textSmall;
+    /// The text; unused by dividers and images.
+    QString content;
+    /// The bytes of the picture's file, unchanged.
+    std::optional<QByteArray> imageData;
+    std::optional<QList<TodoItem>> todos;
+    /// A picture shown as the banner of its page; absent counts as no.
+    std::optional<bool> isFullWidth;
+    /// The title laid over a banner.
+    std::optional<QString> bannerTitle;
+
+    Block() = default;
+    explicit Block(BlockType blockType, QString text = {}) : type(blockType), content(std::move(text)) {}
+
+    bool operator==(const Block &) const = default;
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Models/Block.h"
+#include "Models/Space.h"
+#include "Models/Timestamp.h"
+
+#include <QLocale>
+#include <QTimeZone>
+
+/// One short page: a value. Copies share their blocks until one of them is changed.
+struct PelkoDocument {
+    QUuid id = QUuid::createUuid();
+    Space space = Space::work;
+    QList<Block> blocks;
+    /// Also what lists of documents are sorted by.
+    Timestamp createdAt = 0;
+    /// Absent until the first edit.
+    std::optional<Timestamp> updatedAt;
+    std::optional<bool> isPinned;
+    std::optional<bool> isArchived;
+
+    PelkoDocument() = default;
+    /// A new page: an empty heading, then an empty body block.
+    PelkoDocument(Space space, Timestamp createdAt);
+
+    /// The title of the first banner that has one, else the first heading, else "Untitled".
+    QString title() const;
+    /// Runs of characters between white space, over all blocks.
+    qint64 wordCount() const;
+    /// How long ago the page was last edited ("5m ago"), in words the reader of `locale` knows.
+    QString relativeDate(Timestamp now, const QTimeZone &zone, const QLocale &locale) const;
+
+    bool operator==(const PelkoDocument &) const = default;
+};

@@ -1,0 +1,24 @@
+#include "Models/Space.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+QString rawValue(Space space)
+{
+    switch (space) {
+    case Space::ideas:
+        return u"ideas"_s;
+    case Space::work:
+        return u"work"_s;
+    case Space::journal:
+        return u"journal"_s;
+    }
+    Q_UNREACHABLE();
+}
+
+std::optional<Space> spaceFromRawValue(QStringView raw)
+{
+    const auto found = std::ranges::find_if(allSpaces, [raw](Space space) { return rawValue(space) == raw; });
+    return found == allSpaces.end() ? std::nullopt : std::optional(*found);
+}

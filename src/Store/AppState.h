@@ -1,0 +1,98 @@
+#pragma once
+
+#include "Models/PelkoDocument.h"
+#include "Services/Scheduler.h"
+
+#include <QObject>
+
+class Clock;
+class DocumentFile;
+
+/// The one store: every document, which of them is open, and the few flags that several views share. It
+/// alone reads and writes the data file. Half a second after the last change, the whole list is saved.
+/// Setting a value that is already held announces nothing. Interface thread only.
+class AppState : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Loads the documents. The services must outlive the store.
+    AppState(Scheduler &scheduler, const Clock &clock, DocumentFile &file);
+    ~AppState() override;
+
+    const QList<PelkoDocument> &documents() const { return m_documents; }
+    Space currentSpace() const { return m_currentSpace; }
+    std::optional<QUuid> openDocumentID() const { return m_openDocumentID; }
+    bool showDocLimitNudge() const { return m_showDocLimitNudge; }
+    bool showSavedIndicator() const { return m_showSavedIndicator; }
+    bool focusMode() const { return m_focusMode; }
+    bool showNav() const { return m_showNav; }
+    bool showTasksPanel() const { return m_showTasksPanel; }
+    bool showAbout() const { return m_showAbout; }
+    /// What went wrong, in words for the user, until it is dismissed.
+    const std::optional<QString> &lastError() const { return m_lastError; }
+
+    /// The document of that id, or nullptr. Valid until the documents next change.
+    const PelkoDocument *document(const QUuid &id) const;
+    /// The document that `openDocumentID` names, whatever its space.
+    std::optional<PelkoDocument> openDocument() const;
+    /// The documents of the current space, newest first.
+    QList<PelkoDocument> currentSpaceDocuments() const;
+    /// The documents of the ideas space, newest first.
+    QList<PelkoDocument> sparks() const;
+
+    void setCurrentSpace(Space space);
+    void setOpenDocumentID(std::optional<QUuid> id);
+    void setShowDocLimitNudge(bool shown);
+    void setFocusMode(bool on);
+    void setShowNav(bool shown);
+    void setShowTasksPanel(bool shown);
+    void setShowAbout(bool shown);
+    void clearLastError();
+
+    /// Adds an empty page to `space` and opens it, or raises `showDocLimitNudge` when five are there.
+    void createDocument(Space space);
+    /// Replaces the document of the same id and stamps it as edited now. An unknown id changes nothing.
+    void updateDocument(PelkoDocument document);
+    /// Removes the document; if it was open, the newest of the current space is opened instead.
+    void permanentlyDeleteDocument(const PelkoDocument &document);
+    /// Files one line as a new ideas document and saves at once. Blank text gives nothing.
+    std::optional<PelkoDocument> captureSpark(const QString &text);
+    /// Moves one block of a document in memory without saving or stamping, for the live moves of a drag.
+    void moveBlock(const QUuid &documentID, qsizetype from, qsizetype to);
+    /// Writes all documents now. A failure becomes `lastError`.
+    void save();
+
+Q_SIGNALS:
+    void documentsChanged();
+    void currentSpaceChanged();
+    void openDocumentIDChanged();
+    void showDocLimitNudgeChanged();
+    void showSavedIndicatorChanged();
+    void focusModeChanged();
+    void showNavChanged();
+    void showTasksPanelChanged();
+    void showAboutChanged();
+    void lastErrorChanged();
+
+private:
+    void load();
+    void debounceSave();
+
+    Scheduler &m_scheduler;
+    const Clock &m_clock;
+    DocumentFile &m_file;
+
+    QList<PelkoDocument> m_documents;
+    Space m_currentSpace = Space::work;
+    std::optional<QUuid> m_openDocumentID;
+    bool m_showDocLimitNudge = false;
+    bool m_showSavedIndicator = false;
+    bool m_focusMode = false;
+    bool m_showNav = false;
+    bool m_showTasksPanel = false;
+    bool m_showAbout = false;
+    std::optional<QString> m_lastError;
+    ScheduledCall m_saveTimer;
+    ScheduledCall m_savedIndicatorTask;
+};

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "Shell/MainViewModel.h"
+
+#include <QtQml/qqml.h>
+
+/// Makes the view models, which know nothing of QML, known to it.
+struct MainViewModelForQml {
+    Q_GADGET
+    QML_FOREIGN(MainViewModel)
+    QML_NAMED_ELEMENT(MainViewModel)
+    QML_UNCREATABLE("Handed in by the program.")
+};

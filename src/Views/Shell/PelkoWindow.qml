@@ -1,0 +1,11 @@
+import QtQuick
+import Pelko
+
+Window {
+    required property MainViewModel main
+
+    width: 1100
+    height: 750
+    visible: true
+    color: FirePalette.deepBackground
+}

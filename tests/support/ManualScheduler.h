@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Services/Scheduler.h"
+
+#include <vector>
+
+/// A scheduler whose time passes only when a test says so.
+class ManualScheduler : public Scheduler
+{
+public:
+    using Milliseconds = std::chrono::milliseconds;
+
+    ScheduledCall after(Milliseconds delay, Action action) override;
+    ScheduledCall every(Milliseconds interval, Action action) override;
+
+    /// Lets time pass, making every call that falls due, in the order of their times.
+    void advance(Milliseconds duration);
+
+    Milliseconds now() const { return m_now; }
+
+private:
+    struct Entry {
+        Milliseconds due;
+        Milliseconds interval; // zero for a single call
+        std::weak_ptr<void> token;
+        Action action;
+    };
+
+    ScheduledCall add(Milliseconds delay, Milliseconds interval, Action action);
+
+    Milliseconds m_now{0};
+    std::vector<Entry> m_entries;
+};
