@@ -30,6 +30,7 @@ QString rawValue(BlockType type)
 
 std::optional<BlockType> blockTypeFromRawValue(QStringView raw)
 {
-    const auto found = std::ranges::find(names(), raw, [](const auto &name) { return QStringView(name.second); });
+    const auto found =
+        std::ranges::find(names(), raw, [](const auto &name) { return QStringView(name.second); });
     return found == names().end() ? std::nullopt : std::optional(found->first);
 }

@@ -1,7 +1,9 @@
 #include "Store/AppState.h"
 
 AppState::AppState(Scheduler &scheduler, const Clock &clock, DocumentFile &file)
-    : m_scheduler(scheduler), m_clock(clock), m_file(file)
+    : m_scheduler(scheduler)
+    , m_clock(clock)
+    , m_file(file)
 {
 }
 

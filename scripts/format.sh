@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Brings every C++ file into the project's form; with --check only says which are not. One version of the
+# formatter for everybody, because versions differ in small things.
+set -euo pipefail
+
+cd "$(dirname "$0")/.."
+mode=(-i)
+[ "${1:-}" != --check ] || mode=(--dry-run -Werror)
+folders=()
+for folder in src tests benchmarks; do
+    [ ! -d "$folder" ] || folders+=("$folder")
+done
+find "${folders[@]}" \( -name '*.cpp' -o -name '*.h' \) -print0 | xargs -0 clang-format-19 "${mode[@]}"
