@@ -1,0 +1,54 @@
+pragma Singleton
+
+import QtQml
+
+/// Space, radii and the sizes that several views share, in device-independent pixels.
+QtObject {
+    readonly property int space2: 2
+    readonly property int space4: 4
+    readonly property int space6: 6
+    readonly property int space8: 8
+    readonly property int space10: 10
+    readonly property int space12: 12
+    readonly property int space14: 14
+    readonly property int space16: 16
+    readonly property int space20: 20
+    readonly property int space24: 24
+    readonly property int space32: 32
+    readonly property int space48: 48
+
+    readonly property int windowRadius: 12
+    readonly property int dialogRadius: 20
+    readonly property int overlayRadius: 22
+    readonly property int cardRadius: 16
+    readonly property int menuRadius: 14
+    readonly property int stickyRadius: 14
+    readonly property int fieldRadius: 12
+    readonly property int listRowRadius: 11
+    readonly property int codeRadius: 10
+    readonly property int washRadius: 10
+    readonly property int menuRowRadius: 9
+    readonly property int pictureRadius: 8
+
+    readonly property int stripHeight: 44
+    readonly property int stripVeil: 60
+    readonly property int captionSize: 28
+    readonly property int captionGlyph: 14
+    readonly property int captionSpacing: 4
+    readonly property int captionEdge: 10
+    readonly property int captionTop: 8
+    readonly property int capsuleHeight: 26
+    readonly property int barHeight: 52
+    readonly property int chipHeight: 28
+    readonly property int chipMinimumWidth: 36
+    readonly property int chipPadding: 11
+    readonly property int chipSymbol: 14
+    readonly property int chipGap: 6
+    readonly property int menuRowHeight: 30
+    readonly property int panelWidth: 240
+
+    readonly property int measure: 624
+    readonly property int pageMargin: 48
+    readonly property int pageTop: 60
+    readonly property int pageFoot: 40
+}

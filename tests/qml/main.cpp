@@ -1,0 +1,20 @@
+#include <QQmlEngine>
+#include <QtQml/QQmlExtensionPlugin>
+#include <QtQuickTest/quicktest.h>
+
+Q_IMPORT_QML_PLUGIN(PelkoPlugin)
+
+using namespace Qt::StringLiterals;
+
+/// Gives the view tests the module as the program has it. C++ fixtures that tests need are registered in
+/// `qmlEngineAvailable`, one line each.
+class Setup : public QObject
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void qmlEngineAvailable(QQmlEngine *engine) { engine->addImportPath(u"qrc:/qt/qml"_s); }
+};
+
+QUICK_TEST_MAIN_WITH_SETUP(Pelko, Setup)
+#include "main.moc"
