@@ -7,19 +7,19 @@
 #include <optional>
 #include <variant>
 
+/// A failure to make, read or write the file, in words for the user: the system's own where it has some.
+struct FileError {
+    QString description;
+};
+
 /// Takes the bytes of a file in order, as they are made.
 class ByteSink
 {
 public:
     virtual ~ByteSink() = default;
 
-    /// False when the bytes could not be taken; nothing more need be offered then.
-    virtual bool write(QByteArrayView bytes) = 0;
-};
-
-/// A failure of the file system, in the system's own words.
-struct FileError {
-    QString description;
+    /// After an error nothing more need be offered.
+    [[nodiscard]] virtual std::optional<FileError> write(QByteArrayView bytes) = 0;
 };
 
 /// The one file that holds the documents.
@@ -29,14 +29,14 @@ public:
     struct Missing {
     };
     using Contents = std::variant<Missing, QByteArray, FileError>;
-    using Producer = std::function<bool(ByteSink &)>;
+    using Producer = std::function<std::optional<FileError>(ByteSink &)>;
 
     virtual ~DocumentFile() = default;
 
     /// The whole file, all of it in memory.
     virtual Contents read() = 0;
 
-    /// Replaces the file by what `produce` writes. After an error the file is what it was before; without
-    /// one, the new bytes have reached the disk.
+    /// Replaces the file by what `produce` writes. After an error, `produce`'s own included, the file is what
+    /// it was before; without one, the new bytes have reached the disk.
     [[nodiscard]] virtual std::optional<FileError> replace(const Producer &produce) = 0;
 };

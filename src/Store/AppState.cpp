@@ -1,10 +1,217 @@
 #include "Store/AppState.h"
 
+#include "Services/Clock.h"
+#include "Services/DocumentFile.h"
+#include "Store/ChangeScope.h"
+#include "Store/DocumentReader.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace
+{
+constexpr qsizetype documentLimit = 5; // in each space
+constexpr auto saveDelay = 500ms;
+constexpr auto savedIndicatorTime = 1500ms;
+
+/// Stable, so that pages made in the same instant keep their order.
+QList<PelkoDocument> newestFirst(const QList<PelkoDocument> &documents, Space space)
+{
+    QList<PelkoDocument> found;
+    std::ranges::copy_if(documents, std::back_inserter(found),
+                         [space](const PelkoDocument &document) { return document.space == space; });
+    std::ranges::stable_sort(found, std::ranges::greater(), &PelkoDocument::createdAt);
+    return found;
+}
+} // namespace
+
 AppState::AppState(Scheduler &scheduler, const Clock &clock, DocumentFile &file)
     : m_scheduler(scheduler)
     , m_clock(clock)
     , m_file(file)
 {
+    load();
+    const auto first = std::ranges::find(m_documents, m_currentSpace, &PelkoDocument::space);
+    if (first != m_documents.cend())
+        m_openDocumentID = first->id;
 }
 
 AppState::~AppState() = default;
+
+const PelkoDocument *AppState::document(const QUuid &id) const
+{
+    const auto found = std::ranges::find(m_documents, id, &PelkoDocument::id);
+    return found == m_documents.cend() ? nullptr : &*found;
+}
+
+std::optional<PelkoDocument> AppState::openDocument() const
+{
+    const PelkoDocument *open = m_openDocumentID ? document(*m_openDocumentID) : nullptr;
+    return open ? std::optional(*open) : std::nullopt;
+}
+
+QList<PelkoDocument> AppState::currentSpaceDocuments() const
+{
+    return newestFirst(m_documents, m_currentSpace);
+}
+
+QList<PelkoDocument> AppState::sparks() const
+{
+    return newestFirst(m_documents, Space::ideas);
+}
+
+void AppState::setCurrentSpace(Space space)
+{
+    ChangeScope(*this).assign(m_currentSpace, space, &AppState::currentSpaceChanged);
+}
+
+void AppState::setOpenDocumentID(std::optional<QUuid> id)
+{
+    ChangeScope(*this).assign(m_openDocumentID, id, &AppState::openDocumentIDChanged);
+}
+
+void AppState::setShowDocLimitNudge(bool shown)
+{
+    ChangeScope(*this).assign(m_showDocLimitNudge, shown, &AppState::showDocLimitNudgeChanged);
+}
+
+void AppState::setFocusMode(bool on)
+{
+    ChangeScope(*this).assign(m_focusMode, on, &AppState::focusModeChanged);
+}
+
+void AppState::setShowNav(bool shown)
+{
+    ChangeScope(*this).assign(m_showNav, shown, &AppState::showNavChanged);
+}
+
+void AppState::setShowTasksPanel(bool shown)
+{
+    ChangeScope(*this).assign(m_showTasksPanel, shown, &AppState::showTasksPanelChanged);
+}
+
+void AppState::setShowAbout(bool shown)
+{
+    ChangeScope(*this).assign(m_showAbout, shown, &AppState::showAboutChanged);
+}
+
+void AppState::clearLastError()
+{
+    setLastError(std::nullopt);
+}
+
+void AppState::createDocument(Space space)
+{
+    if (std::ranges::count(m_documents, space, &PelkoDocument::space) >= documentLimit) {
+        setShowDocLimitNudge(true);
+        return;
+    }
+    const PelkoDocument document(space, m_clock.now());
+    ChangeScope scope(*this);
+    m_documents.append(document);
+    scope.announce(&AppState::documentsChanged);
+    scope.assign(m_openDocumentID, document.id, &AppState::openDocumentIDChanged);
+    debounceSave();
+}
+
+void AppState::updateDocument(PelkoDocument document)
+{
+    const auto stored = std::ranges::find(std::as_const(m_documents), document.id, &PelkoDocument::id);
+    if (stored == m_documents.cend())
+        return;
+    document.updatedAt = m_clock.now();
+    ChangeScope scope(*this);
+    // Time is compared first: it nearly always differs, and a page with pictures is costly to compare.
+    if (stored->updatedAt != document.updatedAt || *stored != document) {
+        m_documents[stored - m_documents.cbegin()] = std::move(document);
+        scope.announce(&AppState::documentsChanged);
+    }
+    debounceSave();
+}
+
+void AppState::permanentlyDeleteDocument(const PelkoDocument &document)
+{
+    const QUuid id = document.id; // the caller may have handed in an element of the list itself
+    ChangeScope scope(*this);
+    if (m_documents.removeIf([&id](const PelkoDocument &other) { return other.id == id; }) > 0)
+        scope.announce(&AppState::documentsChanged);
+    if (m_openDocumentID == id) {
+        const QList<PelkoDocument> left = currentSpaceDocuments();
+        const auto next = left.isEmpty() ? std::nullopt : std::optional(left.first().id);
+        scope.assign(m_openDocumentID, next, &AppState::openDocumentIDChanged);
+    }
+    debounceSave();
+}
+
+std::optional<PelkoDocument> AppState::captureSpark(const QString &text)
+{
+    const QString line = text.trimmed(); // QString knows the same white space as words and titles
+    if (line.isEmpty())
+        return std::nullopt;
+    const Timestamp now = m_clock.now();
+    PelkoDocument spark(Space::ideas, now);
+    spark.blocks = {Block(BlockType::textSmall, line)};
+    spark.updatedAt = now;
+    ChangeScope scope(*this);
+    m_documents.append(spark);
+    scope.announce(&AppState::documentsChanged);
+    save();
+    return spark;
+}
+
+void AppState::moveBlock(const QUuid &documentID, qsizetype from, qsizetype to)
+{
+    const auto stored = std::ranges::find(std::as_const(m_documents), documentID, &PelkoDocument::id);
+    if (stored == m_documents.cend())
+        return;
+    const auto isInside = [count = stored->blocks.size()](qsizetype index) {
+        return index >= 0 && index < count;
+    };
+    if (from == to || !isInside(from) || !isInside(to))
+        return;
+    ChangeScope scope(*this);
+    m_documents[stored - m_documents.cbegin()].blocks.move(from, to);
+    scope.announce(&AppState::documentsChanged);
+}
+
+void AppState::save()
+{
+    const auto produce = [this](ByteSink &sink) { return m_writer.write(m_documents, sink); };
+    if (const std::optional<FileError> error = m_file.replace(produce)) {
+        setLastError(u"Save failed: "_s + error->description);
+        return;
+    }
+    m_savedIndicatorTask = m_scheduler.after(savedIndicatorTime, [this] { setShowSavedIndicator(false); });
+    setShowSavedIndicator(true);
+}
+
+void AppState::load()
+{
+    DocumentFile::Contents contents = m_file.read();
+    if (std::holds_alternative<DocumentFile::Missing>(contents))
+        return;
+    std::optional<QList<PelkoDocument>> documents;
+    if (auto *bytes = std::get_if<QByteArray>(&contents))
+        documents = readDocuments(std::move(*bytes));
+    if (documents)
+        m_documents = std::move(*documents);
+    else
+        m_lastError = u"Failed to load your documents."_s;
+}
+
+void AppState::debounceSave()
+{
+    m_saveTimer = m_scheduler.after(saveDelay, [this] { save(); });
+}
+
+void AppState::setShowSavedIndicator(bool shown)
+{
+    ChangeScope(*this).assign(m_showSavedIndicator, shown, &AppState::showSavedIndicatorChanged);
+}
+
+void AppState::setLastError(std::optional<QString> error)
+{
+    ChangeScope(*this).assign(m_lastError, std::move(error), &AppState::lastErrorChanged);
+}

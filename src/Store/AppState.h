@@ -2,6 +2,7 @@
 
 #include "Models/PelkoDocument.h"
 #include "Services/Scheduler.h"
+#include "Store/DocumentWriter.h"
 
 #include <QObject>
 
@@ -78,10 +79,13 @@ Q_SIGNALS:
 private:
     void load();
     void debounceSave();
+    void setShowSavedIndicator(bool shown);
+    void setLastError(std::optional<QString> error);
 
     Scheduler &m_scheduler;
     const Clock &m_clock;
     DocumentFile &m_file;
+    DocumentWriter m_writer;
 
     QList<PelkoDocument> m_documents;
     Space m_currentSpace = Space::work;

@@ -1,0 +1,90 @@
+#include "Models/PelkoDocument.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+// QChar::isSpace is Unicode's White_Space: every separator, tab to carriage return, and U+0085.
+bool isBlank(QStringView text)
+{
+    return std::ranges::all_of(text, [](QChar character) { return character.isSpace(); });
+}
+
+qint64 wordsIn(QStringView text)
+{
+    qint64 words = 0;
+    bool inWord = false;
+    for (const QChar character : text) {
+        const bool space = character.isSpace();
+        words += !space && !inWord;
+        inWord = !space;
+    }
+    return words;
+}
+
+bool isTitledBanner(const Block &block)
+{
+    return block.type == BlockType::image && block.isFullWidth.value_or(false) && block.bannerTitle &&
+           !isBlank(*block.bannerTitle);
+}
+
+QString monthAndDay(Timestamp time, const QTimeZone &zone, const QLocale &locale)
+{
+    constexpr double referenceDate = 978'307'200; // 2001-01-01 in seconds since 1970
+    // A file may hold any number, a calendar may not: times beyond some 270,000 years count as its edge.
+    constexpr double edge = 8.64e15;
+    const double milliseconds = std::clamp(std::floor((time + referenceDate) * 1000), -edge, edge);
+    const auto date = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(milliseconds), zone).date();
+    return locale.toString(date, u"MMM d"_s);
+}
+} // namespace
+
+PelkoDocument::PelkoDocument(Space documentSpace, Timestamp creationTime)
+    : space(documentSpace)
+    , blocks{Block(BlockType::textLarge), Block(BlockType::textSmall)}
+    , createdAt(creationTime)
+{
+}
+
+QString PelkoDocument::title() const
+{
+    const auto banner = std::ranges::find_if(blocks, isTitledBanner);
+    if (banner != blocks.end())
+        return *banner->bannerTitle;
+    const auto heading = std::ranges::find(blocks, BlockType::textLarge, &Block::type);
+    if (heading != blocks.end() && !isBlank(heading->content))
+        return heading->content;
+    return u"Untitled"_s;
+}
+
+qint64 PelkoDocument::wordCount() const
+{
+    qint64 words = 0;
+    for (const Block &block : blocks)
+        words += wordsIn(block.content);
+    return words;
+}
+
+QString PelkoDocument::relativeDate(Timestamp now, const QTimeZone &zone, const QLocale &locale) const
+{
+    constexpr double minute = 60, hour = 3600, day = 86400;
+    const Timestamp time = updatedAt.value_or(createdAt);
+    const double elapsed = now - time;
+    const auto whole = [elapsed](double unit) { return QString::number(static_cast<int>(elapsed / unit)); };
+    if (elapsed < minute)
+        return u"Just now"_s;
+    if (elapsed < hour)
+        return whole(minute) + u"m ago"_s;
+    if (elapsed < day)
+        return whole(hour) + u"h ago"_s;
+    if (elapsed < 2 * day)
+        return u"Yesterday"_s;
+    if (elapsed < 7 * day)
+        return whole(day) + u"d ago"_s;
+    return monthAndDay(time, zone, locale);
+}

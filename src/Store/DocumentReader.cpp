@@ -1,0 +1,197 @@
+#include "Store/DocumentReader.h"
+
+#include "Store/Base64.h"
+#include "Store/UuidText.h"
+
+#include <simdjson.h>
+
+namespace dom = simdjson::dom;
+
+namespace
+{
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+/// The members of one JSON object, found by name.
+class Members
+{
+public:
+    explicit Members(dom::element json) { m_isObject = json.get(m_object) == simdjson::SUCCESS; }
+
+    /// False when the member is missing or is not what `value` can hold.
+    template <typename Value>
+    bool required(std::string_view key, Value &value) const;
+
+    /// False when the member is there and is not what `value` can hold.
+    template <typename Value>
+    bool optional(std::string_view key, std::optional<Value> &value) const;
+
+private:
+    std::optional<dom::element> last(std::string_view key) const;
+
+    dom::object m_object;
+    bool m_isObject = false;
+};
+
+// What "data.json" may hold, value by value. Each is false when the JSON is of another kind.
+
+bool read(dom::element json, bool &value)
+{
+    return json.get(value) == simdjson::SUCCESS;
+}
+
+bool read(dom::element json, double &value)
+{
+    return json.get(value) == simdjson::SUCCESS;
+}
+
+bool read(dom::element json, std::string_view &value)
+{
+    return json.get(value) == simdjson::SUCCESS;
+}
+
+bool read(dom::element json, QString &value)
+{
+    std::string_view text;
+    if (!read(json, text))
+        return false;
+    // QString::fromUtf8 takes a mark at the start for a byte order mark and drops it; here it is text.
+    value.clear();
+    for (; text.starts_with(byteOrderMark); text.remove_prefix(byteOrderMark.size()))
+        value += QChar(QChar::ByteOrderMark);
+    value += QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    return true;
+}
+
+template <typename Value>
+bool assign(Value &value, std::optional<Value> read)
+{
+    if (read)
+        value = std::move(*read);
+    return read.has_value();
+}
+
+bool read(dom::element json, QUuid &value)
+{
+    std::string_view text;
+    return read(json, text) && assign(value, uuidFromText(text));
+}
+
+bool read(dom::element json, QByteArray &value)
+{
+    std::string_view text;
+    return read(json, text) && assign(value, decodeBase64(text));
+}
+
+bool read(dom::element json, Space &value)
+{
+    QString raw;
+    return read(json, raw) && assign(value, spaceFromRawValue(raw));
+}
+
+bool read(dom::element json, BlockType &value)
+{
+    QString raw;
+    return read(json, raw) && assign(value, blockTypeFromRawValue(raw));
+}
+
+template <typename Value>
+bool read(dom::element json, QList<Value> &values);
+
+bool read(dom::element json, TodoItem &item)
+{
+    const Members members(json);
+    return members.required("id", item.id) && members.required("text", item.text) &&
+           members.required("done", item.done);
+}
+
+bool read(dom::element json, Block &block)
+{
+    const Members members(json);
+    return members.required("id", block.id) && members.required("type", block.type) &&
+           members.required("content", block.content) && members.optional("imageData", block.imageData) &&
+           members.optional("todos", block.todos) && members.optional("isFullWidth", block.isFullWidth) &&
+           members.optional("bannerTitle", block.bannerTitle);
+}
+
+bool read(dom::element json, PelkoDocument &document)
+{
+    const Members members(json);
+    return members.required("id", document.id) && members.required("space", document.space) &&
+           members.required("blocks", document.blocks) && members.required("createdAt", document.createdAt) &&
+           members.optional("updatedAt", document.updatedAt) &&
+           members.optional("isPinned", document.isPinned) &&
+           members.optional("isArchived", document.isArchived);
+}
+
+template <typename Value>
+bool read(dom::element json, QList<Value> &values)
+{
+    dom::array array;
+    if (json.get(array) != simdjson::SUCCESS)
+        return false;
+    values.clear();
+    values.reserve(qsizetype(array.size()));
+    for (const dom::element element : array) {
+        if (!read(element, values.emplaceBack()))
+            return false;
+    }
+    return true;
+}
+
+std::optional<dom::element> Members::last(std::string_view key) const
+{
+    std::optional<dom::element> found;
+    if (!m_isObject)
+        return found;
+    for (const dom::key_value_pair member : m_object) {
+        if (member.key == key)
+            found = member.value;
+    }
+    return found;
+}
+
+template <typename Value>
+bool Members::required(std::string_view key, Value &value) const
+{
+    const auto json = last(key);
+    return json && read(*json, value);
+}
+
+template <typename Value>
+bool Members::optional(std::string_view key, std::optional<Value> &value) const
+{
+    const auto json = last(key);
+    if (!json || json->is_null()) {
+        value.reset();
+        return true;
+    }
+    return read(*json, value.emplace());
+}
+
+/// The parser may look at the bytes after the end, without counting them.
+void pad(QByteArray &json)
+{
+    json.reserve(json.size() + qsizetype(simdjson::SIMDJSON_PADDING));
+}
+
+std::string_view withoutByteOrderMark(std::string_view text)
+{
+    return text.substr(text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0);
+}
+} // namespace
+
+std::optional<QList<PelkoDocument>> readDocuments(QByteArray json)
+{
+    pad(json);
+    const std::string_view text = withoutByteOrderMark({json.constData(), std::size_t(json.size())});
+    dom::parser parser;
+    dom::element root;
+    constexpr bool copyFirst = false;
+    if (parser.parse(text.data(), text.size(), copyFirst).get(root) != simdjson::SUCCESS)
+        return std::nullopt;
+    json.clear(); // the parser keeps its own copy of every string: a large file need not be held twice
+    QList<PelkoDocument> documents;
+    if (!read(root, documents))
+        return std::nullopt;
+    return documents;
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "Models/PelkoDocument.h"
+
+/// Reads the whole text of "data.json". Strict, and all or nothing: one missing key, wrong type, unknown
+/// space or kind of block, malformed UUID or base64, or anything that is not JSON in UTF-8, and there are no
+/// documents. Unknown keys are skipped; of a key given twice the last one counts; null is as good as absent
+/// where a value may be absent; a byte order mark before the text is allowed.
+///
+/// The bytes are taken over and freed half-way, so hand in the only copy of a large file.
+std::optional<QList<PelkoDocument>> readDocuments(QByteArray json);

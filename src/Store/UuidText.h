@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QUuid>
+
+#include <array>
+#include <optional>
+#include <string_view>
+
+/// The canonical form of a UUID: 8-4-4-4-12 hexadecimal digits with hyphens, 36 characters and no braces.
+using UuidText = std::array<char, 36>;
+
+/// Upper-case, as the data file has it.
+UuidText uuidToText(const QUuid &uuid);
+
+/// Either case. Nothing when the text is in any other form: QUuid itself reads many.
+std::optional<QUuid> uuidFromText(std::string_view text);

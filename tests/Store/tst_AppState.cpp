@@ -1,0 +1,214 @@
+#include "Store/AppState.h"
+#include "Store/DocumentReader.h"
+#include "support/ManualClock.h"
+#include "support/ManualDocumentFile.h"
+#include "support/ManualScheduler.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace
+{
+PelkoDocument page(Space space, Timestamp createdAt)
+{
+    return PelkoDocument(space, createdAt);
+}
+
+QByteArray fileOf(const QList<PelkoDocument> &documents)
+{
+    ManualDocumentFile file;
+    const auto error = file.replace([&](ByteSink &sink) { return DocumentWriter().write(documents, sink); });
+    Q_ASSERT(!error);
+    return *file.bytes;
+}
+} // namespace
+
+class TestAppState : public QObject
+{
+    Q_OBJECT
+
+    ManualScheduler scheduler;
+    ManualClock clock;
+    ManualDocumentFile file;
+
+    std::unique_ptr<AppState> start(const QList<PelkoDocument> &documents)
+    {
+        file.bytes = fileOf(documents);
+        return std::make_unique<AppState>(scheduler, clock, file);
+    }
+
+    QList<PelkoDocument> saved() const { return readDocuments(*file.bytes).value(); }
+
+private Q_SLOTS:
+    void init()
+    {
+        scheduler = {};
+        clock = {};
+        file = {};
+    }
+
+    // Construction
+
+    void aFirstStartHasNoDocumentsAndShowsWork()
+    {
+        const AppState state(scheduler, clock, file);
+        QCOMPARE(state.documents(), {});
+        QCOMPARE(state.currentSpace(), Space::work);
+        QCOMPARE(state.openDocumentID(), std::nullopt);
+        QCOMPARE(state.lastError(), std::nullopt);
+        QVERIFY(!state.showDocLimitNudge() && !state.showSavedIndicator() && !state.focusMode());
+        QVERIFY(!state.showNav() && !state.showTasksPanel() && !state.showAbout());
+        QCOMPARE(file.writes(), 0);
+    }
+
+    void theFirstWorkDocumentOfTheFileIsOpenedNotTheNewest()
+    {
+        const QList documents{page(Space::ideas, 9), page(Space::work, 1), page(Space::work, 5)};
+        const auto state = start(documents);
+        QCOMPARE(state->documents(), documents);
+        QCOMPARE(state->openDocumentID(), documents[1].id);
+        QCOMPARE(state->openDocument(), documents[1]);
+    }
+
+    void aFileWithoutWorkOpensNothing()
+    {
+        QCOMPARE(start({page(Space::ideas, 1)})->openDocumentID(), std::nullopt);
+    }
+
+    void aCorruptFileIsReportedAndOverwrittenByTheNextSave()
+    {
+        file.bytes = "[{\"id\":";
+        AppState state(scheduler, clock, file);
+        QCOMPARE(state.documents(), {});
+        QCOMPARE(state.lastError(), u"Failed to load your documents."_s);
+        QCOMPARE(*file.bytes, "[{\"id\":");
+        state.createDocument(Space::work);
+        scheduler.advance(500ms);
+        QCOMPARE(saved(), state.documents());
+        QCOMPARE(state.lastError(), u"Failed to load your documents."_s);
+    }
+
+    void anUnreadableFileIsReported()
+    {
+        file.readError = u"Input/output error"_s;
+        QCOMPARE(AppState(scheduler, clock, file).lastError(), u"Failed to load your documents."_s);
+    }
+
+    // Creating
+
+    void aNewDocumentIsAnEmptyPageThatIsOpenedAndSaved()
+    {
+        AppState state(scheduler, clock, file);
+        state.createDocument(Space::journal);
+        const PelkoDocument document = state.documents().value(0);
+        QCOMPARE(state.documents().size(), 1);
+        QCOMPARE(document.space, Space::journal);
+        QCOMPARE(document.createdAt, clock.time);
+        QCOMPARE(document.updatedAt, std::nullopt);
+        QCOMPARE(document.blocks.size(), 2);
+        QCOMPARE(state.openDocumentID(), document.id);
+        QCOMPARE(state.currentSpace(), Space::work);
+        QCOMPARE(file.writes(), 0);
+        scheduler.advance(500ms);
+        QCOMPARE(saved(), state.documents());
+    }
+
+    void theSixthDocumentOfASpaceOnlyRaisesTheNudge()
+    {
+        const auto state = start({page(Space::journal, 1)});
+        for (int created = 0; created < 4; ++created)
+            state->createDocument(Space::journal);
+        QCOMPARE(state->documents().size(), 5);
+        QVERIFY(!state->showDocLimitNudge());
+        scheduler.advance(1s);
+        const auto open = state->openDocumentID();
+        const int writes = file.writes();
+
+        state->createDocument(Space::journal);
+        QVERIFY(state->showDocLimitNudge());
+        QCOMPARE(state->documents().size(), 5);
+        QCOMPARE(state->openDocumentID(), open);
+        scheduler.advance(1s);
+        QCOMPARE(file.writes(), writes);
+    }
+
+    void otherSpacesDoNotCountTowardsTheLimit()
+    {
+        const auto state = start(QList<PelkoDocument>(5, page(Space::ideas, 1)));
+        state->createDocument(Space::work);
+        QCOMPARE(state->documents().size(), 6);
+    }
+
+    void archivedAndPinnedDocumentsCountTowardsTheLimit()
+    {
+        PelkoDocument archived = page(Space::work, 1);
+        archived.isArchived = true;
+        archived.isPinned = true;
+        const auto state = start(QList<PelkoDocument>(5, archived));
+        state->createDocument(Space::work);
+        QVERIFY(state->showDocLimitNudge());
+    }
+
+    // Updating
+
+    void anUpdateReplacesTheDocumentAndStampsIt()
+    {
+        const auto state = start({page(Space::work, 1), page(Space::work, 2)});
+        PelkoDocument edited = state->documents()[1];
+        edited.blocks[0].content = u"New"_s;
+        edited.updatedAt = 3;
+        edited.isPinned = true;
+        clock.time = 800'000'123.25;
+        state->updateDocument(edited);
+        edited.updatedAt = 800'000'123.25;
+        QCOMPARE(state->documents()[1], edited);
+        QCOMPARE(state->documents()[0].updatedAt, std::nullopt);
+    }
+
+    void ofTwoDocumentsWithOneIdTheFirstIsUpdated()
+    {
+        const PelkoDocument twin = page(Space::work, 1);
+        const auto state = start({twin, twin});
+        state->updateDocument(twin);
+        QVERIFY(state->documents()[0].updatedAt);
+        QVERIFY(!state->documents()[1].updatedAt);
+    }
+
+    void anUpdateOfAnUnknownDocumentDoesNothing()
+    {
+        const auto state = start({page(Space::work, 1)});
+        QSignalSpy changed(state.get(), &AppState::documentsChanged);
+        state->updateDocument(page(Space::work, 1));
+        scheduler.advance(10s);
+        QCOMPARE(changed.size(), 0);
+        QCOMPARE(file.writes(), 0);
+    }
+
+    void threeUpdatesInARowAreSavedOnceHalfASecondAfterTheLast()
+    {
+        const auto state = start({page(Space::work, 1)});
+        for (int update = 0; update < 3; ++update) {
+            scheduler.advance(200ms);
+            state->updateDocument(state->documents()[0]);
+        }
+        scheduler.advance(499ms);
+        QCOMPARE(file.writes(), 0);
+        scheduler.advance(1ms);
+        QCOMPARE(file.writes(), 1);
+        scheduler.advance(10s);
+        QCOMPARE(file.writes(), 1);
+    }
+
+    void aStoreThatDiesTakesItsPendingSaveAlong()
+    {
+        start({page(Space::work, 1)})->createDocument(Space::work);
+        scheduler.advance(10s);
+        QCOMPARE(file.writes(), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestAppState)
+#include "tst_AppState.moc"

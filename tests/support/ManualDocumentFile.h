@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Services/DocumentFile.h"
+
+/// A file in memory that counts its writes and fails when a test tells it to.
+class ManualDocumentFile : public DocumentFile
+{
+public:
+    /// What the file holds; nothing while it does not exist.
+    std::optional<QByteArray> bytes;
+    /// While set, every read or replacement fails with these words.
+    std::optional<QString> readError;
+    std::optional<QString> writeError;
+
+    /// The replacements that succeeded.
+    int writes() const { return m_writes; }
+
+    Contents read() override;
+    [[nodiscard]] std::optional<FileError> replace(const Producer &produce) override;
+
+private:
+    int m_writes = 0;
+};
