@@ -1,0 +1,41 @@
+#pragma once
+
+#include "PictureItem.h"
+
+#include <QColor>
+#include <QtQml/qqml.h>
+
+/// Draws one of the app's symbols, by name, in any colour and as sharp as the screen allows. The symbol fills
+/// the largest square in the middle of the item. A name without a drawing draws nothing.
+class SymbolIcon : public PictureItem
+{
+    Q_OBJECT
+    Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+    Q_PROPERTY(qreal size READ size WRITE setSize NOTIFY sizeChanged)
+    QML_ELEMENT
+
+public:
+    explicit SymbolIcon(QQuickItem *parent = nullptr);
+
+    QString name() const { return m_name; }
+    QColor color() const { return m_color; }
+    /// Edge of the square in device-independent pixels; sets the item's implicit size.
+    qreal size() const { return implicitWidth(); }
+
+    void setName(const QString &name);
+    void setColor(const QColor &color);
+    void setSize(qreal size);
+
+Q_SIGNALS:
+    void nameChanged();
+    void colorChanged();
+    void sizeChanged();
+
+protected:
+    void paintPicture(QPainter &painter, const QSizeF &size) override;
+
+private:
+    QString m_name;
+    QColor m_color = Qt::white;
+};
