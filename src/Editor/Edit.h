@@ -1,0 +1,23 @@
+#pragma once
+
+#include "Models/PelkoDocument.h"
+
+/// Where the caret goes after an edit.
+struct FocusTarget {
+    /// Stands for the end of the text, whatever its length.
+    static constexpr int atEnd = -1;
+
+    QUuid blockID;
+    /// The entry of a checklist, when the block is one.
+    std::optional<QUuid> todoID;
+    /// Counted in UTF-16 units from the start of the text.
+    int caret = atEnd;
+
+    bool operator==(const FocusTarget &) const = default;
+};
+
+/// What an editing rule made of a page: the page, and where the writer goes on.
+struct Edit {
+    PelkoDocument document;
+    std::optional<FocusTarget> focus;
+};

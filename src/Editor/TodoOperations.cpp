@@ -1,0 +1,92 @@
+#include "Editor/TodoOperations.h"
+
+#include "Editor/BlockOperations.h"
+
+#include <algorithm>
+
+namespace
+{
+
+struct Place {
+    qsizetype block;
+    qsizetype todo;
+};
+
+std::optional<Place> find(const PelkoDocument &document, const QUuid &blockID, const QUuid &todoID)
+{
+    const qsizetype block = BlockOperations::indexOf(document, blockID);
+    if (block < 0 || !document.blocks.at(block).todos)
+        return std::nullopt;
+    const QList<TodoItem> &todos = *document.blocks.at(block).todos;
+    const auto found = std::ranges::find(todos, todoID, &TodoItem::id);
+    if (found == todos.end())
+        return std::nullopt;
+    return Place{block, found - todos.begin()};
+}
+
+TodoItem &itemAt(PelkoDocument &document, Place place)
+{
+    return (*document.blocks[place.block].todos)[place.todo];
+}
+
+} // namespace
+
+std::optional<Edit> TodoOperations::setText(PelkoDocument document, const QUuid &blockID, const QUuid &todoID,
+                                            const QString &text)
+{
+    const auto place = find(document, blockID, todoID);
+    if (!place)
+        return std::nullopt;
+    itemAt(document, *place).text = text;
+    return Edit{std::move(document), std::nullopt};
+}
+
+std::optional<Edit> TodoOperations::toggle(PelkoDocument document, const QUuid &blockID, const QUuid &todoID)
+{
+    const auto place = find(document, blockID, todoID);
+    if (!place)
+        return std::nullopt;
+    TodoItem &item = itemAt(document, *place);
+    item.done = !item.done;
+    return Edit{std::move(document), std::nullopt};
+}
+
+std::optional<Edit> TodoOperations::split(PelkoDocument document, const QUuid &blockID, const QUuid &todoID,
+                                          int caret)
+{
+    const auto place = find(document, blockID, todoID);
+    if (!place)
+        return std::nullopt;
+    TodoItem &item = itemAt(document, *place);
+    const qsizetype at = std::clamp<qsizetype>(caret, 0, item.text.size());
+    TodoItem rest{.text = item.text.sliced(at)};
+    item.text.truncate(at);
+    const FocusTarget focus{.blockID = blockID, .todoID = rest.id, .caret = 0};
+    document.blocks[place->block].todos->insert(place->todo + 1, std::move(rest));
+    return Edit{std::move(document), focus};
+}
+
+std::optional<Edit> TodoOperations::append(PelkoDocument document, const QUuid &blockID)
+{
+    const qsizetype index = BlockOperations::indexOf(document, blockID);
+    if (index < 0 || document.blocks.at(index).type != BlockType::sticky)
+        return std::nullopt;
+    TodoItem item;
+    const FocusTarget focus{.blockID = blockID, .todoID = item.id};
+    Block &block = document.blocks[index];
+    block.todos = block.todos.value_or(QList<TodoItem>{}) << std::move(item);
+    return Edit{std::move(document), focus};
+}
+
+std::optional<Edit> TodoOperations::remove(PelkoDocument document, const QUuid &blockID, const QUuid &todoID)
+{
+    const auto place = find(document, blockID, todoID);
+    if (!place)
+        return std::nullopt;
+    QList<TodoItem> &todos = *document.blocks[place->block].todos;
+    todos.removeAt(place->todo);
+    std::optional<FocusTarget> focus;
+    if (!todos.isEmpty())
+        focus = FocusTarget{.blockID = blockID, .todoID = todos.at(std::max<qsizetype>(place->todo - 1, 0)).id};
+    return Edit{std::move(document), focus};
+}
