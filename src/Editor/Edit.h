@@ -9,7 +9,7 @@ struct FocusTarget {
 
     QUuid blockID;
     /// The entry of a checklist, when the block is one.
-    std::optional<QUuid> todoID;
+    std::optional<QUuid> todoID = std::nullopt;
     /// Counted in UTF-16 units from the start of the text.
     int caret = atEnd;
 

@@ -29,15 +29,32 @@ TodoItem &itemAt(PelkoDocument &document, Place place)
     return (*document.blocks[place.block].todos)[place.todo];
 }
 
+Edit breakUp(PelkoDocument document, Place place, const QString &text, int caret)
+{
+    Block &block = document.blocks[place.block];
+    const QStringList lines = text.split(u'\n');
+    (*block.todos)[place.todo].text = lines.first();
+    for (qsizetype line = 1; line < lines.size(); ++line)
+        block.todos->insert(place.todo + line, TodoItem{.text = lines.at(line)});
+
+    const TodoItem &last = block.todos->at(place.todo + lines.size() - 1);
+    const auto lastStart = static_cast<int>(text.size() - last.text.size());
+    const FocusTarget focus{.blockID = block.id, .todoID = last.id, .caret = std::max(caret - lastStart, 0)};
+    return {std::move(document), focus};
+}
+
 } // namespace
 
 std::optional<Edit> TodoOperations::setText(PelkoDocument document, const QUuid &blockID, const QUuid &todoID,
-                                            const QString &text)
+                                            const QString &text, int caret)
 {
     const auto place = find(document, blockID, todoID);
     if (!place)
         return std::nullopt;
-    itemAt(document, *place).text = text;
+    TodoItem &item = itemAt(document, *place);
+    if (text.contains(u'\n') && !item.text.contains(u'\n'))
+        return breakUp(std::move(document), *place, text, caret);
+    item.text = text;
     return Edit{std::move(document), std::nullopt};
 }
 
@@ -49,21 +66,6 @@ std::optional<Edit> TodoOperations::toggle(PelkoDocument document, const QUuid &
     TodoItem &item = itemAt(document, *place);
     item.done = !item.done;
     return Edit{std::move(document), std::nullopt};
-}
-
-std::optional<Edit> TodoOperations::split(PelkoDocument document, const QUuid &blockID, const QUuid &todoID,
-                                          int caret)
-{
-    const auto place = find(document, blockID, todoID);
-    if (!place)
-        return std::nullopt;
-    TodoItem &item = itemAt(document, *place);
-    const qsizetype at = std::clamp<qsizetype>(caret, 0, item.text.size());
-    TodoItem rest{.text = item.text.sliced(at)};
-    item.text.truncate(at);
-    const FocusTarget focus{.blockID = blockID, .todoID = rest.id, .caret = 0};
-    document.blocks[place->block].todos->insert(place->todo + 1, std::move(rest));
-    return Edit{std::move(document), focus};
 }
 
 std::optional<Edit> TodoOperations::append(PelkoDocument document, const QUuid &blockID)
@@ -87,6 +89,7 @@ std::optional<Edit> TodoOperations::remove(PelkoDocument document, const QUuid &
     todos.removeAt(place->todo);
     std::optional<FocusTarget> focus;
     if (!todos.isEmpty())
-        focus = FocusTarget{.blockID = blockID, .todoID = todos.at(std::max<qsizetype>(place->todo - 1, 0)).id};
+        focus =
+            FocusTarget{.blockID = blockID, .todoID = todos.at(std::max<qsizetype>(place->todo - 1, 0)).id};
     return Edit{std::move(document), focus};
 }

@@ -7,12 +7,11 @@
 namespace TodoOperations
 {
 
+/// Stores what the entry's field reports, `caret` being where the caret stood in `text`. A line feed in a
+/// text that had none breaks it up: each further line becomes an entry of its own below.
 std::optional<Edit> setText(PelkoDocument document, const QUuid &blockID, const QUuid &todoID,
-                            const QString &text);
+                            const QString &text, int caret);
 std::optional<Edit> toggle(PelkoDocument document, const QUuid &blockID, const QUuid &todoID);
-
-/// Splits the entry at `caret`: what follows it becomes a new entry below, which gets the focus.
-std::optional<Edit> split(PelkoDocument document, const QUuid &blockID, const QUuid &todoID, int caret);
 
 /// Adds an empty entry at the end, which gets the focus.
 std::optional<Edit> append(PelkoDocument document, const QUuid &blockID);

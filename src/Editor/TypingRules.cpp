@@ -51,7 +51,7 @@ Edit split(PelkoDocument document, qsizetype index, const QString &value, int ca
     Block rest(BlockType::textSmall, value.sliced(lineFeed + 1));
     const int restLength = static_cast<int>(rest.content.size());
     const FocusTarget focus{.blockID = rest.id,
-                            .todoID = {},
+
                             .caret = std::clamp(caret - static_cast<int>(lineFeed) - 1, 0, restLength)};
     document.blocks.insert(index + 1, std::move(rest));
     return {std::move(document), focus};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Editor/EditorViewModel.h"
 #include "Shell/MainViewModel.h"
 
 #include <QtQml/qqml.h>
@@ -9,5 +10,12 @@ struct MainViewModelForQml {
     Q_GADGET
     QML_FOREIGN(MainViewModel)
     QML_NAMED_ELEMENT(MainViewModel)
+    QML_UNCREATABLE("Handed in by the program.")
+};
+
+struct EditorViewModelForQml {
+    Q_GADGET
+    QML_FOREIGN(EditorViewModel)
+    QML_NAMED_ELEMENT(EditorViewModel)
     QML_UNCREATABLE("Handed in by the program.")
 };

@@ -1,0 +1,106 @@
+#include "Editor/BlockListModel.h"
+
+#include "Editor/BlockOperations.h"
+
+namespace
+{
+
+QList<BlockRow> rowsOf(const PelkoDocument &document)
+{
+    QList<BlockRow> rows;
+    rows.reserve(document.blocks.size());
+    std::optional<BlockType> above;
+    for (const Block &block : document.blocks) {
+        const bool canDelete = BlockOperations::canDelete(document, rows.size());
+        rows.append({.id = block.id, .block = block, .above = above, .canDelete = canDelete});
+        above = block.type;
+    }
+    return rows;
+}
+
+} // namespace
+
+void BlockListModel::publish(const PelkoDocument &document)
+{
+    publishTodos(document.blocks);
+    IdListModel::publish(rowsOf(document));
+}
+
+void BlockListModel::publishTodos(const QList<Block> &blocks)
+{
+    decltype(m_todos) kept;
+    for (const Block &block : blocks) {
+        if (block.type != BlockType::sticky)
+            continue;
+        auto node = m_todos.extract(block.id);
+        TodoListModel *model = node.empty() ? new TodoListModel(this) : node.mapped();
+        model->publish(block.todos.value_or(QList<TodoItem>{}));
+        kept.insert_or_assign(block.id, model);
+    }
+    for (const auto &[id, model] : m_todos)
+        model->deleteLater();
+    m_todos = std::move(kept);
+}
+
+QVariant BlockListModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const BlockRow &row = rows().at(index.row());
+    const Block &block = row.block;
+    switch (role) {
+    case BlockIDRole:
+        return block.id.toString(QUuid::WithoutBraces);
+    case KindRole:
+        return rawValue(block.type);
+    case KindAboveRole:
+        return row.above ? rawValue(*row.above) : QString();
+    case ContentRole:
+        return block.content;
+    case ImageDataRole:
+        return block.imageData.value_or(QByteArray());
+    case HasImageRole:
+        return block.imageData.has_value();
+    case IsFullWidthRole:
+        return block.isFullWidth.value_or(false);
+    case BannerTitleRole:
+        return block.bannerTitle.value_or(QString());
+    case TodosRole:
+        return QVariant::fromValue<QObject *>(m_todos.contains(block.id) ? m_todos.at(block.id) : nullptr);
+    case CanDeleteRole:
+        return row.canDelete;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> BlockListModel::roleNames() const
+{
+    return {{BlockIDRole, "blockID"},
+            {KindRole, "kind"},
+            {KindAboveRole, "kindAbove"},
+            {ContentRole, "content"},
+            {ImageDataRole, "imageData"},
+            {HasImageRole, "hasImage"},
+            {IsFullWidthRole, "isFullWidth"},
+            {BannerTitleRole, "bannerTitle"},
+            {TodosRole, "todos"},
+            {CanDeleteRole, "canDelete"}};
+}
+
+QList<int> BlockListModel::changedRoles(const BlockRow &before, const BlockRow &after) const
+{
+    QList<int> roles;
+    const auto compare = [&roles](const auto &old, const auto &now, std::initializer_list<int> shownBy) {
+        if (old != now)
+            roles.append(shownBy);
+    };
+    compare(before.block.type, after.block.type, {KindRole, TodosRole});
+    compare(before.above, after.above, {KindAboveRole});
+    compare(before.block.content, after.block.content, {ContentRole});
+    compare(before.block.imageData, after.block.imageData, {ImageDataRole, HasImageRole});
+    compare(before.block.isFullWidth, after.block.isFullWidth, {IsFullWidthRole});
+    compare(before.block.bannerTitle, after.block.bannerTitle, {BannerTitleRole});
+    compare(before.canDelete, after.canDelete, {CanDeleteRole});
+    return roles;
+}

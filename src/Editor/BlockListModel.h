@@ -1,0 +1,54 @@
+#pragma once
+
+#include "Editor/IdListModel.h"
+#include "Editor/TodoListModel.h"
+#include "Models/PelkoDocument.h"
+
+#include <map>
+
+/// A block together with what its neighbours make of it.
+struct BlockRow {
+    QUuid id;
+    Block block;
+    /// The kind of the block above; nothing for the first.
+    std::optional<BlockType> above;
+    bool canDelete = false;
+};
+
+/// The blocks of one page for QML.
+class BlockListModel : public IdListModel<BlockRow>
+{
+    Q_OBJECT
+
+public:
+    enum Role {
+        BlockIDRole = Qt::UserRole,
+        /// The raw name of the block's type.
+        KindRole,
+        /// The raw name of the type of the block above; empty for the first.
+        KindAboveRole,
+        ContentRole,
+        ImageDataRole,
+        HasImageRole,
+        IsFullWidthRole,
+        BannerTitleRole,
+        /// A model of the entries of a sticky block's checklist, null for other blocks.
+        TodosRole,
+        CanDeleteRole,
+    };
+
+    using IdListModel::IdListModel;
+
+    void publish(const PelkoDocument &document);
+
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+protected:
+    QList<int> changedRoles(const BlockRow &before, const BlockRow &after) const override;
+
+private:
+    void publishTodos(const QList<Block> &blocks);
+
+    std::map<QUuid, TodoListModel *> m_todos; // children of this model
+};

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "Editor/BlockListModel.h"
+#include "Editor/Edit.h"
+#include "Services/Scheduler.h"
+
+#include <QObject>
+
+class AppState;
+
+/// What the editor of one document shows and can do. It follows the document in the store and hands every
+/// change back to it, so that the next save has it. Ids cross into QML as strings. Operations that find
+/// nothing change nothing.
+class EditorViewModel : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString documentID READ documentID CONSTANT)
+    Q_PROPERTY(QAbstractItemModel *blocks READ blocks CONSTANT)
+    Q_PROPERTY(QString title READ title NOTIFY titleChanged)
+    Q_PROPERTY(bool firstBlockIsBanner READ firstBlockIsBanner NOTIFY firstBlockIsBannerChanged)
+    Q_PROPERTY(bool offersDelete READ offersDelete NOTIFY offersDeleteChanged)
+    Q_PROPERTY(QString focusedBlockID READ focusedBlockID NOTIFY focusedBlockIDChanged)
+    Q_PROPERTY(QString scrollTarget READ scrollTarget NOTIFY scrollTargetChanged)
+
+public:
+    EditorViewModel(AppState &appState, Scheduler &scheduler, const QUuid &documentID,
+                    QObject *parent = nullptr);
+
+    QString documentID() const { return m_documentID.toString(QUuid::WithoutBraces); }
+    QAbstractItemModel *blocks() { return &m_blocks; }
+    QString title() const { return m_title; }
+    bool firstBlockIsBanner() const { return m_firstBlockIsBanner; }
+    /// Whether the context menu of a block offers to delete it.
+    bool offersDelete() const { return m_offersDelete; }
+    /// The block whose field has the keyboard focus; empty for none.
+    QString focusedBlockID() const { return m_focusedBlockID; }
+    /// The block that the view should bring into sight; empty for none.
+    QString scrollTarget() const { return m_scrollTarget; }
+
+    /// Where a block stands on the page, or -1.
+    Q_INVOKABLE int rowOf(const QString &blockID) const;
+
+    /// Adds a block of the kind of that raw name at the end of the page.
+    Q_INVOKABLE void addBlock(const QString &kind);
+    Q_INVOKABLE void deleteBlock(const QString &blockID);
+    Q_INVOKABLE void toggleFullWidth(const QString &blockID);
+
+    /// Takes what a block's text field reports; see TypingRules. The page and the focus have followed when
+    /// this returns.
+    Q_INVOKABLE void typed(const QString &blockID, const QString &value, int caret);
+    Q_INVOKABLE void typedTodo(const QString &blockID, const QString &todoID, const QString &value,
+                               int caret);
+    Q_INVOKABLE void toggleTodo(const QString &blockID, const QString &todoID);
+    Q_INVOKABLE void appendTodo(const QString &blockID);
+    Q_INVOKABLE void removeTodo(const QString &blockID, const QString &todoID);
+
+    /// The view is on screen: the first empty text block gets the focus.
+    Q_INVOKABLE void appeared();
+    /// The view has scrolled to `scrollTarget`.
+    Q_INVOKABLE void scrolled();
+    Q_INVOKABLE void focusGained(const QString &blockID);
+    Q_INVOKABLE void focusLost(const QString &blockID);
+    /// The view is gone: stops following the store and deletes itself.
+    Q_INVOKABLE void release();
+
+Q_SIGNALS:
+    void titleChanged();
+    void firstBlockIsBannerChanged();
+    void offersDeleteChanged();
+    void focusedBlockIDChanged();
+    void scrollTargetChanged();
+    /// The field of that block, or of that entry of its checklist, has to take the keyboard focus with the
+    /// caret at that place, -1 for the end of its text.
+    void focusRequested(const QString &blockID, const QString &todoID, int caret);
+
+private:
+    const PelkoDocument *document() const;
+    std::optional<PelkoDocument> documentToMutate() const;
+    void refresh();
+    void commit(std::optional<Edit> edit);
+    void focus(const FocusTarget &target);
+    void focusAfter(std::chrono::milliseconds delay, const FocusTarget &target);
+    void focusInFocusMode();
+    void setFocusedBlockID(const QString &blockID);
+    void setScrollTarget(const QString &blockID);
+
+    AppState &m_appState;
+    Scheduler &m_scheduler;
+    const QUuid m_documentID;
+
+    BlockListModel m_blocks;
+    QString m_title;
+    bool m_firstBlockIsBanner = false;
+    bool m_offersDelete = false;
+    QString m_focusedBlockID;
+    QString m_scrollTarget;
+    ScheduledCall m_delayedFocus;
+};

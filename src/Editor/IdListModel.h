@@ -1,0 +1,89 @@
+#pragma once
+
+#include "Editor/RowDiff.h"
+
+#include <QAbstractListModel>
+
+/// A list of value rows for QML that is handed whole and finds out by itself what changed. Rows are told
+/// apart by their `id`: a row that moves is announced as a move and one that changes in place only with the
+/// roles that differ, so delegates, and with them caret and focus, live on.
+template <typename Row>
+class IdListModel : public QAbstractListModel
+{
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    const QList<Row> &rows() const { return m_rows; }
+
+    int rowCount(const QModelIndex &parent = {}) const override
+    {
+        return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+    }
+
+    void publish(QList<Row> rows)
+    {
+        const auto changes = RowDiff::between(ids(m_rows), ids(rows));
+        if (!changes) {
+            beginResetModel();
+            m_rows = std::move(rows);
+            endResetModel();
+            return;
+        }
+        for (const RowChange &change : *changes)
+            carryOut(change, rows);
+        for (qsizetype row = 0; row < rows.size(); ++row)
+            update(row, rows.at(row));
+    }
+
+protected:
+    /// The roles in which two rows of the same id differ; empty when they are equal.
+    virtual QList<int> changedRoles(const Row &before, const Row &after) const = 0;
+
+private:
+    static QList<QUuid> ids(const QList<Row> &rows)
+    {
+        QList<QUuid> result;
+        result.reserve(rows.size());
+        for (const Row &row : rows)
+            result.append(row.id);
+        return result;
+    }
+
+    void carryOut(const RowChange &change, const QList<Row> &rows)
+    {
+        const int first = static_cast<int>(change.row);
+        const int last = static_cast<int>(change.row + change.count - 1);
+        switch (change.kind) {
+        case RowChange::Kind::remove:
+            beginRemoveRows({}, first, last);
+            m_rows.remove(first, change.count);
+            endRemoveRows();
+            break;
+        case RowChange::Kind::move: {
+            const int to = static_cast<int>(change.destination);
+            beginMoveRows({}, first, first, {}, to > first ? to + 1 : to);
+            m_rows.move(first, to);
+            endMoveRows();
+            break;
+        }
+        case RowChange::Kind::insert:
+            beginInsertRows({}, first, last);
+            for (int row = first; row <= last; ++row)
+                m_rows.insert(row, rows.at(row));
+            endInsertRows();
+            break;
+        }
+    }
+
+    void update(qsizetype row, const Row &after)
+    {
+        const QList<int> roles = changedRoles(m_rows.at(row), after);
+        if (roles.isEmpty())
+            return;
+        m_rows[row] = after;
+        const QModelIndex changed = index(static_cast<int>(row));
+        Q_EMIT dataChanged(changed, changed, roles);
+    }
+
+    QList<Row> m_rows;
+};
