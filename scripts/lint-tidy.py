@@ -12,6 +12,7 @@ import hashlib
 import json
 import os
 import pathlib
+import shlex
 import subprocess
 import sys
 
@@ -29,6 +30,11 @@ def dependencies(build):
             current = line.split(": #deps")[0]
             found[current] = []
     return found
+
+
+def object_of(entry):
+    words = shlex.split(entry["command"])
+    return words[words.index("-o") + 1]
 
 
 def fingerprint(entry, headers, root, common):
@@ -62,7 +68,7 @@ def main():
         if not source.is_relative_to(root / "src"):
             continue
         stamp = stamps / (str(source.relative_to(root / "src")).replace(os.sep, "-") + ".clean")
-        mark = fingerprint(entry, deps.get(entry.get("output"), []), root, common)
+        mark = fingerprint(entry, deps.get(object_of(entry), []), root, common)
         if not stamp.exists() or stamp.read_text() != mark:
             todo.append((entry, stamp, mark))
 
