@@ -108,7 +108,7 @@ std::optional<QByteArray> decodeBase64(std::string_view text)
     text.substr(text.size() - 4, 4 - padding).copy(lastGroup.data(), lastGroup.size());
     text.remove_suffix(4);
 
-    const auto wholeBytes = qsizetype(text.size() / 4 * 3);
+    const auto wholeBytes = qsizetype(text.size()) / 4 * 3;
     QByteArray bytes(wholeBytes + 3 - qsizetype(padding), Qt::Uninitialized);
     char *out = bytes.data();
     std::uint32_t all = groupBits(lastGroup.data());

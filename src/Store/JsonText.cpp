@@ -81,7 +81,7 @@ void JsonText::put(QByteArrayView json)
         return;
     }
     char *out = room(json.size());
-    std::copy(json.begin(), json.end(), out);
+    std::ranges::copy(json, out);
     advanceTo(out + json.size());
 }
 

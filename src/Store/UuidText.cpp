@@ -13,7 +13,7 @@ constexpr int hexValue(char digit)
 {
     if (digit >= '0' && digit <= '9')
         return digit - '0';
-    const char lower = digit | 0x20;
+    const char lower = char(digit | 0x20);
     return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
 }
 } // namespace
