@@ -8,7 +8,7 @@ import Pelko
 QtObject {
     id: type
 
-    readonly property list<string> installed: Qt.fontFamilies()
+    readonly property var installed: Qt.fontFamilies()
     readonly property string textFamily: installed.includes("Inter") ? "Inter" : Application.font.family
     readonly property string displayFamily: installed.includes("Inter Display") ? "Inter Display" : textFamily
     readonly property string monoFamily: installed.includes("JetBrains Mono") ? "JetBrains Mono" : "monospace"

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "PictureItem.h"
+
+#include <QColor>
+#include <QtQml/qqml.h>
+
+/// The bare flame, as large as the item, in its gradient from top to foot.
+class FlameShape : public PictureItem
+{
+    Q_OBJECT
+    Q_PROPERTY(QColor topColor MEMBER m_topColor NOTIFY coloursChanged)
+    Q_PROPERTY(QColor middleColor MEMBER m_middleColor NOTIFY coloursChanged)
+    Q_PROPERTY(QColor footColor MEMBER m_footColor NOTIFY coloursChanged)
+    QML_ELEMENT
+
+public:
+    explicit FlameShape(QQuickItem *parent = nullptr);
+
+Q_SIGNALS:
+    void coloursChanged();
+
+protected:
+    void paintPicture(QPainter &painter, const QSizeF &size) override;
+
+private:
+    QColor m_topColor;
+    QColor m_middleColor;
+    QColor m_footColor;
+};
+
+/// What a flame throws on its surroundings: its shape, `margin` inside the edges of the item, spread that
+/// far.
+class FlameGlow : public PictureItem
+{
+    Q_OBJECT
+    Q_PROPERTY(QColor color MEMBER m_color NOTIFY glowChanged)
+    Q_PROPERTY(qreal margin MEMBER m_margin NOTIFY glowChanged)
+    QML_ELEMENT
+
+public:
+    explicit FlameGlow(QQuickItem *parent = nullptr);
+
+Q_SIGNALS:
+    void glowChanged();
+
+protected:
+    void paintPicture(QPainter &painter, const QSizeF &size) override;
+
+private:
+    QColor m_color;
+    qreal m_margin = 0;
+};

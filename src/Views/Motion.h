@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+#include <QtQml/qqml.h>
+
+/// Whether the writer asked for little motion: then nothing moves or flickers and changes are short fades.
+/// Starts from the environment variable PELKO_REDUCED_MOTION and may be changed while the program runs.
+class Motion : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool reduced READ isReduced WRITE setReduced NOTIFY reducedChanged)
+    Q_PROPERTY(int fade READ fade CONSTANT)
+    QML_ELEMENT
+    QML_SINGLETON
+
+public:
+    explicit Motion(QObject *parent = nullptr);
+
+    bool isReduced() const { return m_isReduced; }
+    void setReduced(bool reduced);
+    /// Milliseconds of the only animation left when motion is reduced.
+    int fade() const { return 120; }
+
+Q_SIGNALS:
+    void reducedChanged();
+
+private:
+    bool m_isReduced;
+};
