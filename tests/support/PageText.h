@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Editor/Edit.h"
+
+/// Pages in tests. Blocks and checklist entries are called by letters, and a page can be written down as
+/// text, one line a block with every field that is present, so that a test can assert the whole of it:
+///
+///     B quote "said he"
+///     C sticky "" todos(x[ ] "milk", +[x] "")
+///
+/// An id that was not made here, so a fresh one, is called "+".
+namespace PageText
+{
+
+QUuid idOf(char letter);
+QString nameOf(const QUuid &id);
+
+Block block(char letter, BlockType type = BlockType::textSmall, const QString &content = {});
+Block image(char letter, std::optional<bool> isFullWidth = std::nullopt);
+Block sticky(char letter, const QList<TodoItem> &todos);
+TodoItem todo(char letter, const QString &text = {}, bool done = false);
+PelkoDocument page(const QList<Block> &blocks);
+
+QString line(const Block &block);
+QStringList lines(const PelkoDocument &document);
+/// Only the names of the blocks, such as "AB+C".
+QString letters(const PelkoDocument &document);
+/// Such as "B@3", "B.x@end" for an entry of a checklist, or "" for none.
+QString focus(const std::optional<FocusTarget> &target);
+
+} // namespace PageText
