@@ -18,7 +18,8 @@ void showHeadingAgain(QList<Block> &blocks)
 
 void putBannerFirst(QList<Block> &blocks, const QUuid &bannerID)
 {
-    if (blocks.first().type == BlockType::textLarge && isBlankLine(blocks.first().content))
+    const Block &first = blocks.first();
+    if (first.id != bannerID && first.type == BlockType::textLarge && isBlankLine(first.content))
         blocks.removeFirst();
     const auto banner = std::ranges::find(blocks, bannerID, &Block::id);
     std::rotate(blocks.begin(), banner, banner + 1);
