@@ -1,0 +1,163 @@
+#include "Store/AppState.h"
+#include "support/DataFileText.h"
+#include "support/ManualClock.h"
+#include "support/ManualDocumentFile.h"
+#include "support/ManualScheduler.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+class TestAppStateSaving : public QObject
+{
+    Q_OBJECT
+
+    ManualScheduler scheduler;
+    ManualClock clock;
+    ManualDocumentFile file;
+    std::unique_ptr<AppState> state;
+
+    void edit() { state->updateDocument(state->documents().first()); }
+
+private Q_SLOTS:
+    void init()
+    {
+        scheduler = {};
+        file = {};
+        file.bytes = dataFileText({PelkoDocument(Space::work, 1)});
+        state = std::make_unique<AppState>(scheduler, clock, file);
+    }
+
+    void threeUpdatesInARowAreSavedOnceHalfASecondAfterTheLast()
+    {
+        for (int update = 0; update < 3; ++update) {
+            scheduler.advance(200ms);
+            edit();
+        }
+        scheduler.advance(499ms);
+        QCOMPARE(file.writes(), 0);
+        scheduler.advance(1ms);
+        QCOMPARE(file.writes(), 1);
+        scheduler.advance(10s);
+        QCOMPARE(file.writes(), 1);
+    }
+
+    void aStoreThatDiesTakesItsPendingSaveAlong()
+    {
+        edit();
+        state.reset();
+        scheduler.advance(10s);
+        QCOMPARE(file.writes(), 0);
+    }
+
+    void savingWritesEveryDocumentAtOnce()
+    {
+        state->createDocument(Space::ideas);
+        state->save();
+        QCOMPARE(file.writes(), 1);
+        QCOMPARE(readDocuments(*file.bytes), state->documents());
+    }
+
+    void aPendingSaveStillComesAfterOneByHand()
+    {
+        edit();
+        state->save();
+        scheduler.advance(500ms);
+        QCOMPARE(file.writes(), 2);
+    }
+
+    void theIndicatorShowsForOneAndAHalfSeconds()
+    {
+        QSignalSpy changed(state.get(), &AppState::showSavedIndicatorChanged);
+        state->save();
+        QVERIFY(state->showSavedIndicator());
+        scheduler.advance(1499ms);
+        QVERIFY(state->showSavedIndicator());
+        scheduler.advance(1ms);
+        QVERIFY(!state->showSavedIndicator());
+        QCOMPARE(changed.size(), 2);
+    }
+
+    void twoSavesKeepTheIndicatorUntilOneAndAHalfSecondsAfterTheSecond()
+    {
+        QSignalSpy changed(state.get(), &AppState::showSavedIndicatorChanged);
+        state->save();
+        scheduler.advance(1s);
+        state->save();
+        scheduler.advance(1499ms);
+        QVERIFY(state->showSavedIndicator());
+        scheduler.advance(1ms);
+        QVERIFY(!state->showSavedIndicator());
+        QCOMPARE(changed.size(), 2);
+    }
+
+    void aFailedSaveTellsTheSystemsWordsAndKeepsTheDocuments()
+    {
+        file.writeError = u"No space left on device"_s;
+        const QByteArray before = *file.bytes;
+        edit();
+        const QList<PelkoDocument> documents = state->documents();
+        scheduler.advance(500ms);
+        QCOMPARE(state->lastError(), u"Save failed: No space left on device"_s);
+        QCOMPARE(state->documents(), documents);
+        QCOMPARE(*file.bytes, before);
+        QVERIFY(!state->showSavedIndicator());
+        scheduler.advance(1h);
+        QCOMPARE(*file.bytes, before); // nothing is tried again
+    }
+
+    void aFailedSaveLeavesTheIndicatorOfTheLastAlone()
+    {
+        state->save();
+        scheduler.advance(1s);
+        file.writeError = u"No space left on device"_s;
+        state->save();
+        QVERIFY(state->showSavedIndicator());
+        scheduler.advance(500ms);
+        QVERIFY(!state->showSavedIndicator());
+    }
+
+    void aSaveThatSucceedsLeavesAnUnseenError()
+    {
+        file.writeError = u"No space left on device"_s;
+        state->save();
+        file.writeError.reset();
+        state->save();
+        QCOMPARE(file.writes(), 1);
+        QCOMPARE(state->lastError(), u"Save failed: No space left on device"_s);
+    }
+
+    void aNewErrorReplacesAnUnseenOneUntilItIsDismissed()
+    {
+        QSignalSpy changed(state.get(), &AppState::lastErrorChanged);
+        file.writeError = u"first"_s;
+        state->save();
+        file.writeError = u"second"_s;
+        state->save();
+        state->save();
+        QCOMPARE(state->lastError(), u"Save failed: second"_s);
+        QCOMPARE(changed.size(), 2);
+        state->clearLastError();
+        QCOMPARE(state->lastError(), std::nullopt);
+        QCOMPARE(changed.size(), 3);
+    }
+
+    void aDateThatIsNotANumberCannotBeSaved()
+    {
+        clock.time = std::numeric_limits<double>::quiet_NaN();
+        edit();
+        const QByteArray before = *file.bytes;
+        state->save();
+        QCOMPARE(state->lastError(), u"Save failed: A document holds a date that is not a number."_s);
+        QCOMPARE(*file.bytes, before);
+        clock = {};
+        edit();
+        state->save();
+        QCOMPARE(readDocuments(*file.bytes), state->documents());
+    }
+};
+
+QTEST_GUILESS_MAIN(TestAppStateSaving)
+#include "tst_AppStateSaving.moc"
