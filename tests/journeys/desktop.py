@@ -1,0 +1,105 @@
+"""A desktop of its own for one journey: display, window manager, session bus and folders, all gone afterwards.
+
+`journey.py` is started twice. The outer process makes the folders and the display and starts the inner one under
+`dbus-run-session`, so that bus, window manager and program share one environment from the beginning.
+"""
+
+import os
+import pathlib
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+
+class Late(AssertionError):
+    """Something expected did not happen before its deadline."""
+
+
+def until(condition, what, seconds=15):
+    """Asks ten times a second until `condition` returns something true, and returns that."""
+    deadline = time.monotonic() + seconds
+    while True:
+        found = condition()
+        if found:
+            return found
+        if time.monotonic() > deadline:
+            raise Late(f"after {seconds} s still not: {what}")
+        time.sleep(0.1)
+
+
+def start_display():
+    read, write = os.pipe()
+    server = subprocess.Popen(
+        ["Xvfb", "-displayfd", str(write), "-screen", "0", "1400x1000x24", "-nolisten", "tcp"],
+        pass_fds=[write],
+        stderr=subprocess.DEVNULL,
+    )
+    os.close(write)
+    with os.fdopen(read) as pipe:
+        number = pipe.readline().strip()
+    if not number:
+        raise RuntimeError("Xvfb did not start")
+    return server, f":{number}"
+
+
+def environment(home, display):
+    """Only what the program needs: nothing of the developer's own desktop reaches it."""
+    folders = {"XDG_DATA_HOME": "data", "XDG_CONFIG_HOME": "config", "XDG_CACHE_HOME": "cache", "XDG_RUNTIME_DIR": "run"}
+    variables = {name: str(home / folder) for name, folder in folders.items()}
+    for folder in variables.values():
+        os.makedirs(folder, mode=0o700)
+    passed_on = ("PATH", "PELKO_TRACES", "QT_QUICK_BACKEND", "QT_SCALE_FACTOR")
+    kept = {name: os.environ[name] for name in passed_on if name in os.environ}
+    return {
+        **kept,
+        **variables,
+        "HOME": str(home),
+        "DISPLAY": display,
+        "LANG": "C.UTF-8",
+        "LC_ALL": "C.UTF-8",
+        "QT_QPA_PLATFORM": "xcb",
+        "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+        "NO_AT_BRIDGE": "0",
+        "PELKO_JOURNEY": str(home),
+        "PYTHONDONTWRITEBYTECODE": "1",
+    }
+
+
+def run_on_own_desktop():
+    """The outer process: runs this same script again on a fresh desktop and ends with its exit code."""
+    with tempfile.TemporaryDirectory(prefix="pelko-journey-") as folder:
+        home = pathlib.Path(folder)
+        server, display = start_display()
+        try:
+            session = subprocess.Popen(
+                ["dbus-run-session", "--", sys.executable, *sys.argv],
+                env=environment(home, display),
+                start_new_session=True,
+            )
+            try:
+                return session.wait(timeout=300)
+            finally:
+                end_group(session.pid)
+        finally:
+            server.terminate()
+            server.wait()
+
+
+def end_group(leader):
+    try:
+        os.killpg(leader, signal.SIGTERM)
+    except ProcessLookupError:
+        pass
+
+
+def start_window_manager():
+    manager = subprocess.Popen(["openbox", "--sm-disable"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    until(lambda: "window id" in shown("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "window manager is there")
+    return manager
+
+
+def shown(*command):
+    """What a command writes to standard output."""
+    return subprocess.run(command, capture_output=True, text=True).stdout

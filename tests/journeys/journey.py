@@ -1,0 +1,207 @@
+"""What every journey uses: Pelko started for real, driven by keys and pointer, read as a screen reader reads it.
+
+A journey is a script that ends with `journey.run(function)`; the function is given a `Pelko` that is not started yet.
+"""
+
+import json
+import os
+import pathlib
+import signal
+import subprocess
+import sys
+import time
+import traceback
+
+import desktop
+from desktop import shown, until
+
+
+class Pelko:
+    """The program with its folders on the journey's own desktop."""
+
+    def __init__(self, program, home):
+        self.program = program
+        self.data_home = pathlib.Path(os.environ["XDG_DATA_HOME"])
+        self.data_file = self.data_home / "Pelko" / "data.json"
+        self.errors = home / "errors.txt"
+        self.process = None
+        self.root = None
+
+    # Starting and ending
+
+    def write_library(self, text):
+        self.data_file.parent.mkdir(parents=True, exist_ok=True)
+        self.data_file.write_text(text, encoding="utf-8")
+
+    def start(self, *arguments, **changes):
+        """Starts the program and waits until its window has the focus and the launch card has gone."""
+        self.launch(*arguments, **changes)
+        self.root = until(lambda: screen_reader().application(self.process.pid), "the program is on the bus", 30)
+        until(self.window, "the window is shown", 30)
+        until(self.has_focus, "the window has the focus")
+        until(lambda: self.find("Pelko menu") or self.find("Menu"), "the main view is there")
+        until(lambda: not self.find("Launching"), "the launch card has gone")
+        self.stand_still()
+
+    def launch(self, *arguments, before=None, **changes):
+        """Starts the program in a changed environment; `before` runs in the new process ahead of it."""
+        environment = {**os.environ, **changes}
+        environment = {name: value for name, value in environment.items() if value is not None}
+        with open(self.errors, "ab") as errors:
+            self.process = subprocess.Popen(
+                [self.program, *arguments],
+                env=environment,
+                stderr=errors,
+                preexec_fn=before,
+                restore_signals=before is None,
+            )
+
+    def close(self):
+        """Closes the window as a user does and waits for the end."""
+        self.keys("alt+F4")
+        code = self.process.wait(timeout=15)
+        assert code == 0, f"Pelko ended with {code}"
+        self.root = None
+
+    def end(self):
+        if self.process and self.process.poll() is None:
+            self.process.send_signal(signal.SIGKILL)
+            self.process.wait()
+
+    # The window
+
+    def window(self):
+        """The window's id once it is mapped."""
+        found = shown("xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid), "--name", "^Pelko$").split()
+        return found[0] if found else None
+
+    def has_focus(self):
+        return shown("xdotool", "getwindowfocus").strip() == self.window()
+
+    def stand_still(self, seconds=10):
+        """Waits until two pictures taken a moment apart are nearly the same; a caret and a flame may move."""
+
+        def is_still():
+            before = shown_pixels()
+            time.sleep(0.25)
+            after = shown_pixels()
+            differing = sum(1 for a, b in zip(before, after) if a != b)
+            return len(before) == len(after) and differing < len(before) // 100
+
+        until(is_still, "the window stands still", seconds)
+
+    # Hands
+
+    def keys(self, *combinations):
+        subprocess.run(["xdotool", "key", "--clearmodifiers", "--delay", "40", *combinations], check=True)
+
+    def type(self, text):
+        subprocess.run(["xdotool", "type", "--delay", "25", "--", text], check=True)
+
+    def point_at(self, node):
+        x, y = screen_reader().centre_of(node)
+        subprocess.run(["xdotool", "mousemove", "--sync", str(x), str(y)], check=True)
+
+    def click(self, node, button=1):
+        self.point_at(node)
+        subprocess.run(["xdotool", "click", str(button)], check=True)
+
+    def wheel_down(self, notches=3):
+        subprocess.run(["xdotool", "click", "--repeat", str(notches), "--delay", "30", "5"], check=True)
+
+    # Eyes
+
+    def nodes(self):
+        """Everything on show, in tree order."""
+        return [node for node in screen_reader().walk(self.root) if screen_reader().is_showing(node)]
+
+    def find_all(self, name=None, roles=None):
+        return [
+            node
+            for node in self.nodes()
+            if (name is None or node.get_name() == name) and (roles is None or node.get_role() in roles)
+        ]
+
+    def find(self, name=None, roles=None):
+        found = self.find_all(name, roles)
+        return found[0] if found else None
+
+    def wait_for(self, name, roles=None, seconds=15):
+        return until(lambda: self.find(name, roles), f"“{name}” is on show", seconds)
+
+    def wait_gone(self, name, roles=None, seconds=15):
+        until(lambda: not self.find(name, roles), f"“{name}” has gone", seconds)
+
+    def button(self, name):
+        return self.wait_for(name, screen_reader().BUTTONS)
+
+    def fields(self):
+        return self.find_all(roles=screen_reader().FIELDS)
+
+    def focused(self):
+        return next((node for node in self.nodes() if screen_reader().is_focused(node)), None)
+
+    # The file
+
+    def saved(self):
+        """The data file as Python's own JSON reader sees it; None while there is none."""
+        return json.loads(self.data_file.read_bytes()) if self.data_file.exists() else None
+
+    def wait_saved(self, condition, what, seconds=10):
+        return until(lambda: self.saved() is not None and condition(self.saved()), f"saved: {what}", seconds)
+
+
+def shown_pixels():
+    return subprocess.run(
+        ["import", "-silent", "-window", "root", "-resize", "25%", "-depth", "6", "gray:-"], capture_output=True
+    ).stdout
+
+
+def screen_reader():
+    # Imported late: the library looks for its bus at once, and that bus exists on the inner desktop only.
+    import screen_reader as eyes
+
+    return eyes
+
+
+def keep_traces(pelko, name):
+    """What helps to understand a failure: the screen, the tree, the file and the words on standard error."""
+    folder = pathlib.Path(os.environ.get("PELKO_TRACES", ".")) / name
+    folder.mkdir(parents=True, exist_ok=True)
+    subprocess.run(["import", "-silent", "-window", "root", str(folder / "screen.png")])
+    if pelko.root:
+        (folder / "tree.txt").write_text(screen_reader().outline(pelko.root))
+    if pelko.data_file.is_file():
+        (folder / "data.json").write_bytes(pelko.data_file.read_bytes())
+    if pelko.errors.exists():
+        words = pelko.errors.read_text(errors="replace")
+        print(words, file=sys.stderr)
+    print(f"Traces are in {folder.resolve()}", file=sys.stderr)
+
+
+def run(journey):
+    """Runs a journey on a desktop of its own; the script's argument is the program."""
+    home = os.environ.get("PELKO_JOURNEY")
+    if home is None:
+        sys.exit(desktop.run_on_own_desktop())
+    manager = desktop.start_window_manager()
+    pelko = Pelko(sys.argv[1], pathlib.Path(home))
+    code = 0
+    try:
+        journey(pelko)
+        quiet(pelko)
+    except Exception:
+        traceback.print_exc()
+        keep_traces(pelko, pathlib.Path(sys.argv[0]).stem)
+        code = 1
+    finally:
+        pelko.end()
+        manager.terminate()
+        manager.wait()
+    sys.exit(code)
+
+
+def quiet(pelko):
+    """A program that complains on standard error has something wrong with it."""
+    words = pelko.errors.read_text(errors="replace").strip() if pelko.errors.exists() else ""
+    assert not words, f"Pelko wrote to standard error:\n{words}"
