@@ -30,7 +30,8 @@ void BlockListModel::publishTodos(const QList<Block> &blocks)
 {
     decltype(m_todos) kept;
     for (const Block &block : blocks) {
-        if (block.type != BlockType::sticky)
+        // Of checklists that share an id, edits reach only the first.
+        if (block.type != BlockType::sticky || kept.contains(block.id))
             continue;
         auto node = m_todos.extract(block.id);
         TodoListModel *model = node.empty() ? new TodoListModel(this) : node.mapped();

@@ -1,0 +1,333 @@
+#include "Editor/BlockListModel.h"
+#include "support/ModelLog.h"
+#include "support/PageText.h"
+
+#include <QAbstractItemModelTester>
+#include <QCoreApplication>
+#include <QPointer>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace PageText;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr BlockType body = BlockType::textSmall;
+constexpr BlockType heading = BlockType::textLarge;
+
+QList<Block> bodies(const QString &letters)
+{
+    QList<Block> blocks;
+    for (const QChar letter : letters)
+        blocks << block(letter.toLatin1(), body, letter.toLower());
+    return blocks;
+}
+
+} // namespace
+
+class TestBlockListModel : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<BlockListModel> model;
+    std::unique_ptr<QAbstractItemModelTester> tester;
+    std::unique_ptr<ModelLog> log;
+
+    /// Shows a page and forgets what was announced on the way.
+    void show(const QList<Block> &blocks)
+    {
+        model->publish(page(blocks));
+        log->take();
+    }
+
+    /// What is announced when the page becomes this one.
+    QStringList announcedBy(const QList<Block> &blocks)
+    {
+        model->publish(page(blocks));
+        return log->take();
+    }
+
+    QVariant value(int row, BlockListModel::Role role) const { return model->index(row).data(role); }
+
+    TodoListModel *todos(int row) const
+    {
+        return qobject_cast<TodoListModel *>(value(row, BlockListModel::TodosRole).value<QObject *>());
+    }
+
+    void verifyShows(const QList<Block> &blocks)
+    {
+        QCOMPARE(model->rowCount(), blocks.size());
+        for (int row = 0; row < blocks.size(); ++row) {
+            const Block &block = blocks[row];
+            QCOMPARE(value(row, BlockListModel::BlockIDRole), block.id.toString(QUuid::WithoutBraces));
+            QCOMPARE(value(row, BlockListModel::KindRole), rawValue(block.type));
+            QCOMPARE(value(row, BlockListModel::KindAboveRole),
+                     row == 0 ? QString() : rawValue(blocks[row - 1].type));
+            QCOMPARE(value(row, BlockListModel::ContentRole), block.content);
+            QCOMPARE(todos(row) != nullptr, block.type == BlockType::sticky);
+        }
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        model = std::make_unique<BlockListModel>();
+        tester = std::make_unique<QAbstractItemModelTester>(
+            model.get(), QAbstractItemModelTester::FailureReportingMode::QtTest);
+        log = std::make_unique<ModelLog>(*model);
+    }
+
+    void cleanup()
+    {
+        log.reset();
+        tester.reset();
+        model.reset();
+    }
+
+    // Roles
+
+    void everyFieldHasARole()
+    {
+        Block banner = image('A', true);
+        banner.bannerTitle = u"Summer"_s;
+        banner.content = u"unused"_s;
+        show({banner, block('B', BlockType::quote, u"said"_s)});
+
+        QCOMPARE(value(0, BlockListModel::BlockIDRole), idOf('A').toString(QUuid::WithoutBraces));
+        QCOMPARE(value(0, BlockListModel::KindRole), u"image"_s);
+        QCOMPARE(value(0, BlockListModel::KindAboveRole), QString());
+        QCOMPARE(value(0, BlockListModel::ContentRole), u"unused"_s);
+        QCOMPARE(value(0, BlockListModel::ImageDataRole), "picture"_ba);
+        QCOMPARE(value(0, BlockListModel::HasImageRole), true);
+        QCOMPARE(value(0, BlockListModel::IsFullWidthRole), true);
+        QCOMPARE(value(0, BlockListModel::BannerTitleRole), u"Summer"_s);
+        QCOMPARE(value(0, BlockListModel::CanDeleteRole), true);
+        QCOMPARE(value(1, BlockListModel::KindAboveRole), u"image"_s);
+        QCOMPARE(model->roleNames().size(), 10);
+    }
+
+    void absentFieldsReadAsFalseOrEmpty()
+    {
+        show({block('A', heading)});
+        QCOMPARE(value(0, BlockListModel::ImageDataRole), QByteArray());
+        QCOMPARE(value(0, BlockListModel::HasImageRole), false);
+        QCOMPARE(value(0, BlockListModel::IsFullWidthRole), false);
+        QCOMPARE(value(0, BlockListModel::BannerTitleRole), QString());
+        QCOMPARE(value(0, BlockListModel::CanDeleteRole), false);
+        QVERIFY(!todos(0));
+    }
+
+    void whatIsNotThereReadsAsNothing()
+    {
+        show({block('A')});
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"not valid"_s));
+        QVERIFY(!model->data({}, BlockListModel::ContentRole).isValid());
+        QVERIFY(!model->index(0).data(Qt::DisplayRole).isValid());
+        QCOMPARE(model->rowCount(model->index(0)), 0);
+    }
+
+    // What is announced
+
+    void theSamePageAnnouncesNothing()
+    {
+        show(bodies(u"ABC"_s));
+        QCOMPARE(announcedBy(bodies(u"ABC"_s)), {});
+    }
+
+    void oneKeyChangesTheContentOfOneRow()
+    {
+        QList<Block> blocks = bodies(u"ABC"_s);
+        show(blocks);
+        blocks[1].content += u'x';
+        QCOMPARE(announcedBy(blocks), {u"1: content"_s});
+    }
+
+    void onlyTheRolesOfTheFieldThatChangedAreAnnounced_data()
+    {
+        QTest::addColumn<Block>("after");
+        QTest::addColumn<QString>("roles");
+        Block changed = image('B');
+        changed.imageData = "other"_ba;
+        QTest::newRow("picture") << changed << u"1: hasImage imageData"_s;
+        QTest::newRow("full width") << image('B', true) << u"1: isFullWidth"_s;
+        QTest::newRow("not full width") << image('B', false) << u"1: isFullWidth"_s;
+        changed = image('B');
+        changed.bannerTitle = u"Summer"_s;
+        QTest::newRow("title") << changed << u"1: bannerTitle"_s;
+        changed = image('B');
+        changed.content = u"text"_s;
+        QTest::newRow("content") << changed << u"1: content"_s;
+    }
+
+    void onlyTheRolesOfTheFieldThatChangedAreAnnounced()
+    {
+        QFETCH(const Block, after);
+        QFETCH(const QString, roles);
+        show({block('A'), image('B'), block('C')});
+        QCOMPARE(announcedBy({block('A'), after, block('C')}), {roles});
+    }
+
+    void aChangedKindIsAnnouncedThereAndBelow()
+    {
+        show({block('A', heading), block('B'), block('C')});
+        QCOMPARE(announcedBy({block('A', heading), block('B', BlockType::quote), block('C')}),
+                 (QStringList{u"1: kind todos"_s, u"2: kindAbove"_s}));
+    }
+
+    void anInsertionAboveIsOneRow()
+    {
+        show(bodies(u"ABC"_s));
+        QCOMPARE(announcedBy(bodies(u"AXBC"_s)), {u"+1..1"_s});
+    }
+
+    void neighboursComeAndGoTogether()
+    {
+        show(bodies(u"ABE"_s));
+        QCOMPARE(announcedBy(bodies(u"ABCDE"_s)), {u"+2..3"_s});
+        QCOMPARE(announcedBy(bodies(u"ABE"_s)), {u"-2..3"_s});
+    }
+
+    void aDropIsAMove()
+    {
+        show(bodies(u"HABCD"_s));
+        QCOMPARE(announcedBy(bodies(u"HBCAD"_s)), {u"1>3"_s});
+        QCOMPARE(announcedBy(bodies(u"HBDCA"_s)), {u"4>2"_s});
+    }
+
+    void aMoveTellsTheRowsWhatIsNowAboveThem()
+    {
+        show({block('A', heading), block('B'), block('C', BlockType::code)});
+        QCOMPARE(announcedBy({block('B'), block('A', heading), block('C', BlockType::code)}),
+                 (QStringList{u"0>1"_s, u"0: kindAbove"_s, u"1: canDelete kindAbove"_s, u"2: kindAbove"_s}));
+    }
+
+    void theLastBlockLeftCannotBeDeleted()
+    {
+        show(bodies(u"AB"_s));
+        QCOMPARE(announcedBy(bodies(u"A"_s)), (QStringList{u"-1..1"_s, u"0: canDelete"_s}));
+        QCOMPARE(value(0, BlockListModel::CanDeleteRole), false);
+    }
+
+    void aBannerTakesThePlaceOfABlankHeading()
+    {
+        show({block('A', heading), block('B'), block('C'), image('D')});
+        QCOMPARE(announcedBy({image('D', true), block('B'), block('C')}),
+                 (QStringList{u"-0..0"_s, u"2>0"_s, u"0: isFullWidth kindAbove"_s, u"1: kindAbove"_s}));
+    }
+
+    void repeatedIdsShowTheListAnew()
+    {
+        show(bodies(u"AB"_s));
+        QCOMPARE(announcedBy(bodies(u"ABA"_s)), {u"reset"_s});
+        verifyShows(bodies(u"ABA"_s));
+        QCOMPARE(announcedBy(bodies(u"AB"_s)), {u"reset"_s});
+        verifyShows(bodies(u"AB"_s));
+    }
+
+    void aKeyAmongRepeatedIdsChangesOneRow()
+    {
+        QList<Block> blocks = bodies(u"ABA"_s);
+        show(blocks);
+        blocks[2].content = u"typed"_s;
+        QCOMPARE(announcedBy(blocks), {u"2: content"_s});
+    }
+
+    void anyPageCanFollowAnyOther()
+    {
+        QRandomGenerator random(42);
+        for (int round = 0; round < 300; ++round) {
+            QList<Block> blocks;
+            for (char letter = 'A'; letter < 'M'; ++letter)
+                if (random.bounded(3) > 0)
+                    blocks << block(letter, BlockType(random.bounded(7)), QString::number(random.bounded(3)));
+            std::ranges::shuffle(blocks, random);
+            model->publish(page(blocks));
+            verifyShows(blocks);
+        }
+    }
+
+    // Checklists
+
+    void theEntriesOfAChecklistAreAModelOfTheirOwn()
+    {
+        show({sticky('A', {todo('x', u"milk"_s), todo('y', u"bread"_s, true)})});
+        TodoListModel *list = todos(0);
+        const QAbstractItemModelTester listTester(list,
+                                                  QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QCOMPARE(list->rowCount(), 2);
+        QCOMPARE(list->index(0).data(TodoListModel::TodoIDRole), idOf('x').toString(QUuid::WithoutBraces));
+        QCOMPARE(list->index(0).data(TodoListModel::TextRole), u"milk"_s);
+        QCOMPARE(list->index(0).data(TodoListModel::DoneRole), false);
+        QCOMPARE(list->index(1).data(TodoListModel::DoneRole), true);
+        QVERIFY(!list->index(0).data(Qt::DisplayRole).isValid());
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"not valid"_s));
+        QVERIFY(!list->data({}, TodoListModel::TextRole).isValid());
+    }
+
+    void aChecklistWithoutAListIsEmpty()
+    {
+        show({block('A', BlockType::sticky)});
+        QCOMPARE(todos(0)->rowCount(), 0);
+    }
+
+    void theModelOfAChecklistStaysOverEditsAndMoves()
+    {
+        const auto list = [](const QList<TodoItem> &items) { return sticky('B', items); };
+        show({block('A'), list({todo('x'), todo('y')}), block('C')});
+        const QPointer<TodoListModel> before = todos(1);
+        ModelLog entries(*before);
+
+        QCOMPARE(announcedBy({block('A'), list({todo('x', u"a"_s), todo('y')}), block('C')}), {});
+        QCOMPARE(entries.take(), {u"0: text"_s});
+        QCOMPARE(announcedBy({block('A'), list({todo('x', u"a"_s), todo('y', {}, true)}), block('C')}), {});
+        QCOMPARE(entries.take(), {u"1: done"_s});
+        QCOMPARE(announcedBy({block('A'), list({todo('y', {}, true), todo('z')}), block('C')}), {});
+        QCOMPARE(entries.take(), (QStringList{u"-0..0"_s, u"+1..1"_s}));
+        announcedBy({list({todo('z'), todo('y', {}, true), todo('w')}), block('A'), block('C')});
+        QCOMPARE(entries.take(), (QStringList{u"0>1"_s, u"+2..2"_s}));
+        QCOMPARE(todos(0), before.data());
+    }
+
+    void theModelOfAChecklistGoesWithItsBlock()
+    {
+        show({block('A'), sticky('B', {todo('x')})});
+        const QPointer<TodoListModel> list = todos(1);
+        show({block('A')});
+        QVERIFY(list); // a delegate may still be fading out
+        QCoreApplication::sendPostedEvents(list, QEvent::DeferredDelete);
+        QVERIFY(!list);
+    }
+
+    void aBlockThatBecomesAChecklistGetsAModel()
+    {
+        show({block('A'), block('B')});
+        QCOMPARE(announcedBy({block('A'), sticky('B', {todo('x')})}), {u"1: kind todos"_s});
+        QCOMPARE(todos(1)->rowCount(), 1);
+    }
+
+    void repeatedEntriesShowTheChecklistAnew()
+    {
+        show({sticky('A', {todo('x')})});
+        ModelLog entries(*todos(0));
+        show({sticky('A', {todo('x'), todo('x')})});
+        QCOMPARE(entries.take(), {u"reset"_s});
+        QCOMPARE(todos(0)->rowCount(), 2);
+    }
+
+    void repeatedChecklistsDoNotPileUp()
+    {
+        show({sticky('A', {todo('x')}), sticky('A', {todo('y')})});
+        const TodoListModel *list = todos(0);
+        for (int round = 0; round < 10; ++round)
+            show({sticky('A', {todo('x')}), sticky('A', {todo('y')})});
+        QCOMPARE(todos(0), list);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(model->findChildren<TodoListModel *>().size(), 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestBlockListModel)
+#include "tst_BlockListModel.moc"
