@@ -58,6 +58,8 @@ void EditorViewModel::refresh()
     scope.assign(m_firstBlockIsBanner, BlockOperations::firstBlockIsBanner(shown),
                  &EditorViewModel::firstBlockIsBannerChanged);
     scope.assign(m_offersDelete, BlockOperations::offersDelete(shown), &EditorViewModel::offersDeleteChanged);
+    if (rowOf(m_focusedBlockID) < 0)
+        scope.assign(m_focusedBlockID, QString(), &EditorViewModel::focusedBlockIDChanged);
 }
 
 int EditorViewModel::rowOf(const QString &blockID) const
@@ -157,6 +159,8 @@ void EditorViewModel::focusInFocusMode()
 
 void EditorViewModel::focus(const FocusTarget &target)
 {
+    if (rowOf(text(target.blockID)) < 0) // deleted since, or on another page
+        return;
     setFocusedBlockID(text(target.blockID));
     Q_EMIT focusRequested(m_focusedBlockID, target.todoID ? text(*target.todoID) : QString(), target.caret);
 }
