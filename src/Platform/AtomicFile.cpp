@@ -1,0 +1,135 @@
+#include "Platform/AtomicFile.h"
+
+#include <QtGlobal>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+constexpr qint64 writeBackStep = 8 * 1024 * 1024;
+constexpr std::string_view uniquePart = "XXXXXX";
+
+/// The file itself, also behind links to files that do not exist yet.
+fs::path behindLinks(fs::path path)
+{
+    constexpr int patience = 40; // as the kernel's own
+    std::error_code ignored;
+    for (int step = 0; step < patience && fs::is_symlink(fs::symlink_status(path, ignored)); ++step)
+        path = path.parent_path() / fs::read_symlink(path, ignored);
+    return path;
+}
+
+std::string temporaryPrefix(const fs::path &target)
+{
+    return "." + target.filename().string() + ".saving-";
+}
+
+bool flushToDisk(int descriptor)
+{
+#ifdef Q_OS_DARWIN
+    return ::fcntl(descriptor, F_FULLFSYNC) == 0;
+#else
+    return ::fdatasync(descriptor) == 0;
+#endif
+}
+
+/// A new name in a folder is on the disk only when the folder is.
+std::optional<FileError> flushFolder(const fs::path &folder)
+{
+    const FileDescriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!descriptor.isOpen())
+        return lastSystemError();
+    const bool flushed = ::fsync(descriptor.number()) == 0;
+    // Some network file systems cannot flush a folder, and need not.
+    return flushed || errno == EINVAL ? std::nullopt : std::optional(lastSystemError());
+}
+} // namespace
+
+AtomicFile::~AtomicFile()
+{
+    if (!m_temporary.empty())
+        ::unlink(m_temporary.c_str());
+}
+
+std::optional<FileError> AtomicFile::open(const fs::path &path)
+{
+    m_target = behindLinks(path);
+    struct stat existing{};
+    const bool exists = ::stat(m_target.c_str(), &existing) == 0;
+    if (!exists && errno != ENOENT)
+        return lastSystemError();
+    if (exists && !S_ISREG(existing.st_mode))
+        return systemError(S_ISDIR(existing.st_mode) ? EISDIR : EINVAL);
+    // Replacing needs the folder's leave only, but a file that is marked as read-only is meant to stay.
+    if (exists && ::faccessat(AT_FDCWD, m_target.c_str(), W_OK, AT_EACCESS) != 0)
+        return lastSystemError();
+
+    std::string name = m_target.parent_path() / temporaryPrefix(m_target).append(uniquePart);
+    m_descriptor = FileDescriptor(::mkostemp(name.data(), O_CLOEXEC)); // for the owner only
+    if (!m_descriptor.isOpen())
+        return lastSystemError();
+    m_temporary = name;
+    ::flock(m_descriptor.number(), LOCK_EX | LOCK_NB); // says "not abandoned"; see removeAbandoned
+    if (exists && ::fchmod(m_descriptor.number(), existing.st_mode & 07777) != 0)
+        return lastSystemError();
+    return std::nullopt;
+}
+
+std::optional<FileError> AtomicFile::write(QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) {
+        const ssize_t count = ::write(m_descriptor.number(), bytes.data(), std::size_t(bytes.size()));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return lastSystemError();
+        bytes = bytes.sliced(count);
+        m_written += count;
+    }
+    startWriteBack();
+    return std::nullopt;
+}
+
+std::optional<FileError> AtomicFile::commit()
+{
+    if (!flushToDisk(m_descriptor.number()))
+        return lastSystemError();
+    if (::rename(m_temporary.c_str(), m_target.c_str()) != 0)
+        return lastSystemError();
+    m_temporary.clear();
+    return flushFolder(m_target.parent_path());
+}
+
+void AtomicFile::removeAbandoned(const fs::path &path)
+{
+    const fs::path target = behindLinks(path);
+    const std::string prefix = temporaryPrefix(target);
+    std::error_code error;
+    for (fs::directory_iterator entry(target.parent_path(), error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::string name = entry->path().filename();
+        if (!name.starts_with(prefix) || name.size() != prefix.size() + uniquePart.size())
+            continue;
+        const FileDescriptor file(
+            ::open(entry->path().c_str(), O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
+        if (file.isOpen() && ::flock(file.number(), LOCK_EX | LOCK_NB) == 0)
+            ::unlink(entry->path().c_str());
+    }
+}
+
+/// Has the disk begin with what there is, so that the final flush of a large file has little left to do.
+void AtomicFile::startWriteBack()
+{
+#ifdef Q_OS_LINUX
+    if (m_written - m_writtenBack < writeBackStep)
+        return;
+    ::sync_file_range(m_descriptor.number(), m_writtenBack, m_written - m_writtenBack, SYNC_FILE_RANGE_WRITE);
+    m_writtenBack = m_written;
+#endif
+}

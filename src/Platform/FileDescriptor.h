@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Services/DocumentFile.h"
+
+#include <filesystem>
+#include <utility>
+
+/// An open file of the operating system, closed with its owner; or none, where opening failed.
+class FileDescriptor
+{
+public:
+    FileDescriptor() = default;
+    explicit FileDescriptor(int number) : m_number(number) {}
+    FileDescriptor(FileDescriptor &&other) noexcept : m_number(std::exchange(other.m_number, -1)) {}
+    FileDescriptor &operator=(FileDescriptor &&other) noexcept
+    {
+        std::swap(m_number, other.m_number);
+        return *this;
+    }
+    ~FileDescriptor();
+
+    bool isOpen() const { return m_number >= 0; }
+    int number() const { return m_number; }
+
+private:
+    int m_number = -1;
+};
+
+/// What the last system call that failed has to say, in the user's language.
+FileError lastSystemError();
+/// The same for an error number.
+FileError systemError(int code);

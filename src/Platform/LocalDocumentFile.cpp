@@ -1,0 +1,99 @@
+#include "Platform/LocalDocumentFile.h"
+
+#include "Platform/AtomicFile.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <limits>
+#include <new>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+constexpr qint64 longestReadable = std::numeric_limits<quint32>::max(); // the parser's own limit
+constexpr qsizetype parserPadding = 64; // room that a parser may look at, so that it need not copy the file
+
+DocumentFile::Contents readAll(int descriptor, qint64 expectedSize)
+{
+    QByteArray bytes;
+    bytes.reserve(expectedSize + parserPadding);
+    for (qsizetype size = 0; size <= longestReadable;) {
+        bytes.resize(std::max(expectedSize, size + parserPadding));
+        const ssize_t count = ::read(descriptor, bytes.data() + size, std::size_t(bytes.size() - size));
+        if (count < 0 && errno != EINTR)
+            return lastSystemError();
+        if (count == 0) {
+            bytes.truncate(size);
+            return bytes;
+        }
+        size += std::max<ssize_t>(count, 0);
+    }
+    return systemError(EFBIG);
+}
+
+/// Not blocking: to open a pipe would otherwise wait for somebody at its other end.
+DocumentFile::Contents readFile(const fs::path &path)
+{
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (!file.isOpen())
+        return errno == ENOENT ? DocumentFile::Contents() : lastSystemError();
+    struct stat status{};
+    if (::fstat(file.number(), &status) != 0)
+        return lastSystemError();
+    if (!S_ISREG(status.st_mode))
+        return systemError(S_ISDIR(status.st_mode) ? EISDIR : EINVAL);
+    if (status.st_size > longestReadable)
+        return systemError(EFBIG);
+    try {
+        return readAll(file.number(), status.st_size);
+    } catch (const std::bad_alloc &) {
+        return systemError(ENOMEM);
+    }
+}
+
+/// Failing is not told here: the reading or writing that follows will fail and say why.
+void createPrivateFolder(const fs::path &folder)
+{
+    std::error_code ignored;
+    fs::create_directories(folder.parent_path(), ignored);
+    ::mkdir(folder.c_str(), S_IRWXU);
+}
+} // namespace
+
+LocalDocumentFile::LocalDocumentFile(const DataLocation &location) : m_location(location) {}
+
+DocumentFile::Contents LocalDocumentFile::read()
+{
+    const auto file = path();
+    if (!file)
+        return systemError(ENOENT);
+    AtomicFile::removeAbandoned(*file);
+    return readFile(*file);
+}
+
+std::optional<FileError> LocalDocumentFile::replace(const Producer &produce)
+{
+    const auto target = path();
+    if (!target)
+        return systemError(ENOENT);
+    AtomicFile file;
+    if (auto error = file.open(*target))
+        return error;
+    if (auto error = produce(file))
+        return error;
+    return file.commit();
+}
+
+std::optional<fs::path> LocalDocumentFile::path() const
+{
+    const auto support = m_location.applicationSupportDirectory();
+    if (!support)
+        return std::nullopt;
+    const fs::path folder = *support / "Pelko";
+    createPrivateFolder(folder);
+    return folder / "data.json";
+}
