@@ -27,7 +27,7 @@ fs::path behindLinks(fs::path path)
 
 std::string temporaryPrefix(const fs::path &target)
 {
-    return "." + target.filename().string() + ".saving-";
+    return std::string(".").append(target.filename().string()).append(".saving-");
 }
 
 bool flushToDisk(int descriptor)

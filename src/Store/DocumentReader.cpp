@@ -132,8 +132,10 @@ bool read(dom::element json, QList<Value> &values)
     values.clear();
     values.reserve(qsizetype(array.size()));
     for (const dom::element element : array) {
-        if (!read(element, values.emplaceBack()))
+        Value value;
+        if (!read(element, value))
             return false;
+        values.append(std::move(value));
     }
     return true;
 }
