@@ -43,6 +43,23 @@ qreal Spring::velocity(qreal seconds) const
     return omega * omega / damped * qExp(-dampingFraction * omega * seconds) * qSin(damped * seconds);
 }
 
+Spring::State Spring::pulledToZero(State start, qreal seconds) const
+{
+    const qreal omega = frequency(*this);
+    if (isCritical(*this)) {
+        const qreal push = start.velocity + omega * start.position;
+        const qreal fading = qExp(-omega * seconds);
+        return {(start.position + push * seconds) * fading,
+                (start.velocity - omega * push * seconds) * fading};
+    }
+    const qreal decay = dampingFraction * omega;
+    const qreal damped = dampedFrequency(*this);
+    const qreal cosine = qExp(-decay * seconds) * qCos(damped * seconds);
+    const qreal sine = qExp(-decay * seconds) * qSin(damped * seconds) / damped;
+    return {start.position * cosine + (start.velocity + decay * start.position) * sine,
+            start.velocity * cosine - (decay * start.velocity + omega * omega * start.position) * sine};
+}
+
 qreal Spring::settlingTime() const
 {
     // Walking back from a moment when surely all is still finds the last excursion whatever the damping.

@@ -39,6 +39,10 @@ class tst_Spring : public QObject
 private Q_SLOTS:
     void positionSolvesTheEquationOfADampedSpring_data() { springs(); }
     void positionSolvesTheEquationOfADampedSpring();
+    void pullIsTheSameMotionSeenFromItsGoal_data() { springs(); }
+    void pullIsTheSameMotionSeenFromItsGoal();
+    void pullMayBeInterruptedAnywhere_data() { springs(); }
+    void pullMayBeInterruptedAnywhere();
     void settlesForGoodAfterItsDuration_data() { springs(); }
     void settlesForGoodAfterItsDuration();
     void curveFollowsTheSpring_data() { springs(); }
@@ -88,6 +92,31 @@ void tst_Spring::positionSolvesTheEquationOfADampedSpring()
         QVERIFY(qAbs(slope - spring.velocity(now)) < omega * 1e-6);
         QVERIFY(qAbs(bend - (force - friction)) < omega * omega * 1e-6);
     }
+}
+
+void tst_Spring::pullIsTheSameMotionSeenFromItsGoal()
+{
+    QFETCH(qreal, response);
+    QFETCH(qreal, dampingFraction);
+    const Spring spring{response, dampingFraction};
+    for (int i = 0; i < 100; ++i) {
+        const qreal now = i * response / 50;
+        const Spring::State state = spring.pulledToZero({-1, 0}, now);
+        QVERIFY(qAbs(state.position - (spring.position(now) - 1)) < 1e-9);
+        QVERIFY(qAbs(state.velocity - spring.velocity(now)) < 1e-9 * spring.response + 1e-6);
+    }
+}
+
+void tst_Spring::pullMayBeInterruptedAnywhere()
+{
+    QFETCH(qreal, response);
+    QFETCH(qreal, dampingFraction);
+    const Spring spring{response, dampingFraction};
+    const Spring::State half = spring.pulledToZero({3, -8}, 0.05);
+    const Spring::State inTwoSteps = spring.pulledToZero(half, 0.07);
+    const Spring::State inOneStep = spring.pulledToZero({3, -8}, 0.12);
+    QVERIFY(qAbs(inTwoSteps.position - inOneStep.position) < 1e-9);
+    QVERIFY(qAbs(inTwoSteps.velocity - inOneStep.velocity) < 1e-6);
 }
 
 void tst_Spring::settlesForGoodAfterItsDuration()

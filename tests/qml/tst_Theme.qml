@@ -53,7 +53,7 @@ TestCase {
     }
 
     function test_facesKeepTheirFractionsOfAPixel() {
-        fuzzyCompare(Typography.body.pointSize * FontScale.pixelsPerPoint, 16.5, 0.01)
+        fuzzyCompare(Typography.body.pointSize * Typography.pixelsPerPoint(), 16.5, 0.01)
         compare(Typography.heading.weight, Font.Bold)
     }
 }

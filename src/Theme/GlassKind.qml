@@ -1,0 +1,19 @@
+import QtQuick
+
+/// What one kind of glass is made of. `tint` lies over the blurred ground; `plain` stands in for both of them where
+/// nothing can be blurred.
+QtObject {
+    property color tint
+    property color plain
+    property color sheenTop: Qt.rgba(1, 1, 1, 0.085)
+    property color sheenFoot: Qt.rgba(1, 1, 1, 0.035)
+    property color rimTop: Qt.rgba(1, 1, 1, 0.20)
+    property color rimMiddle: Qt.rgba(1, 1, 1, 0.06)
+    property color rimFoot: Qt.rgba(1, 1, 1, 0.09)
+    property color hairline: Qt.rgba(1, 1, 1, 0.10)
+    property real blur: 0
+    property real saturation: 1
+    property real shadowDrop: 0
+    property real shadowBlur: 0
+    property real shadowStrength: 0
+}

@@ -1,0 +1,46 @@
+import QtQuick
+import Pelko
+
+/// A labelled capsule, with the symbol `icon.name` if there is one: plain glass for the harmless choice, warm for the one strong button, red for a danger.
+PressableControl {
+    id: button
+
+    property GlassKind kind: Glass.capsule
+    property Item backdrop: null
+    property bool casts: false
+
+    pressScale: 0.95
+    implicitHeight: 36
+    implicitWidth: row.implicitWidth + 36
+
+    background: GlassSurface {
+        kind: button.kind
+        backdrop: button.backdrop
+        casts: button.casts
+        lift: 0.06 * button.hoverAmount + 0.04 * button.pressAmount
+    }
+
+    Row {
+        id: row
+
+        anchors.centerIn: parent
+        spacing: Metrics.space8
+
+        SymbolIcon {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: button.icon.name !== ""
+            name: button.icon.name
+            size: 14
+            color: FirePalette.white(0.96)
+        }
+
+        Text {
+            anchors.verticalCenter: parent.verticalCenter
+            text: button.name
+            textFormat: Text.PlainText
+            font: Typography.button
+            color: FirePalette.white(0.96)
+            Accessible.ignored: true
+        }
+    }
+}

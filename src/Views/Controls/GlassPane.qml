@@ -1,0 +1,72 @@
+import QtQuick
+import Pelko
+
+/// What lies behind a piece of glass, blurred: taken at a quarter of its size, which is both cheaper and softer than
+/// a blur of the whole, then blurred across and down, and cut to shape.
+Item {
+    id: pane
+
+    required property Item backdrop
+    required property real radius
+    required property real blur
+    required property real saturation
+
+    readonly property real shrink: 4
+    readonly property int texelsWide: Math.max(1, Math.ceil(width / shrink))
+    readonly property int texelsHigh: Math.max(1, Math.ceil(height / shrink))
+    // Nine samples reach a little over eight texels; the radius asked for decides how far apart they lie.
+    readonly property real step: blur / (2 * shrink * 2.9)
+
+    function look() : void {
+        const corner = mapToItem(backdrop, 0, 0)
+        behind.sourceRect = Qt.rect(corner.x, corner.y, pane.width, pane.height)
+    }
+
+    Connections {
+        target: pane.Window.window
+        enabled: pane.visible && pane.backdrop
+        function onAfterAnimating() { pane.look() }
+    }
+
+    ShaderEffectSource {
+        id: behind
+
+        sourceItem: pane.backdrop
+        textureSize { width: pane.texelsWide; height: pane.texelsHigh }
+        visible: false
+        smooth: true
+    }
+
+    ShaderEffect {
+        id: across
+
+        readonly property ShaderEffectSource source: behind
+        readonly property vector2d stride: Qt.vector2d(pane.step / pane.texelsWide, 0)
+
+        width: pane.texelsWide
+        height: pane.texelsHigh
+        visible: false
+        fragmentShader: "qrc:/qt/qml/Pelko/shaders/blur.frag.qsb"
+    }
+
+    ShaderEffectSource {
+        id: halfBlurred
+
+        sourceItem: across
+        textureSize { width: pane.texelsWide; height: pane.texelsHigh }
+        visible: false
+        smooth: true
+    }
+
+    ShaderEffect {
+        readonly property ShaderEffectSource source: halfBlurred
+        readonly property vector2d stride: Qt.vector2d(0, pane.step / pane.texelsHigh)
+        readonly property real cornerRadius: Math.min(pane.radius, width / 2, height / 2)
+        readonly property real pixel: 1 / Screen.devicePixelRatio
+        readonly property real saturation: pane.saturation
+        readonly property vector2d plateSize: Qt.vector2d(width, height)
+
+        anchors.fill: parent
+        fragmentShader: "qrc:/qt/qml/Pelko/shaders/pane.frag.qsb"
+    }
+}

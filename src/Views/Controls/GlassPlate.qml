@@ -1,0 +1,56 @@
+import QtQuick
+import Pelko
+
+/// The surface of a piece of glass without what lies behind: ground, sheen and rim. `lift` lays that much white over
+/// it, for hover and press. Draws the same from a shader and, less finely, without one.
+Item {
+    id: plate
+
+    required property GlassKind kind
+    property color ground: kind.plain
+    property real radius: height / 2
+    property real lift: 0
+
+    readonly property bool shaded: GraphicsInfo.api !== GraphicsInfo.Software
+                                   && GraphicsInfo.api !== GraphicsInfo.Unknown
+
+    ShaderEffect {
+        readonly property real cornerRadius: Math.min(plate.radius, width / 2, height / 2)
+        readonly property real pixel: 1 / Screen.devicePixelRatio
+        readonly property vector2d plateSize: Qt.vector2d(width, height)
+        readonly property color ground: plate.ground
+        readonly property color sheenTop: plate.kind.sheenTop
+        readonly property color sheenFoot: plate.kind.sheenFoot
+        readonly property color rimTop: plate.kind.rimTop
+        readonly property color rimMiddle: plate.kind.rimMiddle
+        readonly property color rimFoot: plate.kind.rimFoot
+
+        anchors.fill: parent
+        visible: plate.shaded
+        fragmentShader: plate.shaded ? "qrc:/qt/qml/Pelko/shaders/plate.frag.qsb" : ""
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        visible: !plate.shaded
+        radius: plate.radius
+        color: plate.ground
+
+        Rectangle {
+            anchors.fill: parent
+            radius: plate.radius
+            border.color: plate.kind.hairline
+            gradient: Gradient {
+                GradientStop { position: 0; color: plate.kind.sheenTop }
+                GradientStop { position: 1; color: plate.kind.sheenFoot }
+            }
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        visible: plate.lift > 0
+        radius: plate.radius
+        color: FirePalette.white(plate.lift)
+    }
+}

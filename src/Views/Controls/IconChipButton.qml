@@ -1,0 +1,50 @@
+import QtQuick
+import Pelko
+
+/// The symbol `icon.name` in a capsule that unfolds its label under the pointer and when the keyboard reaches it.
+PressableControl {
+    id: chip
+
+    required property string tip
+
+    name: tip
+    pressScale: 0.945
+    implicitHeight: Metrics.chipHeight
+    implicitWidth: Metrics.chipMinimumWidth + (Metrics.chipGap + Math.ceil(label.implicitWidth)) * hoverAmount
+
+    background: GlassPlate {
+        kind: Glass.chip
+        lift: 0.06 * chip.hoverAmount + 0.05 * chip.pressAmount
+    }
+
+    SymbolIcon {
+        id: symbol
+
+        x: Metrics.chipPadding
+        anchors.verticalCenter: parent.verticalCenter
+        name: chip.icon.name
+        size: Metrics.chipSymbol
+        color: Qt.alpha(FirePalette.ink, 0.72 + 0.23 * chip.hoverAmount)
+    }
+
+    Item {
+        anchors.left: symbol.right
+        anchors.leftMargin: Metrics.chipGap
+        anchors.right: parent.right
+        height: parent.height
+        clip: true
+        opacity: chip.hoverAmount
+        visible: opacity > 0
+
+        Text {
+            id: label
+
+            anchors.verticalCenter: parent.verticalCenter
+            text: chip.tip
+            textFormat: Text.PlainText
+            font: Typography.capsule
+            color: Qt.alpha(FirePalette.ink, 0.95)
+            Accessible.ignored: true
+        }
+    }
+}

@@ -1,0 +1,58 @@
+import QtQuick
+import QtQuick.Templates as T
+import Pelko
+
+/// What all buttons share: they are reached with Tab but leave the caret where it is when clicked, answer to Space
+/// and Return, shrink while pressed, and tell assistive technology what they are. `name` is what is read out.
+T.AbstractButton {
+    id: control
+
+    required property string name
+    property real controlRadius: height / 2
+    property real pressScale: 0.95
+    property alias pressResponse: press.response
+    property alias pressDamping: press.dampingFraction
+    readonly property alias hoverAmount: hover.value
+    property alias hoverResponse: hover.response
+    property alias hoverDamping: hover.dampingFraction
+    readonly property real pressAmount: press.value
+    readonly property bool pointedAt: hovered || visualFocus
+
+    signal triggered()
+
+    text: name
+    focusPolicy: Qt.TabFocus
+    hoverEnabled: true
+    opacity: enabled ? 1 : 0.3
+    scale: 1 - (1 - pressScale) * press.value
+    onClicked: control.triggered()
+    Keys.onReturnPressed: control.clicked()
+    Keys.onEnterPressed: control.clicked()
+
+    Accessible.role: Accessible.Button
+    Accessible.name: name
+    Accessible.onPressAction: control.clicked()
+
+    SpringFollower {
+        id: hover
+
+        goal: control.pointedAt ? 1 : 0
+        response: 0.32
+        dampingFraction: 1
+        instant: Motion.reduced
+    }
+
+    SpringFollower {
+        id: press
+
+        goal: control.down ? 1 : 0
+        response: 0.18
+        dampingFraction: 0.55
+        instant: Motion.reduced
+    }
+
+    FocusRing {
+        shown: control.visualFocus
+        controlRadius: control.controlRadius
+    }
+}

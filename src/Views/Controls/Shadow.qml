@@ -1,0 +1,27 @@
+import QtQuick
+import Pelko
+
+/// The shadow a piece of glass throws: a wide one for its height and a tight one that ties it to the ground.
+Item {
+    id: shadow
+
+    required property GlassKind kind
+    property real radius: 0
+
+    SoftShadow {
+        anchors.fill: parent
+        radius: shadow.radius
+        drop: shadow.kind.shadowDrop
+        blur: shadow.kind.shadowBlur
+        color: Qt.rgba(0, 0, 0, shadow.kind.shadowStrength)
+    }
+
+    SoftShadow {
+        anchors.fill: parent
+        visible: shadow.kind.shadowBlur > 0
+        radius: shadow.radius
+        drop: 2
+        blur: 6
+        color: Qt.rgba(0, 0, 0, 0.35)
+    }
+}

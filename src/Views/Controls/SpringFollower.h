@@ -1,0 +1,59 @@
+#pragma once
+
+#include "Theme/Spring.h"
+
+#include <QAbstractAnimation>
+#include <QObject>
+#include <QtQml/qqml.h>
+
+#include <memory>
+
+/// A value that follows its goal on a spring and keeps its speed when the goal moves half-way, as an
+/// animation that starts anew cannot. It begins at its first goal without moving and ticks only while it is
+/// under way.
+class SpringFollower : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(qreal goal READ goal WRITE setGoal NOTIFY goalChanged)
+    Q_PROPERTY(qreal value READ value NOTIFY valueChanged)
+    Q_PROPERTY(qreal response READ response WRITE setResponse NOTIFY springChanged)
+    Q_PROPERTY(qreal dampingFraction READ dampingFraction WRITE setDampingFraction NOTIFY springChanged)
+    Q_PROPERTY(bool instant READ isInstant WRITE setInstant NOTIFY instantChanged)
+    QML_ELEMENT
+
+public:
+    explicit SpringFollower(QObject *parent = nullptr);
+    ~SpringFollower() override;
+
+    qreal goal() const { return m_goal; }
+    qreal value() const { return m_goal + m_distance.position; }
+    qreal response() const { return m_spring.response; }
+    qreal dampingFraction() const { return m_spring.dampingFraction; }
+    /// Jumps instead of moving, for those who asked for little motion.
+    bool isInstant() const { return m_isInstant; }
+
+    void setGoal(qreal goal);
+    void setResponse(qreal seconds);
+    void setDampingFraction(qreal fraction);
+    void setInstant(bool instant);
+
+Q_SIGNALS:
+    void goalChanged();
+    void valueChanged();
+    void springChanged();
+    void instantChanged();
+
+private:
+    class Ticks;
+
+    void leap();
+    void moveOn(qreal seconds);
+    bool isSettled() const;
+
+    Spring m_spring{0.35, 0.82};
+    qreal m_goal = 0;
+    Spring::State m_distance;
+    bool m_hasGoal = false;
+    bool m_isInstant = false;
+    std::unique_ptr<Ticks> m_ticks;
+};

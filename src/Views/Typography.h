@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QFont>
+#include <QObject>
+#include <QtQml/qqml.h>
+
+/// Every face of the app with size, weight and tracking, and beside them the line heights of those that run
+/// over several lines. Sizes are meant in device-independent pixels. QML's fonts take whole pixels only and
+/// some of our sizes are fractions, so the faces are made here and carry points, counted back from what a
+/// point measures.
+class Typography : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString textFamily READ textFamily CONSTANT)
+    Q_PROPERTY(QString displayFamily READ displayFamily CONSTANT)
+    Q_PROPERTY(QString monoFamily READ monoFamily CONSTANT)
+    Q_PROPERTY(QFont bannerTitle READ bannerTitle CONSTANT)
+    Q_PROPERTY(QFont heading READ heading CONSTANT)
+    Q_PROPERTY(QFont body READ body CONSTANT)
+    Q_PROPERTY(QFont quote READ quote CONSTANT)
+    Q_PROPERTY(QFont code READ code CONSTANT)
+    Q_PROPERTY(QFont checklist READ checklist CONSTANT)
+    Q_PROPERTY(QFont stickyLabel READ stickyLabel CONSTANT)
+    Q_PROPERTY(QFont sheetTitle READ sheetTitle CONSTANT)
+    Q_PROPERTY(QFont dialogTitle READ dialogTitle CONSTANT)
+    Q_PROPERTY(QFont message READ message CONSTANT)
+    Q_PROPERTY(QFont button READ button CONSTANT)
+    Q_PROPERTY(QFont listTitle READ listTitle CONSTANT)
+    Q_PROPERTY(QFont meta READ meta CONSTANT)
+    Q_PROPERTY(QFont menuRow READ menuRow CONSTANT)
+    Q_PROPERTY(QFont menuKey READ menuKey CONSTANT)
+    Q_PROPERTY(QFont capsule READ capsule CONSTANT)
+    Q_PROPERTY(QFont caption READ caption CONSTANT)
+    Q_PROPERTY(int bannerTitleLine READ bannerTitleLine CONSTANT)
+    Q_PROPERTY(int headingLine READ headingLine CONSTANT)
+    Q_PROPERTY(int bodyLine READ bodyLine CONSTANT)
+    Q_PROPERTY(int quoteLine READ quoteLine CONSTANT)
+    Q_PROPERTY(int codeLine READ codeLine CONSTANT)
+    Q_PROPERTY(int checklistRow READ checklistRow CONSTANT)
+    Q_PROPERTY(int dialogTitleLine READ dialogTitleLine CONSTANT)
+    Q_PROPERTY(int messageLine READ messageLine CONSTANT)
+    Q_PROPERTY(int metaLine READ metaLine CONSTANT)
+    QML_ELEMENT
+    QML_SINGLETON
+
+public:
+    explicit Typography(QObject *parent = nullptr);
+
+    QString textFamily() const { return m_textFamily; }
+    QString displayFamily() const { return m_displayFamily; }
+    QString monoFamily() const { return m_monoFamily; }
+
+    QFont bannerTitle() const { return face(m_displayFamily, 38, QFont::Bold, -0.7); }
+    QFont heading() const { return face(m_displayFamily, 34, QFont::Bold, -0.5); }
+    QFont body() const { return face(m_textFamily, 16.5, QFont::Normal); }
+    QFont quote() const { return italic(face(m_displayFamily, 18, QFont::Normal)); }
+    QFont code() const { return face(m_monoFamily, 13.5, QFont::Normal); }
+    QFont checklist() const { return face(m_textFamily, 15, QFont::Normal); }
+    QFont stickyLabel() const { return face(m_textFamily, 11, QFont::DemiBold, 0.3); }
+    QFont sheetTitle() const { return face(m_displayFamily, 20, QFont::DemiBold); }
+    QFont dialogTitle() const { return face(m_displayFamily, 17, QFont::DemiBold); }
+    QFont message() const { return face(m_textFamily, 13, QFont::Normal); }
+    QFont button() const { return face(m_textFamily, 13, QFont::Medium); }
+    QFont listTitle() const { return face(m_textFamily, 14, QFont::Medium); }
+    QFont meta() const { return face(m_textFamily, 11.5, QFont::Normal); }
+    QFont menuRow() const { return face(m_textFamily, 13, QFont::Normal); }
+    QFont menuKey() const { return face(m_textFamily, 11, QFont::Normal); }
+    QFont capsule() const { return face(m_textFamily, 11, QFont::Medium); }
+    QFont caption() const { return face(m_textFamily, 10, QFont::Bold, 1.2); }
+
+    int bannerTitleLine() const { return 44; }
+    int headingLine() const { return 42; }
+    int bodyLine() const { return 27; }
+    int quoteLine() const { return 29; }
+    int codeLine() const { return 22; }
+    int checklistRow() const { return 30; }
+    int dialogTitleLine() const { return 23; }
+    int messageLine() const { return 19; }
+    int metaLine() const { return 16; }
+
+    /// A face of the given height in pixels, with `tracking` pixels added after each letter.
+    Q_INVOKABLE QFont face(const QString &family, qreal pixels, int weight, qreal tracking = 0) const;
+    /// What a point measures on this desktop.
+    Q_INVOKABLE qreal pixelsPerPoint() const;
+
+private:
+    static QFont italic(QFont font);
+
+    QString m_textFamily;
+    QString m_displayFamily;
+    QString m_monoFamily;
+};
