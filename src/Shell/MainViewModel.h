@@ -1,17 +1,93 @@
 #pragma once
 
+#include "Models/PelkoDocument.h"
+#include "Shell/MenuCommands.h"
+
 #include <QObject>
 
 class AppState;
 
-/// What the main window shows and can do.
+/// What the main window shows and can do: which page is open, the empty state, the navigation layer and
+/// the alerts, one of which confirms a deletion. Lines drawn by lot are drawn here, so that a view that is
+/// painted again keeps its words.
 class MainViewModel : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(QString openDocumentID READ openDocumentID NOTIFY openDocumentIDChanged)
+    Q_PROPERTY(QString windowTitle READ windowTitle NOTIFY windowTitleChanged)
+    Q_PROPERTY(QString topMessage READ topMessage CONSTANT)
+    Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY emptyMessageChanged)
+    Q_PROPERTY(bool showNav READ showNav NOTIFY showNavChanged)
+    Q_PROPERTY(bool showDocLimitNudge READ showDocLimitNudge NOTIFY showDocLimitNudgeChanged)
+    Q_PROPERTY(bool showAbout READ showAbout NOTIFY showAboutChanged)
+    Q_PROPERTY(bool showError READ showError NOTIFY showErrorChanged)
+    Q_PROPERTY(QString errorTitle READ errorTitle NOTIFY errorTitleChanged)
+    Q_PROPERTY(QString errorText READ errorText NOTIFY errorTextChanged)
+    Q_PROPERTY(bool showDeleteConfirmation READ showDeleteConfirmation NOTIFY docToDeleteChanged)
+    Q_PROPERTY(QString deleteConfirmText READ deleteConfirmText NOTIFY deleteConfirmTextChanged)
+    Q_PROPERTY(QList<MenuCommand> menuCommands READ menuCommands CONSTANT)
 
 public:
-    explicit MainViewModel(AppState &appState);
+    explicit MainViewModel(AppState &appState, QObject *parent = nullptr);
+
+    /// Of the document in the editor; empty when the empty state is shown.
+    QString openDocumentID() const { return m_openDocumentID; }
+    QString windowTitle() const { return m_windowTitle; }
+    /// The greeting of this window, the same for its whole life.
+    QString topMessage() const { return m_topMessage; }
+    QString emptyMessage() const { return m_emptyMessage; }
+    bool showNav() const;
+    bool showDocLimitNudge() const;
+    bool showAbout() const;
+    bool showError() const { return m_error.has_value(); }
+    /// Both keep their last words while the alert goes away.
+    QString errorTitle() const { return m_errorTitle; }
+    QString errorText() const { return m_errorText; }
+    const std::optional<PelkoDocument> &docToDelete() const { return m_docToDelete; }
+    bool showDeleteConfirmation() const { return m_docToDelete.has_value(); }
+    /// Keeps its last value after the alert is gone.
+    QString deleteConfirmText() const { return m_deleteConfirmText; }
+    const QList<MenuCommand> &menuCommands() const { return ::menuCommands(); }
+
+    /// Creates a document in the current space, or raises the limit alert.
+    Q_INVOKABLE void createDocument();
+    /// Does what the menu command of that id says. An unknown id does nothing.
+    Q_INVOKABLE void run(const QString &commandID);
+    Q_INVOKABLE void dismissNav();
+    Q_INVOKABLE void dismissDocLimitNudge();
+    Q_INVOKABLE void dismissAbout();
+    Q_INVOKABLE void dismissError();
+    /// Asks before deleting. An unknown id asks nothing.
+    Q_INVOKABLE void requestDelete(const QString &documentID);
+    Q_INVOKABLE void confirmDelete();
+    Q_INVOKABLE void cancelDelete();
+
+Q_SIGNALS:
+    void openDocumentIDChanged();
+    void windowTitleChanged();
+    void emptyMessageChanged();
+    void showNavChanged();
+    void showDocLimitNudgeChanged();
+    void showAboutChanged();
+    void showErrorChanged();
+    void errorTitleChanged();
+    void errorTextChanged();
+    void docToDeleteChanged();
+    void deleteConfirmTextChanged();
+    void quitRequested();
 
 private:
+    void updateOpenDocument();
+    void updateError();
+
     AppState &m_appState;
+    QString m_openDocumentID;
+    QString m_windowTitle;
+    QString m_topMessage;
+    QString m_emptyMessage;
+    std::optional<QString> m_error;
+    QString m_errorTitle;
+    QString m_errorText;
+    std::optional<PelkoDocument> m_docToDelete;
+    QString m_deleteConfirmText;
 };
