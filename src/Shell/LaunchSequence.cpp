@@ -5,7 +5,8 @@
 using namespace std::chrono_literals;
 
 LaunchSequence::LaunchSequence(Scheduler &scheduler, QObject *parent)
-    : QObject(parent), m_scheduler(scheduler)
+    : QObject(parent)
+    , m_scheduler(scheduler)
 {
 }
 

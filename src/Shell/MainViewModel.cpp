@@ -1,6 +1,134 @@
 #include "Shell/MainViewModel.h"
 
-MainViewModel::MainViewModel(AppState &appState) : m_appState(appState)
+#include "Editor/EditorViewModel.h"
+#include "Store/AppState.h"
+#include "Store/ChangeScope.h"
+#include "Theme/PelkoVoice.h"
+
+using namespace Qt::StringLiterals;
+
+MainViewModel::MainViewModel(AppState &appState, Scheduler &scheduler, QObject *parent)
+    : QObject(parent)
+    , m_appState(appState)
+    , m_scheduler(scheduler)
+    , m_topMessage(PelkoVoice::pick(PelkoVoice::greetingPool(), u"greeting"_s))
 {
-    (void)m_appState;
+    followStore();
+    followOpenDocument();
+    followError();
+}
+
+void MainViewModel::followStore()
+{
+    connect(&m_appState, &AppState::openDocumentIDChanged, this, &MainViewModel::followOpenDocument);
+    connect(&m_appState, &AppState::documentsChanged, this, &MainViewModel::followOpenDocument);
+    connect(&m_appState, &AppState::lastErrorChanged, this, &MainViewModel::followError);
+    connect(&m_appState, &AppState::currentSpaceChanged, this, &MainViewModel::followOpenDocument);
+    connect(&m_appState, &AppState::showNavChanged, this, &MainViewModel::showNavChanged);
+    connect(&m_appState, &AppState::showDocLimitNudgeChanged, this, &MainViewModel::showDocLimitNudgeChanged);
+    connect(&m_appState, &AppState::showAboutChanged, this, &MainViewModel::showAboutChanged);
+}
+
+bool MainViewModel::showNav() const
+{
+    return m_appState.showNav();
+}
+
+bool MainViewModel::showDocLimitNudge() const
+{
+    return m_appState.showDocLimitNudge();
+}
+
+bool MainViewModel::showAbout() const
+{
+    return m_appState.showAbout();
+}
+
+EditorViewModel *MainViewModel::openEditor(const QString &documentID)
+{
+    return new EditorViewModel(m_appState, m_scheduler, QUuid(documentID), this);
+}
+
+void MainViewModel::createDocument()
+{
+    m_appState.createDocument(m_appState.currentSpace());
+}
+
+void MainViewModel::run(const QString &commandID)
+{
+    if (commandID == "newDocument"_L1)
+        createDocument();
+    else if (commandID == "about"_L1)
+        m_appState.setShowAbout(true);
+    else if (commandID == "quit"_L1)
+        Q_EMIT quitRequested();
+}
+
+void MainViewModel::dismissNav()
+{
+    m_appState.setShowNav(false);
+}
+
+void MainViewModel::dismissDocLimitNudge()
+{
+    m_appState.setShowDocLimitNudge(false);
+}
+
+void MainViewModel::dismissAbout()
+{
+    m_appState.setShowAbout(false);
+}
+
+void MainViewModel::dismissError()
+{
+    m_appState.clearLastError();
+}
+
+void MainViewModel::requestDelete(const QString &documentID)
+{
+    const PelkoDocument *document = m_appState.document(QUuid(documentID));
+    if (!document)
+        return;
+    ChangeScope changes(*this);
+    changes.assign(m_docToDelete, *document, &MainViewModel::docToDeleteChanged);
+    changes.assign(m_deleteConfirmText, u"Delete “%1” for good?"_s.arg(document->title()),
+                   &MainViewModel::deleteConfirmTextChanged);
+}
+
+void MainViewModel::confirmDelete()
+{
+    if (!m_docToDelete)
+        return;
+    m_appState.permanentlyDeleteDocument(*m_docToDelete);
+    cancelDelete();
+}
+
+void MainViewModel::cancelDelete()
+{
+    ChangeScope(*this).assign(m_docToDelete, std::nullopt, &MainViewModel::docToDeleteChanged);
+}
+
+void MainViewModel::followOpenDocument()
+{
+    const std::optional<PelkoDocument> open = m_appState.openDocument();
+    ChangeScope changes(*this);
+    changes.assign(m_openDocumentID, open ? open->id.toString(QUuid::WithoutBraces) : QString(),
+                   &MainViewModel::openDocumentIDChanged);
+    changes.assign(m_windowTitle, open ? u"%1 – Pelko"_s.arg(open->title().simplified()) : u"Pelko"_s,
+                   &MainViewModel::windowTitleChanged);
+    if (!open)
+        changes.assign(m_emptyMessage, PelkoVoice::pick(PelkoVoice::emptyNotesPool(), u"emptyNotes"_s),
+                       &MainViewModel::emptyMessageChanged);
+}
+
+void MainViewModel::followError()
+{
+    const std::optional<QString> &error = m_appState.lastError();
+    ChangeScope changes(*this);
+    if (error) {
+        changes.assign(m_errorTitle, PelkoVoice::pick(PelkoVoice::errorPool(), u"error"_s),
+                       &MainViewModel::errorTitleChanged);
+        changes.assign(m_errorText, *error, &MainViewModel::errorTextChanged);
+    }
+    changes.assign(m_showError, error.has_value(), &MainViewModel::showErrorChanged);
 }

@@ -6,6 +6,8 @@
 #include <QObject>
 
 class AppState;
+class EditorViewModel;
+class Scheduler;
 
 /// What the main window shows and can do: which page is open, the empty state, the navigation layer and
 /// the alerts, one of which confirms a deletion. Lines drawn by lot are drawn here, so that a view that is
@@ -28,18 +30,19 @@ class MainViewModel : public QObject
     Q_PROPERTY(QList<MenuCommand> menuCommands READ menuCommands CONSTANT)
 
 public:
-    explicit MainViewModel(AppState &appState, QObject *parent = nullptr);
+    MainViewModel(AppState &appState, Scheduler &scheduler, QObject *parent = nullptr);
 
     /// Of the document in the editor; empty when the empty state is shown.
     QString openDocumentID() const { return m_openDocumentID; }
     QString windowTitle() const { return m_windowTitle; }
     /// The greeting of this window, the same for its whole life.
     QString topMessage() const { return m_topMessage; }
+    /// Picked again whenever the empty state comes up or the library changes behind it.
     QString emptyMessage() const { return m_emptyMessage; }
     bool showNav() const;
     bool showDocLimitNudge() const;
     bool showAbout() const;
-    bool showError() const { return m_error.has_value(); }
+    bool showError() const { return m_showError; }
     /// Both keep their last words while the alert goes away.
     QString errorTitle() const { return m_errorTitle; }
     QString errorText() const { return m_errorText; }
@@ -49,6 +52,8 @@ public:
     QString deleteConfirmText() const { return m_deleteConfirmText; }
     const QList<MenuCommand> &menuCommands() const { return ::menuCommands(); }
 
+    /// A new editor of that document. Whoever shows it calls its `release` when done.
+    Q_INVOKABLE EditorViewModel *openEditor(const QString &documentID);
     /// Creates a document in the current space, or raises the limit alert.
     Q_INVOKABLE void createDocument();
     /// Does what the menu command of that id says. An unknown id does nothing.
@@ -74,18 +79,21 @@ Q_SIGNALS:
     void errorTextChanged();
     void docToDeleteChanged();
     void deleteConfirmTextChanged();
+    /// The "Quit" command was given.
     void quitRequested();
 
 private:
-    void updateOpenDocument();
-    void updateError();
+    void followStore();
+    void followOpenDocument();
+    void followError();
 
     AppState &m_appState;
+    Scheduler &m_scheduler;
     QString m_openDocumentID;
     QString m_windowTitle;
     QString m_topMessage;
     QString m_emptyMessage;
-    std::optional<QString> m_error;
+    bool m_showError = false;
     QString m_errorTitle;
     QString m_errorText;
     std::optional<PelkoDocument> m_docToDelete;
