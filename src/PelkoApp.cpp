@@ -1,5 +1,6 @@
 #include "PelkoApp.h"
 
+#include <QCoreApplication>
 #include <QtQml/QQmlExtensionPlugin>
 
 Q_IMPORT_QML_PLUGIN(PelkoPlugin)
@@ -8,6 +9,10 @@ using namespace Qt::StringLiterals;
 
 PelkoApp::PelkoApp()
 {
+    QObject::connect(&m_main, &MainViewModel::quitRequested, QCoreApplication::instance(),
+                     &QCoreApplication::quit, Qt::QueuedConnection);
     m_engine.addImportPath(u"qrc:/qt/qml"_s);
+    m_engine.setInitialProperties(
+        {{u"main"_s, QVariant::fromValue(&m_main)}, {u"launch"_s, QVariant::fromValue(&m_launch)}});
     m_engine.load(QUrl(u"qrc:/qt/qml/Pelko/Views/Shell/PelkoWindow.qml"_s));
 }

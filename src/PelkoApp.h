@@ -1,13 +1,30 @@
 #pragma once
 
+#include "Platform/LocalDocumentFile.h"
+#include "Platform/QtScheduler.h"
+#include "Platform/SystemClock.h"
+#include "Platform/SystemDataLocation.h"
+#include "Shell/LaunchSequence.h"
+#include "Shell/MainViewModel.h"
+#include "Store/AppState.h"
+
 #include <QQmlApplicationEngine>
 
-/// The composition root: the one place that knows every part and hands each what it needs.
+/// The composition root: the one place that knows every part and hands each what it needs. Making it loads
+/// the documents and shows the window.
 class PelkoApp
 {
 public:
     PelkoApp();
 
 private:
+    // What is used by others stands first, so that it goes last.
+    QtScheduler m_scheduler;
+    SystemClock m_clock;
+    SystemDataLocation m_dataLocation;
+    LocalDocumentFile m_documentFile{m_dataLocation};
+    AppState m_appState{m_scheduler, m_clock, m_documentFile};
+    MainViewModel m_main{m_appState, m_scheduler};
+    LaunchSequence m_launch{m_scheduler};
     QQmlApplicationEngine m_engine;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Editor/EditorViewModel.h"
+#include "Shell/LaunchSequence.h"
 #include "Shell/MainViewModel.h"
 
 #include <QtQml/qqml.h>
@@ -17,5 +18,12 @@ struct EditorViewModelForQml {
     Q_GADGET
     QML_FOREIGN(EditorViewModel)
     QML_NAMED_ELEMENT(EditorViewModel)
+    QML_UNCREATABLE("Handed in by the program.")
+};
+
+struct LaunchSequenceForQml {
+    Q_GADGET
+    QML_FOREIGN(LaunchSequence)
+    QML_NAMED_ELEMENT(LaunchSequence)
     QML_UNCREATABLE("Handed in by the program.")
 };

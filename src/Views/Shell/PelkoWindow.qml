@@ -3,6 +3,7 @@ import Pelko
 
 Window {
     required property MainViewModel main
+    required property LaunchSequence launch
 
     width: 1100
     height: 750
