@@ -17,7 +17,7 @@ class Late(AssertionError):
     """Something expected did not happen before its deadline."""
 
 
-def until(condition, what, seconds=15):
+def until(condition, what, seconds=30):
     """Asks ten times a second until `condition` returns something true, and returns that."""
     deadline = time.monotonic() + seconds
     while True:
@@ -79,7 +79,7 @@ def run_on_own_desktop():
                 start_new_session=True,
             )
             try:
-                return session.wait(timeout=300)
+                return session.wait(timeout=600)
             finally:
                 end_group(session.pid)
         finally:

@@ -36,8 +36,8 @@ class Pelko:
     def start(self, *arguments, **changes):
         """Starts the program and waits until its window has the focus and the launch card has gone."""
         self.launch(*arguments, **changes)
-        self.root = until(lambda: screen_reader().application(self.process.pid), "the program is on the bus", 30)
-        until(self.window, "the window is shown", 30)
+        self.root = until(lambda: screen_reader().application(self.process.pid), "the program is on the bus", 60)
+        until(self.window, "the window is shown", 60)
         until(self.has_focus, "the window has the focus")
         until(lambda: self.find("Pelko menu") or self.find("Menu"), "the main view is there")
         until(lambda: not self.find("Launching"), "the launch card has gone")
@@ -59,7 +59,7 @@ class Pelko:
     def close(self):
         """Closes the window as a user does and waits for the end."""
         self.keys("alt+F4")
-        code = self.process.wait(timeout=15)
+        code = self.process.wait(timeout=30)
         assert code == 0, f"Pelko ended with {code}"
         self.root = None
 
@@ -78,7 +78,7 @@ class Pelko:
     def has_focus(self):
         return shown("xdotool", "getwindowfocus").strip() == self.window()
 
-    def stand_still(self, seconds=10):
+    def stand_still(self, seconds=30):
         """Waits until two pictures taken a moment apart are nearly the same; a caret and a flame may move."""
 
         def is_still():
@@ -126,10 +126,10 @@ class Pelko:
         found = self.find_all(name, roles)
         return found[0] if found else None
 
-    def wait_for(self, name, roles=None, seconds=15):
+    def wait_for(self, name, roles=None, seconds=30):
         return until(lambda: self.find(name, roles), f"“{name}” is on show", seconds)
 
-    def wait_gone(self, name, roles=None, seconds=15):
+    def wait_gone(self, name, roles=None, seconds=30):
         until(lambda: not self.find(name, roles), f"“{name}” has gone", seconds)
 
     def button(self, name):
@@ -147,7 +147,7 @@ class Pelko:
         """The data file as Python's own JSON reader sees it; None while there is none."""
         return json.loads(self.data_file.read_bytes()) if self.data_file.exists() else None
 
-    def wait_saved(self, condition, what, seconds=10):
+    def wait_saved(self, condition, what, seconds=30):
         return until(lambda: self.saved() is not None and condition(self.saved()), f"saved: {what}", seconds)
 
 
