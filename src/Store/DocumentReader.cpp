@@ -186,6 +186,8 @@ std::optional<QList<PelkoDocument>> readDocuments(QByteArray json)
 {
     pad(json);
     const std::string_view text = withoutByteOrderMark({json.constData(), std::size_t(json.size())});
+    if (text.starts_with(byteOrderMark)) // newer parsers would skip this second one
+        return std::nullopt;
     dom::parser parser;
     dom::element root;
     constexpr bool copyFirst = false;
