@@ -5,6 +5,13 @@
 namespace
 {
 
+/// Copies of a picture share its bytes; to compare all of them with every key would be felt.
+bool isSamePicture(const std::optional<QByteArray> &one, const std::optional<QByteArray> &other)
+{
+    const bool isShared = one && other && one->constData() == other->constData();
+    return (isShared && one->size() == other->size()) || one == other;
+}
+
 QList<BlockRow> rowsOf(const PelkoDocument &document)
 {
     QList<BlockRow> rows;
@@ -99,7 +106,8 @@ QList<int> BlockListModel::changedRoles(const BlockRow &before, const BlockRow &
     compare(before.block.type, after.block.type, {KindRole, TodosRole});
     compare(before.above, after.above, {KindAboveRole});
     compare(before.block.content, after.block.content, {ContentRole});
-    compare(before.block.imageData, after.block.imageData, {ImageDataRole, HasImageRole});
+    if (!isSamePicture(before.block.imageData, after.block.imageData))
+        roles.append({ImageDataRole, HasImageRole});
     compare(before.block.isFullWidth, after.block.isFullWidth, {IsFullWidthRole});
     compare(before.block.bannerTitle, after.block.bannerTitle, {BannerTitleRole});
     compare(before.canDelete, after.canDelete, {CanDeleteRole});
