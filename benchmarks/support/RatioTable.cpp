@@ -29,7 +29,7 @@ void RatioTable::Finalize()
         const Medians &medians = m_medians[row];
         const auto floor = medians.find("floor");
         for (const auto &[way, milliseconds] : medians) {
-            std::printf("%-18s %-10s %12.3f", row.c_str(), way.c_str(), milliseconds);
+            std::printf("%-18s %-10s %12.4f", row.c_str(), way.c_str(), milliseconds);
             if (floor != medians.end())
                 std::printf(" %10.2f", milliseconds / floor->second);
             std::printf("\n");
