@@ -2,6 +2,8 @@
 
 #include "Editor/BlockOperations.h"
 
+using namespace Qt::StringLiterals;
+
 namespace
 {
 
@@ -19,13 +21,42 @@ QList<BlockRow> rowsOf(const PelkoDocument &document)
     std::optional<BlockType> above;
     for (const Block &block : document.blocks) {
         const bool canDelete = BlockOperations::canDelete(document, rows.size());
-        rows.append({.id = block.id, .block = block, .above = above, .canDelete = canDelete});
+        rows.append({.block = block, .above = above, .canDelete = canDelete});
         above = block.type;
     }
     return rows;
 }
 
+QString name(RowEditor editor)
+{
+    switch (editor) {
+    case RowEditor::divider:
+        return u"divider"_s;
+    case RowEditor::image:
+        return u"image"_s;
+    case RowEditor::sticky:
+        return u"sticky"_s;
+    case RowEditor::writing:
+        break;
+    }
+    return u"writing"_s;
+}
+
 } // namespace
+
+RowEditor rowEditor(BlockType type)
+{
+    switch (type) {
+    case BlockType::divider:
+        return RowEditor::divider;
+    case BlockType::image:
+        return RowEditor::image;
+    case BlockType::sticky:
+        return RowEditor::sticky;
+    default:
+        return RowEditor::writing;
+    }
+}
 
 void BlockListModel::publish(const PelkoDocument &document)
 {
@@ -63,6 +94,8 @@ QVariant BlockListModel::data(const QModelIndex &index, int role) const
         return rawValue(block.type);
     case KindAboveRole:
         return row.above ? rawValue(*row.above) : QString();
+    case RowEditorRole:
+        return name(rowEditor(block.type));
     case ContentRole:
         return block.content;
     case ImageDataRole:
@@ -84,15 +117,11 @@ QVariant BlockListModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> BlockListModel::roleNames() const
 {
-    return {{BlockIDRole, "blockID"},
-            {KindRole, "kind"},
-            {KindAboveRole, "kindAbove"},
-            {ContentRole, "content"},
-            {ImageDataRole, "imageData"},
-            {HasImageRole, "hasImage"},
-            {IsFullWidthRole, "isFullWidth"},
-            {BannerTitleRole, "bannerTitle"},
-            {TodosRole, "todos"},
+    return {{BlockIDRole, "blockID"},         {KindRole, "kind"},
+            {KindAboveRole, "kindAbove"},     {RowEditorRole, "rowEditor"},
+            {ContentRole, "content"},         {ImageDataRole, "imageData"},
+            {HasImageRole, "hasImage"},       {IsFullWidthRole, "isFullWidth"},
+            {BannerTitleRole, "bannerTitle"}, {TodosRole, "todos"},
             {CanDeleteRole, "canDelete"}};
 }
 
@@ -103,7 +132,7 @@ QList<int> BlockListModel::changedRoles(const BlockRow &before, const BlockRow &
         if (old != now)
             roles.append(shownBy);
     };
-    compare(before.block.type, after.block.type, {KindRole, TodosRole});
+    compare(before.block.type, after.block.type, {KindRole});
     compare(before.above, after.above, {KindAboveRole});
     compare(before.block.content, after.block.content, {ContentRole});
     if (!isSamePicture(before.block.imageData, after.block.imageData))

@@ -8,12 +8,28 @@
 
 /// A block together with what its neighbours make of it.
 struct BlockRow {
-    QUuid id;
     Block block;
     /// The kind of the block above; nothing for the first.
     std::optional<BlockType> above;
     bool canDelete = false;
 };
+
+/// The kinds of editor that a row can have. The text-like kinds share one, so that a body block which becomes
+/// a heading keeps its field and its caret.
+enum class RowEditor { writing, divider, image, sticky };
+
+RowEditor rowEditor(BlockType type);
+
+inline std::size_t qHash(RowEditor editor, std::size_t seed = 0)
+{
+    return ::qHash(static_cast<int>(editor), seed);
+}
+
+/// A row whose editor changes is another row to the views.
+inline std::pair<QUuid, RowEditor> rowKey(const BlockRow &row)
+{
+    return {row.block.id, rowEditor(row.block.type)};
+}
 
 /// The blocks of one page for QML.
 class BlockListModel : public IdListModel<BlockRow>
@@ -27,6 +43,8 @@ public:
         KindRole,
         /// The raw name of the type of the block above; empty for the first.
         KindAboveRole,
+        /// "writing", "divider", "image" or "sticky"; never changes while the row lives.
+        RowEditorRole,
         ContentRole,
         ImageDataRole,
         HasImageRole,

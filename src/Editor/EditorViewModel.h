@@ -15,7 +15,7 @@ class EditorViewModel : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QString documentID READ documentID CONSTANT)
-    Q_PROPERTY(QAbstractItemModel *blocks READ blocks CONSTANT)
+    Q_PROPERTY(QObject *blocks READ blocks CONSTANT)
     Q_PROPERTY(QString title READ title NOTIFY titleChanged)
     Q_PROPERTY(bool firstBlockIsBanner READ firstBlockIsBanner NOTIFY firstBlockIsBannerChanged)
     Q_PROPERTY(bool offersDelete READ offersDelete NOTIFY offersDeleteChanged)
@@ -27,7 +27,7 @@ public:
                     QObject *parent = nullptr);
 
     QString documentID() const { return m_documentID.toString(QUuid::WithoutBraces); }
-    QAbstractItemModel *blocks() { return &m_blocks; }
+    QObject *blocks() { return &m_blocks; }
     QString title() const { return m_title; }
     bool firstBlockIsBanner() const { return m_firstBlockIsBanner; }
     /// Whether the context menu of a block offers to delete it.

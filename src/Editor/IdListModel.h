@@ -5,8 +5,8 @@
 #include <QAbstractListModel>
 
 /// A list of value rows for QML that is handed whole and finds out by itself what changed. Rows are told
-/// apart by their `id`: a row that moves is announced as a move and one that changes in place only with the
-/// roles that differ, so delegates, and with them caret and focus, live on.
+/// apart by their `rowKey`: a row that moves is announced as a move and one that changes in place only with
+/// the roles that differ, so delegates, and with them caret and focus, live on.
 template <typename Row>
 class IdListModel : public QAbstractListModel
 {
@@ -22,7 +22,7 @@ public:
 
     void publish(QList<Row> rows)
     {
-        const auto changes = RowDiff::between(ids(m_rows), ids(rows));
+        const auto changes = RowDiff::between(keys(m_rows), keys(rows));
         if (!changes) {
             beginResetModel();
             m_rows = std::move(rows);
@@ -36,16 +36,16 @@ public:
     }
 
 protected:
-    /// The roles in which two rows of the same id differ; empty when they are equal.
+    /// The roles in which two rows of the same key differ; empty when they are equal.
     virtual QList<int> changedRoles(const Row &before, const Row &after) const = 0;
 
 private:
-    static QList<QUuid> ids(const QList<Row> &rows)
+    static auto keys(const QList<Row> &rows)
     {
-        QList<QUuid> result;
+        QList<decltype(rowKey(rows.first()))> result;
         result.reserve(rows.size());
         for (const Row &row : rows)
-            result.append(row.id);
+            result.append(rowKey(row));
         return result;
     }
 

@@ -3,6 +3,11 @@
 #include "Editor/IdListModel.h"
 #include "Models/TodoItem.h"
 
+inline QUuid rowKey(const TodoItem &item)
+{
+    return item.id;
+}
+
 /// The entries of one checklist for QML.
 class TodoListModel : public IdListModel<TodoItem>
 {

@@ -51,4 +51,23 @@ QtObject {
     readonly property int pageMargin: 48
     readonly property int pageTop: 60
     readonly property int pageFoot: 40
+    readonly property int bannerTop: 56
+    readonly property int titleMargin: 96
+    readonly property int capsuleDot: 4
+
+    readonly property int caretWidth: 2
+    readonly property int caretBlinks: 10
+    readonly property int quoteBarWidth: 3
+    readonly property int quoteBarRadius: 2
+    readonly property int quoteIndent: quoteBarWidth + 18
+    readonly property int codePaddingX: 18
+    readonly property int codePaddingY: 15
+    readonly property int stickyPadding: 18
+    readonly property int emptyImageHeight: 100
+    readonly property int todoToggleSize: 17
+    readonly property int todoGap: 11
+    readonly property int removeTodoGlyph: 10
+
+    /// How far one notch of a wheel scrolls.
+    readonly property int wheelStep: 72
 }

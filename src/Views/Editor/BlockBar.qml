@@ -1,0 +1,37 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Pelko
+
+/// The bar under the page with one chip for each kind of block.
+Rectangle {
+    id: root
+
+    signal addRequested(string kind)
+
+    implicitHeight: Metrics.barHeight
+    color: FirePalette.deepBackground
+
+    Rectangle {
+        anchors { left: parent.left; right: parent.right; top: parent.top }
+        height: 1
+        color: FirePalette.barHairline
+    }
+
+    Row {
+        anchors { left: parent.left; leftMargin: Metrics.space14; verticalCenter: parent.verticalCenter }
+        spacing: Metrics.chipGap
+
+        Repeater {
+            model: BlockKinds.all
+
+            IconChipButton {
+                required property var modelData
+
+                symbol: modelData.icon
+                tip: modelData.tip
+                onTriggered: root.addRequested(modelData.name)
+            }
+        }
+    }
+}

@@ -1,0 +1,145 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Qt.labs.qmlmodels
+import Pelko
+
+/// The scrolling column of blocks.
+FocusScope {
+    id: root
+
+    required property EditorViewModel editor
+
+    readonly property alias atTop: list.atYBeginning
+
+    /// The keyboard walks out of the page.
+    signal walkedOut(bool forward)
+
+    function focusBlock(blockID: string, todoID: string, caret: int) {
+        list.forceLayout()
+        list.currentIndex = editor.rowOf(blockID)
+        list.currentRow?.block.takeFocus(todoID, caret)
+    }
+
+    function walkFrom(row: int, forward: bool) {
+        list.currentIndex = forward ? row + 1 : row - 1
+        list.currentRow ? list.currentRow.enter(forward) : walkedOut(forward)
+    }
+
+    function enter(forward: bool) {
+        walkFrom(forward ? -1 : list.count, forward)
+    }
+
+    /// Scrolls just as far as it takes to see the caret.
+    function reveal(caret: rect) {
+        const above = Math.min(caret.y - Metrics.pageTop - list.contentY, 0)
+        const below = Math.max(caret.y + caret.height + Metrics.space24 - list.contentY - height, 0)
+        list.contentY = Math.max(list.contentY + (above || below), list.originY - list.topMargin)
+    }
+
+    function scrollTo(blockID: string) {
+        const from = list.contentY
+        list.positionViewAtIndex(editor.rowOf(blockID), ListView.Contain)
+        scroll.glide(from, list.contentY)
+    }
+
+    function openMenu(blockID: string, position: point) {
+        menu.blockID = blockID
+        menu.openAt(position.x, position.y)
+    }
+
+    PageContext {
+        id: context
+
+        editor: root.editor
+        measure: Math.min(Metrics.measure, root.width - 2 * Metrics.pageMargin)
+        onFocusEntered: row => list.currentIndex = row
+        onMenuRequested: (blockID, item, position) => root.openMenu(blockID, root.mapFromItem(item, position))
+        onRevealRequested: (item, rectangle) => root.reveal(list.contentItem.mapFromItem(item, rectangle))
+        onWalkedOut: (row, forward) => root.walkFrom(row, forward)
+    }
+
+    Connections {
+        function onFocusRequested(blockID: string, todoID: string, caret: int) {
+            root.focusBlock(blockID, todoID, caret)
+        }
+
+        function onScrollTargetChanged() {
+            if (root.editor.scrollTarget !== "")
+                root.scrollTo(root.editor.scrollTarget)
+        }
+
+        target: root.editor
+    }
+
+    ListView {
+        id: list
+
+        readonly property BlockRow currentRow: currentItem as BlockRow
+
+        Accessible.name: qsTr("Page")
+        Accessible.role: Accessible.Document
+        anchors.fill: parent
+        bottomMargin: Metrics.pageFoot
+        boundsBehavior: Flickable.StopAtBounds
+        cacheBuffer: 400
+        focus: true
+        highlightFollowsCurrentItem: false
+        interactive: false
+        keyNavigationEnabled: false
+        model: root.editor.blocks
+        topMargin: root.editor.firstBlockIsBanner ? Metrics.bannerTop : Metrics.pageTop
+
+        delegate: DelegateChooser {
+            role: "rowEditor"
+
+            DelegateChoice {
+                roleValue: "writing"
+
+                WritingRow {
+                    page: context
+                }
+            }
+
+            DelegateChoice {
+                roleValue: "divider"
+
+                DividerRow {
+                    page: context
+                }
+            }
+
+            DelegateChoice {
+                roleValue: "image"
+
+                ImageRow {
+                    page: context
+                }
+            }
+
+            DelegateChoice {
+                roleValue: "sticky"
+
+                StickyRow {
+                    page: context
+                }
+            }
+        }
+    }
+
+    PageScroll {
+        id: scroll
+
+        list: list
+        onFinished: root.editor.scrolled()
+    }
+
+    BlockMenu {
+        id: menu
+
+        property string blockID
+
+        offersDelete: root.editor.offersDelete
+        onDeleteRequested: root.editor.deleteBlock(blockID)
+    }
+}

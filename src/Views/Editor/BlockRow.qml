@@ -1,0 +1,137 @@
+import QtQuick
+import Pelko
+
+/// The place of one block on the page: around the editor of its kind, what hover, focus and the context menu
+/// add.
+FocusScope {
+    id: root
+
+    required property int index
+    required property string blockID
+    required property string kind
+    required property string kindAbove
+    required property bool canDelete
+    required property PageContext page
+    /// The editor of the block, one of the children.
+    required property BlockEditor block
+    default property alias editors: body.data
+
+    /// A new row grows into its place, so that what stands below moves aside instead of jumping.
+    property real growth: 1
+
+    function owns(item: Item) : bool {
+        return item !== null && (item === root || owns(item.parent))
+    }
+
+    /// Tab walks through this block's own controls first, then on to the next block.
+    function walk(forward: bool) {
+        const next = (Window.activeFocusItem as Item).nextItemInFocusChain(forward)
+        owns(next) ? next.forceActiveFocus(Qt.TabFocusReason) : page.walkedOut(index, forward)
+    }
+
+    function enter(forward: bool) {
+        const last = canDelete ? deleteButton : nextItemInFocusChain(true)
+        const stop = forward ? nextItemInFocusChain(true) : last as Item
+        stop.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
+    }
+
+    function openMenu() {
+        page.menuRequested(blockID, block, Qt.point(0, block.height))
+    }
+
+    Keys.onBacktabPressed: walk(false)
+    Keys.onMenuPressed: openMenu()
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier
+        if (event.accepted)
+            openMenu()
+    }
+    Keys.onTabPressed: walk(true)
+
+    ListView.onAdd: arrival.start()
+    implicitHeight: (body.y + body.height) * growth
+    width: ListView.view?.width ?? 0
+    onActiveFocusChanged: {
+        activeFocus ? page.editor.focusGained(blockID) : page.editor.focusLost(blockID)
+        if (activeFocus)
+            page.focusEntered(index)
+    }
+
+    ParallelAnimation {
+        id: arrival
+
+        NumberAnimation {
+            duration: PelkoAnimation.micro.duration
+            easing: PelkoAnimation.micro.curve
+            from: 0
+            property: "growth"
+            target: root
+            to: 1
+        }
+
+        NumberAnimation {
+            duration: PelkoAnimation.smooth.duration
+            from: 0
+            property: "opacity"
+            target: body
+            to: 1
+        }
+    }
+
+    HoverHandler {
+        id: hover
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: point => root.page.menuRequested(root.blockID, root, point.position)
+    }
+
+    Rectangle {
+        anchors { fill: body; margins: -Metrics.space12 }
+        color: FirePalette.hoverWash
+        opacity: hover.hovered ? 1 : 0
+        radius: Metrics.washRadius
+        visible: opacity > 0 && root.kind !== "divider"
+
+        Behavior on opacity {
+            NumberAnimation { duration: PelkoAnimation.micro.duration; easing: PelkoAnimation.micro.curve }
+        }
+    }
+
+    FocusScope {
+        id: body
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        focus: true
+        height: root.block.implicitHeight
+        width: root.page.measure
+        y: BlockKinds.gap(root.kindAbove, root.kind)
+    }
+
+    BubblyDeleteButton {
+        id: deleteButton
+
+        readonly property bool isShown: hover.hovered || activeFocus
+
+        Keys.forwardTo: [root]
+        anchors { right: body.right; verticalCenter: body.top }
+        opacity: isShown ? 1 : 0
+        // Out of sight, it can still be walked to from within the block.
+        visible: root.canDelete && (opacity > 0 || root.activeFocus)
+        onTriggered: root.page.editor.deleteBlock(root.blockID)
+
+        Behavior on opacity {
+            NumberAnimation { duration: PelkoAnimation.micro.duration; easing: PelkoAnimation.micro.curve }
+        }
+    }
+
+    Connections {
+        function onCaretRectangleChanged() {
+            if (root.block.activeFocus)
+                root.page.revealRequested(root.block, root.block.caretRectangle)
+        }
+
+        target: root.block
+    }
+}

@@ -1,0 +1,96 @@
+#include "BlockText.h"
+
+#include <QTextBlockFormat>
+#include <QTextCursor>
+#include <QTextDocument>
+
+QTextDocument *BlockText::text() const
+{
+    return m_document ? m_document->textDocument() : nullptr;
+}
+
+QString BlockText::shown() const
+{
+    QString plain = text()->toRawText();
+    plain.replace(QChar::ParagraphSeparator, u'\n');
+    plain.replace(QChar::LineSeparator, u'\n');
+    return plain;
+}
+
+void BlockText::setDocument(QQuickTextDocument *document)
+{
+    if (m_document == document)
+        return;
+    m_document = document;
+    if (text()) {
+        // Undo belongs to the page, not to one field.
+        text()->setUndoRedoEnabled(false);
+        applyLineHeight();
+        show();
+    }
+    Q_EMIT documentChanged();
+}
+
+void BlockText::setContent(const QString &content)
+{
+    if (m_content == content)
+        return;
+    m_content = content;
+    show();
+    Q_EMIT contentChanged();
+}
+
+void BlockText::setLineHeight(qreal lineHeight)
+{
+    if (m_lineHeight == lineHeight)
+        return;
+    m_lineHeight = lineHeight;
+    applyLineHeight();
+    Q_EMIT lineHeightChanged();
+}
+
+void BlockText::report()
+{
+    // While the store answers, the field passes through states that nobody typed.
+    if (!text() || m_isReporting)
+        return;
+    const QString value = shown();
+    if (value == m_content)
+        return;
+    m_isReporting = true;
+    Q_EMIT edited(value);
+    show();
+    m_isReporting = false;
+}
+
+void BlockText::show()
+{
+    if (!text())
+        return;
+    const QString before = shown();
+    if (before == m_content)
+        return;
+    const auto shorter = std::min(before.size(), m_content.size());
+    qsizetype start = 0;
+    while (start < shorter && before.at(start) == m_content.at(start))
+        ++start;
+    qsizetype tail = 0;
+    while (tail < shorter - start &&
+           before.at(before.size() - 1 - tail) == m_content.at(m_content.size() - 1 - tail))
+        ++tail;
+    QTextCursor cursor(text());
+    cursor.setPosition(static_cast<int>(start));
+    cursor.setPosition(static_cast<int>(before.size() - tail), QTextCursor::KeepAnchor);
+    cursor.insertText(m_content.sliced(start, m_content.size() - start - tail));
+}
+
+void BlockText::applyLineHeight()
+{
+    if (!text() || m_lineHeight <= 0)
+        return;
+    QTextBlockFormat format;
+    format.setLineHeight(m_lineHeight, QTextBlockFormat::FixedHeight);
+    QTextCursor cursor(text());
+    cursor.select(QTextCursor::Document);
+    cursor.mergeBlockFormat(format);
+}

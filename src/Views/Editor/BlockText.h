@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QPointer>
+#include <QQuickTextDocument>
+#include <QtQml/qqml.h>
+
+class QTextDocument;
+
+/// Keeps a text field and the text of a block the same, both ways, without ever losing the caret. A text
+/// edit's own `text` turns no-break spaces into plain ones and puts the caret back to the start when it is
+/// assigned; this one reads and writes the document under the field, and changes only what differs.
+class BlockText : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QQuickTextDocument *document READ document WRITE setDocument NOTIFY documentChanged REQUIRED)
+    Q_PROPERTY(QString content READ content WRITE setContent NOTIFY contentChanged)
+    Q_PROPERTY(qreal lineHeight READ lineHeight WRITE setLineHeight NOTIFY lineHeightChanged)
+    QML_ELEMENT
+
+public:
+    using QObject::QObject;
+
+    QQuickTextDocument *document() const { return m_document; }
+    /// The text as the store has it.
+    QString content() const { return m_content; }
+    /// Device-independent pixels from one line to the next; 0 leaves it to the font.
+    qreal lineHeight() const { return m_lineHeight; }
+
+    void setDocument(QQuickTextDocument *document);
+    void setContent(const QString &content);
+    void setLineHeight(qreal lineHeight);
+
+    /// Announces the field's text if the writer has changed it. To be called when it may have changed, but
+    /// not while an input method composes. Whatever the store made of it is in the field afterwards.
+    Q_INVOKABLE void report();
+
+Q_SIGNALS:
+    void documentChanged();
+    void contentChanged();
+    void lineHeightChanged();
+    void edited(const QString &value);
+
+private:
+    QTextDocument *text() const;
+    QString shown() const;
+    void show();
+    void applyLineHeight();
+
+    QPointer<QQuickTextDocument> m_document;
+    QString m_content;
+    qreal m_lineHeight = 0;
+    bool m_isReporting = false;
+};

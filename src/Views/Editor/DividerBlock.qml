@@ -1,0 +1,29 @@
+import QtQuick
+import Pelko
+
+/// A thin rule that fades out towards both ends.
+BlockEditor {
+    id: root
+
+    Accessible.focusable: true
+    Accessible.name: BlockKinds.divider.tip
+    Accessible.role: Accessible.Separator
+    Keys.forwardTo: [keys]
+    activeFocusOnTab: true
+    implicitHeight: 1
+
+    Rectangle {
+        anchors.fill: parent
+        gradient: Gradient {
+            orientation: Gradient.Horizontal
+            GradientStop { position: 0; color: FirePalette.white(0) }
+            GradientStop { position: 0.12; color: FirePalette.divider }
+            GradientStop { position: 0.88; color: FirePalette.divider }
+            GradientStop { position: 1; color: FirePalette.white(0) }
+        }
+    }
+
+    FocusRing {
+        target: root
+    }
+}

@@ -1,0 +1,44 @@
+import QtQuick
+import Pelko
+
+/// The editor of one document: its page of blocks above the bar that adds new ones.
+FocusScope {
+    id: root
+
+    required property EditorViewModel editor
+
+    Rectangle {
+        anchors.fill: parent
+        color: FirePalette.editorSurface
+    }
+
+    BlockList {
+        id: page
+
+        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: bar.top }
+        editor: root.editor
+        focus: true
+    }
+
+    PageVeil {
+        anchors { left: parent.left; right: parent.right; top: parent.top }
+        visible: !root.editor.firstBlockIsBanner || !page.atTop
+    }
+
+    TitleCapsule {
+        anchors { horizontalCenter: page.horizontalCenter; top: parent.top; topMargin: (Metrics.stripHeight - height) / 2 }
+        maximumWidth: page.width - 2 * Metrics.titleMargin
+        title: root.editor.title
+        ground: page
+    }
+
+    BlockBar {
+        id: bar
+
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        onAddRequested: kind => root.editor.addBlock(kind)
+    }
+
+    Component.onCompleted: editor.appeared()
+    Component.onDestruction: editor.release()
+}

@@ -1,0 +1,17 @@
+import QtQuick
+import Pelko
+
+/// What the rows of a page know of it, and what they ask of it.
+QtObject {
+    required property EditorViewModel editor
+    /// The width of the text column.
+    required property real measure
+
+    /// The focus came to a row.
+    signal focusEntered(int row)
+    /// The keyboard walks out of a row.
+    signal walkedOut(int row, bool forward)
+    /// The writer should see this place of an item.
+    signal revealRequested(Item item, rect rectangle)
+    signal menuRequested(string blockID, Item item, point position)
+}

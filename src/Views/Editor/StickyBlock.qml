@@ -1,0 +1,66 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Pelko
+
+/// A checklist on a warm note.
+BlockEditor {
+    id: root
+
+    required property string blockID
+    required property EditorViewModel editor
+    required property QtObject todos
+
+    function takeFocus(todoID: string, caret: int) {
+        for (let row = 0; row < entries.count; ++row)
+            if (todoID === "" || entries.itemAt(row).todoID === todoID)
+                return entries.itemAt(row).takeFocus(caret)
+    }
+
+    Accessible.name: BlockKinds.checklist.tip
+    Accessible.role: Accessible.List
+    implicitHeight: column.implicitHeight + 2 * Metrics.space14
+
+    Rectangle {
+        anchors.fill: parent
+        border { width: 1; color: FirePalette.stickyHairline }
+        radius: Metrics.stickyRadius
+        gradient: Gradient {
+            GradientStop { position: 0; color: FirePalette.stickyGroundTop }
+            GradientStop { position: 1; color: FirePalette.stickyGroundFoot }
+        }
+    }
+
+    Column {
+        id: column
+
+        anchors { left: parent.left; right: parent.right; margins: Metrics.stickyPadding }
+        y: Metrics.space14
+
+        StickyHeader {
+            bottomPadding: Metrics.space6
+        }
+
+        Repeater {
+            id: entries
+
+            model: root.todos
+
+            TodoRow {
+                keys: root.keys
+                width: column.width
+                onCaretMoved: rectangle => root.caretRectangle = mapToItem(root, rectangle)
+                onEdited: (value, caret) => root.editor.typedTodo(root.blockID, todoID, value, caret)
+                onRemoved: root.editor.removeTodo(root.blockID, todoID)
+                onToggled: root.editor.toggleTodo(root.blockID, todoID)
+            }
+        }
+
+        FirstTodoButton {
+            keys: root.keys
+            visible: entries.count === 0
+            width: column.width
+            onTriggered: root.editor.appendTodo(root.blockID)
+        }
+    }
+}

@@ -1,0 +1,22 @@
+import QtQuick
+import Pelko
+
+/// A checklist on the page.
+BlockRow {
+    id: root
+
+    required property QtObject todos
+
+    block: sticky
+
+    StickyBlock {
+        id: sticky
+
+        anchors.fill: parent
+        blockID: root.blockID
+        editor: root.page.editor
+        focus: true
+        keys: root
+        todos: root.todos
+    }
+}

@@ -1,0 +1,69 @@
+import QtQuick
+import Pelko
+
+/// The editor of a heading, a body, a quote or a code block. One component for the four, so that a block
+/// whose kind changes under the caret keeps its field.
+BlockEditor {
+    id: root
+
+    required property string kind
+    required property string content
+
+    readonly property bool isQuote: kind === "quote"
+    readonly property bool isCode: kind === "code"
+
+    signal edited(string value, int caret)
+    signal emptied
+
+    function takeFocus(todoID: string, caret: int) {
+        field.takeFocus(caret)
+    }
+
+    caretRectangle: mapFromItem(field, field.cursorRectangle)
+    implicitHeight: field.implicitHeight + 2 * field.y
+
+    BlockStyle {
+        id: style
+
+        kind: root.kind
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        border { width: 1; color: FirePalette.codeHairline }
+        color: FirePalette.codeGround
+        radius: Metrics.codeRadius
+        visible: root.isCode
+    }
+
+    Rectangle {
+        height: parent.height
+        radius: Metrics.quoteBarRadius
+        visible: root.isQuote
+        width: Metrics.quoteBarWidth
+
+        gradient: Gradient {
+            GradientStop { position: 0; color: FirePalette.amberSoft }
+            GradientStop { position: 1; color: FirePalette.ember }
+        }
+    }
+
+    WritingField {
+        id: field
+
+        Accessible.description: placeholder
+        Accessible.name: BlockKinds.named(root.kind).tip
+        color: style.ink
+        content: root.content
+        focus: true
+        font: style.face
+        keys: root.keys
+        lineHeight: style.lineHeight
+        placeholder: BlockKinds.named(root.kind).placeholder
+        width: parent.width - 2 * x
+        x: root.isCode ? Metrics.codePaddingX : root.isQuote ? Metrics.quoteIndent : 0
+        y: root.isCode ? Metrics.codePaddingY : 0
+        onEdited: (value, caret) => root.edited(value, caret)
+        onEmptied: root.emptied()
+    }
+}

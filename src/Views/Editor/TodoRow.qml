@@ -1,0 +1,64 @@
+import QtQuick
+import Pelko
+
+/// One entry of a checklist: tick, text, and a cross to remove it while the pointer or the focus is here.
+FocusScope {
+    id: root
+
+    required property string todoID
+    required property string text
+    required property bool done
+    required property Item keys
+
+    signal toggled
+    signal removed
+    signal edited(string value, int caret)
+    signal caretMoved(rect rectangle)
+
+    function takeFocus(caret: int) {
+        field.takeFocus(caret)
+    }
+
+    implicitHeight: Math.max(Typography.checklistRow, field.implicitHeight + Metrics.space6)
+
+    HoverHandler {
+        id: hover
+    }
+
+    TodoToggle {
+        id: toggle
+
+        Keys.forwardTo: [root.keys]
+        done: root.done
+        label: root.text
+        y: (Typography.checklistRow - height) / 2
+        onToggled: root.toggled()
+    }
+
+    WritingField {
+        id: field
+
+        Accessible.description: placeholder
+        Accessible.name: root.text === "" ? placeholder : root.text
+        anchors { left: toggle.right; leftMargin: Metrics.todoGap; right: cross.left; rightMargin: Metrics.space6 }
+        color: root.done ? FirePalette.inkTicked : FirePalette.inkChecklist
+        content: root.text
+        focus: true
+        font { family: Typography.checklist.family; pointSize: Typography.checklist.pointSize; strikeout: root.done }
+        keys: root.keys
+        placeholder: qsTr("To do...")
+        y: (Typography.checklistRow - Typography.checklistLine) / 2
+        onCursorRectangleChanged: if (activeFocus) root.caretMoved(mapToItem(root, cursorRectangle))
+        onEdited: (value, caret) => root.edited(value, caret)
+        onEmptied: root.removed()
+    }
+
+    RemoveTodoButton {
+        id: cross
+
+        Keys.forwardTo: [root.keys]
+        anchors { right: parent.right; verticalCenter: toggle.verticalCenter }
+        opacity: hover.hovered || activeFocus ? 1 : 0
+        onTriggered: root.removed()
+    }
+}

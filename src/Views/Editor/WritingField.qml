@@ -1,0 +1,71 @@
+import QtQuick
+import Pelko
+
+/// A field to write in, as blocks and checklist entries share it: it shows `content`, reports what the
+/// writer makes of it, and never rewrites it under an input method that is composing.
+TextEdit {
+    id: root
+
+    required property string content
+    required property string placeholder
+    /// Sees the keys before the field does.
+    required property Item keys
+    property real lineHeight: 0
+
+    signal edited(string value, int caret)
+    signal emptied
+
+    /// -1 stands for the end.
+    function takeFocus(caret: int) {
+        cursorPosition = caret < 0 ? length : Math.min(caret, length)
+        forceActiveFocus()
+    }
+
+    function reportUnlessComposing() {
+        if (!inputMethodComposing)
+            bridge.report()
+    }
+
+    Accessible.role: Accessible.EditableText
+    Accessible.multiLine: true
+    Accessible.focusable: true
+    Keys.forwardTo: [keys]
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_Backspace && length === 0 && !inputMethodComposing
+        if (event.accepted)
+            root.emptied()
+    }
+
+    activeFocusOnTab: true
+    cursorDelegate: Caret {}
+    renderType: Text.NativeRendering
+    selectByMouse: true
+    selectedTextColor: color
+    selectionColor: FirePalette.selection
+    textFormat: TextEdit.PlainText
+    wrapMode: TextEdit.Wrap
+    onInputMethodComposingChanged: reportUnlessComposing()
+    onTextChanged: reportUnlessComposing()
+
+    BlockText {
+        id: bridge
+
+        content: root.content
+        document: root.textDocument
+        lineHeight: root.lineHeight
+        onEdited: value => root.edited(value, root.cursorPosition)
+    }
+
+    Text {
+        Accessible.ignored: true
+        anchors.fill: parent
+        color: FirePalette.inkPlaceholder
+        elide: Text.ElideRight
+        font: root.font
+        lineHeight: root.lineHeight
+        lineHeightMode: root.lineHeight > 0 ? Text.FixedHeight : Text.ProportionalHeight
+        renderType: Text.NativeRendering
+        text: root.placeholder
+        visible: root.length === 0 && root.preeditText === ""
+    }
+}
