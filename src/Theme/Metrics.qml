@@ -65,6 +65,7 @@ QtObject {
     readonly property int stickyPadding: 18
     readonly property int emptyImageHeight: 100
     readonly property int todoToggleSize: 17
+    readonly property int todoLine: 22
     readonly property int todoGap: 11
     readonly property int removeTodoGlyph: 10
 

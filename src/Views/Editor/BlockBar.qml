@@ -28,7 +28,7 @@ Rectangle {
             IconChipButton {
                 required property var modelData
 
-                symbol: modelData.icon
+                icon.name: modelData.icon
                 tip: modelData.tip
                 onTriggered: root.addRequested(modelData.name)
             }

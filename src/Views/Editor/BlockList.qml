@@ -43,18 +43,12 @@ FocusScope {
         scroll.glide(from, list.contentY)
     }
 
-    function openMenu(blockID: string, position: point) {
-        menu.blockID = blockID
-        menu.openAt(position.x, position.y)
-    }
-
     PageContext {
         id: context
 
         editor: root.editor
         measure: Math.min(Metrics.measure, root.width - 2 * Metrics.pageMargin)
         onFocusEntered: row => list.currentIndex = row
-        onMenuRequested: (blockID, item, position) => root.openMenu(blockID, root.mapFromItem(item, position))
         onRevealRequested: (item, rectangle) => root.reveal(list.contentItem.mapFromItem(item, rectangle))
         onWalkedOut: (row, forward) => root.walkFrom(row, forward)
     }
@@ -132,14 +126,5 @@ FocusScope {
 
         list: list
         onFinished: root.editor.scrolled()
-    }
-
-    BlockMenu {
-        id: menu
-
-        property string blockID
-
-        offersDelete: root.editor.offersDelete
-        onDeleteRequested: root.editor.deleteBlock(blockID)
     }
 }

@@ -24,6 +24,7 @@ BlockEditor {
     }
 
     FocusRing {
-        target: root
+        controlRadius: 2
+        shown: root.activeFocus
     }
 }

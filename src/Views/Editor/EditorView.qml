@@ -29,7 +29,7 @@ FocusScope {
         anchors { horizontalCenter: page.horizontalCenter; top: parent.top; topMargin: (Metrics.stripHeight - height) / 2 }
         maximumWidth: page.width - 2 * Metrics.titleMargin
         title: root.editor.title
-        ground: page
+        backdrop: page
     }
 
     BlockBar {

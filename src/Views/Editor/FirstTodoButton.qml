@@ -1,25 +1,17 @@
 import QtQuick
-import QtQuick.Templates as T
 import Pelko
 
 /// Stands where the entries of an empty checklist would, and makes the first one.
-T.AbstractButton {
+PressableControl {
     id: root
 
-    required property Item keys
-
-    signal triggered
-
-    Accessible.name: text
-    Accessible.role: Accessible.Button
-    Accessible.onPressAction: clicked()
-    Keys.forwardTo: [keys]
-    focusPolicy: Qt.TabFocus
+    controlRadius: Metrics.listRowRadius
     implicitHeight: Typography.checklistRow
-    text: qsTr("To do...")
-    onClicked: triggered()
+    name: qsTr("To do...")
+    pressScale: 1
 
-    contentItem: Row {
+    Row {
+        anchors.fill: parent
         spacing: Metrics.todoGap
 
         SymbolIcon {
@@ -30,14 +22,11 @@ T.AbstractButton {
         }
 
         Text {
+            Accessible.ignored: true
             anchors.verticalCenter: parent.verticalCenter
             color: FirePalette.inkPlaceholder
             font: Typography.checklist
-            text: root.text
+            text: root.name
         }
-    }
-
-    FocusRing {
-        target: root
     }
 }

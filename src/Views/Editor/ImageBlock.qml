@@ -38,6 +38,7 @@ BlockEditor {
     }
 
     FocusRing {
-        target: root
+        controlRadius: Metrics.pictureRadius
+        shown: root.activeFocus
     }
 }

@@ -37,9 +37,4 @@ Item {
         target: root.list
         onFinished: root.finished()
     }
-
-    PelkoScrollBar {
-        anchors { bottom: parent.bottom; right: parent.right; rightMargin: 3; top: parent.top }
-        flickable: root.list
-    }
 }

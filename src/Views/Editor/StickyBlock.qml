@@ -57,7 +57,7 @@ BlockEditor {
         }
 
         FirstTodoButton {
-            keys: root.keys
+            Keys.forwardTo: [root.keys]
             visible: entries.count === 0
             width: column.width
             onTriggered: root.editor.appendTodo(root.blockID)

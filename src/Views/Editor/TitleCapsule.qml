@@ -9,6 +9,7 @@ GlassSurface {
     required property real maximumWidth
 
     implicitHeight: Metrics.capsuleHeight
+    kind: Glass.capsule
     implicitWidth: Math.min(maximumWidth, row.implicitWidth + 2 * Metrics.space12)
 
     Row {

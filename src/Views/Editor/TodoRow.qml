@@ -32,7 +32,7 @@ FocusScope {
         done: root.done
         label: root.text
         y: (Typography.checklistRow - height) / 2
-        onToggled: root.toggled()
+        onTriggered: root.toggled()
     }
 
     WritingField {
@@ -46,8 +46,9 @@ FocusScope {
         focus: true
         font { family: Typography.checklist.family; pointSize: Typography.checklist.pointSize; strikeout: root.done }
         keys: root.keys
+        lineHeight: Metrics.todoLine
         placeholder: qsTr("To do...")
-        y: (Typography.checklistRow - Typography.checklistLine) / 2
+        y: (Typography.checklistRow - Metrics.todoLine) / 2
         onCursorRectangleChanged: if (activeFocus) root.caretMoved(mapToItem(root, cursorRectangle))
         onEdited: (value, caret) => root.edited(value, caret)
         onEmptied: root.removed()
