@@ -6,6 +6,7 @@ import Pelko
 /// The kinds of glass. Each says what it lays over the blurred ground, what it is without shaders, and its shadow.
 QtObject {
     readonly property GlassKind chip: GlassKind {
+        sheenOnPlain: true
         tint: "transparent"
         plain: "transparent"
         sheenTop: FirePalette.white(0.05)
@@ -61,6 +62,7 @@ QtObject {
         shadowStrength: 0.60
     }
     readonly property GlassKind warm: GlassKind {
+        sheenOnPlain: true
         tint: Qt.rgba(24 / 255, 20 / 255, 18 / 255, 0.46)
         plain: "#231C18"
         sheenTop: Qt.alpha(FirePalette.amberSoft, 0.29)
@@ -75,7 +77,18 @@ QtObject {
         shadowBlur: 18
         shadowStrength: 0.24
     }
+    readonly property GlassKind plain: GlassKind {
+        sheenOnPlain: true
+        tint: FirePalette.white(0.07)
+        plain: FirePalette.white(0.07)
+        sheenTop: FirePalette.white(0.045)
+        sheenFoot: FirePalette.white(0.01)
+        rimTop: FirePalette.white(0.13)
+        rimMiddle: FirePalette.white(0.06)
+        rimFoot: FirePalette.white(0.05)
+    }
     readonly property GlassKind destructive: GlassKind {
+        sheenOnPlain: true
         tint: FirePalette.destructiveFillFoot
         plain: FirePalette.destructiveFillFoot
         sheenTop: FirePalette.destructiveFillTop

@@ -11,6 +11,8 @@ QtObject {
     property color rimMiddle: Qt.rgba(1, 1, 1, 0.06)
     property color rimFoot: Qt.rgba(1, 1, 1, 0.09)
     property color hairline: Qt.rgba(1, 1, 1, 0.10)
+    // The plain colours of most kinds have their sheen mixed in already.
+    property bool sheenOnPlain: false
     property real blur: 0
     property real saturation: 1
     property real shadowDrop: 0

@@ -134,4 +134,61 @@ Window {
             }
         }
     }
+
+    AlertDialog {
+        open: window.scene === "limit"
+        backdrop: page
+        title: "Five is the limit."
+        message: "You've got 5 docs in this space. Archive one first. Constraints breed creativity."
+        art: FiveEmbers {}
+        actions: DialogAction { name: "Fine"; cancels: true }
+        onDismissed: window.scene = ""
+    }
+    AlertDialog {
+        open: window.scene === "about"
+        backdrop: page
+        title: "Pelko"
+        message: "Built by Dravel. Fueled by espresso and poor decisions."
+        art: AnimatedFlame { size: 40 }
+        actions: DialogAction { name: "Close"; cancels: true }
+        onDismissed: window.scene = ""
+    }
+    AlertDialog {
+        open: window.scene === "error"
+        backdrop: page
+        title: "That didn't work. Give it a second and try again before we both panic."
+        message: "Save failed: No space left on device"
+        symbol: "exclamationmark.triangle"
+        actions: DialogAction { name: "Got it"; cancels: true }
+        onDismissed: window.scene = ""
+    }
+    AlertDialog {
+        open: window.scene === "delete"
+        backdrop: page
+        title: "Delete “Letter to the printer” for good?"
+        symbol: "trash"
+        actions: [
+            DialogAction { name: "Nah"; cancels: true },
+            DialogAction { name: "Delete"; destroys: true }
+        ]
+        onDismissed: window.scene = ""
+    }
+    PopupMenu {
+        id: menu
+
+        name: "Pelko"
+        backdrop: page
+        minimumWidth: 240
+        Component.onCompleted: if (window.scene === "menu") popUp(60, 100)
+
+        PopupMenuRow { menu: menu; icon.name: "plus"; name: "New Document"; keys: "Ctrl+N" }
+        PopupMenuSeparator {}
+        PopupMenuRow { menu: menu; icon.name: "lightbulb"; name: "Ideas"; keys: "Ctrl+1" }
+        PopupMenuRow { menu: menu; icon.name: "briefcase"; name: "Work"; keys: "Ctrl+2"; ticked: true }
+        PopupMenuRow { menu: menu; icon.name: "book.closed"; name: "Journal"; enabled: false }
+        PopupMenuSeparator {}
+        PopupMenuRow { menu: menu; icon.name: "info.circle"; name: "About Pelko" }
+        PopupMenuRow { menu: menu; icon.name: "trash"; name: "Delete Block"; destroys: true }
+        PopupMenuRow { menu: menu; icon.name: "power"; name: "Quit"; keys: "Ctrl+Q" }
+    }
 }

@@ -14,8 +14,8 @@ Item {
     readonly property real shrink: 4
     readonly property int texelsWide: Math.max(1, Math.ceil(width / shrink))
     readonly property int texelsHigh: Math.max(1, Math.ceil(height / shrink))
-    // Nine samples reach a little over eight texels; the radius asked for decides how far apart they lie.
-    readonly property real step: blur / (2 * shrink * 2.9)
+    // The nine samples make a Gaussian of 3.35 texels; the one asked for decides how far apart they lie.
+    readonly property real step: blur / 2 / shrink / 3.35
 
     function look() : void {
         const corner = mapToItem(backdrop, 0, 0)
@@ -64,6 +64,8 @@ Item {
         readonly property real cornerRadius: Math.min(pane.radius, width / 2, height / 2)
         readonly property real pixel: 1 / Screen.devicePixelRatio
         readonly property real saturation: pane.saturation
+        // A backdrop that is clear in places stands on the window's own ground.
+        readonly property color under: FirePalette.deepBackground
         readonly property vector2d plateSize: Qt.vector2d(width, height)
 
         anchors.fill: parent

@@ -2,15 +2,18 @@ import QtQuick
 import Pelko
 
 /// The surface of a piece of glass without what lies behind: ground, sheen and rim. `lift` lays that much white over
-/// it, for hover and press. Draws the same from a shader and, less finely, without one.
+/// it, for hover and press. `tinted` where something blurred lies below. Draws the same from a shader and, less finely, without one.
 Item {
     id: plate
 
     required property GlassKind kind
-    property color ground: kind.plain
+    property bool tinted: false
     property real radius: height / 2
     property real lift: 0
 
+    readonly property color ground: tinted ? kind.tint : kind.plain
+    readonly property color sheenTop: tinted || kind.sheenOnPlain ? kind.sheenTop : "transparent"
+    readonly property color sheenFoot: tinted || kind.sheenOnPlain ? kind.sheenFoot : "transparent"
     readonly property bool shaded: GraphicsInfo.api !== GraphicsInfo.Software
                                    && GraphicsInfo.api !== GraphicsInfo.Unknown
 
@@ -19,8 +22,8 @@ Item {
         readonly property real pixel: 1 / Screen.devicePixelRatio
         readonly property vector2d plateSize: Qt.vector2d(width, height)
         readonly property color ground: plate.ground
-        readonly property color sheenTop: plate.kind.sheenTop
-        readonly property color sheenFoot: plate.kind.sheenFoot
+        readonly property color sheenTop: plate.sheenTop
+        readonly property color sheenFoot: plate.sheenFoot
         readonly property color rimTop: plate.kind.rimTop
         readonly property color rimMiddle: plate.kind.rimMiddle
         readonly property color rimFoot: plate.kind.rimFoot
@@ -41,8 +44,8 @@ Item {
             radius: plate.radius
             border.color: plate.kind.hairline
             gradient: Gradient {
-                GradientStop { position: 0; color: plate.kind.sheenTop }
-                GradientStop { position: 1; color: plate.kind.sheenFoot }
+                GradientStop { position: 0; color: plate.sheenTop }
+                GradientStop { position: 1; color: plate.sheenFoot }
             }
         }
     }

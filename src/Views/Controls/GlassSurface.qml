@@ -36,6 +36,6 @@ Item {
         anchors.fill: parent
         kind: glass.kind
         radius: glass.radius
-        ground: glass.seesThrough ? glass.kind.tint : glass.kind.plain
+        tinted: glass.seesThrough
     }
 }

@@ -14,10 +14,10 @@ layout(binding = 1) uniform sampler2D source;
 
 void main()
 {
-    vec4 sum = texture(source, qt_TexCoord0) * 0.1633;
-    sum += (texture(source, qt_TexCoord0 + stride * 1.45) + texture(source, qt_TexCoord0 - stride * 1.45)) * 0.2136;
-    sum += (texture(source, qt_TexCoord0 + stride * 3.4) + texture(source, qt_TexCoord0 - stride * 3.4)) * 0.1300;
-    sum += (texture(source, qt_TexCoord0 + stride * 5.35) + texture(source, qt_TexCoord0 - stride * 5.35)) * 0.0560;
-    sum += (texture(source, qt_TexCoord0 + stride * 7.3) + texture(source, qt_TexCoord0 - stride * 7.3)) * 0.0187;
+    vec4 sum = texture(source, qt_TexCoord0) * 0.11575;
+    sum += (texture(source, qt_TexCoord0 + stride * 1.469) + texture(source, qt_TexCoord0 - stride * 1.469)) * 0.20940;
+    sum += (texture(source, qt_TexCoord0 + stride * 3.429) + texture(source, qt_TexCoord0 - stride * 3.429)) * 0.14030;
+    sum += (texture(source, qt_TexCoord0 + stride * 5.390) + texture(source, qt_TexCoord0 - stride * 5.390)) * 0.06830;
+    sum += (texture(source, qt_TexCoord0 + stride * 7.352) + texture(source, qt_TexCoord0 - stride * 7.352)) * 0.02412;
     fragColor = sum * qt_Opacity;
 }

@@ -10,6 +10,7 @@ layout(std140, binding = 0) uniform buf {
     float cornerRadius;
     float pixel;
     float saturation;
+    vec4 under;
     vec2 plateSize;
     vec2 stride;
 };
@@ -24,11 +25,12 @@ float distanceToEdge(vec2 point, vec2 halfSize, float corner)
 
 void main()
 {
-    vec4 sum = texture(source, qt_TexCoord0) * 0.1633;
-    sum += (texture(source, qt_TexCoord0 + stride * 1.45) + texture(source, qt_TexCoord0 - stride * 1.45)) * 0.2136;
-    sum += (texture(source, qt_TexCoord0 + stride * 3.4) + texture(source, qt_TexCoord0 - stride * 3.4)) * 0.1300;
-    sum += (texture(source, qt_TexCoord0 + stride * 5.35) + texture(source, qt_TexCoord0 - stride * 5.35)) * 0.0560;
-    sum += (texture(source, qt_TexCoord0 + stride * 7.3) + texture(source, qt_TexCoord0 - stride * 7.3)) * 0.0187;
+    vec4 sum = texture(source, qt_TexCoord0) * 0.11575;
+    sum += (texture(source, qt_TexCoord0 + stride * 1.469) + texture(source, qt_TexCoord0 - stride * 1.469)) * 0.20940;
+    sum += (texture(source, qt_TexCoord0 + stride * 3.429) + texture(source, qt_TexCoord0 - stride * 3.429)) * 0.14030;
+    sum += (texture(source, qt_TexCoord0 + stride * 5.390) + texture(source, qt_TexCoord0 - stride * 5.390)) * 0.06830;
+    sum += (texture(source, qt_TexCoord0 + stride * 7.352) + texture(source, qt_TexCoord0 - stride * 7.352)) * 0.02412;
+    sum += under * (1.0 - sum.a);
     float grey = dot(sum.rgb, vec3(0.2126, 0.7152, 0.0722));
     sum.rgb = clamp(mix(vec3(grey), sum.rgb, saturation), 0.0, sum.a);
     vec2 point = qt_TexCoord0 * plateSize - plateSize / 2.0;

@@ -1,0 +1,76 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Pelko
+
+/// Lies over its whole parent while `open`. Takes the keyboard and gives it back to the item that had it; lets
+/// neither clicks nor keys nor shortcuts through to what lies below. Tells of Escape and of a click beside the
+/// content; closing is up to whoever opened it. `shown` runs from 0 to 1 and back.
+FocusScope {
+    id: layer
+
+    property bool open: false
+    property var motion: PelkoAnimation.settle
+    property color scrim: "transparent"
+    readonly property alias shown: progress.value
+
+    property bool complete: false
+    // One that is open from the start has nothing yet to give the keyboard to.
+    readonly property bool active: open && complete
+    property Item returnFocusTo: null
+
+    signal opened()
+    signal escaped()
+    signal clickedBeside()
+
+    function takeFocus() : void {
+        returnFocusTo = Window.activeFocusItem
+        enabled = true
+        forceActiveFocus(Qt.PopupFocusReason)
+        opened()
+    }
+
+    function giveFocusBack() : void {
+        if (returnFocusTo && activeFocus)
+            returnFocusTo.forceActiveFocus(Qt.PopupFocusReason)
+        enabled = false
+    }
+
+    anchors.fill: parent
+    visible: open || shown > 0
+    enabled: false
+    onActiveChanged: active ? takeFocus() : giveFocusBack()
+    Component.onCompleted: complete = true
+    Keys.onEscapePressed: escaped()
+    Keys.onShortcutOverride: event => event.accepted = true
+    Keys.onPressed: event => event.accepted = true
+
+    QtObject {
+        id: progress
+
+        property real value: layer.open ? 1 : 0
+
+        Behavior on value {
+            NumberAnimation {
+                // Closing takes half the time of opening.
+                duration: Motion.reduced ? Motion.fade : layer.motion.duration / (layer.open ? 1 : 2)
+                easing: layer.motion.curve
+            }
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: layer.scrim
+        opacity: Math.min(1, layer.shown)
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.AllButtons
+        hoverEnabled: true
+        preventStealing: true
+        onWheel: wheel => wheel.accepted = true
+        onPressed: layer.clickedBeside()
+    }
+}

@@ -1,0 +1,81 @@
+import QtQuick
+import Pelko
+
+/// Shows where the view stands, thinly, and is gone a second after the last move. Wider under the pointer, where it
+/// can be dragged. Position and length glide, because a list with rows of different heights keeps correcting its
+/// guess of how long it is.
+Item {
+    id: bar
+
+    required property Flickable flickable
+
+    readonly property real ratio: Math.min(1, flickable.visibleArea.heightRatio)
+    readonly property real handleHeight: Math.max(32, height * ratio)
+    readonly property real room: height - handleHeight
+    readonly property real position: flickable.visibleArea.yPosition / Math.max(0.0001, 1 - ratio)
+    readonly property bool needed: ratio < 0.999
+    property bool recentlyMoved: false
+
+    width: 12
+    visible: needed
+    onPositionChanged: { recentlyMoved = true; rest.restart() }
+    Accessible.ignored: true
+
+    Timer {
+        id: rest
+
+        interval: 1000
+        onTriggered: bar.recentlyMoved = false
+    }
+
+    Rectangle {
+        id: handle
+
+        x: bar.width - width - 3
+        y: Math.max(0, Math.min(bar.room, bar.room * bar.position))
+        width: area.containsMouse || area.pressed ? 6 : 4
+        height: bar.handleHeight
+        radius: width / 2
+        color: FirePalette.scrollBar
+        opacity: bar.recentlyMoved || area.containsMouse || area.pressed ? 1 : 0
+
+        Behavior on y {
+            enabled: !area.pressed && !Motion.reduced
+            SmoothedAnimation { velocity: -1; duration: 90 }
+        }
+        Behavior on height {
+            enabled: !Motion.reduced
+            SmoothedAnimation { velocity: -1; duration: 160 }
+        }
+        Behavior on width {
+            enabled: !Motion.reduced
+            NumberAnimation { duration: PelkoAnimation.micro.duration; easing: PelkoAnimation.micro.curve }
+        }
+        Behavior on opacity {
+            NumberAnimation { duration: Motion.fade }
+        }
+    }
+
+    MouseArea {
+        id: area
+
+        property real grabbedAt: 0
+
+        function scrollTo(y: real) : void {
+            const part = Math.max(0, Math.min(1, (y - grabbedAt) / Math.max(1, bar.room)))
+            bar.flickable.contentY = bar.flickable.originY
+                + part * (bar.flickable.contentHeight - bar.flickable.height)
+        }
+
+        anchors.fill: parent
+        enabled: handle.opacity > 0 || containsMouse
+        hoverEnabled: true
+        preventStealing: true
+        onPressed: mouse => {
+            const onHandle = mouse.y >= handle.y && mouse.y <= handle.y + handle.height
+            grabbedAt = onHandle ? mouse.y - handle.y : handle.height / 2
+            scrollTo(mouse.y)
+        }
+        onPositionChanged: mouse => { if (pressed) scrollTo(mouse.y) }
+    }
+}

@@ -1,0 +1,91 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Pelko
+
+/// A menu of glass over its whole parent, which is the area it may not leave. Rows are its children. It opens with
+/// `popUp` at a point of its parent, or below an item, and closes by itself.
+ModalLayer {
+    id: menu
+
+    required property string name
+    property Item backdrop: null
+    property int minimumWidth: 180
+    default property alias rows: column.data
+    readonly property alias card: card
+
+    property point anchor: Qt.point(0, 0)
+    readonly property real edge: Metrics.space8
+
+    readonly property real widestRow: Math.ceil(Array.from(column.children).reduce(
+        (widest, row) => Math.max(widest, row.implicitWidth), minimumWidth - 12))
+
+    function popUp(x: real, y: real) : void {
+        anchor = Qt.point(x, y)
+        open = true
+    }
+
+    function popUpBelow(item: Item) : void {
+        const corner = item.mapToItem(parent, 0, item.height + Metrics.space6)
+        popUp(corner.x, corner.y)
+    }
+
+    function close() : void {
+        open = false
+    }
+
+    function choices() : var {
+        return Array.from(column.children).filter(row => row instanceof PopupMenuRow && row.visible && row.enabled)
+    }
+
+    function choose(index: int) : void {
+        const rows = choices()
+        if (rows.length > 0)
+            rows[(index + rows.length) % rows.length].forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    function chosen() : int {
+        return choices().findIndex(row => row.activeFocus)
+    }
+
+    motion: PelkoAnimation.micro
+    onEscaped: close()
+    onClickedBeside: close()
+    Keys.onDownPressed: choose(chosen() + 1)
+    Keys.onUpPressed: choose(chosen() < 0 ? -1 : chosen() - 1)
+    Keys.onTabPressed: choose(chosen() + 1)
+    Keys.onBacktabPressed: choose(chosen() < 0 ? -1 : chosen() - 1)
+    Keys.onPressed: event => {
+        event.accepted = true
+        if (event.key === Qt.Key_Home || event.key === Qt.Key_PageUp) choose(0)
+        if (event.key === Qt.Key_End || event.key === Qt.Key_PageDown) choose(-1)
+    }
+
+    GlassSurface {
+        id: card
+
+        x: Math.round(Math.max(menu.edge, Math.min(menu.anchor.x, menu.width - width - menu.edge)))
+        y: Math.round(Math.max(menu.edge, Math.min(menu.anchor.y, menu.height - height - menu.edge)))
+        width: menu.widestRow + 12
+        height: column.height + 12
+        radius: Metrics.menuRadius
+        kind: Glass.menu
+        backdrop: menu.backdrop
+        opacity: Math.max(0, Math.min(1, menu.shown))
+        scale: Motion.reduced ? 1 : 0.97 + 0.03 * menu.shown
+        transformOrigin: Item.TopLeft
+
+        Accessible.role: Accessible.PopupMenu
+        Accessible.name: menu.name
+
+        MouseArea { anchors.fill: parent }
+
+        Column {
+            id: column
+
+            x: 6
+            y: 6
+            width: menu.widestRow
+        }
+    }
+}

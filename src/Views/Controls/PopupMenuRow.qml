@@ -1,0 +1,98 @@
+import QtQuick
+import QtQuick.Templates as T
+import Pelko
+
+/// One entry of a menu: the symbol `icon.name`, what it does, its key if it has one, and a tick where it is the
+/// current choice. The pointer and the arrow keys choose; a click, Return or Space take it and close the menu.
+T.AbstractButton {
+    id: row
+
+    required property string name
+    property string keys: ""
+    property bool destroys: false
+    property bool ticked: false
+    required property PopupMenu menu
+
+    readonly property color ink: destroys ? FirePalette.destructive : FirePalette.inkBody
+    readonly property color symbolInk: destroys ? FirePalette.destructive : Qt.alpha(FirePalette.ink, 0.72)
+
+    signal triggered()
+
+    function take() : void {
+        menu.close()
+        triggered()
+    }
+
+    text: name
+    width: parent?.width ?? 0
+    implicitWidth: 10 + 14 + 10 + label.implicitWidth + (ticked ? 28 : 0)
+                   + (keys === "" ? 0 : 28 + keyHint.implicitWidth) + 10
+    implicitHeight: Metrics.menuRowHeight
+    height: implicitHeight
+    focusPolicy: Qt.NoFocus
+    hoverEnabled: true
+    opacity: enabled ? 1 : 0.3
+    onHoveredChanged: if (hovered) forceActiveFocus(Qt.MouseFocusReason)
+    onClicked: take()
+    Keys.onReturnPressed: take()
+    Keys.onEnterPressed: take()
+
+    Accessible.role: Accessible.MenuItem
+    Accessible.name: name
+    Accessible.checkable: ticked
+    Accessible.checked: ticked
+    Accessible.onPressAction: row.take()
+
+    background: Rectangle {
+        visible: row.activeFocus
+        radius: Metrics.menuRowRadius
+        border.color: FirePalette.chosenRowHairline
+        gradient: Gradient {
+            GradientStop { position: 0; color: FirePalette.chosenRowTop }
+            GradientStop { position: 1; color: FirePalette.chosenRowFoot }
+        }
+    }
+
+    SymbolIcon {
+        x: 10
+        anchors.verticalCenter: parent.verticalCenter
+        name: row.icon.name
+        size: 14
+        color: row.symbolInk
+    }
+
+    Text {
+        id: label
+
+        x: 34
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.name
+        textFormat: Text.PlainText
+        font: Typography.menuRow
+        color: row.ink
+        Accessible.ignored: true
+    }
+
+    SymbolIcon {
+        anchors.left: label.right
+        anchors.leftMargin: Metrics.space16
+        anchors.verticalCenter: parent.verticalCenter
+        visible: row.ticked
+        name: "checkmark"
+        size: 11
+        color: row.ink
+    }
+
+    Text {
+        id: keyHint
+
+        anchors.right: parent.right
+        anchors.rightMargin: Metrics.space10
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.keys
+        textFormat: Text.PlainText
+        font: Typography.menuKey
+        color: FirePalette.white(row.activeFocus ? 0.75 : 0.50)
+        Accessible.ignored: true
+    }
+}
