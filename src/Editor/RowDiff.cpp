@@ -60,8 +60,7 @@ void appendMoves(std::vector<RowChange> &changes, Rows rows)
         rows.erase(rows.begin() + from);
         const qsizetype to = i == 0 ? 0 : position(rows, sorted[i - 1]) + 1;
         rows.insert(rows.begin() + to, sorted[i]);
-        if (from != to)
-            changes.push_back({.kind = RowChange::Kind::move, .row = from, .destination = to});
+        changes.push_back({.kind = RowChange::Kind::move, .row = from, .destination = to});
     }
 }
 
