@@ -149,7 +149,7 @@ private Q_SLOTS:
         QTest::addColumn<Block>("after");
         QTest::addColumn<QString>("roles");
         Block changed = image('B');
-        changed.imageData = "other"_ba;
+        changed.imageData = "drawing"_ba; // as long as the other one
         QTest::newRow("picture") << changed << u"1: hasImage imageData"_s;
         QTest::newRow("full width") << image('B', true) << u"1: isFullWidth"_s;
         QTest::newRow("not full width") << image('B', false) << u"1: isFullWidth"_s;
@@ -169,14 +169,38 @@ private Q_SLOTS:
         QCOMPARE(announcedBy({block('A'), after, block('C')}), {roles});
     }
 
-    void aChangedKindIsAnnouncedThereAndBelow()
+    void textThatBecomesAnotherKindOfTextKeepsItsRow()
     {
         show({block('A', heading), block('B'), block('C')});
-        const QStringList announced =
-            announcedBy({block('A', heading), block('B', BlockType::quote), block('C')});
-        QCOMPARE(announced.size(), 2);
-        QVERIFY2(announced[0].startsWith(u"1: kind"_s), qPrintable(announced[0]));
-        QCOMPARE(announced[1], u"2: kindAbove"_s);
+        QCOMPARE(announcedBy({block('A', heading), block('B', BlockType::quote), block('C')}),
+                 (QStringList{u"1: kind"_s, u"2: kindAbove"_s}));
+    }
+
+    void aKindWithAnotherEditorIsAnotherRow_data()
+    {
+        QTest::addColumn<Block>("becomes");
+        QTest::addColumn<QString>("editor");
+        QTest::newRow("divider") << block('B', BlockType::divider) << u"divider"_s;
+        QTest::newRow("image") << block('B', BlockType::image) << u"image"_s;
+        QTest::newRow("sticky") << sticky('B', {todo('x')}) << u"sticky"_s;
+    }
+
+    void aKindWithAnotherEditorIsAnotherRow()
+    {
+        QFETCH(const Block, becomes);
+        QFETCH(const QString, editor);
+        show({block('A'), block('B'), block('C')});
+        QCOMPARE(value(1, BlockListModel::RowEditorRole), u"writing"_s);
+        QCOMPARE(announcedBy({block('A'), becomes, block('C')}),
+                 (QStringList{u"-1..1"_s, u"+1..1"_s, u"2: kindAbove"_s}));
+        QCOMPARE(value(1, BlockListModel::RowEditorRole), editor);
+    }
+
+    void allKindsOfTextShareAnEditor()
+    {
+        show({block('A', heading), block('B'), block('C', BlockType::quote), block('D', BlockType::code)});
+        for (int row = 0; row < 4; ++row)
+            QCOMPARE(value(row, BlockListModel::RowEditorRole), u"writing"_s);
     }
 
     void anInsertionAboveIsOneRow()
@@ -306,8 +330,7 @@ private Q_SLOTS:
     void aBlockThatBecomesAChecklistGetsAModel()
     {
         show({block('A'), block('B')});
-        QVERIFY(!announcedBy({block('A'), sticky('B', {todo('x')})}).isEmpty());
-        QCOMPARE(value(1, BlockListModel::KindRole), u"sticky"_s);
+        show({block('A'), sticky('B', {todo('x')})});
         QCOMPARE(todos(1)->rowCount(), 1);
     }
 
