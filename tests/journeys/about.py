@@ -1,7 +1,6 @@
 """The app menu by keyboard and by pointer, and the alert behind its first entry."""
 
 import journey
-from desktop import until
 
 MESSAGE = "Built by Dravel. Fueled by espresso and poor decisions."
 
@@ -11,13 +10,28 @@ def about(pelko):
     before = pelko.focused()
     for dismiss in ("Escape", "Return"):
         pelko.click(pelko.button("Menu"))
-        pelko.click(pelko.wait_for("About Pelko"))
-        pelko.wait_for(MESSAGE)
-        until(lambda: pelko.focused() and pelko.focused().get_name() == "Close", "the focus is on “Close”")
+        entry = pelko.wait_for("About Pelko")
+        pelko.stand_still()
+        pelko.click(entry)
+        alert = pelko.wait_alert(MESSAGE)
+        assert alert.get_name() == "Pelko", alert.get_name()
+        pelko.wait_focus_on("Close")
         pelko.keys("Tab")
-        until(lambda: pelko.focused() and pelko.focused().get_name() == "Close", "the focus stays in the alert")
+        pelko.wait_focus_on("Close")
         pelko.keys(dismiss)
-        pelko.wait_gone(MESSAGE)
+        pelko.wait_no_alert()
+
+    # The same without a pointer.
+    pelko.keys("F10")
+    pelko.wait_for("About Pelko")
+    pelko.keys("Down")
+    pelko.wait_focus_on("New Document")
+    pelko.keys("Down")
+    pelko.wait_focus_on("About Pelko")
+    pelko.keys("Return")
+    pelko.wait_alert(MESSAGE)
+    pelko.keys("Escape")
+    pelko.wait_no_alert()
     after = pelko.focused()
     assert (before and before.get_name()) == (after and after.get_name()), "the focus is given back"
     pelko.close()

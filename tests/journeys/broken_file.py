@@ -2,8 +2,6 @@
 
 import journey
 import library
-from desktop import until
-from journey import screen_reader
 
 TITLES = {
     "Something broke. Not your fault. Probably.",
@@ -25,11 +23,11 @@ BROKEN = {
 
 
 def see_the_alert(pelko, what):
-    pelko.wait_for("Failed to load your documents.")
-    assert TITLES & {node.get_name() for node in pelko.nodes()}, screen_reader().outline(pelko.root)
-    until(lambda: pelko.focused() and pelko.focused().get_name() == "Got it", f"the focus is on “Got it” ({what})")
+    alert = pelko.wait_alert("Failed to load your documents.")
+    assert alert.get_name() in TITLES, f"{what}: {alert.get_name()}"
+    pelko.wait_focus_on("Got it")
     pelko.keys("Return")
-    pelko.wait_gone("Failed to load your documents.")
+    pelko.wait_no_alert()
 
 
 def broken_file(pelko):
@@ -46,10 +44,8 @@ def broken_file(pelko):
     pelko.start()
     see_the_alert(pelko, "a folder in its place")
     pelko.keys("ctrl+n")
-    until(
-        lambda: any(node.get_name().startswith("Save failed: ") for node in pelko.nodes()),
-        "the failed save is told",
-    )
+    first = pelko.wait_alert("Save failed: ").get_name()
+    assert first in TITLES, first
     pelko.close()
 
 

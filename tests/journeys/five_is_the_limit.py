@@ -1,8 +1,6 @@
 """Six new documents in one space: five are made, the sixth is refused with a word."""
 
 import journey
-from desktop import until
-from journey import screen_reader
 
 MESSAGE = "You've got 5 docs in this space. Archive one first. Constraints breed creativity."
 
@@ -13,11 +11,11 @@ def five_is_the_limit(pelko):
         pelko.keys("ctrl+n")
         pelko.wait_saved(lambda saved: len(saved) == count, f"{count} documents")
     pelko.keys("ctrl+n")
-    pelko.wait_for("Five is the limit.")
-    assert pelko.find(MESSAGE), screen_reader().outline(pelko.root)
-    until(lambda: pelko.focused() and pelko.focused().get_name() == "Fine", "the focus is on “Fine”")
+    alert = pelko.wait_alert(MESSAGE)
+    assert alert.get_name() == "Five is the limit.", alert.get_name()
+    pelko.wait_focus_on("Fine")
     pelko.keys("Return")
-    pelko.wait_gone("Five is the limit.")
+    pelko.wait_no_alert()
 
     documents = pelko.saved()
     assert [document["space"] for document in documents] == ["work"] * 5

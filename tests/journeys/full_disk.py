@@ -7,7 +7,6 @@ import subprocess
 
 import journey
 import library
-from desktop import until
 from journey import screen_reader
 
 SIZE = 512 * 1024
@@ -45,13 +44,10 @@ def full_disk(pelko):
         else:
             pelko.start(before=limit_file_size)
         pelko.type("Words without room")
-        alert = until(
-            lambda: next((node for node in pelko.nodes() if node.get_name().startswith("Save failed: ")), None),
-            "the failed save is told",
-        )
-        assert len(alert.get_name()) > len("Save failed: "), "the system's own words follow"
+        alert = pelko.wait_alert("Save failed: ")
+        assert len(alert.get_description()) > len("Save failed: "), "the system's own words follow"
         pelko.keys("Return")
-        until(lambda: not any(n.get_name().startswith("Save failed: ") for n in pelko.nodes()), "the alert has gone")
+        pelko.wait_no_alert()
         assert pelko.data_file.read_bytes() == before, "the old file is whole"
         assert "Words without room" in [screen_reader().text_of(node) for node in pelko.fields()]
 

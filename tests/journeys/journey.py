@@ -39,8 +39,8 @@ class Pelko:
         self.root = until(lambda: screen_reader().application(self.process.pid), "the program is on the bus", 60)
         until(self.window, "the window is shown", 60)
         until(self.has_focus, "the window has the focus")
-        until(lambda: self.find("Pelko menu") or self.find("Menu"), "the main view is there")
-        until(lambda: not self.find("Launching"), "the launch card has gone")
+        corner = self.wait_for("Close", screen_reader().BUTTONS)
+        until(lambda: colours_at(corner) > 1, "the launch card fades")
         self.stand_still()
 
     def launch(self, *arguments, before=None, **changes):
@@ -72,7 +72,7 @@ class Pelko:
 
     def window(self):
         """The window's id once it is mapped."""
-        found = shown("xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid), "--name", "^Pelko$").split()
+        found = shown("xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)).split()
         return found[0] if found else None
 
     def has_focus(self):
@@ -135,6 +135,27 @@ class Pelko:
     def button(self, name):
         return self.wait_for(name, screen_reader().BUTTONS)
 
+    def alert(self):
+        """The alert on show; its name is the title, its description the message."""
+        return self.find(roles={screen_reader().Role.ALERT, screen_reader().Role.DIALOG})
+
+    def wait_alert(self, message):
+        """Waits for an alert whose message begins so, with the focus inside, and returns it."""
+        alert = until(
+            lambda: (found := self.alert()) and found.get_description().startswith(message) and found,
+            f"an alert says “{message}”",
+        )
+        until(self.focused, "something in the alert has the focus")
+        return alert
+
+    def wait_focus_on(self, name):
+        return until(
+            lambda: (found := self.focused()) and found.get_name() == name and found, f"the focus is on “{name}”"
+        )
+
+    def wait_no_alert(self):
+        until(lambda: not self.alert(), "the alert has gone")
+
     def fields(self):
         return self.find_all(roles=screen_reader().FIELDS)
 
@@ -155,6 +176,13 @@ def shown_pixels():
     return subprocess.run(
         ["import", "-silent", "-window", "root", "-resize", "25%", "-depth", "6", "gray:-"], capture_output=True
     ).stdout
+
+
+def colours_at(node):
+    """How many colours the place of a control shows: one alone while something covers it."""
+    x, y, width, height = screen_reader().place_of(node)
+    crop = f"{width}x{height}+{x}+{y}"
+    return int(shown("import", "-silent", "-window", "root", "-crop", crop, "-format", "%k", "info:-") or 0)
 
 
 def screen_reader():

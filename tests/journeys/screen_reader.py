@@ -8,7 +8,7 @@ from gi.repository import Atspi, GLib  # noqa: E402
 Role = Atspi.Role
 State = Atspi.StateType
 
-BUTTONS = {Role.PUSH_BUTTON, Role.TOGGLE_BUTTON}
+BUTTONS = {Role.PUSH_BUTTON, Role.PUSH_BUTTON_MENU, Role.TOGGLE_BUTTON}
 FIELDS = {Role.TEXT, Role.ENTRY, Role.PARAGRAPH}
 
 
@@ -56,9 +56,14 @@ def text_of(node):
     return Atspi.Text.get_text(node, 0, -1) if node.get_text_iface() else None
 
 
-def centre_of(node):
+def place_of(node):
     box = Atspi.Component.get_extents(node, Atspi.CoordType.SCREEN)
-    return box.x + box.width // 2, box.y + box.height // 2
+    return box.x, box.y, box.width, box.height
+
+
+def centre_of(node):
+    x, y, width, height = place_of(node)
+    return x + width // 2, y + height // 2
 
 
 def actions_of(node):
