@@ -11,7 +11,7 @@
 /// One piece of a page. The optional fields are truly optional: absent differs from false or empty and
 /// stays absent in the data file.
 struct Block {
-    QUuid id = QUuid::createUuid();
+    QUuid id;
     BlockType type = BlockType::textSmall;
     /// The text; unused by dividers and images.
     QString content;
@@ -23,8 +23,15 @@ struct Block {
     /// The title laid over a banner.
     std::optional<QString> bannerTitle;
 
+    /// Nobody's block, to be filled: a fresh id costs a system call.
     Block() = default;
-    explicit Block(BlockType blockType, QString text = {}) : type(blockType), content(std::move(text)) {}
+    /// A new block, with an id of its own.
+    explicit Block(BlockType blockType, QString text = {})
+        : id(QUuid::createUuid())
+        , type(blockType)
+        , content(std::move(text))
+    {
+    }
 
     bool operator==(const Block &) const = default;
 };

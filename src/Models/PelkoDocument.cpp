@@ -45,7 +45,8 @@ QString monthAndDay(Timestamp time, const QTimeZone &zone, const QLocale &locale
 } // namespace
 
 PelkoDocument::PelkoDocument(Space documentSpace, Timestamp creationTime)
-    : space(documentSpace)
+    : id(QUuid::createUuid())
+    , space(documentSpace)
     , blocks{Block(BlockType::textLarge), Block(BlockType::textSmall)}
     , createdAt(creationTime)
 {

@@ -9,7 +9,7 @@
 
 /// One short page: a value. Copies share their blocks until one of them is changed.
 struct PelkoDocument {
-    QUuid id = QUuid::createUuid();
+    QUuid id;
     Space space = Space::work;
     QList<Block> blocks;
     /// Also what lists of documents are sorted by.
@@ -19,8 +19,9 @@ struct PelkoDocument {
     std::optional<bool> isPinned;
     std::optional<bool> isArchived;
 
+    /// Nobody's page, to be filled: a fresh id costs a system call.
     PelkoDocument() = default;
-    /// A new page: an empty heading, then an empty body block.
+    /// A new page with an id of its own: an empty heading, then an empty body block.
     PelkoDocument(Space space, Timestamp createdAt);
 
     /// The title of the first banner that has one, else the first heading, else "Untitled".

@@ -124,6 +124,18 @@ bool read(dom::element json, PelkoDocument &document)
 }
 
 template <typename Value>
+Value unread()
+{
+    return {};
+}
+
+template <>
+TodoItem unread()
+{
+    return {.id = {}, .text = {}, .done = false}; // left out, the id would be a fresh one
+}
+
+template <typename Value>
 bool read(dom::element json, QList<Value> &values)
 {
     dom::array array;
@@ -132,7 +144,7 @@ bool read(dom::element json, QList<Value> &values)
     values.clear();
     values.reserve(qsizetype(array.size()));
     for (const dom::element element : array) {
-        Value value;
+        Value value = unread<Value>();
         if (!read(element, value))
             return false;
         values.append(std::move(value));
