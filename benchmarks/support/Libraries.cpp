@@ -9,7 +9,7 @@ namespace
 constexpr int pageCount = 15;
 constexpr int sparkCount = 10'000;
 constexpr int pictureCount = 60;
-constexpr qsizetype pictureSize = 2'950'000;
+constexpr qsizetype pictureSize = 3'000'000;
 
 QRandomGenerator &generator()
 {
@@ -57,7 +57,7 @@ PelkoDocument makePage(Space space, int number)
     document.updatedAt = document.createdAt + 0.25;
     document.blocks = {makeBlock(BlockType::textLarge, 4)};
     for (int paragraph = 0; paragraph < 9; ++paragraph)
-        document.blocks.append(makeBlock(BlockType::textSmall, 32));
+        document.blocks.append(makeBlock(BlockType::textSmall, 35));
     return document;
 }
 

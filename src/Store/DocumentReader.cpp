@@ -55,10 +55,12 @@ bool read(dom::element json, QString &value)
     if (!read(json, text))
         return false;
     // QString::fromUtf8 takes a mark at the start for a byte order mark and drops it; here it is text.
-    value.clear();
+    qsizetype marks = 0;
     for (; text.starts_with(byteOrderMark); text.remove_prefix(byteOrderMark.size()))
-        value += QChar(QChar::ByteOrderMark);
-    value += QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+        ++marks;
+    value = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    if (marks > 0)
+        value.prepend(QString(marks, QChar::ByteOrderMark));
     return true;
 }
 

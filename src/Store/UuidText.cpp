@@ -9,12 +9,20 @@ constexpr bool hyphenBefore(int byte)
     return byte == 4 || byte == 6 || byte == 8 || byte == 10;
 }
 
+/// The value of each hexadecimal digit, and -1 for every other character.
+constexpr auto hexValues = [] {
+    std::array<signed char, 256> values{};
+    values.fill(-1);
+    for (unsigned digit = 0; digit < 10; ++digit)
+        values['0' + digit] = static_cast<signed char>(digit);
+    for (unsigned letter = 0; letter < 6; ++letter)
+        values['a' + letter] = values['A' + letter] = static_cast<signed char>(10 + letter);
+    return values;
+}();
+
 constexpr int hexValue(char digit)
 {
-    if (digit >= '0' && digit <= '9')
-        return digit - '0';
-    const char lower = char(digit | 0x20);
-    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
+    return hexValues[static_cast<unsigned char>(digit)];
 }
 } // namespace
 
