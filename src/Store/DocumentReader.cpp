@@ -146,7 +146,7 @@ bool read(dom::element json, QList<Value> &values)
     values.clear();
     values.reserve(qsizetype(array.size()));
     for (const dom::element element : array) {
-        Value value = unread<Value>();
+        auto value = unread<Value>();
         if (!read(element, value))
             return false;
         values.append(std::move(value));
