@@ -1,0 +1,52 @@
+import QtQuick
+import Pelko
+
+/// The alerts of the whole window, each shown exactly while its reason lasts.
+Item {
+    id: root
+
+    required property MainViewModel main
+    property Item backdrop: null
+
+    AlertDialog {
+        open: root.main.showDocLimitNudge
+        backdrop: root.backdrop
+        title: "Five is the limit."
+        message: "You've got 5 docs in this space. Archive one first. Constraints breed creativity."
+        art: FiveEmbers {}
+        actions: DialogAction { name: "Fine"; cancels: true }
+        onDismissed: root.main.dismissDocLimitNudge()
+    }
+
+    AlertDialog {
+        open: root.main.showAbout
+        backdrop: root.backdrop
+        title: "Pelko"
+        message: "Built by Dravel. Fueled by espresso and poor decisions."
+        art: AnimatedFlame { size: 36 }
+        actions: DialogAction { name: "Close"; cancels: true }
+        onDismissed: root.main.dismissAbout()
+    }
+
+    AlertDialog {
+        open: root.main.showError
+        backdrop: root.backdrop
+        symbol: "exclamationmark.triangle"
+        title: root.main.errorTitle
+        message: root.main.errorText
+        actions: DialogAction { name: "Got it"; cancels: true }
+        onDismissed: root.main.dismissError()
+    }
+
+    AlertDialog {
+        open: root.main.showDeleteConfirmation
+        backdrop: root.backdrop
+        symbol: "trash"
+        title: root.main.deleteConfirmText
+        actions: [
+            DialogAction { name: "Nah"; cancels: true },
+            DialogAction { name: "Delete"; destroys: true; onTriggered: root.main.confirmDelete() }
+        ]
+        onDismissed: root.main.cancelDelete()
+    }
+}

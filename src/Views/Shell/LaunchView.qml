@@ -1,0 +1,83 @@
+import QtQuick
+import QtQuick.Window
+import Pelko
+
+/// The main view, covered for the first moments by a card with the flame and the name. The sequence begins with the
+/// first frame that reaches the screen, so that a slow start takes nothing from it.
+FocusScope {
+    id: root
+
+    required property MainViewModel main
+    required property LaunchSequence launch
+
+    Connections {
+        target: root.Window.window
+        enabled: !root.launch.showFlame
+        function onFrameSwapped() { root.launch.start() }
+    }
+
+    MainView {
+        anchors.fill: parent
+        focus: true
+        main: root.main
+    }
+
+    Rectangle {
+        id: card
+
+        anchors.fill: parent
+        color: FirePalette.deepBackground
+        opacity: root.launch.overlayVisible ? 1 : 0
+        visible: opacity > 0
+
+        Behavior on opacity {
+            NumberAnimation { duration: Motion.reduced ? Motion.fade : 450; easing.type: Easing.OutQuad }
+        }
+
+        MouseArea {
+            anchors.fill: parent
+            hoverEnabled: true
+        }
+
+        Column {
+            anchors.centerIn: parent
+            spacing: Metrics.space14
+
+            AnimatedFlame {
+                anchors.horizontalCenter: parent.horizontalCenter
+                size: 56
+                opacity: root.launch.showFlame ? 1 : 0
+
+                Behavior on opacity {
+                    NumberAnimation {
+                        duration: Motion.reduced ? Motion.fade : PelkoAnimation.settle.duration
+                        easing: PelkoAnimation.settle.curve
+                    }
+                }
+            }
+
+            Item {
+                anchors.horizontalCenter: parent.horizontalCenter
+                implicitWidth: productName.implicitWidth
+                implicitHeight: productName.implicitHeight
+                opacity: root.launch.showTitle ? 1 : 0
+
+                Behavior on opacity {
+                    SequentialAnimation {
+                        PauseAnimation { duration: 350 }
+                        NumberAnimation { duration: Motion.reduced ? Motion.fade : 300; easing.type: Easing.OutQuad }
+                    }
+                }
+
+                Text {
+                    id: productName
+
+                    text: "Pelko"
+                    font: Typography.sheetTitle
+                    color: FirePalette.ink
+                    opacity: 0.6
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,103 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Pelko
+
+/// The editor of the open document or the empty state; over it the layer that ends the navigation, the window's frame
+/// and the alerts.
+FocusScope {
+    id: root
+
+    required property MainViewModel main
+
+    function showContent(operation: int) {
+        main.openDocumentID === ""
+            ? content.replace(null, emptyState, {}, operation)
+            : content.replace(null, editor, { editor: main.openEditor(main.openDocumentID) }, operation)
+    }
+
+    Component.onCompleted: showContent(T.StackView.Immediate)
+
+    Connections {
+        target: root.main
+        function onOpenDocumentIDChanged() { root.showContent(T.StackView.ReplaceTransition) }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: FirePalette.deepBackground
+    }
+
+    T.StackView {
+        id: content
+
+        anchors.fill: parent
+        focus: true
+        replaceEnter: Fade { from: 0; to: 1 }
+        replaceExit: Fade { from: 1; to: 0 }
+    }
+
+    Component {
+        id: editor
+
+        EditorView {}
+    }
+
+    Component {
+        id: emptyState
+
+        EmptyState {
+            main: root.main
+        }
+    }
+
+    // Almost invisible: it only has to be hit.
+    Rectangle {
+        anchors.fill: parent
+        visible: root.main.showNav
+        color: Qt.rgba(0, 0, 0, 0.01)
+
+        MouseArea {
+            anchors.fill: parent
+            hoverEnabled: true
+            onClicked: root.main.dismissNav()
+            onWheel: wheel => wheel.accepted = true
+        }
+    }
+
+    TopStrip {
+        id: strip
+
+        anchors { left: parent.left; right: parent.right; top: parent.top }
+        menuOpen: menu.open
+        onMenuRequested: menu.popUpBelow(strip.menuButton)
+    }
+
+    AppMenu {
+        id: menu
+
+        main: root.main
+        backdrop: content
+    }
+
+    Shortcut {
+        sequences: ["F10"]
+        onActivated: menu.popUpBelow(strip.menuButton)
+    }
+
+    component Fade: Transition {
+        id: fade
+
+        required property real from
+        required property real to
+
+        NumberAnimation {
+            property: "opacity"
+            from: fade.from
+            to: fade.to
+            duration: Motion.reduced ? Motion.fade : PelkoAnimation.smooth.duration
+            easing.type: Easing.InOutQuad
+        }
+    }
+}

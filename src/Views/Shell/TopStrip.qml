@@ -1,0 +1,56 @@
+import QtQuick
+import QtQuick.Window
+import Pelko
+
+/// The window's own frame: the menu button at the left, the caption buttons at the right. It floats over the content
+/// and takes no clicks between them. On a Mac the system brings its own.
+Item {
+    id: strip
+
+    property bool menuOpen: false
+    readonly property alias menuButton: menuButton
+    readonly property Window window: Window.window
+    readonly property bool filled: Window.visibility === Window.Maximized || Window.visibility === Window.FullScreen
+
+    signal menuRequested()
+
+    implicitHeight: Metrics.stripHeight
+    visible: Qt.platform.os !== "osx"
+
+    CaptionButton {
+        id: menuButton
+
+        x: Metrics.captionEdge
+        y: Metrics.captionTop
+        name: "Menu"
+        icon.name: "line.3.horizontal"
+        active: strip.menuOpen
+        onTriggered: strip.menuRequested()
+        Accessible.role: Accessible.ButtonMenu
+    }
+
+    Row {
+        anchors { right: parent.right; rightMargin: Metrics.captionEdge }
+        y: Metrics.captionTop
+        spacing: Metrics.captionSpacing
+
+        CaptionButton {
+            name: "Minimise"
+            icon.name: "window.minimise"
+            onTriggered: strip.window.showMinimized()
+        }
+
+        CaptionButton {
+            name: strip.filled ? "Restore" : "Maximise"
+            icon.name: strip.filled ? "window.restore" : "window.maximise"
+            onTriggered: strip.filled ? strip.window.showNormal() : strip.window.showMaximized()
+        }
+
+        CaptionButton {
+            name: "Close"
+            icon.name: "window.close"
+            closes: true
+            onTriggered: strip.window.close()
+        }
+    }
+}
