@@ -1,3 +1,5 @@
+#include "EditorBench.h"
+
 #include <QQmlEngine>
 #include <QtQml/QQmlExtensionPlugin>
 #include <QtQuickTest/quicktest.h>
@@ -13,7 +15,11 @@ class Setup : public QObject
     Q_OBJECT
 
 public Q_SLOTS:
-    void qmlEngineAvailable(QQmlEngine *engine) { engine->addImportPath(u"qrc:/qt/qml"_s); }
+    void qmlEngineAvailable(QQmlEngine *engine)
+    {
+        engine->addImportPath(u"qrc:/qt/qml"_s);
+        qmlRegisterType<EditorBench>("PelkoTest", 1, 0, "EditorBench");
+    }
 };
 
 QUICK_TEST_MAIN_WITH_SETUP(Pelko, Setup)

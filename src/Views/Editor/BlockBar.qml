@@ -8,6 +8,12 @@ Rectangle {
     id: root
 
     signal addRequested(string kind)
+    /// The keyboard walks back from the first chip.
+    signal walkedBack
+
+    function enter() {
+        chips.itemAt(0).forceActiveFocus(Qt.TabFocusReason)
+    }
 
     implicitHeight: Metrics.barHeight
     color: FirePalette.deepBackground
@@ -23,11 +29,15 @@ Rectangle {
         spacing: Metrics.chipGap
 
         Repeater {
+            id: chips
+
             model: BlockKinds.all
 
             IconChipButton {
                 required property var modelData
+                required property int index
 
+                Keys.onBacktabPressed: event => index === 0 ? root.walkedBack() : event.accepted = false
                 icon.name: modelData.icon
                 tip: modelData.tip
                 onTriggered: root.addRequested(modelData.name)

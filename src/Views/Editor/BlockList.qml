@@ -43,12 +43,20 @@ FocusScope {
         scroll.glide(from, list.contentY)
     }
 
+    function openMenu(blockID: string, item: Item, position: point) {
+        const corner = root.mapFromItem(item, position)
+        menu.blockID = blockID
+        if (menu.hasEntries)
+            menu.popUp(corner.x, corner.y)
+    }
+
     PageContext {
         id: context
 
         editor: root.editor
         measure: Math.min(Metrics.measure, root.width - 2 * Metrics.pageMargin)
         onFocusEntered: row => list.currentIndex = row
+        onMenuRequested: (blockID, item, position) => root.openMenu(blockID, item, position)
         onRevealRequested: (item, rectangle) => root.reveal(list.contentItem.mapFromItem(item, rectangle))
         onWalkedOut: (row, forward) => root.walkFrom(row, forward)
     }
@@ -126,5 +134,21 @@ FocusScope {
 
         list: list
         onFinished: root.editor.scrolled()
+    }
+
+    PelkoScrollBar {
+        anchors { bottom: parent.bottom; right: parent.right; top: parent.top }
+        flickable: list
+    }
+
+    BlockMenu {
+        id: menu
+
+        property string blockID
+
+        anchors.fill: parent
+        backdrop: list
+        offersDelete: root.editor.offersDelete
+        onDeleteRequested: root.editor.deleteBlock(blockID)
     }
 }

@@ -7,6 +7,10 @@ FocusScope {
 
     required property EditorViewModel editor
 
+    function leaveBackwards() {
+        page.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+    }
+
     Rectangle {
         anchors.fill: parent
         color: FirePalette.editorSurface
@@ -18,6 +22,7 @@ FocusScope {
         anchors { left: parent.left; right: parent.right; top: parent.top; bottom: bar.top }
         editor: root.editor
         focus: true
+        onWalkedOut: forward => forward ? bar.enter() : root.leaveBackwards()
     }
 
     PageVeil {
@@ -37,6 +42,7 @@ FocusScope {
 
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         onAddRequested: kind => root.editor.addBlock(kind)
+        onWalkedBack: page.enter(false)
     }
 
     Component.onCompleted: editor.appeared()

@@ -1,0 +1,83 @@
+#include "EditorBench.h"
+
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+Block blockFrom(const QVariantMap &described)
+{
+    Block block(blockTypeFromRawValue(described[u"type"_s].toString()).value(),
+                described[u"content"_s].toString());
+    if (!described.contains(u"todos"_s))
+        return block;
+    block.todos.emplace();
+    for (const QVariant &todo : described[u"todos"_s].toList())
+        block.todos->append(
+            {.text = todo.toMap()[u"text"_s].toString(), .done = todo.toMap()[u"done"_s].toBool()});
+    return block;
+}
+
+QVariantMap describe(const Block &block)
+{
+    QVariantMap described{{u"type"_s, rawValue(block.type)}, {u"content"_s, block.content}};
+    if (!block.todos)
+        return described;
+    QVariantList todos;
+    for (const TodoItem &todo : *block.todos)
+        todos.append(QVariantMap{{u"text"_s, todo.text}, {u"done"_s, todo.done}});
+    described.insert(u"todos"_s, todos);
+    return described;
+}
+
+} // namespace
+
+EditorBench::EditorBench(QObject *parent) : QObject(parent), m_appState(m_scheduler, m_clock, m_file) {}
+
+void EditorBench::open(const QVariantList &blocks)
+{
+    for (const PelkoDocument &document : QList(m_appState.documents()))
+        m_appState.permanentlyDeleteDocument(document);
+    m_appState.createDocument(Space::work);
+    replace(blocks);
+    m_editor = new EditorViewModel(m_appState, m_scheduler, m_appState.openDocumentID().value(), this);
+    Q_EMIT editorChanged();
+}
+
+void EditorBench::replace(const QVariantList &blocks)
+{
+    PelkoDocument page = m_appState.openDocument().value();
+    page.blocks.clear();
+    for (const QVariant &described : blocks)
+        page.blocks.append(blockFrom(described.toMap()));
+    m_appState.updateDocument(page);
+}
+
+QVariantList EditorBench::blocks() const
+{
+    QVariantList described;
+    for (const Block &block : m_appState.openDocument().value().blocks)
+        described.append(describe(block));
+    return described;
+}
+
+void EditorBench::advance(int milliseconds)
+{
+    m_scheduler.advance(std::chrono::milliseconds(milliseconds));
+}
+
+void EditorBench::compose(const QString &preedit)
+{
+    QInputMethodEvent event(preedit, {});
+    QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+}
+
+void EditorBench::commit(const QString &text, const QString &preedit)
+{
+    QInputMethodEvent event(preedit, {});
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Editor/EditorViewModel.h"
+#include "Store/AppState.h"
+#include "support/ManualClock.h"
+#include "support/ManualDocumentFile.h"
+#include "support/ManualScheduler.h"
+
+#include <QPointer>
+#include <QVariantList>
+
+#include <memory>
+
+/// One document in a store on manual time, with its editor's view model, for view tests. A block is
+/// described as { type, content, todos: [{ text, done }] }.
+class EditorBench : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(EditorViewModel *editor READ editor NOTIFY editorChanged)
+
+public:
+    explicit EditorBench(QObject *parent = nullptr);
+
+    EditorViewModel *editor() const { return m_editor; }
+
+    /// Opens a fresh page of these blocks, which makes a new editor.
+    Q_INVOKABLE void open(const QVariantList &blocks);
+    /// Replaces the page from outside the editor.
+    Q_INVOKABLE void replace(const QVariantList &blocks);
+    Q_INVOKABLE QVariantList blocks() const;
+    Q_INVOKABLE void advance(int milliseconds);
+    /// Sends what an input method composes to the focused field, and what it settles on.
+    Q_INVOKABLE void compose(const QString &preedit);
+    Q_INVOKABLE void commit(const QString &text, const QString &preedit = {});
+
+Q_SIGNALS:
+    void editorChanged();
+
+private:
+    ManualScheduler m_scheduler;
+    ManualClock m_clock;
+    ManualDocumentFile m_file;
+    AppState m_appState;
+    QPointer<EditorViewModel> m_editor;
+};

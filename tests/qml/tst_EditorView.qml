@@ -1,0 +1,281 @@
+import QtQuick
+import QtTest
+import Pelko
+import PelkoTest
+
+Item {
+    id: root
+
+    width: 900
+    height: 640
+
+    EditorBench { id: bench }
+
+    Component {
+        id: view
+
+        EditorView {
+            anchors.fill: parent
+            editor: bench.editor
+            focus: true
+        }
+    }
+
+    TestCase {
+        id: test
+
+        property EditorView page
+
+        name: "EditorView"
+        when: windowShown
+
+        function open(blocks) {
+            bench.open(blocks)
+            page = createTemporaryObject(view, root)
+            page.forceActiveFocus()
+            bench.advance(0)
+            waitForRendering(page)
+        }
+
+        function kinds() {
+            return bench.blocks().map(block => block.type).join(" ")
+        }
+
+        function contents() {
+            return bench.blocks().map(block => block.content).join("|")
+        }
+
+        function type(text) {
+            for (const letter of text)
+                keyClick(letter)
+        }
+
+        function everything(item) {
+            return [item].concat(...Array.from(item.children).map(child => everything(child)))
+        }
+
+        function fields() {
+            return everything(page).filter(item => item.Accessible.role === Accessible.EditableText && item.visible)
+        }
+
+        function hover(field) {
+            mouseMove(page, 5, 300)
+            mouseMove(field, 20, 10)
+        }
+
+        /// The visible items below the view that tell a screen reader this name.
+        function named(name) {
+            return everything(page).filter(item => item.Accessible.name === name && item.visible)
+        }
+
+        function test_opening_a_fresh_page_puts_the_caret_into_its_heading() {
+            open([{ type: "textLarge" }, { type: "textSmall" }])
+            type("abc")
+            compare(contents(), "abc|")
+        }
+
+        function test_typing_shortcuts_data() {
+            return [
+                { tag: "heading", typed: "# x", kinds: "textLarge textLarge", contents: "t|x" },
+                { tag: "quote", typed: "> x", kinds: "textLarge quote", contents: "t|x" },
+                { tag: "code", typed: "```x", kinds: "textLarge code", contents: "t|x" },
+                { tag: "divider", typed: "---x", kinds: "textLarge divider textSmall", contents: "t||x" },
+                { tag: "nothing", typed: "#x", kinds: "textLarge textSmall", contents: "t|#x" },
+            ]
+        }
+
+        function test_typing_shortcuts(row) {
+            open([{ type: "textLarge", content: "t" }, { type: "textSmall" }])
+            type(row.typed)
+            compare(kinds(), row.kinds)
+            compare(contents(), row.contents)
+        }
+
+        function test_a_checklist_shortcut_goes_on_in_the_first_entry() {
+            open([{ type: "textLarge", content: "t" }, { type: "textSmall" }])
+            type("[] milk")
+            keyClick(Qt.Key_Return)
+            type("eggs")
+            compare(bench.blocks()[1].todos, [{ done: false, text: "milk" }, { done: false, text: "eggs" }])
+        }
+
+        function test_return_splits_and_the_caret_goes_on_below() {
+            open([{ type: "textLarge", content: "" }])
+            type("ab")
+            keyClick(Qt.Key_Left)
+            keyClick(Qt.Key_Return)
+            type("X")
+            compare(kinds(), "textLarge textSmall")
+            compare(contents(), "a|Xb")
+        }
+
+        function test_backspace_in_an_empty_block_goes_back_to_the_end_of_the_one_above() {
+            open([{ type: "textLarge", content: "ab" }, { type: "textSmall" }])
+            keyClick(Qt.Key_Backspace)
+            type("c")
+            compare(kinds(), "textLarge")
+            compare(contents(), "abc")
+        }
+
+        function test_no_break_spaces_survive_a_key() {
+            open([{ type: "textLarge", content: "" }, { type: "textSmall", content: "10\u00a0km" }])
+            bench.editor.focusRequested(named("Body")[0].parent.parent.parent.blockID, "", -1)
+            type("x")
+            compare(contents(), "|10\u00a0kmx")
+        }
+
+        function test_a_page_changed_elsewhere_is_shown() {
+            open([{ type: "textLarge", content: "before" }])
+            bench.replace([{ type: "textLarge", content: "after" }, { type: "quote", content: "wise" }])
+            tryVerify(() => fields().map(field => field.Accessible.name).join(" ") === "Heading Quote")
+            compare(fields().map(field => field.getText(0, 99)), ["after", "wise"])
+        }
+
+        function test_placeholders_stand_where_nothing_is_written() {
+            open([{ type: "textLarge" }, { type: "quote", content: "q" }])
+            const placeholder = everything(page).find(item => item.text === "Start writing..." && item.visible)
+            verify(placeholder)
+            type("a")
+            verify(!placeholder.visible)
+        }
+
+        function test_a_rule_waits_for_the_end_of_a_composition() {
+            open([{ type: "textLarge", content: "t" }, { type: "textSmall" }])
+            bench.commit("# ", "rest")
+            compare(kinds(), "textLarge textSmall")
+            bench.commit("rest")
+            compare(kinds(), "textLarge textSmall")
+            compare(contents(), "t|# rest")
+        }
+
+        function test_what_is_composed_is_stored_when_it_is_settled() {
+            open([{ type: "textLarge" }])
+            bench.compose("ni")
+            compare(contents(), "")
+            bench.commit("你")
+            compare(contents(), "你")
+        }
+
+        function test_the_bar_adds_each_kind_at_the_end_data() {
+            return [
+                { tag: "Heading", kind: "textLarge", focused: true },
+                { tag: "Body", kind: "textSmall", focused: true },
+                { tag: "Quote", kind: "quote", focused: true },
+                { tag: "Code", kind: "code", focused: true },
+                { tag: "Divider", kind: "divider", focused: false },
+                { tag: "Image", kind: "image", focused: false },
+                { tag: "Checklist", kind: "sticky", focused: false },
+            ]
+        }
+
+        function test_the_bar_adds_each_kind_at_the_end(row) {
+            open([{ type: "textLarge", content: "" }])
+            const chip = named(row.tag).find(item => item.Accessible.role === Accessible.Button)
+            mouseClick(chip)
+            bench.advance(180)
+            compare(kinds(), "textLarge " + row.kind)
+            type("z")
+            compare(contents(), row.focused ? "|z" : "z|")
+        }
+
+        function test_a_tick_changes_its_entry() {
+            open([{ type: "sticky", todos: [{ text: "milk", done: false }, { text: "eggs", done: true }] }])
+            const ticks = everything(page).filter(item => item.Accessible.role === Accessible.CheckBox)
+            compare(ticks.map(tick => tick.Accessible.name), ["milk", "eggs"])
+            compare(ticks.map(tick => tick.Accessible.checked), [false, true])
+            mouseClick(ticks[0])
+            compare(bench.blocks()[0].todos[0].done, true)
+            compare(ticks[0].Accessible.checked, true)
+        }
+
+        function test_the_cross_removes_an_entry_and_a_first_one_can_be_made_again() {
+            open([{ type: "sticky", todos: [{ text: "milk", done: false }] }])
+            mouseClick(named("Remove")[0])
+            compare(bench.blocks()[0].todos, [])
+            mouseClick(named("To do...").find(item => item.Accessible.role === Accessible.Button))
+            type("tea")
+            compare(bench.blocks()[0].todos, [{ done: false, text: "tea" }])
+        }
+
+        function test_hovering_a_block_offers_to_delete_it() {
+            open([{ type: "textLarge", content: "t" }, { type: "textSmall", content: "b" }])
+            const field = named("Body").find(item => item.Accessible.role === Accessible.EditableText)
+            hover(field)
+            tryVerify(() => named("Delete").length === 1)
+            tryCompare(named("Delete")[0], "opacity", 1)
+            mouseClick(named("Delete")[0])
+            compare(kinds(), "textLarge")
+        }
+
+        function test_a_leading_heading_has_no_delete_button() {
+            open([{ type: "textLarge", content: "t" }, { type: "textSmall", content: "b" }])
+            hover(fields()[1])
+            tryVerify(() => named("Delete").length === 1)
+            hover(fields()[0])
+            tryVerify(() => named("Delete").length === 0)
+        }
+
+        function test_a_single_block_has_neither_button_nor_menu() {
+            open([{ type: "textSmall", content: "b" }])
+            const field = named("Body").find(item => item.Accessible.role === Accessible.EditableText)
+            hover(field)
+            waitForRendering(page)
+            compare(named("Delete").length, 0)
+            mouseClick(field, 20, 10, Qt.RightButton)
+            compare(named("Delete Block").length, 0)
+        }
+
+        function test_the_context_menu_deletes_even_a_leading_heading() {
+            open([{ type: "textLarge", content: "t" }, { type: "textSmall", content: "b" }])
+            const field = named("Heading").find(item => item.Accessible.role === Accessible.EditableText)
+            mouseClick(field, 20, 10, Qt.RightButton)
+            tryVerify(() => named("Delete Block").length === 1)
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Return)
+            compare(kinds(), "textSmall")
+        }
+
+        function test_the_menu_key_opens_the_context_menu() {
+            open([{ type: "textLarge", content: "" }, { type: "textSmall", content: "b" }])
+            keyClick(Qt.Key_Menu)
+            tryVerify(() => named("Delete Block").length === 1)
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => named("Delete Block").length === 0)
+            type("x")
+            compare(contents(), "x|b")
+        }
+
+        function test_tab_walks_through_everything_and_back() {
+            open([{ type: "textLarge", content: "" }, { type: "sticky", todos: [{ text: "milk", done: false }] }])
+            const seen = []
+            for (let step = 0; step < 6; ++step) {
+                seen.push(page.Window.activeFocusItem.Accessible.name)
+                keyClick(Qt.Key_Tab)
+            }
+            compare(seen, ["Heading", "milk", "milk", "Remove", "Delete", "Heading"])
+            compare(page.Window.activeFocusItem.Accessible.name, "Body")
+            keyClick(Qt.Key_Backtab)
+            keyClick(Qt.Key_Backtab)
+            compare(page.Window.activeFocusItem.Accessible.name, "Delete")
+            keyClick(Qt.Key_Backtab)
+            compare(page.Window.activeFocusItem.Accessible.name, "Remove")
+        }
+
+        function test_the_title_follows_the_heading() {
+            open([{ type: "textLarge", content: "" }])
+            verify(named("Untitled").length === 1)
+            type("Plan")
+            verify(named("Plan").length === 1)
+        }
+
+        function test_a_new_block_below_the_fold_is_scrolled_into_sight() {
+            open(Array.from({ length: 60 }, (_, i) => ({ type: "textSmall", content: "line " + i })))
+            bench.editor.addBlock("quote")
+            tryCompare(bench.editor, "scrollTarget", "")
+            bench.advance(180)
+            type("last")
+            const field = named("Quote").find(item => item.Accessible.role === Accessible.EditableText)
+            verify(field.mapToItem(page, 0, field.height).y < page.height - Metrics.barHeight)
+        }
+    }
+}
