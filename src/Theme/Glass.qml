@@ -73,9 +73,10 @@ QtObject {
         hairline: Qt.alpha(FirePalette.amberSoft, 0.26)
         blur: 24
         saturation: 1.4
-        shadowDrop: 6
-        shadowBlur: 18
-        shadowStrength: 0.24
+        shadowDrop: 8
+        shadowBlur: 26
+        shadowStrength: 0.34
+        shadowColor: FirePalette.ember
     }
     readonly property GlassKind plain: GlassKind {
         sheenOnPlain: true

@@ -18,4 +18,5 @@ QtObject {
     property real shadowDrop: 0
     property real shadowBlur: 0
     property real shadowStrength: 0
+    property color shadowColor: "black"
 }

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Pelko
 
@@ -28,39 +30,29 @@ Item {
         function onAfterAnimating() { pane.look() }
     }
 
-    ShaderEffectSource {
+    Shrunk {
         id: behind
 
         sourceItem: pane.backdrop
-        textureSize { width: pane.texelsWide; height: pane.texelsHigh }
-        visible: false
-        smooth: true
     }
 
-    ShaderEffect {
+    BlurPass {
         id: across
 
-        readonly property ShaderEffectSource source: behind
-        readonly property vector2d stride: Qt.vector2d(pane.step / pane.texelsWide, 0)
-
-        width: pane.texelsWide
-        height: pane.texelsHigh
-        visible: false
-        fragmentShader: "qrc:/qt/qml/Pelko/shaders/blur.frag.qsb"
+        source: behind
+        stride: Qt.vector2d(pane.step / pane.texelsWide, 0)
     }
 
-    ShaderEffectSource {
-        id: halfBlurred
+    BlurPass {
+        id: down
 
-        sourceItem: across
-        textureSize { width: pane.texelsWide; height: pane.texelsHigh }
-        visible: false
-        smooth: true
+        source: Shrunk { sourceItem: across }
+        stride: Qt.vector2d(0, pane.step / pane.texelsHigh)
     }
 
     ShaderEffect {
-        readonly property ShaderEffectSource source: halfBlurred
-        readonly property vector2d stride: Qt.vector2d(0, pane.step / pane.texelsHigh)
+        readonly property ShaderEffectSource source: Shrunk { sourceItem: down }
+        readonly property vector2d texel: Qt.vector2d(1 / pane.texelsWide, 1 / pane.texelsHigh)
         readonly property real cornerRadius: Math.min(pane.radius, width / 2, height / 2)
         readonly property real pixel: 1 / Screen.devicePixelRatio
         readonly property real saturation: pane.saturation
@@ -70,5 +62,21 @@ Item {
 
         anchors.fill: parent
         fragmentShader: "qrc:/qt/qml/Pelko/shaders/pane.frag.qsb"
+    }
+
+    component Shrunk: ShaderEffectSource {
+        textureSize { width: pane.texelsWide; height: pane.texelsHigh }
+        visible: false
+        smooth: true
+    }
+
+    component BlurPass: ShaderEffect {
+        required property ShaderEffectSource source
+        required property vector2d stride
+
+        width: pane.texelsWide
+        height: pane.texelsHigh
+        visible: false
+        fragmentShader: "qrc:/qt/qml/Pelko/shaders/blur.frag.qsb"
     }
 }

@@ -13,7 +13,7 @@ Item {
         radius: shadow.radius
         drop: shadow.kind.shadowDrop
         blur: shadow.kind.shadowBlur
-        color: Qt.rgba(0, 0, 0, shadow.kind.shadowStrength)
+        color: Qt.alpha(shadow.kind.shadowColor, shadow.kind.shadowStrength)
     }
 
     SoftShadow {

@@ -1,6 +1,7 @@
 #version 440
 
-// The second direction of the blur, livelier in colour and cut to the rounded shape of the glass.
+// The blurred ground at full size, livelier in colour and cut to the rounded shape of the glass. Four samples half a
+// texel apart instead of one: a single one would show the texels of the small picture as a faint grid.
 layout(location = 0) in vec2 qt_TexCoord0;
 layout(location = 0) out vec4 fragColor;
 
@@ -12,7 +13,7 @@ layout(std140, binding = 0) uniform buf {
     float saturation;
     vec4 under;
     vec2 plateSize;
-    vec2 stride;
+    vec2 texel;
 };
 
 layout(binding = 1) uniform sampler2D source;
@@ -25,11 +26,10 @@ float distanceToEdge(vec2 point, vec2 halfSize, float corner)
 
 void main()
 {
-    vec4 sum = texture(source, qt_TexCoord0) * 0.11575;
-    sum += (texture(source, qt_TexCoord0 + stride * 1.469) + texture(source, qt_TexCoord0 - stride * 1.469)) * 0.20940;
-    sum += (texture(source, qt_TexCoord0 + stride * 3.429) + texture(source, qt_TexCoord0 - stride * 3.429)) * 0.14030;
-    sum += (texture(source, qt_TexCoord0 + stride * 5.390) + texture(source, qt_TexCoord0 - stride * 5.390)) * 0.06830;
-    sum += (texture(source, qt_TexCoord0 + stride * 7.352) + texture(source, qt_TexCoord0 - stride * 7.352)) * 0.02412;
+    vec2 near = texel * 0.5;
+    vec4 sum = texture(source, qt_TexCoord0 + near) + texture(source, qt_TexCoord0 - near)
+        + texture(source, qt_TexCoord0 + vec2(near.x, -near.y)) + texture(source, qt_TexCoord0 + vec2(-near.x, near.y));
+    sum *= 0.25;
     sum += under * (1.0 - sum.a);
     float grey = dot(sum.rgb, vec3(0.2126, 0.7152, 0.0722));
     sum.rgb = clamp(mix(vec3(grey), sum.rgb, saturation), 0.0, sum.a);
