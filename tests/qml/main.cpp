@@ -1,4 +1,5 @@
 #include "EditorBench.h"
+#include "ShellFixture.h"
 
 #include <QQmlEngine>
 #include <QtQml/QQmlExtensionPlugin>
@@ -19,6 +20,7 @@ public Q_SLOTS:
     {
         engine->addImportPath(u"qrc:/qt/qml"_s);
         qmlRegisterType<EditorBench>("PelkoTest", 1, 0, "EditorBench");
+        qmlRegisterType<ShellFixture>("PelkoTest", 1, 0, "ShellFixture");
     }
 };
 

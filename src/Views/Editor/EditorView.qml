@@ -30,11 +30,21 @@ FocusScope {
         visible: !root.editor.firstBlockIsBanner || !page.atTop
     }
 
+    WindowDragArea {
+        anchors { left: parent.left; right: parent.right; top: parent.top }
+        height: Metrics.stripHeight
+        maximises: true
+    }
+
     TitleCapsule {
         anchors { horizontalCenter: page.horizontalCenter; top: parent.top; topMargin: (Metrics.stripHeight - height) / 2 }
         maximumWidth: page.width - 2 * Metrics.titleMargin
         title: root.editor.title
         backdrop: page
+    }
+
+    WindowDragArea {
+        anchors.fill: bar
     }
 
     BlockBar {

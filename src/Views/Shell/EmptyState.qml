@@ -7,6 +7,8 @@ FocusScope {
 
     required property MainViewModel main
 
+    readonly property int glowRise: 40
+
     Accessible.role: Accessible.Pane
     Accessible.name: message.text
 
@@ -14,7 +16,26 @@ FocusScope {
         anchors.fill: parent
     }
 
+    WindowDragArea {
+        anchors { left: parent.left; right: parent.right; top: parent.top }
+        height: Metrics.stripHeight
+        maximises: true
+    }
+
+    // Hardly to be seen: the light of the flame on the wall. A small blurred picture, enlarged, is soft enough.
+    FlameGlow {
+        anchors { centerIn: column; verticalCenterOffset: -root.glowRise }
+        width: 100
+        height: 100
+        margin: 40
+        scale: 5
+        color: FirePalette.amber
+        opacity: 0.10
+    }
+
     Column {
+        id: column
+
         anchors.centerIn: parent
         spacing: Metrics.space24
 
@@ -35,12 +56,22 @@ FocusScope {
         }
 
         WarmButton {
+            id: start
+
             anchors.horizontalCenter: parent.horizontalCenter
             focus: true
             name: "Start Writing"
             icon.name: "flame"
             casts: true
             onTriggered: root.main.createDocument()
+
+            SoftShadow {
+                anchors.fill: parent
+                radius: height / 2
+                drop: 8
+                blur: 26
+                color: Qt.alpha(FirePalette.ember, 0.35)
+            }
         }
     }
 }

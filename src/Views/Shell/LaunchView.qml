@@ -34,7 +34,7 @@ FocusScope {
             NumberAnimation { duration: Motion.reduced ? Motion.fade : 450; easing.type: Easing.OutQuad }
         }
 
-        MouseArea {
+        WindowDragArea {
             anchors.fill: parent
             hoverEnabled: true
         }

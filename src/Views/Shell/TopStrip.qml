@@ -9,7 +9,6 @@ Item {
 
     property bool menuOpen: false
     readonly property alias menuButton: menuButton
-    readonly property Window window: Window.window
     readonly property bool filled: Window.visibility === Window.Maximized || Window.visibility === Window.FullScreen
 
     signal menuRequested()
@@ -37,20 +36,20 @@ Item {
         CaptionButton {
             name: "Minimise"
             icon.name: "window.minimise"
-            onTriggered: strip.window.showMinimized()
+            onTriggered: strip.Window.window.showMinimized()
         }
 
         CaptionButton {
             name: strip.filled ? "Restore" : "Maximise"
             icon.name: strip.filled ? "window.restore" : "window.maximise"
-            onTriggered: strip.filled ? strip.window.showNormal() : strip.window.showMaximized()
+            onTriggered: strip.filled ? strip.Window.window.showNormal() : strip.Window.window.showMaximized()
         }
 
         CaptionButton {
             name: "Close"
             icon.name: "window.close"
             closes: true
-            onTriggered: strip.window.close()
+            onTriggered: strip.Window.window.close()
         }
     }
 }

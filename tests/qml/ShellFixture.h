@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Shell/LaunchSequence.h"
+#include "Shell/MainViewModel.h"
+#include "Store/AppState.h"
+#include "support/ManualClock.h"
+#include "support/ManualDocumentFile.h"
+#include "support/ManualScheduler.h"
+
+#include <QtQml/qqml.h>
+
+/// A program without a disk, on a time that a view test moves: what the views of the shell are given.
+class ShellFixture : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(MainViewModel *main READ mainViewModel CONSTANT)
+    Q_PROPERTY(LaunchSequence *launch READ launch CONSTANT)
+
+public:
+    MainViewModel *mainViewModel() { return &m_main; }
+    LaunchSequence *launch() { return &m_launch; }
+
+    Q_INVOKABLE int documentCount() const { return static_cast<int>(m_appState.documents().size()); }
+    Q_INVOKABLE void advance(int milliseconds)
+    {
+        m_scheduler.advance(std::chrono::milliseconds(milliseconds));
+    }
+    Q_INVOKABLE void showNav() { m_appState.setShowNav(true); }
+    Q_INVOKABLE void open(int index) { m_appState.setOpenDocumentID(m_appState.documents()[index].id); }
+    Q_INVOKABLE void closeDocument() { m_appState.setOpenDocumentID(std::nullopt); }
+
+    Q_INVOKABLE void createDocuments(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            m_main.createDocument();
+    }
+
+    Q_INVOKABLE void failToSave()
+    {
+        m_file.writeError = QStringLiteral("No space left on device");
+        m_appState.save();
+    }
+
+    Q_INVOKABLE void requestDelete() { m_main.requestDelete(m_main.openDocumentID()); }
+
+private:
+    ManualScheduler m_scheduler;
+    ManualClock m_clock;
+    ManualDocumentFile m_file;
+    AppState m_appState{m_scheduler, m_clock, m_file};
+    MainViewModel m_main{m_appState, m_scheduler};
+    LaunchSequence m_launch{m_scheduler};
+};

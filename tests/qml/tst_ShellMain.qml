@@ -1,0 +1,183 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtTest
+import Pelko
+import PelkoTest
+
+Item {
+    id: stage
+
+    width: 1100
+    height: 750
+
+    Component {
+        id: shell
+
+        FocusScope {
+            readonly property alias program: program
+            readonly property alias alerts: alerts
+
+            anchors.fill: parent
+            focus: true
+
+            MainView { anchors.fill: parent; focus: true; main: program.main }
+            Alerts { id: alerts; anchors.fill: parent; main: program.main }
+
+            // Stands last so that it outlives the views.
+            ShellFixture { id: program }
+        }
+    }
+
+    TestCase {
+        name: "Shell"
+        when: windowShown
+
+        property var app
+        property var root
+
+        function init() {
+            root = createTemporaryObject(shell, stage)
+            app = root.program
+            root.forceActiveFocus()
+        }
+
+        // The first visible item below `item` that answers to `name`.
+        function named(item, name) {
+            if (!item.visible || (item.name === name && item.Accessible.name === name))
+                return item.visible ? item : null
+            for (const child of Array.from(item.children)) {
+                const found = named(child, name)
+                if (found)
+                    return found
+            }
+            return null
+        }
+
+        function reading(item, text) {
+            if (!item.visible || item.text === text)
+                return item.visible ? item : null
+            for (const child of Array.from(item.children)) {
+                const found = reading(child, text)
+                if (found)
+                    return found
+            }
+            return null
+        }
+
+        function test_emptyStateSaysItsLineAndOffersToWrite() {
+            verify(reading(root, app.main.emptyMessage))
+            const button = named(root, "Start Writing")
+            compare(button.Accessible.role, Accessible.Button)
+            verify(button.activeFocus)
+        }
+
+        function test_startWritingByKeyboardOpensAPage() {
+            keyClick(Qt.Key_Return)
+            compare(app.documentCount(), 1)
+            tryVerify(() => !named(root, "Start Writing"))
+            verify(named(root, "Heading"))
+        }
+
+        function test_startWritingByPointer() {
+            mouseClick(named(root, "Start Writing"))
+            compare(app.documentCount(), 1)
+        }
+
+        function test_anotherPageReplacesTheFirst() {
+            app.createDocuments(2)
+            app.open(0)
+            app.open(1)
+            app.closeDocument()
+            tryVerify(() => named(root, "Start Writing") && !named(root, "Heading"))
+        }
+
+        function test_aClickOverTheNavigationOnlyEndsIt() {
+            app.showNav()
+            const button = named(root, "Start Writing")
+            mouseClick(root, button.mapToItem(root, 20, 10).x, button.mapToItem(root, 20, 10).y)
+            verify(!app.main.showNav)
+            compare(app.documentCount(), 0)
+            mouseClick(button)
+            compare(app.documentCount(), 1)
+        }
+
+        function test_oneButtonAlerts_data() {
+            return [
+                { tag: "limit", raise: () => app.createDocuments(6), title: "Five is the limit.", button: "Fine",
+                  message: "You've got 5 docs in this space. Archive one first. Constraints breed creativity." },
+                { tag: "about", raise: () => app.main.run("about"), title: "Pelko", button: "Close",
+                  message: "Built by Dravel. Fueled by espresso and poor decisions." },
+                { tag: "error", raise: () => app.failToSave(), title: "", button: "Got it",
+                  message: "Save failed: No space left on device" }
+            ]
+        }
+
+        function test_oneButtonAlerts(row) {
+            for (const key of [Qt.Key_Return, Qt.Key_Space, Qt.Key_Escape]) {
+                row.raise()
+                verify(reading(root, row.title === "" ? app.main.errorTitle : row.title))
+                verify(reading(root, row.message))
+                verify(named(root.alerts, row.button).activeFocus)
+                keyClick(key)
+                tryVerify(() => !reading(root.alerts, row.message))
+            }
+        }
+
+        function test_anAlertGivesTheFocusBack() {
+            const button = named(root, "Start Writing")
+            app.main.run("about")
+            verify(!button.activeFocus)
+            keyClick(Qt.Key_Return)
+            verify(button.activeFocus)
+        }
+
+        function test_nahHasTheFocusWhenAskedToDelete() {
+            app.createDocuments(1)
+            app.requestDelete()
+            verify(named(root, "Nah").activeFocus)
+            keyClick(Qt.Key_Return)
+            verify(!app.main.showDeleteConfirmation)
+            compare(app.documentCount(), 1)
+        }
+
+        function test_deleteDeletes() {
+            app.createDocuments(1)
+            app.requestDelete()
+            keyClick(Qt.Key_Tab)
+            verify(named(root, "Delete").activeFocus)
+            keyClick(Qt.Key_Return)
+            compare(app.documentCount(), 0)
+            tryVerify(() => named(root, "Start Writing"))
+        }
+
+        function test_escapeDeletesNothing() {
+            app.createDocuments(1)
+            app.requestDelete()
+            keyClick(Qt.Key_Escape)
+            verify(!app.main.showDeleteConfirmation)
+            compare(app.documentCount(), 1)
+        }
+
+        function test_theMenuIsWorkedByKeyboard() {
+            keyClick(Qt.Key_F10)
+            keyClick(Qt.Key_Down)
+            verify(named(root, "New Document").activeFocus)
+            keyClick(Qt.Key_Return)
+            compare(app.documentCount(), 1)
+        }
+
+        function test_theMenuListsTheCommands() {
+            mouseClick(named(root, "Menu"))
+            for (const title of ["New Document", "About Pelko", "Quit"])
+                verify(named(root, title), title)
+            mouseClick(named(root, "About Pelko"))
+            verify(app.main.showAbout)
+        }
+
+        function test_theFrameHasNames() {
+            for (const name of ["Menu", "Minimise", "Maximise", "Close"])
+                verify(named(root, name), name)
+        }
+    }
+}
