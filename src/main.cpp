@@ -32,6 +32,7 @@ void describe(QGuiApplication &application)
     application.setApplicationName(u"Pelko"_s);
     application.setApplicationVersion(QLatin1StringView(PELKO_VERSION));
     application.setDesktopFileName(u"app.pelko.Pelko"_s);
+    application.setWindowIcon(QIcon(u":/app.pelko.Pelko.svg"_s));
 }
 } // namespace
 
