@@ -17,10 +17,7 @@ private Q_SLOTS:
 #endif
     }
 
-    void drawsInSoftwareWithoutAnyDevice()
-    {
-        QVERIFY(prefersSoftware());
-    }
+    void drawsInSoftwareWithoutAnyDevice() { QVERIFY(prefersSoftware()); }
 
     void drawsInSoftwareWithoutTheFolderOfDevices()
     {
@@ -66,10 +63,7 @@ private Q_SLOTS:
     }
 
 private:
-    bool prefersSoftware() const
-    {
-        return prefersSoftwareSceneGraph(m_environment, m_folder.path());
-    }
+    bool prefersSoftware() const { return prefersSoftwareSceneGraph(m_environment, m_folder.path()); }
 
     void addDevice(const QString &name)
     {

@@ -1,5 +1,6 @@
 #include "Store/DocumentWriter.h"
 #include "support/DataFileText.h"
+#include "support/WrittenPages.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -15,52 +16,17 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-PelkoDocument pageWith(const QString &content)
-{
-    PelkoDocument document(Space::work, 1);
-    document.blocks = {Block(BlockType::code, content)};
-    return document;
-}
-
 PelkoDocument datedPage(double date)
 {
     PelkoDocument document(Space::work, 0);
     document.updatedAt = date;
     return document;
 }
-
-QList<PelkoDocument> pages(int count)
-{
-    QList<PelkoDocument> documents;
-    for (int index = 0; index < count; ++index)
-        documents.append(pageWith(QString::number(index)));
-    return documents;
-}
-
-PelkoDocument pageWithPicture(qsizetype size)
-{
-    PelkoDocument document = pageWith(u"picture"_s);
-    document.blocks[0].imageData = QByteArray(size, '\xFF');
-    return document;
-}
 } // namespace
-
-using Change = std::function<void(QList<PelkoDocument> &)>;
-
-Q_DECLARE_METATYPE(Change)
 
 class TestDocumentWriter : public QObject
 {
     Q_OBJECT
-
-    /// The text that `writer` makes of `documents`.
-    static QByteArray write(DocumentWriter &writer, const QList<PelkoDocument> &documents)
-    {
-        MemorySink sink;
-        const auto error = writer.write(documents, sink);
-        Q_ASSERT(!error);
-        return sink.bytes;
-    }
 
 private Q_SLOTS:
     void theTextIsCompactAndLeavesOutWhatIsAbsent()
@@ -210,7 +176,7 @@ private Q_SLOTS:
             QVERIFY(writer.write(documents, sink));
         }
         documents[20].updatedAt.reset();
-        QCOMPARE(readDocuments(write(writer, documents)), documents);
+        QCOMPARE(readDocuments(dataFileText(writer, documents)), documents);
     }
 
     void picturesOfEveryLengthComeBack()
@@ -229,78 +195,6 @@ private Q_SLOTS:
         QVERIFY(error);
         QCOMPARE(error->description, u"No space left on device"_s);
         QVERIFY(sink.bytes.size() <= 1'000'000);
-    }
-
-    // What is remembered
-
-    void oneChangedPageAmongManyIsEncodedWithFewOthers()
-    {
-        QList<PelkoDocument> documents = pages(10'000);
-        DocumentWriter writer;
-        write(writer, documents);
-        QCOMPARE(writer.encodedDocuments(), 10'000);
-        documents[5'000].blocks[0].content = u"changed"_s;
-        QCOMPARE(write(writer, documents), dataFileText(documents));
-        QVERIFY(writer.encodedDocuments() <= 16);
-        write(writer, documents);
-        QCOMPARE(writer.encodedDocuments(), 0);
-    }
-
-    void everyKindOfChangeIsSeen_data()
-    {
-        QTest::addColumn<Change>("change");
-        const auto add = [](const char *name, const Change &change) { QTest::newRow(name) << change; };
-        add("content", [](auto &documents) { documents[17].blocks[0].content += u'x'; });
-        add("todo", [](auto &documents) { documents[17].blocks[0].todos = QList{TodoItem()}; });
-        add("block type", [](auto &documents) { documents[17].blocks[0].type = BlockType::quote; });
-        add("new block", [](auto &documents) { documents[17].blocks.append(Block(BlockType::code)); });
-        add("no blocks", [](auto &documents) { documents[17].blocks.clear(); });
-        add("id", [](auto &documents) { documents[17].id = QUuid::createUuid(); });
-        add("space", [](auto &documents) { documents[17].space = Space::journal; });
-        add("createdAt", [](auto &documents) { documents[17].createdAt = 2; });
-        add("updatedAt", [](auto &documents) { documents[17].updatedAt = 2; });
-        add("isPinned", [](auto &documents) { documents[17].isPinned = false; });
-        add("isArchived", [](auto &documents) { documents[17].isArchived = false; });
-        add("picture", [](auto &documents) { documents[17].blocks[0].imageData = "p"; });
-        add("appended", [](auto &documents) { documents.append(pageWith(u"new"_s)); });
-        add("removed first", [](auto &documents) { documents.removeFirst(); });
-        add("removed last", [](auto &documents) { documents.removeLast(); });
-        add("removed all", [](auto &documents) { documents.clear(); });
-        add("moved", [](auto &documents) { documents.move(3, 30); });
-        add("blocks of another page", [](auto &documents) { documents[3].blocks = documents[30].blocks; });
-    }
-
-    void everyKindOfChangeIsSeen()
-    {
-        QFETCH(Change, change);
-        QList<PelkoDocument> documents = pages(40);
-        DocumentWriter writer;
-        write(writer, documents);
-        change(documents);
-        QCOMPARE(write(writer, documents), dataFileText(documents));
-        change(documents = pages(40));
-        QCOMPARE(write(writer, documents), dataFileText(documents));
-    }
-
-    void pagesWithPicturesAreNotRemembered()
-    {
-        const QList documents{pageWithPicture(100)};
-        DocumentWriter writer;
-        write(writer, documents);
-        write(writer, documents);
-        QCOMPARE(writer.encodedDocuments(), 1);
-    }
-
-    void noMoreIsRememberedThanTheLimit()
-    {
-        QList<PelkoDocument> documents;
-        for (int index = 0; index < 64; ++index)
-            documents.append(pageWith(QString(DocumentWriter::memoryLimit / 32, u'x')));
-        DocumentWriter writer;
-        write(writer, documents);
-        QCOMPARE(write(writer, documents), dataFileText(documents));
-        QVERIFY(writer.encodedDocuments() >= 32);
-        QVERIFY(writer.encodedDocuments() <= 48);
     }
 };
 
