@@ -268,6 +268,14 @@ Item {
             verify(named("Plan").length === 1)
         }
 
+        function test_opening_shows_the_empty_block_that_takes_the_caret() {
+            const lines = Array.from({ length: 60 }, (_, i) => ({ type: "textSmall", content: "line " + i }))
+            open(lines.concat([{ type: "quote" }]))
+            const field = named("Quote").find(item => item.Accessible.role === Accessible.EditableText)
+            verify(field.activeFocus)
+            tryVerify(() => field.mapToItem(page, 0, field.height).y < page.height - Metrics.barHeight)
+        }
+
         function test_a_new_block_below_the_fold_is_scrolled_into_sight() {
             open(Array.from({ length: 60 }, (_, i) => ({ type: "textSmall", content: "line " + i })))
             bench.editor.addBlock("quote")

@@ -18,6 +18,7 @@ FocusScope {
     function focusBlock(blockID: string, todoID: string, caret: int) {
         list.forceLayout()
         list.currentIndex = editor.rowOf(blockID)
+        list.positionViewAtIndex(list.currentIndex, ListView.Contain)
         list.currentRow?.block.takeFocus(todoID, caret)
     }
 
@@ -31,9 +32,15 @@ FocusScope {
     }
 
     /// Scrolls just as far as it takes to see the caret.
-    function reveal(caret: rect) {
-        const above = Math.min(caret.y - Metrics.pageTop - list.contentY, 0)
-        const below = Math.max(caret.y + caret.height + Metrics.space24 - list.contentY - height, 0)
+    function revealCaret() {
+        const row = list.currentRow
+        if (row?.activeFocus)
+            show(list.contentItem.mapFromItem(row.block, row.block.caretRectangle))
+    }
+
+    function show(place: rect) {
+        const above = Math.min(place.y - Metrics.pageTop - list.contentY, 0)
+        const below = Math.max(place.y + place.height + Metrics.space24 - list.contentY - height, 0)
         list.contentY = Math.max(list.contentY + (above || below), list.originY - list.topMargin)
     }
 
@@ -57,8 +64,16 @@ FocusScope {
         measure: Math.min(Metrics.measure, root.width - 2 * Metrics.pageMargin)
         onFocusEntered: row => list.currentIndex = row
         onMenuRequested: (blockID, item, position) => root.openMenu(blockID, item, position)
-        onRevealRequested: (item, rectangle) => root.reveal(list.contentItem.mapFromItem(item, rectangle))
+        onRevealRequested: reveal.start()
         onWalkedOut: (row, forward) => root.walkFrom(row, forward)
+    }
+
+    // Rows that were just made or moved find their place with the next layout.
+    Timer {
+        id: reveal
+
+        interval: 0
+        onTriggered: root.revealCaret()
     }
 
     Connections {

@@ -53,8 +53,10 @@ FocusScope {
     width: ListView.view?.width ?? 0
     onActiveFocusChanged: {
         activeFocus ? page.editor.focusGained(blockID) : page.editor.focusLost(blockID)
-        if (activeFocus)
-            page.focusEntered(index)
+        if (!activeFocus)
+            return
+        page.focusEntered(index)
+        page.revealRequested()
     }
 
     ParallelAnimation {
@@ -129,7 +131,7 @@ FocusScope {
     Connections {
         function onCaretRectangleChanged() {
             if (root.block.activeFocus)
-                root.page.revealRequested(root.block, root.block.caretRectangle)
+                root.page.revealRequested()
         }
 
         target: root.block

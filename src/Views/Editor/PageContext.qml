@@ -11,7 +11,7 @@ QtObject {
     signal focusEntered(int row)
     /// The keyboard walks out of a row.
     signal walkedOut(int row, bool forward)
-    /// The writer should see this place of an item.
-    signal revealRequested(Item item, rect rectangle)
+    /// The writer should see the caret.
+    signal revealRequested
     signal menuRequested(string blockID, Item item, point position)
 }
