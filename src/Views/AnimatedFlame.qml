@@ -31,9 +31,8 @@ Item {
 
     FlameGlow {
         anchors.centerIn: parent
-        width: flame.size + 2 * margin
-        height: width
-        margin: flame.largestGlow
+        flameSize: flame.size
+        radius: flame.largestGlow
         color: FirePalette.amber
         opacity: flame.glowOpacity
         // One blurred picture serves every radius: scaled until it reaches just as far beyond the flame.

@@ -46,7 +46,11 @@ void FlameShape::paintPicture(QPainter &painter, const QSizeF &size)
 
 FlameGlow::FlameGlow(QQuickItem *parent) : PictureItem(parent)
 {
-    connect(this, &FlameGlow::glowChanged, this, &FlameGlow::repaintPicture);
+    connect(this, &FlameGlow::glowChanged, this, [this] {
+        const qreal edge = m_flameSize + 2 * softReach(m_radius) + 2;
+        setImplicitSize(edge, edge);
+        repaintPicture();
+    });
 }
 
 void FlameGlow::paintPicture(QPainter &painter, const QSizeF &size)
@@ -57,11 +61,11 @@ void FlameGlow::paintPicture(QPainter &painter, const QSizeF &size)
     QPainter shapePainter(&shape);
     shapePainter.setRenderHint(QPainter::Antialiasing);
     shapePainter.scale(ratio, ratio);
-    shapePainter.translate(m_margin, m_margin);
-    shapePainter.scale((size.width() - 2 * m_margin) / gridSize, (size.height() - 2 * m_margin) / gridSize);
+    shapePainter.translate((size.width() - m_flameSize) / 2, (size.height() - m_flameSize) / 2);
+    shapePainter.scale(m_flameSize / gridSize, m_flameSize / gridSize);
     shapePainter.fillPath(flameOutline(), m_color);
     shapePainter.end();
-    QImage glow = softened(shape, m_margin * ratio, m_color);
+    QImage glow = softened(shape, m_radius * ratio, m_color);
     glow.setDevicePixelRatio(ratio);
     painter.drawImage(0, 0, glow);
 }

@@ -35,7 +35,8 @@ class FlameGlow : public PictureItem
 {
     Q_OBJECT
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY glowChanged)
-    Q_PROPERTY(qreal margin MEMBER m_margin NOTIFY glowChanged)
+    Q_PROPERTY(qreal flameSize MEMBER m_flameSize NOTIFY glowChanged)
+    Q_PROPERTY(qreal radius MEMBER m_radius NOTIFY glowChanged)
     QML_ELEMENT
 
 public:
@@ -49,5 +50,6 @@ protected:
 
 private:
     QColor m_color;
-    qreal m_margin = 0;
+    qreal m_flameSize = 0;
+    qreal m_radius = 0;
 };

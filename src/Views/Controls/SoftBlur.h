@@ -2,6 +2,11 @@
 
 #include <QImage>
 
-/// Spreads a shape softly over `radius` pixels to every side and colours it, for shadows and glows. The
-/// picture must leave that much room around the shape. Close to a Gaussian of half the radius.
+/// How far a shape spreads when it is softened by `radius`: the picture must leave that much room around it.
+constexpr qreal softReach(qreal radius)
+{
+    return 1.5 * radius;
+}
+
+/// The shape, softened and in one colour, for shadows and glows: close to a Gaussian of half the radius.
 QImage softened(const QImage &shape, qreal radius, const QColor &color);

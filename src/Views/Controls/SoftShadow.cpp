@@ -92,9 +92,14 @@ QSGNode *SoftShadow::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
     return patch;
 }
 
+qreal SoftShadow::margin() const
+{
+    return softReach(m_blur) + qAbs(m_drop) + 1;
+}
+
 QSizeF SoftShadow::pictureShape() const
 {
-    const qreal enough = 2 * (m_radius + m_blur) + 1;
+    const qreal enough = 2 * (m_radius + softReach(m_blur)) + 1;
     return {qMin(width(), enough), qMin(height(), enough)};
 }
 

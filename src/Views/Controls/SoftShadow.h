@@ -28,7 +28,7 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData &value) override;
 
 private:
-    qreal margin() const { return m_blur + qAbs(m_drop); }
+    qreal margin() const;
     /// The smallest shape whose shadow, stretched in the middle, is the shadow of this one.
     QSizeF pictureShape() const;
     QImage picture(const QSizeF &shape, qreal ratio) const;

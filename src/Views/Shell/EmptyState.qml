@@ -25,9 +25,8 @@ FocusScope {
     // Hardly to be seen: the light of the flame on the wall. A small blurred picture, enlarged, is soft enough.
     FlameGlow {
         anchors { centerIn: column; verticalCenterOffset: -root.glowRise }
-        width: 100
-        height: 100
-        margin: 40
+        flameSize: 20
+        radius: 40
         scale: 5
         color: FirePalette.amber
         opacity: 0.10
