@@ -99,8 +99,10 @@ void MainViewModel::confirmDelete()
 {
     if (!m_docToDelete)
         return;
-    m_appState.permanentlyDeleteDocument(*m_docToDelete);
+    // The alert closes first and gives the focus back; then whatever is opened next can take it.
+    const PelkoDocument document = *m_docToDelete;
     cancelDelete();
+    m_appState.permanentlyDeleteDocument(document);
 }
 
 void MainViewModel::cancelDelete()

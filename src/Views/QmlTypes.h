@@ -27,3 +27,9 @@ struct LaunchSequenceForQml {
     QML_NAMED_ELEMENT(LaunchSequence)
     QML_UNCREATABLE("Handed in by the program.")
 };
+
+struct MenuCommandForQml {
+    Q_GADGET
+    QML_FOREIGN(MenuCommand)
+    QML_VALUE_TYPE(menuCommand)
+};

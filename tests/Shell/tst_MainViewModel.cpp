@@ -235,6 +235,19 @@ private Q_SLOTS:
         QCOMPARE(program.main.openDocumentID(), documents[1].id.toString(QUuid::WithoutBraces));
     }
 
+    void theAlertIsGoneBeforeTheNextPageOpens()
+    {
+        Program program;
+        program.createDocuments(2);
+        bool wasAsking = true;
+        connect(&program.main, &MainViewModel::openDocumentIDChanged, this,
+                [&] { wasAsking = program.main.showDeleteConfirmation(); });
+        program.main.requestDelete(program.openID());
+        program.main.confirmDelete();
+
+        QVERIFY(!wasAsking);
+    }
+
     void deletingTheLastPageShowsTheEmptyState()
     {
         Program program;

@@ -132,6 +132,21 @@ Item {
             verify(button.activeFocus)
         }
 
+        function test_anAlertGivesTheCaretBack() {
+            app.createDocuments(1)
+            app.advance(1000)
+            const caret = stage.Window.activeFocusItem
+            verify(caret instanceof TextEdit)
+            app.main.run("about")
+            verify(!caret.activeFocus)
+            keyClick(Qt.Key_Escape)
+            verify(caret.activeFocus)
+            keyClick(Qt.Key_F10)
+            verify(!caret.activeFocus)
+            keyClick(Qt.Key_Escape)
+            verify(caret.activeFocus)
+        }
+
         function test_nahHasTheFocusWhenAskedToDelete() {
             app.createDocuments(1)
             app.requestDelete()
@@ -148,7 +163,7 @@ Item {
             verify(named(root, "Delete").activeFocus)
             keyClick(Qt.Key_Return)
             compare(app.documentCount(), 0)
-            tryVerify(() => named(root, "Start Writing"))
+            tryVerify(() => named(root, "Start Writing") && named(root, "Start Writing").activeFocus)
         }
 
         function test_escapeDeletesNothing() {

@@ -34,6 +34,7 @@ FocusScope {
 
         anchors.fill: parent
         focus: true
+        onCurrentItemChanged: if (currentItem) currentItem.focus = true
         replaceEnter: Fade { from: 0; to: 1 }
         replaceExit: Fade { from: 1; to: 0 }
     }
