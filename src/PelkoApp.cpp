@@ -11,6 +11,11 @@ PelkoApp::PelkoApp()
 {
     QObject::connect(&m_main, &MainViewModel::quitRequested, QCoreApplication::instance(),
                      &QCoreApplication::quit, Qt::QueuedConnection);
+    // A system without some QML module: the engine has said on standard error which; there is no window to
+    // wait for.
+    QObject::connect(
+        &m_engine, &QQmlApplicationEngine::objectCreationFailed, QCoreApplication::instance(),
+        [] { QCoreApplication::exit(1); }, Qt::QueuedConnection);
     m_engine.addImportPath(u"qrc:/qt/qml"_s);
     m_engine.setInitialProperties(
         {{u"main"_s, QVariant::fromValue(&m_main)}, {u"launch"_s, QVariant::fromValue(&m_launch)}});

@@ -5,7 +5,7 @@ import Pelko
 
 /// The app menu, made from the table of commands.
 PopupMenu {
-    id: menu
+    id: appMenu
 
     required property MainViewModel main
 
@@ -13,16 +13,16 @@ PopupMenu {
     minimumWidth: 240
 
     Repeater {
-        model: menu.main.menuCommands
+        model: appMenu.main.menuCommands
 
         PopupMenuRow {
             required property var modelData
 
-            menu: menu
+            menu: appMenu
             name: modelData.title
             icon.name: modelData.symbol
             keys: modelData.shortcut
-            onTriggered: menu.main.run(modelData.id)
+            onTriggered: appMenu.main.run(modelData.id)
         }
     }
 }
