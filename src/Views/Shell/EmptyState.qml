@@ -27,9 +27,9 @@ FocusScope {
         anchors { centerIn: column; verticalCenterOffset: -root.glowRise }
         flameSize: 20
         radius: 40
-        scale: 5
-        color: FirePalette.amber
-        opacity: 0.10
+        scale: 6
+        color: FirePalette.ember
+        opacity: 0.8
     }
 
     Column {
@@ -55,22 +55,12 @@ FocusScope {
         }
 
         WarmButton {
-            id: start
-
             anchors.horizontalCenter: parent.horizontalCenter
             focus: true
             name: "Start Writing"
             icon.name: "flame"
             casts: true
             onTriggered: root.main.createDocument()
-
-            SoftShadow {
-                anchors.fill: parent
-                radius: height / 2
-                drop: 8
-                blur: 26
-                color: Qt.alpha(FirePalette.ember, 0.35)
-            }
         }
     }
 }
