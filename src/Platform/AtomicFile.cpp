@@ -60,8 +60,7 @@ AtomicFile::~AtomicFile()
 std::optional<FileError> AtomicFile::open(const fs::path &path)
 {
     m_target = behindLinks(path);
-    struct stat existing {
-    };
+    struct stat existing = {};
     const bool exists = ::stat(m_target.c_str(), &existing) == 0;
     if (!exists && errno != ENOENT)
         return lastSystemError();

@@ -41,8 +41,7 @@ DocumentFile::Contents readFile(const fs::path &path)
     const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!file.isOpen())
         return errno == ENOENT ? DocumentFile::Contents() : lastSystemError();
-    struct stat status {
-    };
+    struct stat status = {};
     if (::fstat(file.number(), &status) != 0)
         return lastSystemError();
     if (!S_ISREG(status.st_mode))
