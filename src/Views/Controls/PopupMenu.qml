@@ -49,6 +49,8 @@ ModalLayer {
     }
 
     motion: PelkoAnimation.micro
+    // A menu begins without a choice, whatever was chosen when it was last open.
+    onOpened: card.forceActiveFocus(Qt.PopupFocusReason)
     onEscaped: close()
     onClickedBeside: close()
     Keys.onDownPressed: choose(chosen() + 1)

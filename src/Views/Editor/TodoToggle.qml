@@ -12,6 +12,9 @@ PressableControl {
     Accessible.checked: done
     Accessible.role: Accessible.CheckBox
     Accessible.onToggleAction: clicked()
+    // Qt 6.4 gives a button that is not checkable the role of a button, whatever stands above.
+    checkable: true
+    checked: done
     implicitHeight: Metrics.todoToggleSize
     implicitWidth: Metrics.todoToggleSize
     name: label === "" ? qsTr("To do...") : label
