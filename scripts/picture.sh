@@ -56,7 +56,7 @@ card_is_gone() {
     [ "$(differing_pixels "$work/before.png" "$work/after.png")" -lt 4000 ]
 }
 
-Xvfb -displayfd 3 -screen 0 1100x750x24 -nolisten tcp 3>"$work/number" 2>"$work/server.log" &
+Xvfb -displayfd 3 -screen 0 1100x750x24 -nolisten tcp -noreset 3>"$work/number" 2>"$work/server.log" &
 server=$!
 if ! wait_until 20 server_is_ready; then
     cat "$work/server.log" >&2

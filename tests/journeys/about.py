@@ -22,6 +22,7 @@ def about(pelko):
         pelko.wait_no_alert()
 
     # The same without a pointer.
+    pelko.point_at(pelko.button("Start Writing"))
     pelko.keys("F10")
     pelko.wait_for("About Pelko")
     pelko.keys("Down")

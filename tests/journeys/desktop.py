@@ -32,7 +32,7 @@ def until(condition, what, seconds=30):
 def start_display():
     read, write = os.pipe()
     server = subprocess.Popen(
-        ["Xvfb", "-displayfd", str(write), "-screen", "0", "1400x1000x24", "-nolisten", "tcp"],
+        ["Xvfb", "-displayfd", str(write), "-screen", "0", "1400x1000x24", "-nolisten", "tcp", "-noreset"],
         pass_fds=[write],
         stderr=subprocess.DEVNULL,
     )

@@ -38,19 +38,40 @@ def walk(node):
         return
 
 
+def alive(question):
+    """A question about a node whose answer is no when the node has gone meanwhile."""
+
+    def asked(*arguments):
+        try:
+            return question(*arguments)
+        except GLib.Error:
+            return False
+
+    return asked
+
+
+@alive
 def is_showing(node):
     states = node.get_state_set()
     return states.contains(State.SHOWING) and states.contains(State.VISIBLE)
 
 
+@alive
+def is_called(node, name, roles):
+    return (name is None or node.get_name() == name) and (roles is None or node.get_role() in roles)
+
+
+@alive
 def is_checked(node):
     return node.get_state_set().contains(State.CHECKED)
 
 
+@alive
 def is_focused(node):
     return node.get_state_set().contains(State.FOCUSED)
 
 
+@alive
 def text_of(node):
     """What stands in a text field."""
     return Atspi.Text.get_text(node, 0, -1) if node.get_text_iface() else None
