@@ -7,6 +7,7 @@
 #include <QIcon>
 #include <QQuickWindow>
 
+#include <csignal>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -45,6 +46,8 @@ int main(int argc, char *argv[])
     if (prefersSoftwareSceneGraph(QProcessEnvironment::systemEnvironment(), QDir(u"/dev/dri"_s)))
         QQuickWindow::setSceneGraphBackend(u"software"_s);
 
+    // A file that may not grow any further is a failed save, not the end of the program.
+    std::signal(SIGXFSZ, SIG_IGN);
     QGuiApplication application(argc, argv);
     describe(application);
     PelkoApp app;

@@ -261,6 +261,22 @@ Item {
             compare(page.Window.activeFocusItem.Accessible.name, "Remove")
         }
 
+        function test_the_focus_ring_shows_only_where_the_keyboard_walked_data() {
+            return [{ tag: "Divider", kind: "divider" }, { tag: "Image", kind: "image" }]
+        }
+
+        function test_the_focus_ring_shows_only_where_the_keyboard_walked(row) {
+            open([{ type: row.kind }, { type: "textSmall", content: "b" }])
+            const block = named(row.tag).find(item => item.activeFocus)
+            const ring = everything(block).find(item => item instanceof FocusRing)
+            verify(block && !ring.shown)
+            bench.editor.focusRequested(fields()[0].parent.parent.parent.blockID, "", 0)
+            keyClick(Qt.Key_Backtab)
+            keyClick(Qt.Key_Backtab)
+            compare(page.Window.activeFocusItem, block)
+            compare(ring.shown, true)
+        }
+
         function test_the_title_follows_the_heading() {
             open([{ type: "textLarge", content: "" }])
             verify(named("Untitled").length === 1)

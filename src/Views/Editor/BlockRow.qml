@@ -30,6 +30,7 @@ FocusScope {
     }
 
     function enter(forward: bool) {
+        block.walkedTo = true
         const last = canDelete ? deleteButton : nextItemInFocusChain(true)
         const stop = forward ? nextItemInFocusChain(true) : last as Item
         stop.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
@@ -54,7 +55,7 @@ FocusScope {
     onActiveFocusChanged: {
         activeFocus ? page.editor.focusGained(blockID) : page.editor.focusLost(blockID)
         if (!activeFocus)
-            return
+            return block.walkedTo = false
         page.focusEntered(index)
         page.revealRequested()
     }

@@ -25,6 +25,6 @@ BlockEditor {
 
     FocusRing {
         controlRadius: 2
-        shown: root.activeFocus
+        shown: root.activeFocus && root.walkedTo
     }
 }

@@ -39,6 +39,6 @@ BlockEditor {
 
     FocusRing {
         controlRadius: Metrics.pictureRadius
-        shown: root.activeFocus
+        shown: root.activeFocus && root.walkedTo
     }
 }
