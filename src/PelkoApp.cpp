@@ -1,6 +1,8 @@
 #include "PelkoApp.h"
 
 #include <QCoreApplication>
+#include <QQuickItem>
+#include <QQuickWindow>
 #include <QtQml/QQmlExtensionPlugin>
 
 Q_IMPORT_QML_PLUGIN(PelkoPlugin)
@@ -20,4 +22,18 @@ PelkoApp::PelkoApp()
     m_engine.setInitialProperties(
         {{u"main"_s, QVariant::fromValue(&m_main)}, {u"launch"_s, QVariant::fromValue(&m_launch)}});
     m_engine.load(QUrl(u"qrc:/qt/qml/Pelko/Views/Shell/PelkoWindow.qml"_s));
+}
+
+PelkoApp::~PelkoApp()
+{
+    // Items go while their window lives. Left to the window they would outlive parts of it wherever an effect
+    // holds one of them, and the focus they lose is announced through those parts. Uppermost first: glass
+    // looks at what lies below.
+    for (QObject *root : m_engine.rootObjects()) {
+        if (const auto *window = qobject_cast<QQuickWindow *>(root)) {
+            QList<QQuickItem *> items = window->contentItem()->childItems();
+            while (!items.isEmpty())
+                delete items.takeLast();
+        }
+    }
 }

@@ -16,6 +16,7 @@ class PelkoApp
 {
 public:
     PelkoApp();
+    ~PelkoApp();
 
 private:
     // What is used by others stands first, so that it goes last.
