@@ -196,7 +196,7 @@ def screen_reader():
 
 def keep_traces(pelko, name):
     """What helps to understand a failure: the screen, the tree, the file and the words on standard error."""
-    folder = pathlib.Path(os.environ.get("PELKO_TRACES", "/tmp/pelko-journeys")) / name
+    folder = pathlib.Path(os.environ.get("PELKO_TRACES", f"/tmp/pelko-journeys/{name}"))
     folder.mkdir(parents=True, exist_ok=True)
     subprocess.run(["import", "-silent", "-window", "root", str(folder / "screen.png")])
     if pelko.root:
