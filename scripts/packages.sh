@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that the given purposes need and this machine lacks.
-# Usage: scripts/packages.sh build|run|display|test ...
+# Usage: scripts/packages.sh build|run|display|test|benchmark ...
 set -euo pipefail
 
 build=(
@@ -15,7 +15,8 @@ run=(
     qt6-qpa-plugins qt6-wayland qt6-image-formats-plugins
     libgl1-mesa-dri fonts-inter
 )
-display=(xvfb imagemagick)
+display=(xvfb xauth imagemagick)
+benchmark=(libbenchmark-dev)
 test=(
     clang-format-19 clang-tidy-19 shellcheck git
     desktop-file-utils appstream mandoc
@@ -29,6 +30,7 @@ names_of() {
     build) printf '%s\n' "${build[@]}" ;;
     run) printf '%s\n' "${run[@]}" ;;
     display) printf '%s\n' "${display[@]}" ;;
+    benchmark) printf '%s\n' "${benchmark[@]}" ;;
     test) printf '%s\n' "${test[@]}" ;;
     *)
         echo "packages.sh: no such purpose: $1" >&2

@@ -46,8 +46,12 @@ def start_display():
 
 def environment(home, display):
     """Only what the program needs: nothing of the developer's own desktop reaches it."""
-    folders = {"XDG_DATA_HOME": "data", "XDG_CONFIG_HOME": "config", "XDG_CACHE_HOME": "cache", "XDG_RUNTIME_DIR": "run"}
-    variables = {name: str(home / folder) for name, folder in folders.items()}
+    variables = {
+        "XDG_DATA_HOME": str(home / "data"),
+        "XDG_CONFIG_HOME": str(home / "config"),
+        "XDG_CACHE_HOME": str(home / "cache"),
+        "XDG_RUNTIME_DIR": str(home / "run"),
+    }
     for folder in variables.values():
         os.makedirs(folder, mode=0o700)
     passed_on = ("PATH", "PELKO_TRACES", "QT_QUICK_BACKEND", "QT_SCALE_FACTOR")

@@ -1,4 +1,4 @@
-"""Opens a library, writes with every typing shortcut, adds every kind of block, ticks, deletes, and finds it all again."""
+"""Opens a library, writes with every typing shortcut, adds every kind of block, ticks, deletes, finds it all again."""
 
 import json
 import time
