@@ -40,12 +40,16 @@ class Pelko:
     def start(self, *arguments, **changes):
         """Starts the program and waits until its window has the focus and the launch card has gone."""
         self.launch(*arguments, **changes)
-        self.root = until(lambda: screen_reader().application(self.process.pid), "the program is on the bus", 60)
+        self.root = until(self.on_the_bus, "the program is on the bus", 60)
         until(self.window, "the window is shown", 60)
         until(self.has_focus, "the window has the focus")
         corner = self.wait_for("Close", screen_reader().BUTTONS)
         until(lambda: colours_at(corner) > 1, "the launch card fades")
         self.stand_still()
+
+    def on_the_bus(self):
+        assert self.process.poll() is None, f"Pelko ended with {self.process.returncode} while starting"
+        return screen_reader().application(self.process.pid)
 
     def launch(self, *arguments, before=None, **changes):
         """Starts the program in a changed environment; `before` runs in the new process ahead of it."""
