@@ -10,8 +10,7 @@ build=(
 )
 run=(
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
-    qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-templates qml6-module-qtquick-layouts
-    qml6-module-qtquick-shapes qml6-module-qt-labs-qmlmodels
+    qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-templates qml6-module-qt-labs-qmlmodels
     qt6-qpa-plugins qt6-wayland qt6-image-formats-plugins
     libgl1-mesa-dri fonts-inter
 )
