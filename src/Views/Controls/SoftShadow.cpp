@@ -70,6 +70,8 @@ SoftShadow::SoftShadow(QQuickItem *parent) : QQuickItem(parent)
 
 QSGNode *SoftShadow::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
 {
+    if (!isVisible())
+        return node; // blurring takes a while: it waits until somebody can see it
     if (width() <= 0 || height() <= 0 || m_blur <= 0) {
         delete node;
         m_isStale = true;
@@ -134,6 +136,8 @@ void SoftShadow::geometryChange(const QRectF &newGeometry, const QRectF &oldGeom
 void SoftShadow::itemChange(ItemChange change, const ItemChangeData &value)
 {
     QQuickItem::itemChange(change, value);
+    if (change == ItemVisibleHasChanged)
+        update();
     if (change == ItemDevicePixelRatioHasChanged) {
         m_isStale = true;
         update();

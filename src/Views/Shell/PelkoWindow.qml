@@ -1,9 +1,8 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Pelko
 
-/// The main window: the launch card over the main view, in a frame of its own.
+/// The main window. It is on screen, in its colour, before anything else is made: what it holds follows its
+/// first frame.
 Window {
     id: window
 
@@ -17,36 +16,21 @@ Window {
     visible: true
     title: main.windowTitle
     color: FirePalette.deepBackground
+    onFrameSwapped: if (!afterFirstFrame.done) afterFirstFrame.start()
 
     WindowAccessor {}
 
-    LaunchView {
-        id: launchView
+    // The frame that was just handed over gets its turn on the screen first.
+    Timer {
+        id: afterFirstFrame
 
-        anchors.fill: parent
-        focus: true
-        main: window.main
-        launch: window.launch
-    }
+        property bool done: false
 
-    Alerts {
-        anchors.fill: parent
-        main: window.main
-        backdrop: launchView
-    }
-
-    WindowEdges {
-        anchors.fill: parent
-    }
-
-    Instantiator {
-        model: window.main.menuCommands
-        delegate: Shortcut {
-            required property var modelData
-
-            sequences: modelData.shortcut === "" ? [] : [modelData.shortcut]
-            context: Qt.WindowShortcut
-            onActivated: window.main.run(modelData.id)
+        interval: 0
+        onTriggered: {
+            done = true
+            Qt.createComponent("WindowContent.qml").createObject(window.contentItem,
+                                                                 { main: window.main, launch: window.launch })
         }
     }
 }

@@ -1,0 +1,46 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Pelko
+
+/// What the main window holds: the launch card over the main view, the alerts, the edges to resize by and the
+/// keys of the commands.
+FocusScope {
+    id: root
+
+    required property MainViewModel main
+    required property LaunchSequence launch
+
+    anchors.fill: parent
+    focus: true
+
+    LaunchView {
+        id: launchView
+
+        anchors.fill: parent
+        focus: true
+        main: root.main
+        launch: root.launch
+    }
+
+    Alerts {
+        anchors.fill: parent
+        main: root.main
+        backdrop: launchView
+    }
+
+    WindowEdges {
+        anchors.fill: parent
+    }
+
+    Instantiator {
+        model: root.main.menuCommands
+        delegate: Shortcut {
+            required property var modelData
+
+            sequences: modelData.shortcut === "" ? [] : [modelData.shortcut]
+            context: Qt.WindowShortcut
+            onActivated: root.main.run(modelData.id)
+        }
+    }
+}
