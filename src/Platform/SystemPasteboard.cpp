@@ -1,0 +1,36 @@
+#include "Platform/SystemPasteboard.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+std::unique_ptr<QMimeData> formsOf(const PasteboardItem &item)
+{
+    auto forms = std::make_unique<QMimeData>();
+    if (!item.text.isEmpty())
+        forms->setText(item.text);
+    if (!item.markdown.isEmpty())
+        forms->setData(u"text/markdown"_s, item.markdown.toUtf8());
+    if (!item.html.isEmpty())
+        forms->setHtml(item.html);
+    return forms;
+}
+
+} // namespace
+
+QString SystemPasteboard::text() const
+{
+    return QGuiApplication::clipboard()->text();
+}
+
+void SystemPasteboard::put(const PasteboardItem &item)
+{
+    QGuiApplication::clipboard()->setMimeData(formsOf(item).release());
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "Services/Pasteboard.h"
+
+/// The desktop's own pasteboard. Needs a QGuiApplication.
+class SystemPasteboard : public Pasteboard
+{
+public:
+    QString text() const override;
+    void put(const PasteboardItem &item) override;
+};
