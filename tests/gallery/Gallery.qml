@@ -99,6 +99,7 @@ Window {
 
     BubblyDeleteButton { x: 640; y: 78; backdrop: page }
     BubblyDeleteButton { x: 1020; y: 98; backdrop: page }
+    BannerToggleButton { x: 986; y: 98; isBanner: false; backdrop: page }
     GlassSurface { x: 740; y: 100; width: 120; height: 28; kind: Glass.capsule; backdrop: page }
     GlassSurface { x: 740; y: 150; width: 120; height: 80; radius: 16; kind: Glass.card; backdrop: page }
     GlassSurface { x: 880; y: 150; width: 160; height: 120; radius: 14; kind: Glass.menu; backdrop: page }

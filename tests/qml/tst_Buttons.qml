@@ -25,6 +25,12 @@ Item {
     }
 
     Component {
+        id: bannerComponent
+
+        BannerToggleButton { x: 40; y: 40; isBanner: false }
+    }
+
+    Component {
         id: captionComponent
 
         CaptionButton { x: 40; y: 40; icon.name: "window.close"; name: "Close"; closes: true }
@@ -58,6 +64,7 @@ Item {
             return [
                 { tag: "chip", component: chipComponent, name: "Quote", width: 36 },
                 { tag: "delete", component: deleteComponent, name: "Delete", width: 28 },
+                { tag: "banner", component: bannerComponent, name: "Banner", width: 28 },
                 { tag: "caption", component: captionComponent, name: "Close", width: 28 },
                 { tag: "warm", component: warmComponent, name: "Start Writing", width: 0 }
             ]
@@ -140,6 +147,41 @@ Item {
             tryCompare(bubble, "scale", 0.94)
             mouseRelease(bubble, 10, 10)
             tryCompare(bubble, "scale", 1)
+        }
+
+        function label(button) {
+            const everything = item => [item].concat(...Array.from(item.children).map(everything))
+            return everything(button).find(item => item instanceof Text && item.visible)
+        }
+
+        function test_bannerSaysWhatItWouldDo_data() {
+            return [
+                { tag: "picture", isBanner: false, says: "Banner", symbol: "rectangle.expand.vertical" },
+                { tag: "banner", isBanner: true, says: "Unbanner", symbol: "rectangle.compress.vertical" }
+            ]
+        }
+        function test_bannerSaysWhatItWouldDo(row) {
+            const button = make(bannerComponent)
+            button.isBanner = row.isBanner
+            compare(button.icon.name, row.symbol)
+            compare(button.Accessible.name, row.says)
+            compare(label(button), undefined)
+            mouseMove(button, 10, 10)
+            tryVerify(() => label(button)?.text === row.says)
+        }
+
+        function test_hoverThatTurnsBackHalfWayKeepsItsSpeed() {
+            const button = make(bannerComponent)
+            const values = []
+            button.hoverAmountChanged.connect(() => {
+                values.push(button.hoverAmount)
+                if (values.length === 1)
+                    mouseMove(stage, 390, 190)
+            })
+            mouseMove(button, 10, 10)
+            tryVerify(() => values.length > 2 && button.hoverAmount === 0)
+            verify(values[0] < 1 && values[1] > values[0], "still unfolding: " + values)
+            compare(button.width, 28)
         }
 
         function test_reducedMotionJumps() {
