@@ -96,6 +96,18 @@ std::optional<Edit> BlockOperations::deleteBlock(PelkoDocument document, const Q
     return Edit{std::move(document), std::nullopt};
 }
 
+std::optional<Edit> BlockOperations::moveBlock(PelkoDocument document, const QUuid &blockID, int rows)
+{
+    const qsizetype from = indexOf(document, blockID);
+    if (from < 0)
+        return std::nullopt;
+    const qsizetype to = std::clamp<qsizetype>(from + rows, 0, document.blocks.size() - 1);
+    if (from == to)
+        return std::nullopt;
+    document.blocks.move(from, to);
+    return Edit{std::move(document), std::nullopt};
+}
+
 std::optional<Edit> BlockOperations::toggleFullWidth(PelkoDocument document, const QUuid &blockID)
 {
     const qsizetype index = indexOf(document, blockID);

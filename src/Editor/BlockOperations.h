@@ -34,6 +34,9 @@ Edit addBlock(PelkoDocument document, BlockType type);
 /// Removes the block, unless it is the only one.
 std::optional<Edit> deleteBlock(PelkoDocument document, const QUuid &blockID);
 
+/// Moves the block so many rows down, or up when `rows` is negative. It stays where the page ends.
+std::optional<Edit> moveBlock(PelkoDocument document, const QUuid &blockID, int rows);
+
 /// Turns a picture into the banner at the top of the page, and back. A banner takes the place of a blank
 /// leading heading; without one the page gets its heading back. The focus names a new banner.
 std::optional<Edit> toggleFullWidth(PelkoDocument document, const QUuid &blockID);

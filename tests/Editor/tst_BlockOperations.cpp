@@ -118,6 +118,44 @@ private Q_SLOTS:
         QVERIFY(BlockOperations::offersDelete(page({block('A', heading), block('B')})));
     }
 
+    // Moving
+
+    void aBlockIsMoved_data()
+    {
+        QTest::addColumn<QString>("moved");
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<QString>("order");
+        QTest::newRow("down") << u"B"_s << 1 << u"ACBD"_s;
+        QTest::newRow("up") << u"C"_s << -1 << u"ACBD"_s;
+        QTest::newRow("to the top") << u"B"_s << -1 << u"BACD"_s;
+        QTest::newRow("to the end") << u"C"_s << 1 << u"ABDC"_s;
+        QTest::newRow("several rows") << u"A"_s << 2 << u"BCAD"_s;
+        QTest::newRow("no further than the end") << u"B"_s << 9 << u"ACDB"_s;
+        QTest::newRow("no further than the top") << u"C"_s << -9 << u"CABD"_s;
+    }
+
+    void aBlockIsMoved()
+    {
+        QFETCH(const QString, moved);
+        QFETCH(const int, rows);
+        QFETCH(const QString, order);
+        const auto edit =
+            BlockOperations::moveBlock(page({block('A', heading), block('B'), sticky('C', {}), image('D')}),
+                                       idOf(moved[0].toLatin1()), rows);
+        QCOMPARE(letters(edit.value().document), order);
+        QCOMPARE(edit->focus, std::nullopt);
+    }
+
+    void aBlockThatCannotMoveChangesNothing()
+    {
+        const PelkoDocument before = page({block('A'), block('B')});
+        QVERIFY(!BlockOperations::moveBlock(before, idOf('A'), -1));
+        QVERIFY(!BlockOperations::moveBlock(before, idOf('B'), 1));
+        QVERIFY(!BlockOperations::moveBlock(before, idOf('A'), 0));
+        QVERIFY(!BlockOperations::moveBlock(before, idOf('X'), 1));
+        QVERIFY(!BlockOperations::moveBlock(page({}), idOf('A'), 1));
+    }
+
     // Banner
 
     void anImageBecomesTheBannerAndBack_data()
