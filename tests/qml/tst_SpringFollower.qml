@@ -40,4 +40,19 @@ TestCase {
         follower.goal = 3
         compare(follower.value, 3)
     }
+
+    function test_goesAlongWithItsGoalWhenCarried() {
+        const follower = createTemporaryObject(followerComponent, this, { goal: 0, carried: true })
+        follower.goal = 3
+        compare(follower.value, 3)
+    }
+
+    function test_keepsTheWayThatIsLeftWhenCarried() {
+        const follower = createTemporaryObject(followerComponent, this, { goal: 0 })
+        follower.goal = 1
+        follower.carried = true
+        follower.goal = 11
+        compare(follower.value, 10)
+        tryCompare(follower, "value", 11)
+    }
 }

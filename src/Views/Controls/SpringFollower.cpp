@@ -39,10 +39,13 @@ void SpringFollower::setGoal(qreal goal)
 {
     if (m_hasGoal && m_goal == goal)
         return;
-    m_distance.position += m_goal - goal;
+    if (!m_isCarried)
+        m_distance.position += m_goal - goal;
     m_goal = goal;
     if (!m_hasGoal || m_isInstant)
         leap();
+    else if (m_isCarried)
+        Q_EMIT valueChanged();
     else
         m_ticks->restart();
     m_hasGoal = true;
@@ -63,6 +66,14 @@ void SpringFollower::setDampingFraction(qreal fraction)
         return;
     m_spring.dampingFraction = fraction;
     Q_EMIT springChanged();
+}
+
+void SpringFollower::setCarried(bool carried)
+{
+    if (m_isCarried == carried)
+        return;
+    m_isCarried = carried;
+    Q_EMIT carriedChanged();
 }
 
 void SpringFollower::setInstant(bool instant)

@@ -18,6 +18,7 @@ class SpringFollower : public QObject
     Q_PROPERTY(qreal value READ value NOTIFY valueChanged)
     Q_PROPERTY(qreal response READ response WRITE setResponse NOTIFY springChanged)
     Q_PROPERTY(qreal dampingFraction READ dampingFraction WRITE setDampingFraction NOTIFY springChanged)
+    Q_PROPERTY(bool carried READ isCarried WRITE setCarried NOTIFY carriedChanged)
     Q_PROPERTY(bool instant READ isInstant WRITE setInstant NOTIFY instantChanged)
     QML_ELEMENT
 
@@ -29,18 +30,22 @@ public:
     qreal value() const { return m_goal + m_distance.position; }
     qreal response() const { return m_spring.response; }
     qreal dampingFraction() const { return m_spring.dampingFraction; }
+    /// Goes along with its goal, at the distance that is still to go, instead of following it.
+    bool isCarried() const { return m_isCarried; }
     /// Jumps instead of moving, for those who asked for little motion.
     bool isInstant() const { return m_isInstant; }
 
     void setGoal(qreal goal);
     void setResponse(qreal seconds);
     void setDampingFraction(qreal fraction);
+    void setCarried(bool carried);
     void setInstant(bool instant);
 
 Q_SIGNALS:
     void goalChanged();
     void valueChanged();
     void springChanged();
+    void carriedChanged();
     void instantChanged();
 
 private:
@@ -54,6 +59,7 @@ private:
     qreal m_goal = 0;
     Spring::State m_distance;
     bool m_hasGoal = false;
+    bool m_isCarried = false;
     bool m_isInstant = false;
     std::unique_ptr<Ticks> m_ticks;
 };
