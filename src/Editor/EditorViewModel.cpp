@@ -28,6 +28,7 @@ EditorViewModel::EditorViewModel(AppState &appState, Scheduler &scheduler, const
     , m_appState(appState)
     , m_scheduler(scheduler)
     , m_documentID(documentID)
+    , m_drag(appState)
 {
     connect(&m_appState, &AppState::documentsChanged, this, &EditorViewModel::refresh);
     connect(&m_appState, &AppState::focusModeChanged, this, &EditorViewModel::focusInFocusMode);
@@ -85,6 +86,12 @@ void EditorViewModel::deleteBlock(const QString &blockID)
 {
     if (auto page = documentToMutate())
         commit(BlockOperations::deleteBlock(*std::move(page), QUuid(blockID)));
+}
+
+void EditorViewModel::moveBlock(const QString &blockID, int rows)
+{
+    if (auto page = documentToMutate())
+        commit(BlockOperations::moveBlock(*std::move(page), QUuid(blockID), rows));
 }
 
 void EditorViewModel::toggleFullWidth(const QString &blockID)

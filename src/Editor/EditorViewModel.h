@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Editor/BlockDrag.h"
 #include "Editor/BlockListModel.h"
 #include "Editor/Edit.h"
 #include "Services/Scheduler.h"
@@ -16,6 +17,7 @@ class EditorViewModel : public QObject
     Q_OBJECT
     Q_PROPERTY(QString documentID READ documentID CONSTANT)
     Q_PROPERTY(QObject *blocks READ blocks CONSTANT)
+    Q_PROPERTY(BlockDrag *drag READ drag CONSTANT)
     Q_PROPERTY(QString title READ title NOTIFY titleChanged)
     Q_PROPERTY(bool firstBlockIsBanner READ firstBlockIsBanner NOTIFY firstBlockIsBannerChanged)
     Q_PROPERTY(bool offersDelete READ offersDelete NOTIFY offersDeleteChanged)
@@ -28,6 +30,7 @@ public:
 
     QString documentID() const { return m_documentID.toString(QUuid::WithoutBraces); }
     QObject *blocks() { return &m_blocks; }
+    BlockDrag *drag() { return &m_drag; }
     QString title() const { return m_title; }
     bool firstBlockIsBanner() const { return m_firstBlockIsBanner; }
     /// Whether the context menu of a block offers to delete it.
@@ -43,6 +46,8 @@ public:
     /// Adds a block of the kind of that raw name at the end of the page.
     Q_INVOKABLE void addBlock(const QString &kind);
     Q_INVOKABLE void deleteBlock(const QString &blockID);
+    /// Moves the block so many rows down, or up when negative.
+    Q_INVOKABLE void moveBlock(const QString &blockID, int rows);
     Q_INVOKABLE void toggleFullWidth(const QString &blockID);
 
     /// Takes what a block's text field reports; see TypingRules. The page and the focus have followed when
@@ -89,6 +94,7 @@ private:
     const QUuid m_documentID;
 
     BlockListModel m_blocks;
+    BlockDrag m_drag;
     QString m_title;
     bool m_firstBlockIsBanner = false;
     bool m_offersDelete = false;

@@ -48,6 +48,8 @@ QtObject {
     readonly property color hoverWash: white(0.03)
     readonly property color hoverFill: white(0.09)
     readonly property color pressFill: white(0.14)
+    readonly property color takenWash: Qt.alpha(amber, 0.07)
+    readonly property color takenHairline: Qt.alpha(amberSoft, 0.24)
     readonly property color rowHover: white(0.05)
     readonly property color captionGlyph: white(0.62)
     readonly property color grip: white(0.34)

@@ -69,6 +69,14 @@ QtObject {
     readonly property int todoGap: 11
     readonly property int removeTodoGlyph: 10
 
+    readonly property int gripWidth: 22
+    readonly property int gripHeight: 26
+    readonly property int gripSymbol: 16
+    readonly property real liftedOpacity: 0.32
+    /// A dragged block this near to the edge of the page scrolls it; so many times further, the more a second.
+    readonly property int dragEdge: 64
+    readonly property int dragScroll: 14
+
     /// How far one notch of a wheel scrolls.
     readonly property int wheelStep: 72
 }

@@ -21,6 +21,13 @@ struct EditorViewModelForQml {
     QML_UNCREATABLE("Handed in by the program.")
 };
 
+struct BlockDragForQml {
+    Q_GADGET
+    QML_FOREIGN(BlockDrag)
+    QML_NAMED_ELEMENT(BlockDrag)
+    QML_UNCREATABLE("Part of an editor.")
+};
+
 struct LaunchSequenceForQml {
     Q_GADGET
     QML_FOREIGN(LaunchSequence)

@@ -202,6 +202,34 @@ private Q_SLOTS:
         QCOMPARE(file.writes(), 0);
     }
 
+    void aDragGoesThroughTheStoreAndKeepsTheFocus()
+    {
+        edit({block('A'), block('B'), block('C')});
+        editor->focusGained(id('A'));
+        ModelLog log(blocks());
+        editor->drag()->begin(id('A'));
+        editor->drag()->enter(id('C'));
+        QCOMPARE(log.take().value(0), u"0>2"_s);
+        editor->drag()->drop();
+        scheduler.advance(500ms);
+        QCOMPARE(letters(stored()), u"BCA"_s);
+        QCOMPARE(file.writes(), 1);
+        QCOMPARE(editor->focusedBlockID(), id('A'));
+    }
+
+    void aBlockMovedByKeysIsSavedOnceAndKeepsTheFocus()
+    {
+        edit({block('A'), block('B'), block('C')});
+        editor->focusGained(id('B'));
+        editor->moveBlock(id('B'), -1);
+        QCOMPARE(letters(stored()), u"BAC"_s);
+        QCOMPARE(editor->focusedBlockID(), id('B'));
+        editor->moveBlock(id('B'), -1);
+        QCOMPARE(letters(stored()), u"BAC"_s);
+        scheduler.advance(500ms);
+        QCOMPARE(file.writes(), 1);
+    }
+
     // Typing
 
     void oneKeyIsOneChangedRowAndOneWriteHalfASecondLater()

@@ -2,6 +2,8 @@
 
 #include <QGuiApplication>
 #include <QInputMethodEvent>
+#include <QMimeData>
+#include <QQuickWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -58,8 +60,9 @@ void EditorBench::replace(const QVariantList &blocks)
 
 QVariantList EditorBench::blocks() const
 {
+    const PelkoDocument page = m_appState.openDocument().value();
     QVariantList described;
-    for (const Block &block : m_appState.openDocument().value().blocks)
+    for (const Block &block : page.blocks)
         described.append(describe(block));
     return described;
 }
@@ -80,4 +83,22 @@ void EditorBench::commit(const QString &text, const QString &preedit)
     QInputMethodEvent event(preedit, {});
     event.setCommitString(text);
     QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+}
+
+int EditorBench::cursorOf(QQuickItem *item) const
+{
+    return item->window()->cursor().shape();
+}
+
+bool EditorBench::dropFromElsewhere(QQuickItem *item, QPointF place, const QString &format,
+                                    const QString &text) const
+{
+    QMimeData data;
+    data.setData(format, text.toUtf8());
+    QDragEnterEvent enter(place.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(item->window(), &enter);
+    QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    drop.ignore();
+    QCoreApplication::sendEvent(item->window(), &drop);
+    return enter.isAccepted() || drop.isAccepted();
 }

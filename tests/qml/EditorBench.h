@@ -7,6 +7,7 @@
 #include "support/ManualScheduler.h"
 
 #include <QPointer>
+#include <QQuickItem>
 #include <QVariantList>
 
 #include <memory>
@@ -32,6 +33,14 @@ public:
     /// Sends what an input method composes to the focused field, and what it settles on.
     Q_INVOKABLE void compose(const QString &preedit);
     Q_INVOKABLE void commit(const QString &text, const QString &preedit = {});
+    /// How often the data file was written.
+    Q_INVOKABLE int saves() const { return m_file.writes(); }
+    /// The shape of the pointer in the window of that item.
+    Q_INVOKABLE int cursorOf(QQuickItem *item) const;
+    /// Drags data of another program into the item's window and lets it go there. Tells whether any of it was
+    /// accepted.
+    Q_INVOKABLE bool dropFromElsewhere(QQuickItem *item, QPointF place, const QString &format,
+                                       const QString &text) const;
 
 Q_SIGNALS:
     void editorChanged();

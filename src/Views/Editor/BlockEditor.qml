@@ -1,4 +1,5 @@
 import QtQuick
+import Pelko
 
 /// What the row of a block asks of the editor of its kind.
 FocusScope {
@@ -6,6 +7,9 @@ FocusScope {
 
     /// Where the caret stands, in this item, while it is here.
     property rect caretRectangle
+
+    /// How far below the top its first line stands, which is where the grip is.
+    property real firstLine: Math.min(height, Metrics.gripHeight) / 2
 
     /// The keyboard walked here, so the place of the focus has to be plain to see.
     property bool walkedTo: false

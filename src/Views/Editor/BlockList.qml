@@ -77,6 +77,26 @@ FocusScope {
     }
 
     Connections {
+        function onRowsAboutToBeMoved() {
+            context.reorderBegan()
+            reorder.start()
+        }
+
+        target: root.editor.blocks
+    }
+
+    // What else changed with the order follows at once.
+    Timer {
+        id: reorder
+
+        interval: 0
+        onTriggered: {
+            list.forceLayout()
+            context.reorderEnded()
+        }
+    }
+
+    Connections {
         function onFocusRequested(blockID: string, todoID: string, caret: int) {
             root.focusBlock(blockID, todoID, caret)
         }
@@ -87,6 +107,15 @@ FocusScope {
         }
 
         target: root.editor
+    }
+
+    BlockDragArea {
+        id: dragArea
+
+        anchors.fill: parent
+        blocks: root.editor.drag
+        list: list
+        onScrollRequested: distance => scroll.scrollBy(distance)
     }
 
     ListView {
@@ -149,6 +178,11 @@ FocusScope {
 
         list: list
         onFinished: root.editor.scrolled()
+    }
+
+    LiftedBlock {
+        anchors.fill: parent
+        area: dragArea
     }
 
     PelkoScrollBar {

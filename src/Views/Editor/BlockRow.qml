@@ -19,6 +19,10 @@ FocusScope {
     /// A new row grows into its place, so that what stands below moves aside instead of jumping.
     property real growth: 1
 
+    readonly property BlockDrag drag: page.editor.drag
+    readonly property bool lifted: drag.draggingBlockID === blockID
+    readonly property bool pointedAt: hover.hovered && drag.draggingBlockID === ""
+
     function owns(item: Item) : bool {
         return item !== null && (item === root || owns(item.parent))
     }
@@ -40,6 +44,14 @@ FocusScope {
         page.menuRequested(blockID, block, Qt.point(0, block.height))
     }
 
+    function moveBlock(event: KeyEvent, rows: int) {
+        event.accepted = event.modifiers === Qt.AltModifier
+        if (!event.accepted)
+            return
+        page.editor.moveBlock(blockID, rows)
+        page.revealRequested()
+    }
+
     Keys.onBacktabPressed: walk(false)
     Keys.onMenuPressed: openMenu()
     Keys.onPressed: event => {
@@ -47,9 +59,12 @@ FocusScope {
         if (event.accepted)
             openMenu()
     }
+    Keys.onDownPressed: event => moveBlock(event, 1)
+    Keys.onUpPressed: event => moveBlock(event, -1)
     Keys.onTabPressed: walk(true)
 
     ListView.onAdd: arrival.start()
+    transform: RowSlide { page: root.page; place: root.y + body.y }
     implicitHeight: (body.y + body.height) * growth
     width: ListView.view?.width ?? 0
     onActiveFocusChanged: {
@@ -92,10 +107,11 @@ FocusScope {
 
     Rectangle {
         anchors { fill: body; margins: -Metrics.space12 }
-        color: FirePalette.hoverWash
-        opacity: hover.hovered ? 1 : 0
+        border { width: root.lifted ? 1 : 0; color: FirePalette.takenHairline }
+        color: root.lifted ? FirePalette.takenWash : FirePalette.hoverWash
+        opacity: root.pointedAt || root.lifted ? 1 : 0
         radius: Metrics.washRadius
-        visible: opacity > 0 && root.kind !== "divider"
+        visible: opacity > 0 && (root.kind !== "divider" || root.lifted)
 
         Behavior on opacity {
             NumberAnimation { duration: PelkoAnimation.micro.duration; easing: PelkoAnimation.micro.curve }
@@ -108,14 +124,31 @@ FocusScope {
         anchors.horizontalCenter: parent.horizontalCenter
         focus: true
         height: root.block.implicitHeight
+        opacity: root.lifted ? Metrics.liftedOpacity : 1
         width: root.page.measure
         y: BlockKinds.gap(root.kindAbove, root.kind)
+
+        Behavior on opacity {
+            NumberAnimation { duration: Motion.reduced ? Motion.fade : 250; easing.type: Easing.InOutQuad }
+        }
+    }
+
+    BlockGrip {
+        anchors { right: body.left; rightMargin: Metrics.space12 }
+        opacity: root.pointedAt ? 1 : 0
+        visible: root.page.editor.offersDelete && opacity > 0
+        y: body.y + root.block.firstLine - height / 2
+        onTriggered: root.openMenu()
+
+        Behavior on opacity {
+            NumberAnimation { duration: PelkoAnimation.micro.duration; easing: PelkoAnimation.micro.curve }
+        }
     }
 
     BubblyDeleteButton {
         id: deleteButton
 
-        readonly property bool isShown: hover.hovered || activeFocus
+        readonly property bool isShown: root.pointedAt || activeFocus
 
         Keys.forwardTo: [root]
         anchors { right: body.right; verticalCenter: body.top }

@@ -13,5 +13,9 @@ QtObject {
     signal walkedOut(int row, bool forward)
     /// The writer should see the caret.
     signal revealRequested
+    /// Blocks are about to change places.
+    signal reorderBegan
+    /// All rows stand in their new places.
+    signal reorderEnded
     signal menuRequested(string blockID, Item item, point position)
 }

@@ -19,6 +19,7 @@ BlockEditor {
 
     Accessible.name: BlockKinds.checklist.tip
     Accessible.role: Accessible.List
+    firstLine: column.y + Typography.stickyLabel.pixelSize / 2
     implicitHeight: column.implicitHeight + 2 * Metrics.space14
 
     Rectangle {

@@ -20,6 +20,7 @@ BlockEditor {
     }
 
     caretRectangle: mapFromItem(field, field.cursorRectangle)
+    firstLine: field.y + style.lineHeight / 2
     implicitHeight: field.implicitHeight + 2 * field.y
 
     BlockStyle {

@@ -1,0 +1,90 @@
+import QtQuick
+import Pelko
+
+/// Lies under the page and takes what the rows leave to it: a press beside the text of a block, or on a block
+/// without text. Pulled away, the block goes to the row under the pointer, until it is let go. It belongs to no
+/// row, so a drag outlives the rows it passes.
+MouseArea {
+    id: root
+
+    required property BlockDrag blocks
+    required property ListView list
+
+    readonly property bool dragging: blocks.draggingBlockID !== ""
+    /// How far the pointer is over the line from which the page scrolls; negative at the top.
+    readonly property real pull: Math.max(0, mouseY - height + Metrics.dragEdge)
+        - Math.max(0, Metrics.stripHeight + Metrics.dragEdge - mouseY)
+
+    property string taken
+    property string entered
+    property point start
+
+    signal taking(BlockRow row, point position)
+    signal carried(point position)
+    signal scrollRequested(real distance)
+
+    /// The row at that height, or the nearest one in sight.
+    function rowAt(height: real) : BlockRow {
+        const top = Math.max(list.contentY, list.originY)
+        const end = Math.min(list.contentY + list.height, list.originY + list.contentHeight) - 1
+        return list.itemAt(list.width / 2, Math.max(top, Math.min(list.contentY + height, end))) as BlockRow
+    }
+
+    function take(row: BlockRow, position: point) {
+        taken = row.blockID
+        entered = taken
+        start = position
+        taking(row, position)
+    }
+
+    function pullTo(position: point) {
+        if (!dragging && Math.hypot(position.x - start.x, position.y - start.y) > drag.threshold)
+            blocks.begin(taken)
+        carried(position)
+        enterRow()
+    }
+
+    function enterRow() {
+        const row = rowAt(mouseY)
+        if (dragging && row && row.blockID !== entered) {
+            entered = row.blockID
+            blocks.enter(entered)
+            list.forceLayout()
+        }
+    }
+
+    function letGo() {
+        taken = ""
+        blocks.drop()
+    }
+
+    function giveUp() {
+        taken = ""
+        blocks.cancel()
+    }
+
+    cursorShape: dragging ? Qt.DragMoveCursor : Qt.ArrowCursor
+    onCanceled: giveUp()
+    onPositionChanged: mouse => { if (taken !== "") pullTo(Qt.point(mouse.x, mouse.y)) }
+    onPressed: mouse => {
+        const row = list.itemAt(list.width / 2, list.contentY + mouse.y) as BlockRow
+        mouse.accepted = row !== null && list.count > 1
+        if (mouse.accepted)
+            take(row, Qt.point(mouse.x, mouse.y))
+    }
+    onReleased: letGo()
+
+    FrameAnimation {
+        running: root.dragging && root.pull !== 0
+        onTriggered: {
+            root.scrollRequested(root.pull * Metrics.dragScroll * frameTime)
+            root.enterRow()
+        }
+    }
+
+    Shortcut {
+        enabled: root.dragging
+        sequence: "Escape"
+        onActivated: root.giveUp()
+    }
+}
