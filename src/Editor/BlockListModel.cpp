@@ -7,13 +7,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Copies of a picture share its bytes; to compare all of them with every key would be felt.
-bool isSamePicture(const std::optional<QByteArray> &one, const std::optional<QByteArray> &other)
-{
-    const bool isShared = one && other && one->constData() == other->constData();
-    return (isShared && one->size() == other->size()) || one == other;
-}
-
 QList<BlockRow> rowsOf(const PelkoDocument &document)
 {
     QList<BlockRow> rows;

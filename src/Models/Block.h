@@ -33,5 +33,8 @@ struct Block {
     {
     }
 
-    bool operator==(const Block &) const = default;
+    bool operator==(const Block &other) const;
 };
+
+/// Copies of a picture share its bytes; to compare all of them with every key would be felt.
+bool isSamePicture(const std::optional<QByteArray> &one, const std::optional<QByteArray> &other);
