@@ -81,10 +81,11 @@ std::optional<QUuid> BlockOperations::firstTextBlock(const PelkoDocument &docume
 Edit BlockOperations::addBlock(PelkoDocument document, BlockType type)
 {
     document.blocks.append(newBlock(type));
-    std::optional<FocusTarget> focus;
+    const QUuid added = document.blocks.last().id;
+    Edit edit{.document = std::move(document), .scrollTo = added};
     if (isTextLike(type))
-        focus = FocusTarget{.blockID = document.blocks.last().id};
-    return {std::move(document), focus};
+        edit.focus = FocusTarget{.blockID = added};
+    return edit;
 }
 
 std::optional<Edit> BlockOperations::deleteBlock(PelkoDocument document, const QUuid &blockID)
@@ -93,7 +94,7 @@ std::optional<Edit> BlockOperations::deleteBlock(PelkoDocument document, const Q
         return std::nullopt;
     if (document.blocks.removeIf([&](const Block &block) { return block.id == blockID; }) == 0)
         return std::nullopt;
-    return Edit{std::move(document), std::nullopt};
+    return Edit{std::move(document)};
 }
 
 std::optional<Edit> BlockOperations::moveBlock(PelkoDocument document, const QUuid &blockID, int rows)
@@ -118,7 +119,7 @@ std::optional<Edit> BlockOperations::toggleFullWidth(PelkoDocument document, con
     block.isFullWidth = !wasFullWidth;
     if (wasFullWidth) {
         showHeadingAgain(document.blocks);
-        return Edit{std::move(document), std::nullopt};
+        return Edit{std::move(document)};
     }
     putBannerFirst(document.blocks, blockID);
     return Edit{std::move(document), FocusTarget{.blockID = blockID}};

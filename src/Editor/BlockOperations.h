@@ -28,7 +28,7 @@ std::optional<QUuid> firstEmptyTextBlock(const PelkoDocument &document);
 /// The first text-like block, or nothing.
 std::optional<QUuid> firstTextBlock(const PelkoDocument &document);
 
-/// New blocks always go last. The focus names the new block when it is text-like.
+/// New blocks always go last and are scrolled to. The focus names the new block when it is text-like.
 Edit addBlock(PelkoDocument document, BlockType type);
 
 /// Removes the block, unless it is the only one.

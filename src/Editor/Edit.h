@@ -19,5 +19,10 @@ struct FocusTarget {
 /// What an editing rule made of a page: the page, and where the writer goes on.
 struct Edit {
     PelkoDocument document;
-    std::optional<FocusTarget> focus;
+    std::optional<FocusTarget> focus = std::nullopt;
+    /// The block to bring into sight, where the focus does not do that.
+    std::optional<QUuid> scrollTo = std::nullopt;
+    /// When a rule made something else of what was typed, the page with the typed characters: undo stops
+    /// there.
+    std::optional<PelkoDocument> asTyped = std::nullopt;
 };

@@ -16,6 +16,14 @@ QString text(const QUuid &id)
     return id.toString(QUuid::WithoutBraces);
 }
 
+FocusTarget placeOf(const QString &blockID, const QString &todoID, int caret)
+{
+    FocusTarget target{.blockID = QUuid(blockID), .caret = caret};
+    if (!todoID.isEmpty())
+        target.todoID = QUuid(todoID);
+    return target;
+}
+
 // The field of a block that was just made needs a moment to slide into view.
 constexpr auto newBlockFocusDelay = 180ms;
 constexpr auto bannerFocusDelay = 100ms;
@@ -28,10 +36,13 @@ EditorViewModel::EditorViewModel(AppState &appState, Scheduler &scheduler, const
     , m_appState(appState)
     , m_scheduler(scheduler)
     , m_documentID(documentID)
+    , m_session(appState, scheduler, documentID)
     , m_drag(appState)
 {
     connect(&m_appState, &AppState::documentsChanged, this, &EditorViewModel::refresh);
     connect(&m_appState, &AppState::focusModeChanged, this, &EditorViewModel::focusInFocusMode);
+    connect(&m_drag, &BlockDrag::reordered, this,
+            [this](const PelkoDocument &before) { m_session.recordStored(before); });
     refresh();
 }
 
@@ -73,13 +84,8 @@ void EditorViewModel::addBlock(const QString &kind)
 {
     const auto type = blockTypeFromRawValue(kind);
     const PelkoDocument *own = document();
-    if (!type || !own)
-        return;
-    const Edit edit = BlockOperations::addBlock(*own, *type);
-    m_appState.updateDocument(edit.document);
-    setScrollTarget(text(edit.document.blocks.last().id));
-    if (edit.focus)
-        focusAfter(newBlockFocusDelay, *edit.focus);
+    if (type && own)
+        commit(BlockOperations::addBlock(*own, *type), newBlockFocusDelay);
 }
 
 void EditorViewModel::deleteBlock(const QString &blockID)
@@ -96,28 +102,23 @@ void EditorViewModel::moveBlock(const QString &blockID, int rows)
 
 void EditorViewModel::toggleFullWidth(const QString &blockID)
 {
-    auto page = documentToMutate();
-    if (!page)
-        return;
-    auto edit = BlockOperations::toggleFullWidth(*std::move(page), QUuid(blockID));
-    if (!edit)
-        return;
-    m_appState.updateDocument(edit->document);
-    if (edit->focus)
-        focusAfter(bannerFocusDelay, *edit->focus);
+    if (auto page = documentToMutate())
+        commit(BlockOperations::toggleFullWidth(*std::move(page), QUuid(blockID)), bannerFocusDelay);
 }
 
 void EditorViewModel::typed(const QString &blockID, const QString &value, int caret)
 {
     if (auto page = documentToMutate())
-        commit(TypingRules::apply(*std::move(page), QUuid(blockID), value, caret));
+        commitTyping(TypingRules::apply(*std::move(page), QUuid(blockID), value, caret),
+                     placeOf(blockID, {}, caret));
 }
 
 void EditorViewModel::typedTodo(const QString &blockID, const QString &todoID, const QString &value,
                                 int caret)
 {
     if (auto page = documentToMutate())
-        commit(TodoOperations::setText(*std::move(page), QUuid(blockID), QUuid(todoID), value, caret));
+        commitTyping(TodoOperations::setText(*std::move(page), QUuid(blockID), QUuid(todoID), value, caret),
+                     placeOf(blockID, todoID, caret));
 }
 
 void EditorViewModel::toggleTodo(const QString &blockID, const QString &todoID)
@@ -138,13 +139,44 @@ void EditorViewModel::removeTodo(const QString &blockID, const QString &todoID)
         commit(TodoOperations::remove(*std::move(page), QUuid(blockID), QUuid(todoID)));
 }
 
-void EditorViewModel::commit(std::optional<Edit> edit)
+void EditorViewModel::undo()
+{
+    if (const auto edit = m_session.undo())
+        goOn(*edit);
+}
+
+void EditorViewModel::redo()
+{
+    if (const auto edit = m_session.redo())
+        goOn(*edit);
+}
+
+void EditorViewModel::commit(const std::optional<Edit> &edit, std::chrono::milliseconds focusDelay)
 {
     if (!edit)
         return;
-    m_appState.updateDocument(std::move(edit->document));
-    if (edit->focus)
-        focus(*edit->focus);
+    m_session.commit(*edit);
+    goOn(*edit, focusDelay);
+}
+
+void EditorViewModel::commitTyping(const std::optional<Edit> &edit, const FocusTarget &field)
+{
+    if (!edit)
+        return;
+    m_session.commitTyping(*edit, field);
+    goOn(*edit);
+}
+
+void EditorViewModel::goOn(const Edit &edit, std::chrono::milliseconds focusDelay)
+{
+    if (edit.scrollTo)
+        setScrollTarget(text(*edit.scrollTo));
+    if (!edit.focus)
+        return;
+    if (focusDelay > 0ms)
+        focusAfter(focusDelay, *edit.focus);
+    else
+        focus(*edit.focus);
 }
 
 void EditorViewModel::appeared()
@@ -168,6 +200,7 @@ void EditorViewModel::focus(const FocusTarget &target)
 {
     if (rowOf(text(target.blockID)) < 0) // deleted since, or on another page
         return;
+    m_session.goTo(target);
     setFocusedBlockID(text(target.blockID));
     Q_EMIT focusRequested(m_focusedBlockID, target.todoID ? text(*target.todoID) : QString(), target.caret);
 }
@@ -179,7 +212,15 @@ void EditorViewModel::focusAfter(std::chrono::milliseconds delay, const FocusTar
 
 void EditorViewModel::focusGained(const QString &blockID)
 {
+    const auto &known = m_session.place();
+    if (!known || known->blockID != QUuid(blockID))
+        m_session.goTo({.blockID = QUuid(blockID)});
     setFocusedBlockID(blockID);
+}
+
+void EditorViewModel::caretMoved(const QString &blockID, const QString &todoID, int caret)
+{
+    m_session.goTo(placeOf(blockID, todoID, caret));
 }
 
 void EditorViewModel::focusLost(const QString &blockID)

@@ -2,7 +2,7 @@
 
 #include "Editor/BlockDrag.h"
 #include "Editor/BlockListModel.h"
-#include "Editor/Edit.h"
+#include "Editor/EditSession.h"
 #include "Services/Scheduler.h"
 
 #include <QObject>
@@ -59,12 +59,19 @@ public:
     Q_INVOKABLE void appendTodo(const QString &blockID);
     Q_INVOKABLE void removeTodo(const QString &blockID, const QString &todoID);
 
+    /// Takes back what was done last on this page, with the focus and the caret where they were; and does it
+    /// again.
+    Q_INVOKABLE void undo();
+    Q_INVOKABLE void redo();
+
     /// The view is on screen: the first empty text block gets the focus.
     Q_INVOKABLE void appeared();
     /// The view has scrolled to `scrollTarget`.
     Q_INVOKABLE void scrolled();
     Q_INVOKABLE void focusGained(const QString &blockID);
     Q_INVOKABLE void focusLost(const QString &blockID);
+    /// The caret of the focused field stands elsewhere, without anything having been typed.
+    Q_INVOKABLE void caretMoved(const QString &blockID, const QString &todoID, int caret);
     /// The view is gone: stops following the store and deletes itself.
     Q_INVOKABLE void release();
 
@@ -82,7 +89,10 @@ private:
     const PelkoDocument *document() const;
     std::optional<PelkoDocument> documentToMutate() const;
     void refresh();
-    void commit(std::optional<Edit> edit);
+    /// The one way by which operations change the page.
+    void commit(const std::optional<Edit> &edit, std::chrono::milliseconds focusDelay = {});
+    void commitTyping(const std::optional<Edit> &edit, const FocusTarget &field);
+    void goOn(const Edit &edit, std::chrono::milliseconds focusDelay = {});
     void focus(const FocusTarget &target);
     void focusAfter(std::chrono::milliseconds delay, const FocusTarget &target);
     void focusInFocusMode();
@@ -93,6 +103,7 @@ private:
     Scheduler &m_scheduler;
     const QUuid m_documentID;
 
+    EditSession m_session;
     BlockListModel m_blocks;
     BlockDrag m_drag;
     QString m_title;

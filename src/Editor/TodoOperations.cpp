@@ -55,7 +55,7 @@ std::optional<Edit> TodoOperations::setText(PelkoDocument document, const QUuid 
     if (text.contains(u'\n') && !item.text.contains(u'\n'))
         return breakUp(std::move(document), *place, text, caret);
     item.text = text;
-    return Edit{std::move(document), std::nullopt};
+    return Edit{std::move(document)};
 }
 
 std::optional<Edit> TodoOperations::toggle(PelkoDocument document, const QUuid &blockID, const QUuid &todoID)
@@ -65,7 +65,7 @@ std::optional<Edit> TodoOperations::toggle(PelkoDocument document, const QUuid &
         return std::nullopt;
     TodoItem &item = itemAt(document, *place);
     item.done = !item.done;
-    return Edit{std::move(document), std::nullopt};
+    return Edit{std::move(document)};
 }
 
 std::optional<Edit> TodoOperations::append(PelkoDocument document, const QUuid &blockID)

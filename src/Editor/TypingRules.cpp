@@ -28,8 +28,10 @@ std::optional<BlockType> shortcutFor(const Block &block, const QString &value)
     return found == shortcuts.end() ? std::nullopt : std::optional(found->becomes);
 }
 
-Edit convert(PelkoDocument document, qsizetype index, BlockType type)
+Edit convert(PelkoDocument document, qsizetype index, BlockType type, const QString &value)
 {
+    document.blocks[index].content = value;
+    const PelkoDocument asTyped = document;
     Block &block = document.blocks[index];
     block.type = type;
     block.content.clear();
@@ -41,7 +43,7 @@ Edit convert(PelkoDocument document, qsizetype index, BlockType type)
         document.blocks.insert(index + 1, Block(BlockType::textSmall));
         focus.blockID = document.blocks.at(index + 1).id;
     }
-    return {std::move(document), focus};
+    return {.document = std::move(document), .focus = focus, .asTyped = asTyped};
 }
 
 Edit split(PelkoDocument document, qsizetype index, const QString &value, int caret)
@@ -80,11 +82,11 @@ std::optional<Edit> TypingRules::apply(PelkoDocument document, const QUuid &bloc
         return std::nullopt;
     const Block &block = document.blocks.at(index);
     if (const auto type = shortcutFor(block, value))
-        return convert(std::move(document), index, *type);
+        return convert(std::move(document), index, *type, value);
     if (value.contains(u'\n') && !block.content.contains(u'\n'))
         return split(std::move(document), index, value, caret);
     if (deletesEmptyBlock(document, index, value))
         return removeEmptyBlock(std::move(document), index);
     document.blocks[index].content = value;
-    return Edit{std::move(document), std::nullopt};
+    return Edit{std::move(document)};
 }
