@@ -17,7 +17,7 @@ run=(
 display=(xvfb xauth imagemagick)
 benchmark=(libbenchmark-dev)
 test=(
-    clang-format-19 clang-tidy-19 shellcheck git
+    clang-format-19 clang-tidy-19 clang-19 libclang-rt-19-dev shellcheck git
     desktop-file-utils appstream mandoc
     qml6-module-qttest
     python3 python3-pyatspi at-spi2-core dbus
