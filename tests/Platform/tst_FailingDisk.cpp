@@ -13,8 +13,9 @@ namespace fs = std::filesystem;
 
 namespace
 {
-// The three functions below take the place of the C library's in this program, so that a disk can be made to
+// The functions below take the place of the C library's in this program, so that a disk can be made to
 // fail where a test wants it.
+int writeError = 0;
 int flushError = 0;
 int folderFlushError = 0;
 int renameError = 0;
@@ -59,6 +60,13 @@ struct SmallDisk {
 };
 } // namespace
 
+extern "C" ssize_t write(int descriptor, const void *bytes, std::size_t size)
+{
+    const bool isFile = descriptor > STDERR_FILENO;
+    return writeError && isFile ? failWith(writeError)
+                                : ssize_t(::syscall(SYS_write, descriptor, bytes, size));
+}
+
 extern "C" int fdatasync(int descriptor)
 {
     return flushError ? failWith(flushError) : int(::syscall(SYS_fdatasync, descriptor));
@@ -84,7 +92,7 @@ private Q_SLOTS:
     void init()
     {
         disk = std::make_unique<DataFolder>();
-        flushError = folderFlushError = renameError = 0;
+        writeError = flushError = folderFlushError = renameError = 0;
     }
 
     void cleanup() { disk.reset(); }
@@ -126,16 +134,24 @@ private Q_SLOTS:
     void aFailureBeforeTheRenamingKeepsTheOldFile_data()
     {
         QTest::addColumn<int *>("failing");
-        QTest::newRow("flushing") << &flushError;
-        QTest::newRow("renaming") << &renameError;
+        QTest::addColumn<int>("error");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("writing") << &writeError << EIO << u"Input/output error"_s;
+        QTest::newRow("writing beyond the quota") << &writeError << EDQUOT << u"Disk quota exceeded"_s;
+        QTest::newRow("flushing") << &flushError << EIO << u"Input/output error"_s;
+        QTest::newRow("flushing beyond the quota") << &flushError << EDQUOT << u"Disk quota exceeded"_s;
+        QTest::newRow("renaming") << &renameError << EIO << u"Input/output error"_s;
+        QTest::newRow("renaming on what became read-only")
+            << &renameError << EROFS << u"Read-only file system"_s;
     }
 
     void aFailureBeforeTheRenamingKeepsTheOldFile()
     {
         QFETCH(int *, failing);
+        QFETCH(int, error);
         DataFolder::put(disk->file(), "old");
-        *failing = EIO;
-        QCOMPARE(disk->replace(), u"Input/output error"_s);
+        *failing = error;
+        QTEST(disk->replace(), "told");
         disk->verifyOnlyTheOldFile();
         *failing = 0;
         QCOMPARE(disk->replace(), u""_s);

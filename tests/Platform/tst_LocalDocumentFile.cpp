@@ -63,6 +63,19 @@ private Q_SLOTS:
         QCOMPARE(modeOf(disk->folder()), 0700);
     }
 
+    void aFileThatIsBeingWrittenIsForItsOwnerOnlyWhateverTheMask()
+    {
+        const mode_t mask = ::umask(0);
+        int mode = 0;
+        const auto error = LocalDocumentFile(*disk).replace([&](ByteSink &) -> std::optional<FileError> {
+            mode = modeOf(*fs::directory_iterator(disk->folder()));
+            return {};
+        });
+        ::umask(mask);
+        QVERIFY(!error);
+        QCOMPARE(mode, 0600);
+    }
+
     void anOldFileKeepsItsMode()
     {
         DataFolder::put(disk->file(), "old");
@@ -205,6 +218,23 @@ private Q_SLOTS:
         QVERIFY(user.worked);
         QVERIFY(disk->isMissing());
         QCOMPARE(disk->replace(), u"No such file or directory"_s);
+    }
+
+    void aFolderThatBecomesWritableAgainTakesTheNextSave()
+    {
+        DataFolder::put(disk->file(), "old");
+        disk->openToEverybody();
+        fs::permissions(disk->folder(), fs::perms(0555));
+        {
+            const Unprivileged user;
+            QVERIFY(user.worked);
+            QCOMPARE(disk->replace(), u"Permission denied"_s);
+        }
+        fs::permissions(disk->folder(), fs::perms(0777));
+        fs::permissions(disk->file(), fs::perms(0666));
+        const Unprivileged user;
+        QCOMPARE(disk->replace(), u""_s);
+        QCOMPARE(disk->read(), "new");
     }
 
     void aFileOfSomebodyElseCannotBeRead()
