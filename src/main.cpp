@@ -9,6 +9,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -48,6 +49,9 @@ int main(int argc, char *argv[])
 
     // A file that may not grow any further is a failed save, not the end of the program.
     std::signal(SIGXFSZ, SIG_IGN);
+    // What is written is for the writer only: it is left in no core file.
+    constexpr rlimit none{0, 0};
+    ::setrlimit(RLIMIT_CORE, &none);
     QGuiApplication application(argc, argv);
     describe(application);
     PelkoApp app;
