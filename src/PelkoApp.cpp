@@ -37,8 +37,9 @@ PelkoApp::PelkoApp()
         &m_engine, &QQmlApplicationEngine::objectCreationFailed, QCoreApplication::instance(),
         [] { QCoreApplication::exit(1); }, Qt::QueuedConnection);
     m_engine.addImportPath(u"qrc:/qt/qml"_s);
-    m_engine.setInitialProperties(
-        {{u"main"_s, QVariant::fromValue(&m_main)}, {u"launch"_s, QVariant::fromValue(&m_launch)}});
+    m_engine.setInitialProperties({{u"main"_s, QVariant::fromValue(&m_main)},
+                                   {u"launch"_s, QVariant::fromValue(&m_launch)},
+                                   {u"timers"_s, QVariant::fromValue(&m_timers)}});
     m_engine.load(QUrl(u"qrc:/qt/qml/Pelko/Views/Shell/PelkoWindow.qml"_s));
 }
 

@@ -7,6 +7,7 @@
 #include "Shell/LaunchSequence.h"
 #include "Shell/MainViewModel.h"
 #include "Store/AppState.h"
+#include "Timers/TimersViewModel.h"
 
 #include <QQmlApplicationEngine>
 
@@ -27,5 +28,6 @@ private:
     AppState m_appState{m_scheduler, m_clock, m_documentFile};
     MainViewModel m_main{m_appState, m_scheduler};
     LaunchSequence m_launch{m_scheduler};
+    TimersViewModel m_timers{FlowTimer::shared()};
     QQmlApplicationEngine m_engine;
 };

@@ -1,5 +1,6 @@
 #include "EditorBench.h"
 #include "ShellFixture.h"
+#include "TimersBench.h"
 
 #include <QQmlEngine>
 #include <QtQml/QQmlExtensionPlugin>
@@ -21,6 +22,7 @@ public Q_SLOTS:
         engine->addImportPath(u"qrc:/qt/qml"_s);
         qmlRegisterType<EditorBench>("PelkoTest", 1, 0, "EditorBench");
         qmlRegisterType<ShellFixture>("PelkoTest", 1, 0, "ShellFixture");
+        qmlRegisterType<TimersBench>("PelkoTest", 1, 0, "TimersBench");
     }
 };
 

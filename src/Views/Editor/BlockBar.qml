@@ -3,9 +3,11 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The bar under the page with one chip for each kind of block.
+/// The bar under the page with one chip for each kind of block; what is put into it stands at its end.
 Rectangle {
     id: root
+
+    default property alias ends: ends.data
 
     signal addRequested(string kind)
     /// The keyboard walks back from the first chip.
@@ -43,5 +45,12 @@ Rectangle {
                 onTriggered: root.addRequested(modelData.name)
             }
         }
+    }
+
+    Row {
+        id: ends
+
+        anchors { right: parent.right; rightMargin: Metrics.space14; verticalCenter: parent.verticalCenter }
+        spacing: Metrics.chipGap
     }
 }

@@ -6,6 +6,7 @@ FocusScope {
     id: root
 
     required property EditorViewModel editor
+    property TimersViewModel timers: null
 
     function leaveBackwards() {
         page.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
@@ -53,6 +54,16 @@ FocusScope {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         onAddRequested: kind => root.editor.addBlock(kind)
         onWalkedBack: page.enter(false)
+
+        Repeater {
+            model: root.timers ? [root.timers.flow] : []
+
+            FlameNavButton {
+                required property FlowTimer modelData
+
+                flow: modelData
+            }
+        }
     }
 
     Component.onCompleted: editor.appeared()

@@ -9,6 +9,7 @@ FocusScope {
 
     required property MainViewModel main
     required property LaunchSequence launch
+    property TimersViewModel timers: null
 
     Connections {
         target: root.Window.window
@@ -20,6 +21,7 @@ FocusScope {
         anchors.fill: parent
         focus: true
         main: root.main
+        timers: root.timers
     }
 
     Rectangle {

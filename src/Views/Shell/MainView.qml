@@ -10,11 +10,12 @@ FocusScope {
     id: root
 
     required property MainViewModel main
+    property TimersViewModel timers: null
 
     function showContent(operation: int) {
         main.openDocumentID === ""
             ? content.replace(null, emptyState, {}, operation)
-            : content.replace(null, editor, { editor: main.openEditor(main.openDocumentID) }, operation)
+            : content.replace(null, editor, { editor: main.openEditor(main.openDocumentID), timers }, operation)
     }
 
     Component.onCompleted: showContent(T.StackView.Immediate)

@@ -8,6 +8,7 @@ Window {
 
     required property MainViewModel main
     required property LaunchSequence launch
+    required property TimersViewModel timers
 
     width: 1100
     height: 750
@@ -30,7 +31,8 @@ Window {
         onTriggered: {
             done = true
             Qt.createComponent("WindowContent.qml").createObject(window.contentItem,
-                                                                 { main: window.main, launch: window.launch })
+                                                                 { main: window.main, launch: window.launch,
+                                                                   timers: window.timers })
         }
     }
 }

@@ -10,6 +10,7 @@ FocusScope {
 
     required property MainViewModel main
     required property LaunchSequence launch
+    property TimersViewModel timers: null
 
     anchors.fill: parent
     focus: true
@@ -21,6 +22,7 @@ FocusScope {
         focus: true
         main: root.main
         launch: root.launch
+        timers: root.timers
     }
 
     Alerts {

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Services/Scheduler.h"
+
+#include <QObject>
+
+#include <optional>
+
+/// Five minutes to get going. It is started with one click, counts down and stops by itself, resting on
+/// "0:00" for one second before it does. A finished run starts afresh; one stopped half-way goes on.
+class FlowTimer : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString displayTime READ displayTime NOTIFY remainingChanged)
+    Q_PROPERTY(bool isRunning READ isRunning NOTIFY isRunningChanged)
+    Q_PROPERTY(bool isActive READ isActive NOTIFY isActiveChanged)
+
+public:
+    static constexpr qint64 totalSeconds = 300;
+
+    explicit FlowTimer(Scheduler &scheduler, QObject *parent = nullptr);
+
+    /// The one of the process, made on first use and never destroyed. It lives in real time, so it is the
+    /// platform layer that defines it.
+    static FlowTimer &shared();
+
+    /// Seconds left in the current run.
+    qint64 remaining() const { return m_remaining; }
+    bool isRunning() const { return m_isRunning; }
+    /// Whether there is a time worth showing: a run that goes on, or one that was begun.
+    bool isActive() const { return m_isRunning || m_remaining < totalSeconds; }
+    /// "m:ss".
+    QString displayTime() const;
+
+    /// Does nothing while a run goes on.
+    Q_INVOKABLE void start();
+    /// Keeps what remains.
+    void stop();
+
+Q_SIGNALS:
+    void remainingChanged();
+    void isRunningChanged();
+    void isActiveChanged();
+
+private:
+    void tick();
+    void become(bool running, qint64 remaining);
+
+    Scheduler &m_scheduler;
+    qint64 m_remaining = totalSeconds;
+    bool m_isRunning = false;
+    std::optional<ScheduledCall> m_timer;
+};

@@ -1,0 +1,45 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Pelko
+
+/// A time whose digits stand in cells of one width each, so that nothing shifts while it counts. Where it `rolls`,
+/// a digit that changes rolls upwards to the next. What is read out is up to whoever shows it.
+Row {
+    id: time
+
+    required property string text
+    required property font font
+    required property color color
+    property bool rolls: false
+    /// By how much the colon's cell is narrower than a digit's, and how far it is lifted.
+    property real colonInset: digitWidth - Math.ceil(metrics.advanceWidth(":"))
+    property real colonRise: 0
+
+    readonly property real digitWidth: Math.ceil(Array.from("0123456789").reduce(
+        (widest, digit) => Math.max(widest, metrics.advanceWidth(digit)), 0))
+
+    FontMetrics {
+        id: metrics
+
+        font: time.font
+    }
+
+    Repeater {
+        model: time.text.length
+
+        RollingDigit {
+            required property int index
+
+            readonly property bool isColon: value === ":"
+
+            value: time.text.charAt(index)
+            font: time.font
+            color: time.color
+            rolls: time.rolls
+            width: time.digitWidth - (isColon ? time.colonInset : 0)
+            height: Math.ceil(metrics.height)
+            rise: isColon ? time.colonRise : 0
+        }
+    }
+}

@@ -1,0 +1,63 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Pelko
+
+/// One cell of a time. A new value comes in from below while the old one leaves upwards, fading.
+Item {
+    id: cell
+
+    required property string value
+    required property font font
+    required property color color
+    required property bool rolls
+    property real rise: 0
+
+    property string shownValue: value
+    property string leavingValue: ""
+    property real roll: 1
+
+    readonly property real travel: height / 3
+
+    function change() {
+        leavingValue = shownValue
+        shownValue = value
+        if (rolls && !Motion.reduced && visible)
+            rolling.restart()
+    }
+
+    onValueChanged: if (value !== shownValue) change()
+
+    NumberAnimation {
+        id: rolling
+
+        target: cell
+        property: "roll"
+        from: 0
+        to: 1
+        duration: PelkoAnimation.smooth.duration
+        easing: PelkoAnimation.smooth.curve
+    }
+
+    Face {
+        visible: cell.roll < 1
+        opacity: Math.max(0, 1 - 2 * cell.roll)
+        text: cell.leavingValue
+        y: -cell.rise - cell.travel * cell.roll
+    }
+
+    Face {
+        opacity: Math.max(0, Math.min(1, cell.roll))
+        text: cell.shownValue
+        y: -cell.rise + cell.travel * (1 - cell.roll)
+    }
+
+    component Face: Text {
+        width: cell.width
+        horizontalAlignment: Text.AlignHCenter
+        textFormat: Text.PlainText
+        font: cell.font
+        color: cell.color
+        Accessible.ignored: true
+    }
+}
