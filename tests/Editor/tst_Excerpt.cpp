@@ -1,0 +1,105 @@
+#include "Editor/BlockForms.h"
+#include "Editor/Excerpt.h"
+#include "support/PageText.h"
+
+#include <QTest>
+
+using namespace PageText;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+PelkoDocument everything()
+{
+    return page({block('A', BlockType::textLarge, u"Head"_s),
+                 block('B', BlockType::textSmall, u"Body\n& soul"_s), block('C', BlockType::divider),
+                 block('Q', BlockType::quote, u"so\nsaid"_s), image('E'),
+                 sticky('D', {todo('x', u"milk"_s), todo('y', u"rye"_s, true)}),
+                 block('F', BlockType::code, u"a<b\n```"_s)});
+}
+
+BlockSelection between(char first, int from, char last, int to)
+{
+    return {.anchor = {.passage = {idOf(first)}, .offset = from},
+            .head = {.passage = {idOf(last)}, .offset = to}};
+}
+
+} // namespace
+
+class TestExcerpt : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void textsAtTheEndsAreCut()
+    {
+        PelkoDocument cut = everything();
+        cut.blocks = excerpt(everything(), between('A', 2, 'B', 2));
+        QCOMPARE(lines(cut), (QStringList{u"A textLarge \"ad\""_s, u"B textSmall \"Bo\""_s}));
+    }
+
+    void entriesAtTheEndsAreCut()
+    {
+        PelkoDocument cut = everything();
+        cut.blocks = excerpt(everything(), {.anchor = {.passage = {idOf('D'), idOf('y')}, .offset = 1},
+                                            .head = {.passage = {idOf('F')}, .offset = 1}});
+        QCOMPARE(lines(cut), (QStringList{u"D sticky \"\" todos(y[x] \"ye\")"_s, u"F code \"a\""_s}));
+    }
+
+    void thingsOnlyTouchedAreLeftOut()
+    {
+        PelkoDocument cut = everything();
+        cut.blocks = excerpt(everything(), between('B', 0, 'C', 0));
+        QCOMPARE(letters(cut), u"B"_s);
+    }
+
+    void aTitleOfABannerIsCut()
+    {
+        Block banner = image('A', true);
+        banner.bannerTitle = u"Sea"_s;
+        const QList<Block> cut = excerpt(page({banner, block('B')}), between('A', 1, 'B', 0));
+        QCOMPARE(cut.first().bannerTitle, u"ea"_s);
+        QCOMPARE(BlockForms::plainText(cut), u"ea\n"_s);
+        QCOMPARE(BlockForms::markdown(cut), u"# ea"_s);
+        QCOMPARE(BlockForms::html(cut), u"<h1>ea</h1>"_s);
+    }
+
+    void nothingIsCutFromAnotherPage()
+    {
+        QCOMPARE(excerpt(everything(), between('A', 0, 'Z', 0)), QList<Block>{});
+    }
+
+    void plainTextIsWhatStandsThere()
+    {
+        QCOMPARE(BlockForms::plainText(everything().blocks),
+                 u"Head\nBody\n& soul\n---\nso\nsaid\nmilk\nrye\na<b\n```"_s);
+    }
+
+    void markdownMarksTheKinds()
+    {
+        QCOMPARE(BlockForms::markdown(everything().blocks),
+                 u"# Head\n\nBody  \n& soul\n\n---\n\n> so  \n> said\n\n- [ ] milk\n- [x] rye\n\n"
+                 "````\na<b\n```\n````"_s);
+    }
+
+    void htmlHoldsNothingButElements()
+    {
+        QCOMPARE(
+            BlockForms::html(everything().blocks),
+            u"<h1>Head</h1>\n<p>Body<br>&amp; soul</p>\n<hr>\n<blockquote><p>so<br>said</p></blockquote>\n"
+            "<ul><li>☐ milk</li>\n<li>☑ rye</li></ul>\n<pre><code>a&lt;b\n```</code></pre>"_s);
+    }
+
+    void emptyBlocksAreLinesOfPlainTextOnly()
+    {
+        const QList<Block> blocks{block('A', BlockType::textLarge), block('B', BlockType::quote, u"q"_s),
+                                  image('C')};
+        QCOMPARE(BlockForms::plainText(blocks), u"\nq"_s);
+        QCOMPARE(BlockForms::markdown(blocks), u"> q"_s);
+        QCOMPARE(BlockForms::html(blocks), u"<blockquote><p>q</p></blockquote>"_s);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestExcerpt)
+#include "tst_Excerpt.moc"

@@ -1,0 +1,153 @@
+#include "Editor/PageSelection.h"
+#include "support/ManualPasteboard.h"
+#include "support/PageText.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace PageText;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+PelkoDocument letter()
+{
+    return page({block('A', BlockType::textLarge, u"Dear"_s), block('B', BlockType::textSmall, u"reader"_s)});
+}
+
+BlockSelection between(char first, int from, char last, int to)
+{
+    return {.anchor = {.passage = {idOf(first)}, .offset = from},
+            .head = {.passage = {idOf(last)}, .offset = to}};
+}
+
+/// A selection on a page that takes the edits.
+struct Desk {
+    explicit Desk(const PelkoDocument &document) : page(document) { selection.publish(page); }
+
+    void apply(const PageSelection::Operation &operation)
+    {
+        if (const auto edit = operation(page)) {
+            page = edit->document;
+            caret = focus(edit->focus);
+            ++edits;
+            selection.publish(page);
+        }
+    }
+
+    PelkoDocument page;
+    QString caret;
+    int edits = 0;
+    ManualPasteboard pasteboard;
+    PageSelection selection{pasteboard,
+                            [this](const PageSelection::Operation &operation) { apply(operation); }};
+};
+
+} // namespace
+
+class TestPageSelection : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aSelectionWithinOneTextIsLeftToItsField()
+    {
+        Desk desk(letter());
+        QVERIFY(desk.selection.select(between('A', 0, 'B', 1)));
+        QSignalSpy changed(&desk.selection, &PageSelection::changed);
+        QVERIFY(!desk.selection.select(between('A', 0, 'A', 2)));
+        QVERIFY(!desk.selection.isCrossing());
+        QCOMPARE(changed.count(), 1);
+    }
+
+    void theSameSelectionIsAnnouncedOnce()
+    {
+        Desk desk(letter());
+        QSignalSpy changed(&desk.selection, &PageSelection::changed);
+        desk.selection.select(between('A', 0, 'B', 1));
+        desk.selection.select(between('A', 0, 'B', 1));
+        QCOMPARE(changed.count(), 1);
+    }
+
+    void itIsCopiedInEveryForm()
+    {
+        Desk desk(letter());
+        desk.selection.select(between('A', 2, 'B', 4));
+        desk.selection.copy();
+        QCOMPARE(desk.pasteboard.item, (PasteboardItem{.text = u"ar\nread"_s,
+                                                       .markdown = u"# ar\n\nread"_s,
+                                                       .html = u"<h1>ar</h1>\n<p>read</p>"_s}));
+        QVERIFY(desk.selection.isCrossing());
+        QCOMPARE(desk.edits, 0);
+    }
+
+    void cuttingCopiesAndRemovesInOneEdit()
+    {
+        Desk desk(letter());
+        desk.selection.select(between('A', 2, 'B', 4));
+        desk.selection.cut();
+        QCOMPARE(desk.pasteboard.item.text, u"ar\nread"_s);
+        QCOMPARE(lines(desk.page), QStringList{u"A textLarge \"Deer\""_s});
+        QCOMPARE(desk.caret, u"A@2"_s);
+        QCOMPARE(desk.edits, 1);
+        QVERIFY(!desk.selection.isCrossing());
+    }
+
+    void textReplacesItInOneEdit()
+    {
+        Desk desk(letter());
+        desk.selection.select(between('B', 4, 'A', 2));
+        desk.selection.replace(u"x"_s);
+        QCOMPARE(lines(desk.page), QStringList{u"A textLarge \"Dexer\""_s});
+        QCOMPARE(desk.caret, u"A@3"_s);
+        QCOMPARE(desk.edits, 1);
+    }
+
+    void linesOfOtherSystemsArePasted()
+    {
+        Desk desk(letter());
+        desk.pasteboard.item.text = u"one\r\ntwo"_s;
+        desk.selection.select(between('A', 2, 'B', 4));
+        desk.selection.paste();
+        QCOMPARE(lines(desk.page), (QStringList{u"A textLarge \"Deone\""_s, u"+ textSmall \"twoer\""_s}));
+        QCOMPARE(desk.caret, u"+@3"_s);
+    }
+
+    void anEmptyPasteboardRemovesNothing()
+    {
+        Desk desk(letter());
+        desk.selection.select(between('A', 2, 'B', 4));
+        desk.selection.paste();
+        QCOMPARE(desk.edits, 0);
+        QVERIFY(desk.selection.isCrossing());
+    }
+
+    void nothingSelectedIsNeitherCopiedNorChanged()
+    {
+        Desk desk(letter());
+        desk.pasteboard.item.text = u"kept"_s;
+        desk.selection.cut();
+        desk.selection.replace(u"x"_s);
+        desk.selection.paste();
+        QCOMPARE(desk.pasteboard.item.text, u"kept"_s);
+        QCOMPARE(desk.edits, 0);
+    }
+
+    void aChangedPageDropsIt()
+    {
+        Desk desk(letter());
+        desk.selection.select(between('A', 2, 'B', 4));
+        PelkoDocument stamped = desk.page;
+        stamped.updatedAt = 1;
+        desk.selection.publish(stamped);
+        QVERIFY(desk.selection.isCrossing());
+        stamped.blocks[1].content += u"s"_s;
+        desk.selection.publish(stamped);
+        QVERIFY(!desk.selection.isCrossing());
+        QCOMPARE(desk.selection.passages().at(1).text, u"readers"_s);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestPageSelection)
+#include "tst_PageSelection.moc"
