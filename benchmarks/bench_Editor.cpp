@@ -63,7 +63,7 @@ public:
         m_blockID = middle.id.toString(QUuid::WithoutBraces);
         m_text = middle.content;
         m_state.updateDocument(page);
-        m_editor = std::make_unique<EditorViewModel>(m_state, m_scheduler, page.id);
+        m_editor = std::make_unique<EditorViewModel>(m_state, m_scheduler, m_pasteboard, page.id);
         const auto *blocks = qobject_cast<QAbstractItemModel *>(m_editor->blocks());
         QObject::connect(blocks, &QAbstractItemModel::dataChanged, m_editor.get(), [this] { ++m_changes; });
     }

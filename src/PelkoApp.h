@@ -4,6 +4,7 @@
 #include "Platform/QtScheduler.h"
 #include "Platform/SystemClock.h"
 #include "Platform/SystemDataLocation.h"
+#include "Platform/SystemPasteboard.h"
 #include "Shell/LaunchSequence.h"
 #include "Shell/MainViewModel.h"
 #include "Store/AppState.h"
@@ -24,9 +25,10 @@ private:
     QtScheduler m_scheduler;
     SystemClock m_clock;
     SystemDataLocation m_dataLocation;
+    SystemPasteboard m_pasteboard;
     LocalDocumentFile m_documentFile{m_dataLocation};
     AppState m_appState{m_scheduler, m_clock, m_documentFile};
-    MainViewModel m_main{m_appState, m_scheduler};
+    MainViewModel m_main{m_appState, m_scheduler, m_pasteboard};
     LaunchSequence m_launch{m_scheduler};
     TimersViewModel m_timers{FlowTimer::shared()};
     QQmlApplicationEngine m_engine;

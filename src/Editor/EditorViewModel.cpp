@@ -30,14 +30,15 @@ constexpr auto bannerFocusDelay = 100ms;
 
 } // namespace
 
-EditorViewModel::EditorViewModel(AppState &appState, Scheduler &scheduler, const QUuid &documentID,
-                                 QObject *parent)
+EditorViewModel::EditorViewModel(AppState &appState, Scheduler &scheduler, Pasteboard &pasteboard,
+                                 const QUuid &documentID, QObject *parent)
     : QObject(parent)
     , m_appState(appState)
     , m_scheduler(scheduler)
     , m_documentID(documentID)
     , m_session(appState, scheduler, documentID)
     , m_drag(appState)
+    , m_selection(pasteboard, [this](const PageSelection::Operation &operation) { apply(operation); })
 {
     connect(&m_appState, &AppState::documentsChanged, this, &EditorViewModel::refresh);
     connect(&m_appState, &AppState::focusModeChanged, this, &EditorViewModel::focusInFocusMode);
@@ -65,6 +66,7 @@ void EditorViewModel::refresh()
     const PelkoDocument *found = document();
     const PelkoDocument &shown = found ? *found : nothing;
     ChangeScope scope(*this);
+    m_selection.publish(shown);
     m_blocks.publish(shown);
     scope.assign(m_title, shown.title(), &EditorViewModel::titleChanged);
     scope.assign(m_firstBlockIsBanner, BlockOperations::firstBlockIsBanner(shown),
@@ -149,6 +151,12 @@ void EditorViewModel::redo()
 {
     if (const auto edit = m_session.redo())
         goOn(*edit);
+}
+
+void EditorViewModel::apply(const PageSelection::Operation &operation)
+{
+    if (auto page = documentToMutate())
+        commit(operation(*std::move(page)));
 }
 
 void EditorViewModel::commit(const std::optional<Edit> &edit, std::chrono::milliseconds focusDelay)

@@ -3,6 +3,7 @@
 #include "Editor/BlockDrag.h"
 #include "Editor/BlockListModel.h"
 #include "Editor/EditSession.h"
+#include "Editor/PageSelection.h"
 #include "Services/Scheduler.h"
 
 #include <QObject>
@@ -18,6 +19,7 @@ class EditorViewModel : public QObject
     Q_PROPERTY(QString documentID READ documentID CONSTANT)
     Q_PROPERTY(QObject *blocks READ blocks CONSTANT)
     Q_PROPERTY(BlockDrag *drag READ drag CONSTANT)
+    Q_PROPERTY(PageSelection *selection READ selection CONSTANT)
     Q_PROPERTY(QString title READ title NOTIFY titleChanged)
     Q_PROPERTY(bool firstBlockIsBanner READ firstBlockIsBanner NOTIFY firstBlockIsBannerChanged)
     Q_PROPERTY(bool offersDelete READ offersDelete NOTIFY offersDeleteChanged)
@@ -25,12 +27,13 @@ class EditorViewModel : public QObject
     Q_PROPERTY(QString scrollTarget READ scrollTarget NOTIFY scrollTargetChanged)
 
 public:
-    EditorViewModel(AppState &appState, Scheduler &scheduler, const QUuid &documentID,
+    EditorViewModel(AppState &appState, Scheduler &scheduler, Pasteboard &pasteboard, const QUuid &documentID,
                     QObject *parent = nullptr);
 
     QString documentID() const { return m_documentID.toString(QUuid::WithoutBraces); }
     QObject *blocks() { return &m_blocks; }
     BlockDrag *drag() { return &m_drag; }
+    PageSelection *selection() { return &m_selection; }
     QString title() const { return m_title; }
     bool firstBlockIsBanner() const { return m_firstBlockIsBanner; }
     /// Whether the context menu of a block offers to delete it.
@@ -93,6 +96,7 @@ private:
     void commit(const std::optional<Edit> &edit, std::chrono::milliseconds focusDelay = {});
     void commitTyping(const std::optional<Edit> &edit, const FocusTarget &field);
     void goOn(const Edit &edit, std::chrono::milliseconds focusDelay = {});
+    void apply(const PageSelection::Operation &operation);
     void focus(const FocusTarget &target);
     void focusAfter(std::chrono::milliseconds delay, const FocusTarget &target);
     void focusInFocusMode();
@@ -106,6 +110,7 @@ private:
     EditSession m_session;
     BlockListModel m_blocks;
     BlockDrag m_drag;
+    PageSelection m_selection;
     QString m_title;
     bool m_firstBlockIsBanner = false;
     bool m_offersDelete = false;

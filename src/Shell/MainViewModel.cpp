@@ -7,10 +7,12 @@
 
 using namespace Qt::StringLiterals;
 
-MainViewModel::MainViewModel(AppState &appState, Scheduler &scheduler, QObject *parent)
+MainViewModel::MainViewModel(AppState &appState, Scheduler &scheduler, Pasteboard &pasteboard,
+                             QObject *parent)
     : QObject(parent)
     , m_appState(appState)
     , m_scheduler(scheduler)
+    , m_pasteboard(pasteboard)
     , m_topMessage(PelkoVoice::pick(PelkoVoice::greetingPool(), u"greeting"_s))
 {
     followStore();
@@ -46,7 +48,7 @@ bool MainViewModel::showAbout() const
 
 EditorViewModel *MainViewModel::openEditor(const QString &documentID)
 {
-    return new EditorViewModel(m_appState, m_scheduler, QUuid(documentID), this);
+    return new EditorViewModel(m_appState, m_scheduler, m_pasteboard, QUuid(documentID), this);
 }
 
 void MainViewModel::createDocument()

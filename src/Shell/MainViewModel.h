@@ -7,6 +7,7 @@
 
 class AppState;
 class EditorViewModel;
+class Pasteboard;
 class Scheduler;
 
 /// What the main window shows and can do: which page is open, the empty state, the navigation layer and
@@ -30,7 +31,8 @@ class MainViewModel : public QObject
     Q_PROPERTY(QList<MenuCommand> menuCommands READ menuCommands CONSTANT)
 
 public:
-    MainViewModel(AppState &appState, Scheduler &scheduler, QObject *parent = nullptr);
+    MainViewModel(AppState &appState, Scheduler &scheduler, Pasteboard &pasteboard,
+                  QObject *parent = nullptr);
 
     /// Of the document in the editor; empty when the empty state is shown.
     QString openDocumentID() const { return m_openDocumentID; }
@@ -89,6 +91,7 @@ private:
 
     AppState &m_appState;
     Scheduler &m_scheduler;
+    Pasteboard &m_pasteboard;
     QString m_openDocumentID;
     QString m_windowTitle;
     QString m_topMessage;

@@ -28,6 +28,13 @@ struct BlockDragForQml {
     QML_UNCREATABLE("Part of an editor.")
 };
 
+struct PageSelectionForQml {
+    Q_GADGET
+    QML_FOREIGN(PageSelection)
+    QML_NAMED_ELEMENT(PageSelection)
+    QML_UNCREATABLE("Part of an editor.")
+};
+
 struct LaunchSequenceForQml {
     Q_GADGET
     QML_FOREIGN(LaunchSequence)

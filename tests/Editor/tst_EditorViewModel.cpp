@@ -3,6 +3,7 @@
 #include "Store/DocumentReader.h"
 #include "support/ManualClock.h"
 #include "support/ManualDocumentFile.h"
+#include "support/ManualPasteboard.h"
 #include "support/ManualScheduler.h"
 #include "support/ModelLog.h"
 #include "support/PageText.h"
@@ -34,6 +35,7 @@ class TestEditorViewModel : public QObject
     Q_OBJECT
 
     ManualScheduler scheduler;
+    ManualPasteboard pasteboard;
     ManualClock clock;
     ManualDocumentFile file;
     std::unique_ptr<AppState> state;
@@ -54,7 +56,7 @@ class TestEditorViewModel : public QObject
 
     void edit(const QUuid &documentID)
     {
-        editor = std::make_unique<EditorViewModel>(*state, scheduler, documentID);
+        editor = std::make_unique<EditorViewModel>(*state, scheduler, pasteboard, documentID);
         connect(editor.get(), &EditorViewModel::focusRequested, this,
                 [this](const QString &blockID, const QString &todoID, int caret) {
                     FocusTarget target{.blockID = QUuid(blockID), .caret = caret};
@@ -609,6 +611,33 @@ private Q_SLOTS:
         QCOMPARE(editor->focusedBlockID(), id('B'));
         editor->focusLost(id('B'));
         QCOMPARE(editor->focusedBlockID(), QString());
+    }
+
+    // The selection
+
+    void whatIsSelectedIsReplacedAsOneEdit()
+    {
+        edit({block('A', heading, u"first"_s), block('B', body, u"second"_s), block('C')});
+        QSignalSpy changed(state.get(), &AppState::documentsChanged);
+
+        editor->selection()->select(
+            {.anchor = {.passage = {idOf('A')}, .offset = 2}, .head = {.passage = {idOf('B')}, .offset = 4}});
+        editor->selection()->replace(u"x"_s);
+
+        QCOMPARE(lines(stored()), (QStringList{u"A textLarge \"fixnd\""_s, u"C textSmall \"\""_s}));
+        QCOMPARE(focused, QStringList{u"A@3"_s});
+        QCOMPARE(changed.count(), 1);
+        QVERIFY(!editor->selection()->isCrossing());
+    }
+
+    void aPageThatChangesElsewhereIsNoLongerSelected()
+    {
+        edit({block('A', heading, u"first"_s), block('B', body, u"second"_s)});
+        editor->selection()->select({.anchor = {.passage = {idOf('A')}}, .head = {.passage = {idOf('B')}}});
+        PelkoDocument changed = stored();
+        changed.blocks.removeLast();
+        state->updateDocument(changed);
+        QVERIFY(!editor->selection()->isCrossing());
     }
 
     // The end

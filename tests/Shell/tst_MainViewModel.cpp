@@ -5,6 +5,7 @@
 #include "Theme/PelkoVoice.h"
 #include "support/ManualClock.h"
 #include "support/ManualDocumentFile.h"
+#include "support/ManualPasteboard.h"
 #include "support/ManualScheduler.h"
 
 #include <QSignalSpy>
@@ -17,6 +18,7 @@ namespace
 /// A program that has started on a given data file.
 struct Program {
     ManualScheduler scheduler;
+    ManualPasteboard pasteboard;
     ManualClock clock;
     ManualDocumentFile file;
     AppState appState;
@@ -25,7 +27,7 @@ struct Program {
     explicit Program(const ManualDocumentFile &start = {})
         : file(start)
         , appState(scheduler, clock, file)
-        , main(appState, scheduler)
+        , main(appState, scheduler, pasteboard)
     {
     }
 
@@ -321,7 +323,7 @@ private Q_SLOTS:
         Program program;
         QString previous = program.main.topMessage();
         for (int i = 0; i < 50; ++i) {
-            const MainViewModel next(program.appState, program.scheduler);
+            const MainViewModel next(program.appState, program.scheduler, program.pasteboard);
             QVERIFY(next.topMessage() != previous);
             previous = next.topMessage();
         }

@@ -45,7 +45,8 @@ void EditorBench::open(const QVariantList &blocks)
         m_appState.permanentlyDeleteDocument(document);
     m_appState.createDocument(Space::work);
     replace(blocks);
-    m_editor = new EditorViewModel(m_appState, m_scheduler, m_appState.openDocumentID().value(), this);
+    m_editor =
+        new EditorViewModel(m_appState, m_scheduler, m_pasteboard, m_appState.openDocumentID().value(), this);
     Q_EMIT editorChanged();
 }
 

@@ -4,6 +4,7 @@
 #include "Store/AppState.h"
 #include "support/ManualClock.h"
 #include "support/ManualDocumentFile.h"
+#include "support/ManualPasteboard.h"
 #include "support/ManualScheduler.h"
 
 #include <QPointer>
@@ -48,6 +49,7 @@ Q_SIGNALS:
 private:
     ManualScheduler m_scheduler;
     ManualClock m_clock;
+    ManualPasteboard m_pasteboard;
     ManualDocumentFile m_file;
     AppState m_appState;
     QPointer<EditorViewModel> m_editor;

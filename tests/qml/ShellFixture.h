@@ -5,6 +5,7 @@
 #include "Store/AppState.h"
 #include "support/ManualClock.h"
 #include "support/ManualDocumentFile.h"
+#include "support/ManualPasteboard.h"
 #include "support/ManualScheduler.h"
 
 #include <QtQml/qqml.h>
@@ -47,7 +48,8 @@ private:
     ManualScheduler m_scheduler;
     ManualClock m_clock;
     ManualDocumentFile m_file;
+    ManualPasteboard m_pasteboard;
     AppState m_appState{m_scheduler, m_clock, m_file};
-    MainViewModel m_main{m_appState, m_scheduler};
+    MainViewModel m_main{m_appState, m_scheduler, m_pasteboard};
     LaunchSequence m_launch{m_scheduler};
 };

@@ -4,6 +4,7 @@
 #include "Store/AppState.h"
 #include "support/ManualClock.h"
 #include "support/ManualDocumentFile.h"
+#include "support/ManualPasteboard.h"
 #include "support/ManualScheduler.h"
 #include "support/PageText.h"
 
@@ -17,7 +18,7 @@ public:
         PelkoDocument page = *m_state.openDocument();
         page.blocks = blocks;
         m_state.updateDocument(page);
-        editor = std::make_unique<EditorViewModel>(m_state, scheduler, page.id);
+        editor = std::make_unique<EditorViewModel>(m_state, scheduler, pasteboard, page.id);
         QObject::connect(editor.get(), &EditorViewModel::focusRequested, editor.get(),
                          [this](const QString &blockID, const QString &todoID, int caret) {
                              FocusTarget target{.blockID = QUuid(blockID), .caret = caret};
@@ -28,6 +29,7 @@ public:
     }
 
     ManualScheduler scheduler;
+    ManualPasteboard pasteboard;
     std::unique_ptr<EditorViewModel> editor;
 
     AppState &state() { return m_state; }
