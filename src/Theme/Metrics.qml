@@ -73,6 +73,8 @@ QtObject {
     readonly property int gripHeight: 26
     readonly property int gripSymbol: 16
     readonly property real liftedOpacity: 0.32
+    /// The tallest picture of a dragged block, in pixels.
+    readonly property int liftedPixels: 8192
     /// A dragged block this near to the edge of the page scrolls it; so many times further, the more a second.
     readonly property int dragEdge: 64
     readonly property int dragScroll: 14

@@ -191,7 +191,10 @@ Item {
             verify(body.opacity > 0.9)
             tryCompare(body, "opacity", Metrics.liftedOpacity)
             const card = everything(page).find(item => item instanceof LiftedBlock)
-            tryCompare(card, "opacity", 1)
+            const picture = everything(card).find(item => item instanceof Image)
+            tryCompare(picture, "status", Image.Ready)
+            compare(picture.width, dragged.block.width)
+            verify(card.visible)
             letGo()
             tryCompare(body, "opacity", 1)
             tryCompare(card, "visible", false)
@@ -365,6 +368,21 @@ Item {
             mouseMove(page, margin, middleOf(row(0)))
             waitForRendering(page)
             compare(grips().length, 0)
+        }
+
+        function test_the_grip_takes_its_block_when_it_is_pulled() {
+            open(bodies(["A", "B"]))
+            mouseMove(page, 5, middleOf(row(0)))
+            mouseMove(page, margin, middleOf(row(0)))
+            tryVerify(() => grips().length === 1)
+            const grip = grips()[0].mapToItem(page, 11, 13)
+            const below = middleOf(row(1))
+            mousePress(page, grip.x, grip.y)
+            mouseMove(page, grip.x, below - 1)
+            mouseMove(page, grip.x, below)
+            mouseRelease(page, grip.x, below)
+            compare(order(), "B A")
+            verify(!everything(page).some(item => item.Accessible.name === "Delete Block" && item.visible))
         }
 
         function test_what_is_dropped_from_elsewhere_changes_nothing_data() {

@@ -15,6 +15,7 @@ MouseArea {
     readonly property real pull: Math.max(0, mouseY - height + Metrics.dragEdge)
         - Math.max(0, Metrics.stripHeight + Metrics.dragEdge - mouseY)
 
+    property BlockRow pressedRow: null
     property string taken
     property string entered
     property point start
@@ -31,6 +32,7 @@ MouseArea {
     }
 
     function take(row: BlockRow, position: point) {
+        pressedRow = row
         taken = row.blockID
         entered = taken
         start = position
@@ -55,7 +57,12 @@ MouseArea {
 
     function letGo() {
         taken = ""
-        blocks.drop()
+        dragging ? blocks.drop() : click()
+    }
+
+    function click() {
+        if (pressedRow?.grip.holds(root, Qt.point(mouseX, mouseY)))
+            pressedRow.grip.triggered()
     }
 
     function giveUp() {

@@ -1,11 +1,16 @@
 import QtQuick
 import Pelko
 
-/// Shows in the margin that the block can be taken here. The margin itself takes it; a click opens its menu.
+/// Shows in the margin that the block can be taken here. The pointer is left to the margin, which takes the block
+/// when it is pulled and triggers the grip when it is clicked.
 Item {
     id: root
 
     signal triggered
+
+    function holds(item: Item, position: point) : bool {
+        return visible && contains(mapFromItem(item, position))
+    }
 
     Accessible.description: qsTr("Drag, or press Alt+Up or Alt+Down")
     Accessible.name: qsTr("Move")
@@ -18,10 +23,6 @@ Item {
         id: hover
 
         cursorShape: Qt.OpenHandCursor
-    }
-
-    TapHandler {
-        onTapped: root.triggered()
     }
 
     SymbolIcon {

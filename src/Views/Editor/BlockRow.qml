@@ -19,6 +19,9 @@ FocusScope {
     /// A new row grows into its place, so that what stands below moves aside instead of jumping.
     property real growth: 1
 
+    readonly property alias grip: grip
+    /// How far its glide still has to take it.
+    readonly property alias glide: slide.y
     readonly property BlockDrag drag: page.editor.drag
     readonly property bool lifted: drag.draggingBlockID === blockID
     readonly property bool pointedAt: hover.hovered && drag.draggingBlockID === ""
@@ -64,7 +67,12 @@ FocusScope {
     Keys.onTabPressed: walk(true)
 
     ListView.onAdd: arrival.start()
-    transform: RowSlide { page: root.page; place: root.y + body.y }
+    transform: RowSlide {
+        id: slide
+
+        page: root.page
+        place: root.y + body.y
+    }
     implicitHeight: (body.y + body.height) * growth
     width: ListView.view?.width ?? 0
     onActiveFocusChanged: {
@@ -134,6 +142,8 @@ FocusScope {
     }
 
     BlockGrip {
+        id: grip
+
         anchors { right: body.left; rightMargin: Metrics.space12 }
         opacity: root.pointedAt ? 1 : 0
         visible: root.page.editor.offersDelete && opacity > 0

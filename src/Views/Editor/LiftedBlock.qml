@@ -1,44 +1,57 @@
 import QtQuick
 import Pelko
 
-/// What follows the pointer while a block is dragged: its picture on a card. The picture is taken when the
-/// block is pressed, so the row itself may go out of sight, or away.
+/// What follows the pointer while a block is dragged, and settles in its place when it is let go: a picture of the
+/// block on a card. The picture is taken when the block is pressed, so the row itself may go out of sight, or away.
 Item {
     id: root
 
     required property BlockDragArea area
 
-    property var picture: null
-    property point hold
+    property url picture
     property size content
+    property point hold
 
     function take(row: BlockRow, position: point) {
         const corner = row.block.mapToItem(root, 0, 0)
         content = Qt.size(row.block.width, row.block.height)
-        hold = Qt.point(position.x - corner.x, Math.min(position.y - corner.y, card.height - 2 * Metrics.space12))
-        picture = null
-        row.block.grabToImage(result => root.picture = result)
+        hold = Qt.point(position.x - corner.x, Math.min(position.y - corner.y, view.height))
+        picture = ""
+        row.block.grabToImage(result => root.picture = result.url, pixels(content))
+    }
+
+    function pixels(size: size) : size {
+        const ratio = Math.min(Screen.devicePixelRatio, Metrics.liftedPixels / size.height)
+        return Qt.size(Math.ceil(size.width * ratio), Math.ceil(size.height * ratio))
     }
 
     function carry(position: point) {
-        card.x = position.x - hold.x - card.contentX
-        card.y = position.y - hold.y - card.contentY
+        landing.stop()
+        card.x = position.x - hold.x - view.x
+        card.y = position.y - hold.y - view.y
     }
 
-    visible: opacity > 0
-    opacity: area.dragging ? 1 : 0
-
-    Behavior on opacity {
-        NumberAnimation { duration: PelkoAnimation.micro.duration; easing: PelkoAnimation.micro.curve }
+    function land() {
+        const row = area.pressedRow
+        area.list.forceLayout()
+        const corner = row ? row.block.mapToItem(card, -view.x, -view.y - row.glide) : Qt.point(0, 0)
+        landing.place = Qt.point(card.x + corner.x, card.y + corner.y)
+        landing.start()
     }
+
+    visible: area.dragging || landing.running
 
     Connections {
-        function onTaking(row: BlockRow, position: point) {
-            root.take(row, position)
-        }
-
         function onCarried(position: point) {
             root.carry(position)
+        }
+
+        function onDraggingChanged() {
+            root.area.dragging ? card.opacity = 1 : root.land()
+        }
+
+        function onTaking(row: BlockRow, position: point) {
+            root.take(row, position)
         }
 
         target: root.area
@@ -47,16 +60,14 @@ Item {
     // The rows under the pointer have cursors of their own.
     HoverHandler {
         cursorShape: Qt.DragMoveCursor
+        enabled: root.area.dragging
     }
 
     Item {
         id: card
 
-        readonly property real contentX: Metrics.space12 + Metrics.gripWidth
-        readonly property real contentY: Metrics.space12
-
-        height: Math.min(root.content.height, root.height / 2) + 2 * contentY
-        width: root.content.width + contentX + Metrics.space12
+        height: view.height + 2 * view.y
+        width: view.width + view.x + Metrics.space12
 
         GlassSurface {
             anchors.fill: parent
@@ -68,22 +79,54 @@ Item {
             color: FirePalette.inkMeta
             name: "grip"
             size: Metrics.gripSymbol
-            x: (parent.contentX - width) / 2
-            y: parent.contentY + (Metrics.gripHeight - height) / 2
+            x: (view.x - width) / 2
+            y: view.y + (Metrics.gripHeight - height) / 2
         }
 
         Item {
+            id: view
+
             clip: true
-            height: parent.height - 2 * y
+            height: Math.min(root.content.height, root.height / 2)
             width: root.content.width
-            x: parent.contentX
-            y: parent.contentY
+            x: Metrics.space12 + Metrics.gripWidth
+            y: Metrics.space12
 
             Image {
                 height: root.content.height
-                source: root.picture?.url ?? ""
+                source: root.picture
                 width: root.content.width
             }
+        }
+    }
+
+    ParallelAnimation {
+        id: landing
+
+        property point place
+
+        NumberAnimation {
+            duration: Motion.reduced ? 0 : PelkoAnimation.smooth.duration
+            easing: PelkoAnimation.smooth.curve
+            property: "x"
+            target: card
+            to: landing.place.x
+        }
+
+        NumberAnimation {
+            duration: Motion.reduced ? 0 : PelkoAnimation.smooth.duration
+            easing: PelkoAnimation.smooth.curve
+            property: "y"
+            target: card
+            to: landing.place.y
+        }
+
+        NumberAnimation {
+            duration: Motion.reduced ? Motion.fade : PelkoAnimation.smooth.duration
+            easing.type: Easing.InCubic
+            property: "opacity"
+            target: card
+            to: 0
         }
     }
 }
