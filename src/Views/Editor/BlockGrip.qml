@@ -12,9 +12,9 @@ Item {
         return visible && contains(mapFromItem(item, position))
     }
 
-    Accessible.description: qsTr("Drag, or press Alt+Up or Alt+Down")
-    Accessible.name: qsTr("Move")
-    Accessible.role: Accessible.Grip
+    Accessible.description: qsTr("Drag to move the block, or press Alt+Up or Alt+Down in it. A click opens its menu.")
+    Accessible.name: qsTr("Move Block")
+    Accessible.role: Accessible.Button
     Accessible.onPressAction: triggered()
     height: Metrics.gripHeight
     width: Metrics.gripWidth
