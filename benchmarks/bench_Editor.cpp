@@ -5,9 +5,9 @@
 #include "Editor/EditorViewModel.h"
 #include "Platform/QtScheduler.h"
 #include "Platform/SystemClock.h"
-#include "Services/DocumentFile.h"
 #include "Store/AppState.h"
 #include "support/Libraries.h"
+#include "support/NoFile.h"
 #include "support/RatioTable.h"
 
 #include <QCoreApplication>
@@ -39,14 +39,6 @@ PelkoDocument makePage(PageSize size)
     }
     return page;
 }
-
-/// Holds nothing and takes everything: no benchmark of the editor waits for a disk.
-class NoFile : public DocumentFile
-{
-public:
-    Contents read() override { return Missing{}; }
-    std::optional<FileError> replace(const Producer &) override { return std::nullopt; }
-};
 
 /// An editor on one page of a store, and a field in the middle of it that is typed in.
 class Desk

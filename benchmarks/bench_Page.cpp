@@ -1,0 +1,270 @@
+// What a writer feels of a page. From a key to its frame, against a window with one plain text field: a page
+// of 2,000 blocks should answer like one of a single block. And the frames while a block is dragged over
+// fifty rows, against plain scrolling over the same rows. Each frame is drawn here and now, on this thread,
+// so that no wait for a screen hides the work.
+
+#include "Editor/EditorViewModel.h"
+#include "Platform/QtScheduler.h"
+#include "Platform/SystemClock.h"
+#include "Store/AppState.h"
+#include "support/NoFile.h"
+#include "support/RatioTable.h"
+
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QtQml/QQmlExtensionPlugin>
+
+#include <chrono>
+#include <thread>
+
+Q_IMPORT_QML_PLUGIN(PelkoPlugin)
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace
+{
+using Clock = std::chrono::steady_clock;
+using Milliseconds = std::chrono::duration<double, std::milli>;
+
+const QString paragraph = u"Every morning offers the same trade: one quiet hour against a whole loud day. "_s;
+constexpr Milliseconds frameTime(1000.0 / 60);
+
+/// A window whose frames are drawn when this says so and at no other time.
+class Stage : public QObject
+{
+public:
+    Stage(const QByteArray &qml, const QVariantMap &properties)
+    {
+        m_engine.addImportPath(u"qrc:/qt/qml"_s);
+        QQmlComponent component(&m_engine);
+        component.setData(qml, {});
+        m_window.reset(qobject_cast<QQuickWindow *>(component.createWithInitialProperties(properties)));
+        if (!m_window)
+            qFatal("%s", qPrintable(component.errorString()));
+        m_window->show();
+        m_window->requestActivate();
+        while (!m_window->isExposed() || !m_window->isActive())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+        m_window->installEventFilter(this);
+        settle(10);
+    }
+
+    QQuickWindow &window() const { return *m_window; }
+
+    /// Lets everything that was put off happen, for so many frames.
+    void settle(int frames)
+    {
+        for (int frame = 0; frame < frames; ++frame) {
+            std::this_thread::sleep_for(frameTime);
+            QCoreApplication::processEvents();
+            draw();
+        }
+    }
+
+    void draw()
+    {
+        m_draws = true;
+        QEvent request(QEvent::UpdateRequest);
+        QCoreApplication::sendEvent(m_window.get(), &request);
+        m_draws = false;
+    }
+
+    void type(Qt::Key key, const QString &text)
+    {
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            QKeyEvent event(type, key, Qt::NoModifier, text);
+            QCoreApplication::sendEvent(m_window.get(), &event);
+        }
+        QCoreApplication::sendPostedEvents();
+    }
+
+    void point(QEvent::Type type, QPointF place, Qt::MouseButton button, Qt::MouseButtons buttons)
+    {
+        QMouseEvent event(type, place, m_window->mapToGlobal(place), button, buttons, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window.get(), &event);
+    }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        return event->type() == QEvent::UpdateRequest && !m_draws;
+    }
+
+private:
+    QQmlEngine m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+    bool m_draws = false;
+};
+
+/// A plain window with one text field.
+class PlainField
+{
+public:
+    PlainField()
+        : m_stage("import QtQuick\n"
+                  "Window { width: 1100; height: 750; property alias text: field.text\n"
+                  "TextEdit { id: field; anchors.fill: parent; focus: true; wrapMode: TextEdit.Wrap\n"
+                  "font.pixelSize: 16; renderType: Text.NativeRendering } }",
+                  {{u"text"_s, paragraph}})
+    {
+    }
+
+    Stage &stage() { return m_stage; }
+
+private:
+    Stage m_stage;
+};
+
+/// The editor as the program shows it, on a page of so many blocks.
+class Page
+{
+public:
+    explicit Page(int blocks) : m_state(m_scheduler, m_clock, m_file)
+    {
+        m_state.createDocument(Space::work);
+        PelkoDocument page = *m_state.openDocument();
+        page.blocks.clear();
+        for (int row = 0; row < blocks; ++row)
+            page.blocks.append(Block(BlockType::textSmall, paragraph));
+        m_state.updateDocument(page);
+        m_editor = new EditorViewModel(m_state, m_scheduler, page.id, &m_owner);
+        m_stage = std::make_unique<Stage>(
+            "import QtQuick\nimport Pelko\n"
+            "Window { id: root; width: 1100; height: 750; required property EditorViewModel editor\n"
+            "EditorView { anchors.fill: parent; editor: root.editor; focus: true } }",
+            QVariantMap{{u"editor"_s, QVariant::fromValue(m_editor)}});
+    }
+
+    ~Page() { m_stage.reset(); }
+
+    Stage &stage() { return *m_stage; }
+    const QList<Block> &blocks() const { return m_state.documents().constFirst().blocks; }
+
+    void focus(qsizetype row)
+    {
+        Q_EMIT m_editor->focusRequested(blocks().at(row).id.toString(QUuid::WithoutBraces), {}, -1);
+        m_stage->settle(20);
+    }
+
+    QQuickItem &list() const
+    {
+        const auto items = m_stage->window().findChildren<QQuickItem *>();
+        return **std::ranges::find_if(
+            items, [](const QQuickItem *item) { return item->inherits("QQuickListView"); });
+    }
+
+private:
+    QtScheduler m_scheduler;
+    SystemClock m_clock;
+    NoFile m_file;
+    AppState m_state;
+    QObject m_owner;
+    EditorViewModel *m_editor;
+    std::unique_ptr<Stage> m_stage;
+};
+
+/// A letter and its removal in turn, each with the frame that shows it.
+void writeKeys(benchmark::State &state, Stage &stage)
+{
+    bool written = false;
+    for (auto _ : state) {
+        written ? stage.type(Qt::Key_Backspace, u"\b"_s) : stage.type(Qt::Key_X, u"x"_s);
+        stage.draw();
+        written = !written;
+    }
+}
+
+void keyFloor(benchmark::State &state)
+{
+    PlainField field;
+    writeKeys(state, field.stage());
+}
+
+void keyPelko(benchmark::State &state, int blocks)
+{
+    Page page(blocks);
+    page.focus(blocks / 2);
+    writeKeys(state, page.stage());
+}
+
+/// Counts the work of each frame, sixty times a second.
+template <typename Step>
+void play(benchmark::State &state, Stage &stage, Step step)
+{
+    int late = 0;
+    for (auto _ : state) {
+        const auto start = Clock::now();
+        step();
+        QCoreApplication::processEvents();
+        stage.draw();
+        const Milliseconds busy = Clock::now() - start;
+        state.SetIterationTime(busy.count() / 1000);
+        late += busy > frameTime;
+        std::this_thread::sleep_until(start + frameTime);
+    }
+    state.counters["late"] = late;
+}
+
+void scrollFloor(benchmark::State &state)
+{
+    Page page(200);
+    QQuickItem &list = page.list();
+    play(state, page.stage(),
+         [&list] { list.setProperty("contentY", list.property("contentY").toReal() + 13); });
+}
+
+void dragPelko(benchmark::State &state)
+{
+    Page page(200);
+    const QUuid dragged = page.blocks().constFirst().id;
+    const qreal margin = 200;
+    QPointF place(margin, 75);
+    page.stage().point(QEvent::MouseButtonPress, place, Qt::LeftButton, Qt::LeftButton);
+    play(state, page.stage(), [&] {
+        place.setY(std::min(place.y() + 25, 696.0)); // down to the edge, which scrolls
+        page.stage().point(QEvent::MouseMove, place, Qt::NoButton, Qt::LeftButton);
+    });
+    page.stage().point(QEvent::MouseButtonRelease, place, Qt::LeftButton, Qt::NoButton);
+    if (std::ranges::find(page.blocks(), dragged, &Block::id) - page.blocks().begin() < 50)
+        state.SkipWithError("the block has to pass fifty rows");
+}
+
+void addKeys(const char *page, int blocks)
+{
+    const std::string row = std::string("key to frame/") + page;
+    const auto add = [&row](const char *way, auto measure) {
+        benchmark::RegisterBenchmark((row + way).c_str(), measure)
+            ->Iterations(200)
+            ->Repetitions(7)
+            ->Unit(benchmark::kMillisecond)
+            ->UseRealTime();
+    };
+    add("/floor", keyFloor);
+    add("/Pelko", [blocks](benchmark::State &state) { keyPelko(state, blocks); });
+}
+
+void addMotion(const char *name, void (*measure)(benchmark::State &))
+{
+    benchmark::RegisterBenchmark(name, measure)
+        ->Iterations(240)
+        ->Repetitions(5)
+        ->Unit(benchmark::kMillisecond)
+        ->UseManualTime();
+}
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QSG_RENDER_LOOP", "basic");
+    QGuiApplication application(argc, argv);
+    addKeys("1 block", 1);
+    addKeys("100 blocks", 100);
+    addKeys("2,000 blocks", 2000);
+    addMotion("frame/over 50 rows/floor", scrollFloor);
+    addMotion("frame/over 50 rows/Pelko", dragPelko);
+    return runAndPrintRatios(argc, argv);
+}
