@@ -61,13 +61,13 @@ def let_go():
 
 
 def order(pelko):
-    """The words from top to bottom as they stand on the screen."""
+    """The words as they are read out, when they stand on the screen in the same order."""
     found = [(screen_reader().place_of(node)[1], screen_reader().text_of(node)) for node in pelko.fields()]
-    return [text for _, text in sorted(found)]
+    return " ".join(text for _, text in found) if found == sorted(found) else None
 
 
 def wait_order(pelko, expected):
-    until(lambda: order(pelko) == expected.split(), f"the order is {expected}")
+    until(lambda: order(pelko) == expected, f"the order is {expected}")
 
 
 def stored(saved):

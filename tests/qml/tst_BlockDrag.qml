@@ -125,6 +125,22 @@ Item {
             compare(order(), "A D B C")
         }
 
+        /// As assistive technology goes through the page.
+        function readingOrder() {
+            return Array.from(list.contentItem.children).filter(item => item instanceof BlockRow)
+                .map(row => row.content).join(" ")
+        }
+
+        function test_what_is_read_aloud_follows_the_order_of_the_page() {
+            open(bodies(["A", "B", "C", "D"]))
+            lift(row(0))
+            carryTo(middleOf(row(2)))
+            letGo()
+            tryVerify(() => readingOrder() === "B C A D")
+            bench.editor.typed(row(1).blockID, "C\nE", 3)
+            tryVerify(() => readingOrder() === "B C E A D")
+        }
+
         function test_a_press_in_the_margin_alone_changes_nothing() {
             open(bodies(["A", "B"]))
             const saves = bench.saves()

@@ -93,7 +93,16 @@ FocusScope {
         onTriggered: {
             list.forceLayout()
             context.reorderEnded()
+            ReadingOrder.arrange(list.contentItem)
         }
+    }
+
+    Connections {
+        function onChildrenChanged() {
+            reorder.start()
+        }
+
+        target: list.contentItem
     }
 
     Connections {
