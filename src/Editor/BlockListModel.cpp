@@ -2,21 +2,37 @@
 
 #include "Editor/BlockOperations.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace
 {
 
+std::optional<BlockType> above(const PelkoDocument &document, qsizetype row)
+{
+    return row == 0 ? std::nullopt : std::optional(document.blocks.at(row - 1).type);
+}
+
+BlockRow rowOf(const PelkoDocument &document, qsizetype row)
+{
+    return {.block = document.blocks.at(row),
+            .above = above(document, row),
+            .canDelete = BlockOperations::canDelete(document, row)};
+}
+
+bool isRowOf(const BlockRow &shown, const PelkoDocument &document, qsizetype row)
+{
+    return shown.block == document.blocks.at(row) && shown.above == above(document, row) &&
+           shown.canDelete == BlockOperations::canDelete(document, row);
+}
+
 QList<BlockRow> rowsOf(const PelkoDocument &document)
 {
     QList<BlockRow> rows;
     rows.reserve(document.blocks.size());
-    std::optional<BlockType> above;
-    for (const Block &block : document.blocks) {
-        const bool canDelete = BlockOperations::canDelete(document, rows.size());
-        rows.append({.block = block, .above = above, .canDelete = canDelete});
-        above = block.type;
-    }
+    for (qsizetype row = 0; row < document.blocks.size(); ++row)
+        rows.append(rowOf(document, row));
     return rows;
 }
 
@@ -54,7 +70,21 @@ RowEditor rowEditor(BlockType type)
 void BlockListModel::publish(const PelkoDocument &document)
 {
     publishTodos(document.blocks);
-    IdListModel::publish(rowsOf(document));
+    if (!publishInPlace(document))
+        IdListModel::publish(rowsOf(document));
+}
+
+bool BlockListModel::publishInPlace(const PelkoDocument &document)
+{
+    const auto key = [](const Block &block) { return std::pair(block.id, rowEditor(block.type)); };
+    if (!std::ranges::equal(
+            rows(), document.blocks, {}, [](const BlockRow &row) { return rowKey(row); }, key))
+        return false;
+    for (qsizetype row = 0; row < document.blocks.size(); ++row) {
+        if (!isRowOf(rows().at(row), document, row))
+            update(row, rowOf(document, row));
+    }
+    return true;
 }
 
 void BlockListModel::publishTodos(const QList<Block> &blocks)

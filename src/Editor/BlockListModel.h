@@ -66,6 +66,9 @@ protected:
     QList<int> changedRoles(const BlockRow &before, const BlockRow &after) const override;
 
 private:
+    /// Nearly every change leaves the rows where they are: then no other row is touched than those that
+    /// differ.
+    bool publishInPlace(const PelkoDocument &document);
     void publishTodos(const QList<Block> &blocks);
 
     std::map<QUuid, TodoListModel *> m_todos; // children of this model

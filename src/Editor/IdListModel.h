@@ -36,6 +36,17 @@ public:
     }
 
 protected:
+    /// Puts a row of the same key in the place of another and tells what differs.
+    void update(qsizetype row, const Row &after)
+    {
+        const QList<int> roles = changedRoles(m_rows.at(row), after);
+        if (roles.isEmpty())
+            return;
+        m_rows[row] = after;
+        const QModelIndex changed = index(static_cast<int>(row));
+        Q_EMIT dataChanged(changed, changed, roles);
+    }
+
     /// The roles in which two rows of the same key differ; empty when they are equal.
     virtual QList<int> changedRoles(const Row &before, const Row &after) const = 0;
 
@@ -73,16 +84,6 @@ private:
             endInsertRows();
             break;
         }
-    }
-
-    void update(qsizetype row, const Row &after)
-    {
-        const QList<int> roles = changedRoles(m_rows.at(row), after);
-        if (roles.isEmpty())
-            return;
-        m_rows[row] = after;
-        const QModelIndex changed = index(static_cast<int>(row));
-        Q_EMIT dataChanged(changed, changed, roles);
     }
 
     QList<Row> m_rows;
