@@ -59,6 +59,9 @@ public:
         settle(10);
     }
 
+    /// The items have to go while their window is there.
+    ~Stage() override { qDeleteAll(m_window->contentItem()->childItems()); }
+
     QQuickWindow &window() const { return *m_window; }
 
     /// Lets everything that was put off happen, for so many frames.
