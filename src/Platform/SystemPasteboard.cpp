@@ -1,7 +1,9 @@
 #include "Platform/SystemPasteboard.h"
 
+#include <QBuffer>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QImage>
 #include <QMimeData>
 
 #include <memory>
@@ -28,6 +30,19 @@ std::unique_ptr<QMimeData> formsOf(const PasteboardItem &item)
 QString SystemPasteboard::text() const
 {
     return QGuiApplication::clipboard()->text();
+}
+
+QByteArray SystemPasteboard::picture() const
+{
+    const QMimeData *offered = QGuiApplication::clipboard()->mimeData();
+    if (!offered || offered->hasText())
+        return {};
+    if (const QByteArray file = offered->data(u"image/png"_s); !file.isEmpty())
+        return file;
+    QByteArray encoded;
+    QBuffer buffer(&encoded);
+    offered->imageData().value<QImage>().save(&buffer, "PNG");
+    return encoded;
 }
 
 void SystemPasteboard::put(const PasteboardItem &item)

@@ -7,5 +7,6 @@ class SystemPasteboard : public Pasteboard
 {
 public:
     QString text() const override;
+    QByteArray picture() const override;
     void put(const PasteboardItem &item) override;
 };

@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QImage>
 #include <QMimeData>
 #include <QTest>
 
@@ -56,6 +57,40 @@ private Q_SLOTS:
         picture->setData(u"image/png"_s, "bytes"_ba);
         QGuiApplication::clipboard()->setMimeData(picture);
         QCOMPARE(SystemPasteboard().text(), QString());
+    }
+
+    void thePictureIsTheFileThatIsOffered()
+    {
+        auto *picture = new QMimeData;
+        picture->setData(u"image/png"_s, "bytes"_ba);
+        QGuiApplication::clipboard()->setMimeData(picture);
+        QCOMPARE(SystemPasteboard().picture(), "bytes"_ba);
+    }
+
+    void aPictureWithoutAFileBecomesOne()
+    {
+        QImage image(2, 3, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        auto *picture = new QMimeData;
+        picture->setImageData(image);
+        QGuiApplication::clipboard()->setMimeData(picture);
+        QCOMPARE(QImage::fromData(SystemPasteboard().picture(), "PNG").convertToFormat(image.format()),
+                 image);
+    }
+
+    void besideTextAPictureDoesNotCount()
+    {
+        auto *both = new QMimeData;
+        both->setData(u"image/png"_s, "bytes"_ba);
+        both->setText(u"words"_s);
+        QGuiApplication::clipboard()->setMimeData(both);
+        QCOMPARE(SystemPasteboard().picture(), QByteArray());
+    }
+
+    void anEmptyPasteboardHasNoPicture()
+    {
+        QGuiApplication::clipboard()->clear();
+        QCOMPARE(SystemPasteboard().picture(), QByteArray());
     }
 };
 

@@ -7,7 +7,9 @@ class ManualPasteboard : public Pasteboard
 {
 public:
     QString text() const override { return item.text; }
+    QByteArray picture() const override { return item.text.isEmpty() ? png : QByteArray(); }
     void put(const PasteboardItem &put) override { item = put; }
 
     PasteboardItem item;
+    QByteArray png;
 };

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "Services/EditorServices.h"
+#include "Services/ImageChooser.h"
+
+#include <QObject>
+#include <QUuid>
+
+#include <map>
+
+/// Fills the image blocks of an editor with pictures from the user's files. Only a failure of the chooser
+/// itself is told to the user; a file that cannot be read leaves the block as it was.
+class ImageImport : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool showImagePicker READ showImagePicker NOTIFY showImagePickerChanged)
+    Q_PROPERTY(bool showImageImportError READ showImageImportError NOTIFY showImageImportErrorChanged)
+    Q_PROPERTY(QString imageImportError READ imageImportError NOTIFY imageImportErrorChanged)
+
+public:
+    /// Takes a picture's bytes for a block, which may be gone by then.
+    using Store = std::function<void(const QUuid &blockID, const QByteArray &bytes)>;
+
+    ImageImport(const EditorServices &services, Store store);
+
+    /// Whether the chooser is open.
+    bool showImagePicker() const { return m_showImagePicker; }
+    /// The block that the chooser will fill; remembered after that.
+    const QUuid &imageBlockID() const { return m_imageBlockID; }
+    bool showImageImportError() const { return m_showImageImportError; }
+    /// What went wrong, in words for the user. Keeps its last value after it was dismissed.
+    QString imageImportError() const { return m_imageImportError; }
+
+    /// Asks for a picture for that block. A chooser that is already open fills this block instead.
+    Q_INVOKABLE void addImage(const QString &blockID);
+    Q_INVOKABLE void dismissImageImportError();
+    /// Closes the chooser and forgets what is still being read.
+    void cancel();
+
+Q_SIGNALS:
+    void showImagePickerChanged();
+    void showImageImportErrorChanged();
+    void imageImportErrorChanged();
+
+private:
+    void take(const ImageChooser::Choice &choice);
+    void read(const std::filesystem::path &file);
+    void setShowImagePicker(bool shown);
+
+    ImageChooser &m_chooser;
+    PictureFiles &m_files;
+    const Store m_store;
+
+    bool m_showImagePicker = false;
+    QUuid m_imageBlockID;
+    bool m_showImageImportError = false;
+    QString m_imageImportError;
+    ScheduledCall m_choosing;
+    std::map<QUuid, ScheduledCall> m_readings; // by the block that waits for the bytes
+};

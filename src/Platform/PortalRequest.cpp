@@ -1,0 +1,168 @@
+#include "Platform/PortalRequest.h"
+
+#include <QDBusArgument>
+#include <QDBusMetaType>
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+const QString portalService = u"org.freedesktop.portal.Desktop"_s;
+const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
+const QString chooserInterface = u"org.freedesktop.portal.FileChooser"_s;
+const QString requestInterface = u"org.freedesktop.portal.Request"_s;
+// Long enough to start the service; the question itself is answered at once.
+constexpr int patience = 10'000;
+
+/// One way to tell which files are wanted, as the bus has it: 1 stands for a media type.
+struct Pattern {
+    uint kind = 1;
+    QString value;
+};
+
+struct Filter {
+    QString name;
+    QList<Pattern> patterns;
+};
+
+QDBusArgument &operator<<(QDBusArgument &argument, const Pattern &pattern)
+{
+    argument.beginStructure();
+    argument << pattern.kind << pattern.value;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, Pattern &pattern)
+{
+    argument.beginStructure();
+    argument >> pattern.kind >> pattern.value;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument &operator<<(QDBusArgument &argument, const Filter &filter)
+{
+    argument.beginStructure();
+    argument << filter.name << filter.patterns;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, Filter &filter)
+{
+    argument.beginStructure();
+    argument >> filter.name >> filter.patterns;
+    argument.endStructure();
+    return argument;
+}
+
+QVariantMap optionsFor(const QString &token)
+{
+    qDBusRegisterMetaType<Pattern>();
+    qDBusRegisterMetaType<QList<Pattern>>();
+    qDBusRegisterMetaType<Filter>();
+    qDBusRegisterMetaType<QList<Filter>>();
+    const QList<Filter> filters{{.name = u"Images"_s, .patterns = {{.value = u"image/*"_s}}}};
+    return {{u"handle_token"_s, token},
+            {u"modal"_s, true},
+            {u"multiple"_s, false},
+            {u"filters"_s, QVariant::fromValue(filters)}};
+}
+
+/// File names are bytes, which an address spells out and text could lose.
+QList<std::filesystem::path> filesOf(const QStringList &addresses)
+{
+    QList<std::filesystem::path> files;
+    for (const QString &address : addresses) {
+        if (address.startsWith("file:///"_L1))
+            files << QByteArray::fromPercentEncoding(address.sliced(7).toUtf8()).toStdString();
+    }
+    return files;
+}
+
+QString nextToken()
+{
+    static int count = 0;
+    return u"pelko%1"_s.arg(++count);
+}
+
+QString requestPath(const QDBusConnection &bus, const QString &token)
+{
+    const QString sender = bus.baseService().sliced(1).replace(u'.', u'_');
+    return portalPath + u"/request/"_s + sender + u'/' + token;
+}
+} // namespace
+
+PortalRequest::PortalRequest(const QDBusConnection &bus, ImageChooser::Completion completion,
+                             ImageChooser &otherwise)
+    : m_bus(bus)
+    , m_completion(std::move(completion))
+    , m_otherwise(otherwise)
+{
+}
+
+PortalRequest::~PortalRequest()
+{
+    if (!m_path.isEmpty())
+        m_bus.send(QDBusMessage::createMethodCall(portalService, m_path, requestInterface, u"Close"_s));
+}
+
+void PortalRequest::send(const QString &parentWindow)
+{
+    if (!m_bus.isConnected()) {
+        QMetaObject::invokeMethod(this, &PortalRequest::refused, Qt::QueuedConnection);
+        return;
+    }
+    const QString token = nextToken();
+    listenTo(requestPath(m_bus, token));
+    auto question =
+        QDBusMessage::createMethodCall(portalService, portalPath, chooserInterface, u"OpenFile"_s);
+    question << parentWindow << u"Add image"_s << optionsFor(token);
+    auto *reply = new QDBusPendingCallWatcher(m_bus.asyncCall(question, patience), this);
+    connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply] {
+        const QDBusPendingReply<QDBusObjectPath> handle = *reply;
+        reply->deleteLater();
+        handle.isError() ? refused() : accepted(handle.value().path());
+    });
+}
+
+void PortalRequest::accepted(const QString &handle)
+{
+    if (!m_path.isEmpty() && handle != m_path) // as early versions of the service have it
+        listenTo(handle);
+}
+
+void PortalRequest::refused()
+{
+    m_path.clear();
+    m_otherChooser = m_otherwise.choose([this](const ImageChooser::Choice &choice) { finish(choice); });
+}
+
+void PortalRequest::listenTo(const QString &path)
+{
+    m_path = path;
+    m_bus.connect(portalService, path, requestInterface, u"Response"_s, this,
+                  SLOT(answered(uint, QVariantMap)));
+}
+
+void PortalRequest::answered(uint response, const QVariantMap &results)
+{
+    m_path.clear();
+    if (response == cancelled)
+        finish(QList<std::filesystem::path>{});
+    else if (response == chosen)
+        finish(filesOf(results.value(u"uris"_s).toStringList()));
+    else
+        finish(FileError{u"The file chooser came to an unexpected end."_s});
+}
+
+void PortalRequest::finish(const ImageChooser::Choice &choice)
+{
+    // Whoever hears of the choice may drop this request, and must itself outlive that.
+    const ImageChooser::Completion completion = m_completion;
+    completion(choice);
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+class ImageChooser;
+class Pasteboard;
+class PictureFiles;
+class Scheduler;
+
+/// What editors need of the desktop they run on. All of it outlives them.
+struct EditorServices {
+    Scheduler &scheduler;
+    Pasteboard &pasteboard;
+    ImageChooser &imageChooser;
+    PictureFiles &pictureFiles;
+};

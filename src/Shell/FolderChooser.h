@@ -1,0 +1,76 @@
+#pragma once
+
+#include "Services/ImageChooser.h"
+#include "Shell/FolderEntryModel.h"
+
+#include <QObject>
+#include <QStringList>
+
+/// A file chooser of the app's own, for desktops that offer none: it walks through the user's folders and
+/// shows the pictures in them. Begins where it was last.
+class FolderChooser : public QObject, public ImageChooser
+{
+    Q_OBJECT
+    Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged)
+    Q_PROPERTY(QString folder READ folder NOTIFY folderChanged)
+    Q_PROPERTY(bool canGoUp READ canGoUp NOTIFY folderChanged)
+    Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)
+    Q_PROPERTY(bool isListing READ isListing NOTIFY isListingChanged)
+    Q_PROPERTY(QObject *entries READ entries CONSTANT)
+    Q_PROPERTY(QStringList places READ places CONSTANT)
+    Q_PROPERTY(int place READ place NOTIFY folderChanged)
+
+public:
+    explicit FolderChooser(PictureFolders &folders);
+
+    ScheduledCall choose(Completion completion) override;
+
+    bool isOpen() const { return m_isOpen; }
+    /// The path of the folder that is shown.
+    QString folder() const;
+    bool canGoUp() const { return m_folder.has_relative_path(); }
+    /// Why the folder cannot be shown; empty when it can.
+    QString problem() const { return m_problem; }
+    bool isListing() const { return m_isListing; }
+    QObject *entries() { return &m_entries; }
+    /// The names of the folders where users keep things.
+    QStringList places() const;
+    /// Which of these is shown, or -1.
+    int place() const;
+
+    /// Goes into the folder in that row, or chooses the picture.
+    Q_INVOKABLE void take(int row);
+    Q_INVOKABLE void goUp();
+    Q_INVOKABLE void goToPlace(int place);
+    /// Goes to the folder of a typed path, "~" being the home folder, or chooses the file it names.
+    Q_INVOKABLE void goTo(const QString &path);
+    Q_INVOKABLE int rowStartingWith(const QString &text, int from) const;
+    Q_INVOKABLE void cancel();
+
+Q_SIGNALS:
+    void isOpenChanged();
+    void folderChanged();
+    void problemChanged();
+    void isListingChanged();
+    /// The folder is on show; the row to begin with.
+    void listed(int row);
+
+private:
+    void list(const std::filesystem::path &folder, const std::filesystem::path &cameFrom = {});
+    void show(const QList<PictureFolders::Entry> &entries, const std::filesystem::path &folder,
+              const std::filesystem::path &cameFrom);
+    void finish(const Choice &choice);
+    void close();
+    void setIsListing(bool listing);
+    void setProblem(const QString &problem);
+
+    PictureFolders &m_folders;
+    FolderEntryModel m_entries;
+    const QList<std::filesystem::path> m_places;
+    std::filesystem::path m_folder;
+    QString m_problem;
+    bool m_isOpen = false;
+    bool m_isListing = false;
+    ScheduledCall m_listing;
+    std::weak_ptr<Completion> m_request;
+};

@@ -1,0 +1,75 @@
+#include "Editor/ImageOperations.h"
+#include "support/PageText.h"
+
+#include <QTest>
+
+using namespace PageText;
+using namespace Qt::StringLiterals;
+
+class TestImageOperations : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aBlockIsFilledWithTheBytesAsTheyAre()
+    {
+        const QByteArray bytes("\0not \xff a picture", 17);
+        const auto edit =
+            ImageOperations::setImageData(page({block('A'), block('B', BlockType::image)}), idOf('B'), bytes);
+        QCOMPARE(edit.value().document.blocks[1].imageData, bytes);
+        QCOMPARE(edit->document.blocks[0], block('A'));
+        QCOMPARE(edit->focus, std::nullopt);
+    }
+
+    void anEmptyFileCountsAsData()
+    {
+        const auto edit =
+            ImageOperations::setImageData(page({block('A', BlockType::image)}), idOf('A'), QByteArray());
+        QVERIFY(edit.value().document.blocks[0].imageData.has_value());
+    }
+
+    void aSecondPictureReplacesTheFirstAndNothingElse()
+    {
+        Block banner = image('A', true);
+        banner.bannerTitle = u"Summer"_s;
+        const auto edit = ImageOperations::setImageData(page({banner}), idOf('A'), "other"_ba);
+        banner.imageData = "other"_ba;
+        QCOMPARE(edit.value().document.blocks, QList{banner});
+    }
+
+    void aPictureIsInsertedAfterTheBlockAndScrolledTo()
+    {
+        const auto edit = ImageOperations::insertImage(page({block('A'), block('B')}), idOf('A'), "png"_ba);
+        QCOMPARE(letters(edit.value().document), u"A+B"_s);
+        const Block &picture = edit->document.blocks[1];
+        QCOMPARE(picture.type, BlockType::image);
+        QCOMPARE(picture.imageData, "png"_ba);
+        QCOMPARE(edit->scrollTo, picture.id);
+        QCOMPARE(edit->focus, std::nullopt);
+    }
+
+    void theTitleIsStored()
+    {
+        const auto edit = ImageOperations::setBannerTitle(page({image('A', true)}), idOf('A'), u"Summer"_s);
+        QCOMPARE(edit.value().document.blocks[0].bannerTitle, u"Summer"_s);
+        QCOMPARE(edit->document.title(), u"Summer"_s);
+    }
+
+    void aTitleIsOneLineOfTheSameLength()
+    {
+        const auto edit = ImageOperations::setBannerTitle(page({image('A', true)}), idOf('A'),
+                                                          u"a\nb\r\nc\u2028d\u2029e"_s);
+        QCOMPARE(edit.value().document.blocks[0].bannerTitle, u"a b  c d e"_s);
+    }
+
+    void anUnknownBlockChangesNothing()
+    {
+        const PelkoDocument before = page({block('A')});
+        QVERIFY(!ImageOperations::setImageData(before, idOf('X'), "png"_ba));
+        QVERIFY(!ImageOperations::insertImage(before, idOf('X'), "png"_ba));
+        QVERIFY(!ImageOperations::setBannerTitle(before, idOf('X'), u"t"_s));
+    }
+};
+
+QTEST_APPLESS_MAIN(TestImageOperations)
+#include "tst_ImageOperations.moc"
