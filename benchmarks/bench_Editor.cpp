@@ -3,12 +3,12 @@
 // blocks with the new text in one of them, put in place of the old.
 
 #include "Editor/EditorViewModel.h"
-#include "Platform/QtScheduler.h"
 #include "Platform/SystemClock.h"
 #include "Store/AppState.h"
 #include "support/Libraries.h"
 #include "support/NoFile.h"
 #include "support/RatioTable.h"
+#include "support/RealEditorServices.h"
 
 #include <QCoreApplication>
 
@@ -44,7 +44,7 @@ PelkoDocument makePage(PageSize size)
 class Desk
 {
 public:
-    explicit Desk(PageSize size) : m_state(m_scheduler, m_clock, m_file)
+    explicit Desk(PageSize size) : m_state(m_services.scheduler, m_clock, m_file)
     {
         for (int spark = 0; spark < sparkCount(size); ++spark)
             m_state.captureSpark(u"A thought that was held on to: %1"_s.arg(spark));
@@ -55,7 +55,7 @@ public:
         m_blockID = middle.id.toString(QUuid::WithoutBraces);
         m_text = middle.content;
         m_state.updateDocument(page);
-        m_editor = std::make_unique<EditorViewModel>(m_state, m_scheduler, m_pasteboard, page.id);
+        m_editor = std::make_unique<EditorViewModel>(m_state, m_services.forEditor, page.id);
         const auto *blocks = qobject_cast<QAbstractItemModel *>(m_editor->blocks());
         QObject::connect(blocks, &QAbstractItemModel::dataChanged, m_editor.get(), [this] { ++m_changes; });
     }
@@ -79,7 +79,7 @@ public:
     qsizetype blockCount() const { return m_state.openDocument()->blocks.size(); }
 
 private:
-    QtScheduler m_scheduler;
+    RealEditorServices m_services;
     SystemClock m_clock;
     NoFile m_file;
     AppState m_state;

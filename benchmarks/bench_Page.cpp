@@ -4,11 +4,11 @@
 // so that no wait for a screen hides the work.
 
 #include "Editor/EditorViewModel.h"
-#include "Platform/QtScheduler.h"
 #include "Platform/SystemClock.h"
 #include "Store/AppState.h"
 #include "support/NoFile.h"
 #include "support/RatioTable.h"
+#include "support/RealEditorServices.h"
 
 #include <QGuiApplication>
 #include <QQmlComponent>
@@ -132,7 +132,7 @@ private:
 class Page
 {
 public:
-    explicit Page(int blocks) : m_state(m_scheduler, m_clock, m_file)
+    explicit Page(int blocks) : m_state(m_services.scheduler, m_clock, m_file)
     {
         m_state.createDocument(Space::work);
         PelkoDocument page = *m_state.openDocument();
@@ -140,7 +140,7 @@ public:
         for (int row = 0; row < blocks; ++row)
             page.blocks.append(Block(BlockType::textSmall, paragraph));
         m_state.updateDocument(page);
-        m_editor = new EditorViewModel(m_state, m_scheduler, page.id, &m_owner);
+        m_editor = new EditorViewModel(m_state, m_services.forEditor, page.id, &m_owner);
         m_stage = std::make_unique<Stage>(
             "import QtQuick\nimport Pelko\n"
             "Window { id: root; width: 1100; height: 750; required property EditorViewModel editor\n"
@@ -167,7 +167,7 @@ public:
     }
 
 private:
-    QtScheduler m_scheduler;
+    RealEditorServices m_services;
     SystemClock m_clock;
     NoFile m_file;
     AppState m_state;

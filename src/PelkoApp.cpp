@@ -1,6 +1,6 @@
 #include "PelkoApp.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QtQml/QQmlExtensionPlugin>
@@ -39,8 +39,17 @@ PelkoApp::PelkoApp()
     m_engine.addImportPath(u"qrc:/qt/qml"_s);
     m_engine.setInitialProperties({{u"main"_s, QVariant::fromValue(&m_main)},
                                    {u"launch"_s, QVariant::fromValue(&m_launch)},
-                                   {u"timers"_s, QVariant::fromValue(&m_timers)}});
+                                   {u"timers"_s, QVariant::fromValue(&m_timers)},
+                                   {u"folderChooser"_s, QVariant::fromValue(&m_folderChooser)}});
     m_engine.load(QUrl(u"qrc:/qt/qml/Pelko/Views/Shell/PelkoWindow.qml"_s));
+}
+
+/// The name under which a chooser of the desktop's own knows the window it belongs to.
+QString PelkoApp::activeWindowName()
+{
+    const QWindow *window = QGuiApplication::focusWindow();
+    const bool isOnX11 = QGuiApplication::platformName() == u"xcb"_s;
+    return window && isOnX11 ? u"x11:%1"_s.arg(window->winId(), 0, 16) : QString();
 }
 
 PelkoApp::~PelkoApp()

@@ -14,17 +14,32 @@ std::optional<BlockType> above(const PelkoDocument &document, qsizetype row)
     return row == 0 ? std::nullopt : std::optional(document.blocks.at(row - 1).type);
 }
 
+bool isBanner(const PelkoDocument &document, qsizetype row)
+{
+    return row == 0 && BlockOperations::firstBlockIsBanner(document);
+}
+
 BlockRow rowOf(const PelkoDocument &document, qsizetype row)
 {
     return {.block = document.blocks.at(row),
             .above = above(document, row),
+            .isBanner = isBanner(document, row),
+            .isBelowBanner = isBanner(document, row - 1),
             .canDelete = BlockOperations::canDelete(document, row)};
 }
 
 bool isRowOf(const BlockRow &shown, const PelkoDocument &document, qsizetype row)
 {
     return shown.block == document.blocks.at(row) && shown.above == above(document, row) &&
+           shown.isBanner == isBanner(document, row) && shown.isBelowBanner == isBanner(document, row - 1) &&
            shown.canDelete == BlockOperations::canDelete(document, row);
+}
+
+QString nameOfAbove(const BlockRow &row)
+{
+    if (row.isBelowBanner)
+        return u"banner"_s;
+    return row.above ? rawValue(*row.above) : QString();
 }
 
 QList<BlockRow> rowsOf(const PelkoDocument &document)
@@ -116,7 +131,7 @@ QVariant BlockListModel::data(const QModelIndex &index, int role) const
     case KindRole:
         return rawValue(block.type);
     case KindAboveRole:
-        return row.above ? rawValue(*row.above) : QString();
+        return nameOfAbove(row);
     case RowEditorRole:
         return name(rowEditor(block.type));
     case ContentRole:
@@ -124,9 +139,11 @@ QVariant BlockListModel::data(const QModelIndex &index, int role) const
     case ImageDataRole:
         return block.imageData.value_or(QByteArray());
     case HasImageRole:
-        return block.imageData.has_value();
+        return block.type == BlockType::image && block.imageData.has_value();
     case IsFullWidthRole:
         return block.isFullWidth.value_or(false);
+    case IsBannerRole:
+        return row.isBanner;
     case BannerTitleRole:
         return block.bannerTitle.value_or(QString());
     case TodosRole:
@@ -140,12 +157,12 @@ QVariant BlockListModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> BlockListModel::roleNames() const
 {
-    return {{BlockIDRole, "blockID"},         {KindRole, "kind"},
-            {KindAboveRole, "kindAbove"},     {RowEditorRole, "rowEditor"},
-            {ContentRole, "content"},         {ImageDataRole, "imageData"},
-            {HasImageRole, "hasImage"},       {IsFullWidthRole, "isFullWidth"},
-            {BannerTitleRole, "bannerTitle"}, {TodosRole, "todos"},
-            {CanDeleteRole, "canDelete"}};
+    return {{BlockIDRole, "blockID"},     {KindRole, "kind"},
+            {KindAboveRole, "kindAbove"}, {RowEditorRole, "rowEditor"},
+            {ContentRole, "content"},     {ImageDataRole, "imageData"},
+            {HasImageRole, "hasImage"},   {IsFullWidthRole, "isFullWidth"},
+            {IsBannerRole, "isBanner"},   {BannerTitleRole, "bannerTitle"},
+            {TodosRole, "todos"},         {CanDeleteRole, "canDelete"}};
 }
 
 QList<int> BlockListModel::changedRoles(const BlockRow &before, const BlockRow &after) const
@@ -157,10 +174,12 @@ QList<int> BlockListModel::changedRoles(const BlockRow &before, const BlockRow &
     };
     compare(before.block.type, after.block.type, {KindRole});
     compare(before.above, after.above, {KindAboveRole});
+    compare(before.isBelowBanner, after.isBelowBanner, {KindAboveRole});
     compare(before.block.content, after.block.content, {ContentRole});
     if (!isSamePicture(before.block.imageData, after.block.imageData))
         roles.append({ImageDataRole, HasImageRole});
     compare(before.block.isFullWidth, after.block.isFullWidth, {IsFullWidthRole});
+    compare(before.isBanner, after.isBanner, {IsBannerRole});
     compare(before.block.bannerTitle, after.block.bannerTitle, {BannerTitleRole});
     compare(before.canDelete, after.canDelete, {CanDeleteRole});
     return roles;

@@ -11,6 +11,8 @@ struct BlockRow {
     Block block;
     /// The kind of the block above; nothing for the first.
     std::optional<BlockType> above;
+    bool isBanner = false;
+    bool isBelowBanner = false;
     bool canDelete = false;
 };
 
@@ -41,7 +43,7 @@ public:
         BlockIDRole = Qt::UserRole,
         /// The raw name of the block's type.
         KindRole,
-        /// The raw name of the type of the block above; empty for the first.
+        /// The raw name of the type of the block above, or "banner"; empty for the first.
         KindAboveRole,
         /// "writing", "divider", "image" or "sticky"; never changes while the row lives.
         RowEditorRole,
@@ -49,6 +51,8 @@ public:
         ImageDataRole,
         HasImageRole,
         IsFullWidthRole,
+        /// Whether this is the picture shown as the banner of the page.
+        IsBannerRole,
         BannerTitleRole,
         /// A model of the entries of a sticky block's checklist, null for other blocks.
         TodosRole,

@@ -1,8 +1,10 @@
 #include "Editor/EditorViewModel.h"
 
 #include "Editor/BlockOperations.h"
+#include "Editor/ImageOperations.h"
 #include "Editor/TodoOperations.h"
 #include "Editor/TypingRules.h"
+#include "Services/Pasteboard.h"
 #include "Store/AppState.h"
 #include "Store/ChangeScope.h"
 
@@ -30,15 +32,18 @@ constexpr auto bannerFocusDelay = 100ms;
 
 } // namespace
 
-EditorViewModel::EditorViewModel(AppState &appState, Scheduler &scheduler, Pasteboard &pasteboard,
-                                 const QUuid &documentID, QObject *parent)
+EditorViewModel::EditorViewModel(AppState &appState, const EditorServices &services, const QUuid &documentID,
+                                 QObject *parent)
     : QObject(parent)
     , m_appState(appState)
-    , m_scheduler(scheduler)
+    , m_scheduler(services.scheduler)
+    , m_pasteboard(services.pasteboard)
     , m_documentID(documentID)
-    , m_session(appState, scheduler, documentID)
+    , m_session(appState, services.scheduler, documentID)
     , m_drag(appState)
-    , m_selection(pasteboard, [this](const PageSelection::Operation &operation) { apply(operation); })
+    , m_selection(services.pasteboard,
+                  [this](const PageSelection::Operation &operation) { apply(operation); })
+    , m_imageImport(services, [this](const QUuid &id, const QByteArray &bytes) { storePicture(id, bytes); })
 {
     connect(&m_appState, &AppState::documentsChanged, this, &EditorViewModel::refresh);
     connect(&m_appState, &AppState::focusModeChanged, this, &EditorViewModel::focusInFocusMode);
@@ -121,6 +126,30 @@ void EditorViewModel::typedTodo(const QString &blockID, const QString &todoID, c
     if (auto page = documentToMutate())
         commitTyping(TodoOperations::setText(*std::move(page), QUuid(blockID), QUuid(todoID), value, caret),
                      placeOf(blockID, todoID, caret));
+}
+
+void EditorViewModel::typedBannerTitle(const QString &blockID, const QString &value, int caret)
+{
+    if (auto page = documentToMutate())
+        commitTyping(ImageOperations::setBannerTitle(*std::move(page), QUuid(blockID), value),
+                     placeOf(blockID, {}, caret));
+}
+
+bool EditorViewModel::pastePicture(const QString &blockID)
+{
+    const QByteArray bytes = m_pasteboard.picture();
+    auto page = documentToMutate();
+    if (bytes.isEmpty() || !page)
+        return false;
+    const auto edit = ImageOperations::insertImage(*std::move(page), QUuid(blockID), bytes);
+    commit(edit);
+    return edit.has_value();
+}
+
+void EditorViewModel::storePicture(const QUuid &blockID, const QByteArray &bytes)
+{
+    if (auto page = documentToMutate())
+        commit(ImageOperations::setImageData(*std::move(page), blockID, bytes));
 }
 
 void EditorViewModel::toggleTodo(const QString &blockID, const QString &todoID)
@@ -246,6 +275,7 @@ void EditorViewModel::release()
 {
     m_appState.disconnect(this);
     m_delayedFocus.cancel();
+    m_imageImport.cancel();
     deleteLater();
 }
 

@@ -3,6 +3,7 @@
 #include "Editor/BlockDrag.h"
 #include "Editor/BlockListModel.h"
 #include "Editor/EditSession.h"
+#include "Editor/ImageImport.h"
 #include "Editor/PageSelection.h"
 #include "Services/Scheduler.h"
 
@@ -20,6 +21,7 @@ class EditorViewModel : public QObject
     Q_PROPERTY(QObject *blocks READ blocks CONSTANT)
     Q_PROPERTY(BlockDrag *drag READ drag CONSTANT)
     Q_PROPERTY(PageSelection *selection READ selection CONSTANT)
+    Q_PROPERTY(ImageImport *imageImport READ imageImport CONSTANT)
     Q_PROPERTY(QString title READ title NOTIFY titleChanged)
     Q_PROPERTY(bool firstBlockIsBanner READ firstBlockIsBanner NOTIFY firstBlockIsBannerChanged)
     Q_PROPERTY(bool offersDelete READ offersDelete NOTIFY offersDeleteChanged)
@@ -27,13 +29,14 @@ class EditorViewModel : public QObject
     Q_PROPERTY(QString scrollTarget READ scrollTarget NOTIFY scrollTargetChanged)
 
 public:
-    EditorViewModel(AppState &appState, Scheduler &scheduler, Pasteboard &pasteboard, const QUuid &documentID,
+    EditorViewModel(AppState &appState, const EditorServices &services, const QUuid &documentID,
                     QObject *parent = nullptr);
 
     QString documentID() const { return m_documentID.toString(QUuid::WithoutBraces); }
     QObject *blocks() { return &m_blocks; }
     BlockDrag *drag() { return &m_drag; }
     PageSelection *selection() { return &m_selection; }
+    ImageImport *imageImport() { return &m_imageImport; }
     QString title() const { return m_title; }
     bool firstBlockIsBanner() const { return m_firstBlockIsBanner; }
     /// Whether the context menu of a block offers to delete it.
@@ -58,9 +61,14 @@ public:
     Q_INVOKABLE void typed(const QString &blockID, const QString &value, int caret);
     Q_INVOKABLE void typedTodo(const QString &blockID, const QString &todoID, const QString &value,
                                int caret);
+    Q_INVOKABLE void typedBannerTitle(const QString &blockID, const QString &value, int caret);
     Q_INVOKABLE void toggleTodo(const QString &blockID, const QString &todoID);
     Q_INVOKABLE void appendTodo(const QString &blockID);
     Q_INVOKABLE void removeTodo(const QString &blockID, const QString &todoID);
+
+    /// Puts the picture of the pasteboard, when there is one and no text, into a new block after that one.
+    /// Tells whether it did.
+    Q_INVOKABLE bool pastePicture(const QString &blockID);
 
     /// Takes back what was done last on this page, with the focus and the caret where they were; and does it
     /// again.
@@ -94,6 +102,7 @@ private:
     void refresh();
     /// The one way by which operations change the page.
     void commit(const std::optional<Edit> &edit, std::chrono::milliseconds focusDelay = {});
+    void storePicture(const QUuid &blockID, const QByteArray &bytes);
     void commitTyping(const std::optional<Edit> &edit, const FocusTarget &field);
     void goOn(const Edit &edit, std::chrono::milliseconds focusDelay = {});
     void apply(const PageSelection::Operation &operation);
@@ -105,12 +114,14 @@ private:
 
     AppState &m_appState;
     Scheduler &m_scheduler;
+    const Pasteboard &m_pasteboard;
     const QUuid m_documentID;
 
     EditSession m_session;
     BlockListModel m_blocks;
     BlockDrag m_drag;
     PageSelection m_selection;
+    ImageImport m_imageImport;
     QString m_title;
     bool m_firstBlockIsBanner = false;
     bool m_offersDelete = false;

@@ -1,18 +1,15 @@
 #include "Shell/MainViewModel.h"
 
-#include "Editor/EditorViewModel.h"
 #include "Store/AppState.h"
 #include "Store/ChangeScope.h"
 #include "Theme/PelkoVoice.h"
 
 using namespace Qt::StringLiterals;
 
-MainViewModel::MainViewModel(AppState &appState, Scheduler &scheduler, Pasteboard &pasteboard,
-                             QObject *parent)
+MainViewModel::MainViewModel(AppState &appState, const EditorServices &services, QObject *parent)
     : QObject(parent)
     , m_appState(appState)
-    , m_scheduler(scheduler)
-    , m_pasteboard(pasteboard)
+    , m_services(services)
     , m_topMessage(PelkoVoice::pick(PelkoVoice::greetingPool(), u"greeting"_s))
 {
     followStore();
@@ -48,7 +45,10 @@ bool MainViewModel::showAbout() const
 
 EditorViewModel *MainViewModel::openEditor(const QString &documentID)
 {
-    return new EditorViewModel(m_appState, m_scheduler, m_pasteboard, QUuid(documentID), this);
+    auto *editor = new EditorViewModel(m_appState, m_services, QUuid(documentID), this);
+    connect(editor, &QObject::destroyed, this, &MainViewModel::editorChanged);
+    ChangeScope(*this).assign(m_editor, editor, &MainViewModel::editorChanged);
+    return editor;
 }
 
 void MainViewModel::createDocument()

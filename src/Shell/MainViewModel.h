@@ -1,14 +1,14 @@
 #pragma once
 
+#include "Editor/EditorViewModel.h"
 #include "Models/PelkoDocument.h"
 #include "Shell/MenuCommands.h"
 
 #include <QObject>
+#include <QPointer>
 
 class AppState;
-class EditorViewModel;
-class Pasteboard;
-class Scheduler;
+struct EditorServices;
 
 /// What the main window shows and can do: which page is open, the empty state, the navigation layer and
 /// the alerts, one of which confirms a deletion. Lines drawn by lot are drawn here, so that a view that is
@@ -17,6 +17,7 @@ class MainViewModel : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(QString openDocumentID READ openDocumentID NOTIFY openDocumentIDChanged)
+    Q_PROPERTY(EditorViewModel *editor READ editor NOTIFY editorChanged)
     Q_PROPERTY(QString windowTitle READ windowTitle NOTIFY windowTitleChanged)
     Q_PROPERTY(QString topMessage READ topMessage CONSTANT)
     Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY emptyMessageChanged)
@@ -31,11 +32,12 @@ class MainViewModel : public QObject
     Q_PROPERTY(QList<MenuCommand> menuCommands READ menuCommands CONSTANT)
 
 public:
-    MainViewModel(AppState &appState, Scheduler &scheduler, Pasteboard &pasteboard,
-                  QObject *parent = nullptr);
+    MainViewModel(AppState &appState, const EditorServices &services, QObject *parent = nullptr);
 
     /// Of the document in the editor; empty when the empty state is shown.
     QString openDocumentID() const { return m_openDocumentID; }
+    /// The editor that was opened last; null when it is gone.
+    EditorViewModel *editor() const { return m_editor; }
     QString windowTitle() const { return m_windowTitle; }
     /// The greeting of this window, the same for its whole life.
     QString topMessage() const { return m_topMessage; }
@@ -71,6 +73,7 @@ public:
 
 Q_SIGNALS:
     void openDocumentIDChanged();
+    void editorChanged();
     void windowTitleChanged();
     void emptyMessageChanged();
     void showNavChanged();
@@ -90,8 +93,8 @@ private:
     void followError();
 
     AppState &m_appState;
-    Scheduler &m_scheduler;
-    Pasteboard &m_pasteboard;
+    const EditorServices m_services;
+    QPointer<EditorViewModel> m_editor;
     QString m_openDocumentID;
     QString m_windowTitle;
     QString m_topMessage;

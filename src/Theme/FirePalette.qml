@@ -37,6 +37,8 @@ QtObject {
     readonly property color stickyGroundTop: Qt.alpha(amber, 0.105)
     readonly property color stickyGroundFoot: Qt.alpha(amber, 0.06)
     readonly property color stickyHairline: Qt.alpha(amberSoft, 0.16)
+    readonly property color addImageGround: white(0.035)
+    readonly property color addImageLine: white(0.16)
     readonly property color selection: Qt.alpha(amber, 0.34)
     readonly property color caret: amberSoft
     readonly property color focusRing: Qt.alpha(amberSoft, 0.9)

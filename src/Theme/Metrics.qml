@@ -64,6 +64,10 @@ QtObject {
     readonly property int codePaddingY: 15
     readonly property int stickyPadding: 18
     readonly property int emptyImageHeight: 100
+    readonly property int bannerHeight: 280
+    readonly property int bannerPadding: 24
+    /// Pictures higher than so many times their width are shown narrower.
+    readonly property int highestPicture: 4
     readonly property int todoToggleSize: 17
     readonly property int todoLine: 22
     readonly property int todoGap: 11

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Editor/EditorViewModel.h"
+#include "Shell/FolderChooser.h"
 #include "Shell/LaunchSequence.h"
 #include "Shell/MainViewModel.h"
 
@@ -35,10 +36,24 @@ struct PageSelectionForQml {
     QML_UNCREATABLE("Part of an editor.")
 };
 
+struct ImageImportForQml {
+    Q_GADGET
+    QML_FOREIGN(ImageImport)
+    QML_NAMED_ELEMENT(ImageImport)
+    QML_UNCREATABLE("Part of an editor.")
+};
+
 struct LaunchSequenceForQml {
     Q_GADGET
     QML_FOREIGN(LaunchSequence)
     QML_NAMED_ELEMENT(LaunchSequence)
+    QML_UNCREATABLE("Handed in by the program.")
+};
+
+struct FolderChooserForQml {
+    Q_GADGET
+    QML_FOREIGN(FolderChooser)
+    QML_NAMED_ELEMENT(FolderChooser)
     QML_UNCREATABLE("Handed in by the program.")
 };
 

@@ -103,9 +103,27 @@ private Q_SLOTS:
         QCOMPARE(value(0, BlockListModel::ImageDataRole), "picture"_ba);
         QCOMPARE(value(0, BlockListModel::HasImageRole), true);
         QCOMPARE(value(0, BlockListModel::IsFullWidthRole), true);
+        QCOMPARE(value(0, BlockListModel::IsBannerRole), true);
         QCOMPARE(value(0, BlockListModel::BannerTitleRole), u"Summer"_s);
         QCOMPARE(value(0, BlockListModel::CanDeleteRole), true);
-        QCOMPARE(value(1, BlockListModel::KindAboveRole), u"image"_s);
+        QCOMPARE(value(1, BlockListModel::KindAboveRole), u"banner"_s);
+        QCOMPARE(value(1, BlockListModel::IsBannerRole), false);
+    }
+
+    void aFullWidthPictureFurtherDownIsNoBanner()
+    {
+        show({block('A', heading), image('B', true), block('C')});
+        QCOMPARE(value(1, BlockListModel::IsFullWidthRole), true);
+        QCOMPARE(value(1, BlockListModel::IsBannerRole), false);
+        QCOMPARE(value(2, BlockListModel::KindAboveRole), u"image"_s);
+    }
+
+    void onlyImageBlocksHaveAPicture()
+    {
+        Block odd = block('A', BlockType::quote);
+        odd.imageData = "picture"_ba;
+        show({odd});
+        QCOMPARE(value(0, BlockListModel::HasImageRole), false);
     }
 
     void absentFieldsReadAsFalseOrEmpty()
@@ -240,8 +258,9 @@ private Q_SLOTS:
     void aBannerTakesThePlaceOfABlankHeading()
     {
         show({block('A', heading), block('B'), block('C'), image('D')});
-        QCOMPARE(announcedBy({image('D', true), block('B'), block('C')}),
-                 (QStringList{u"-0..0"_s, u"2>0"_s, u"0: isFullWidth kindAbove"_s, u"1: kindAbove"_s}));
+        QCOMPARE(
+            announcedBy({image('D', true), block('B'), block('C')}),
+            (QStringList{u"-0..0"_s, u"2>0"_s, u"0: isBanner isFullWidth kindAbove"_s, u"1: kindAbove"_s}));
     }
 
     void repeatedIdsShowTheListAnew()

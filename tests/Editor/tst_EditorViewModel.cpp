@@ -2,8 +2,8 @@
 #include "Store/AppState.h"
 #include "Store/DocumentReader.h"
 #include "support/ManualClock.h"
+#include "support/ManualDesktop.h"
 #include "support/ManualDocumentFile.h"
-#include "support/ManualPasteboard.h"
 #include "support/ManualScheduler.h"
 #include "support/ModelLog.h"
 #include "support/PageText.h"
@@ -35,9 +35,9 @@ class TestEditorViewModel : public QObject
     Q_OBJECT
 
     ManualScheduler scheduler;
-    ManualPasteboard pasteboard;
     ManualClock clock;
     ManualDocumentFile file;
+    ManualDesktop desktop;
     std::unique_ptr<AppState> state;
     std::unique_ptr<EditorViewModel> editor;
     QUuid pageID;
@@ -56,7 +56,7 @@ class TestEditorViewModel : public QObject
 
     void edit(const QUuid &documentID)
     {
-        editor = std::make_unique<EditorViewModel>(*state, scheduler, pasteboard, documentID);
+        editor = std::make_unique<EditorViewModel>(*state, desktop.services(scheduler), documentID);
         connect(editor.get(), &EditorViewModel::focusRequested, this,
                 [this](const QString &blockID, const QString &todoID, int caret) {
                     FocusTarget target{.blockID = QUuid(blockID), .caret = caret};
@@ -92,6 +92,7 @@ private Q_SLOTS:
         scheduler = {};
         clock = {};
         file = {};
+        desktop = {};
         focused.clear();
     }
 
@@ -511,6 +512,70 @@ private Q_SLOTS:
     }
 
     // Checklists
+
+    void aBannerTitleIsTypedAndTakenBack()
+    {
+        edit({image('A', true)});
+        editor->typedBannerTitle(id('A'), u"Ridge"_s, 5);
+        QCOMPARE(stored().blocks[0].bannerTitle, u"Ridge"_s);
+        QCOMPARE(editor->title(), u"Ridge"_s);
+        editor->undo();
+        QVERIFY(stored().blocks[0].bannerTitle.value_or(QString()).isEmpty());
+    }
+
+    void aChosenPictureFillsItsBlockAndIsTakenBackInOneStep()
+    {
+        edit({block('A', heading), block('B', BlockType::image)});
+        desktop.pictureFiles.files["/photo"] = "bytes";
+        editor->imageImport()->addImage(id('B'));
+        desktop.imageChooser.answer(QList<std::filesystem::path>{"/photo"});
+        QCOMPARE(stored().blocks[1].imageData, "bytes"_ba);
+        editor->undo();
+        QCOMPARE(stored().blocks[1].imageData, std::nullopt);
+        editor->redo();
+        QCOMPARE(stored().blocks[1].imageData, "bytes"_ba);
+    }
+
+    void aPictureForABlockThatIsGoneChangesNothing()
+    {
+        edit({block('A', heading), block('B', BlockType::image)});
+        desktop.pictureFiles.files["/photo"] = "bytes";
+        editor->imageImport()->addImage(id('B'));
+        editor->deleteBlock(id('B'));
+        desktop.imageChooser.answer(QList<std::filesystem::path>{"/photo"});
+        QCOMPARE(lines(stored()), QStringList{line(block('A', heading))});
+    }
+
+    void aReleasedEditorClosesTheChooser()
+    {
+        edit({block('B', BlockType::image)});
+        editor->imageImport()->addImage(id('B'));
+        editor.release()->release();
+        QVERIFY(!desktop.imageChooser.isOpen());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    void aCopiedPictureIsPastedAfterTheBlock()
+    {
+        edit({block('A'), block('B')});
+        desktop.pasteboard.png = "png"_ba;
+        QVERIFY(editor->pastePicture(id('A')));
+        QCOMPARE(letters(stored()), u"A+B"_s);
+        QCOMPARE(stored().blocks[1].imageData, "png"_ba);
+        QCOMPARE(editor->scrollTarget(), blockID(1));
+        editor->undo();
+        QCOMPARE(letters(stored()), u"AB"_s);
+    }
+
+    void withTextOrNothingOnThePasteboardNoPictureIsPasted()
+    {
+        edit({block('A')});
+        QVERIFY(!editor->pastePicture(id('A')));
+        desktop.pasteboard.png = "png"_ba;
+        desktop.pasteboard.item.text = u"words"_s;
+        QVERIFY(!editor->pastePicture(id('A')));
+        QCOMPARE(letters(stored()), u"A"_s);
+    }
 
     void aChecklistIsEdited()
     {

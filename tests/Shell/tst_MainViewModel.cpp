@@ -4,8 +4,8 @@
 #include "Store/AppState.h"
 #include "Theme/PelkoVoice.h"
 #include "support/ManualClock.h"
+#include "support/ManualDesktop.h"
 #include "support/ManualDocumentFile.h"
-#include "support/ManualPasteboard.h"
 #include "support/ManualScheduler.h"
 
 #include <QSignalSpy>
@@ -18,16 +18,16 @@ namespace
 /// A program that has started on a given data file.
 struct Program {
     ManualScheduler scheduler;
-    ManualPasteboard pasteboard;
     ManualClock clock;
     ManualDocumentFile file;
+    ManualDesktop desktop;
     AppState appState;
     MainViewModel main;
 
     explicit Program(const ManualDocumentFile &start = {})
         : file(start)
         , appState(scheduler, clock, file)
-        , main(appState, scheduler, pasteboard)
+        , main(appState, desktop.services(scheduler))
     {
     }
 
@@ -323,7 +323,7 @@ private Q_SLOTS:
         Program program;
         QString previous = program.main.topMessage();
         for (int i = 0; i < 50; ++i) {
-            const MainViewModel next(program.appState, program.scheduler, program.pasteboard);
+            const MainViewModel next(program.appState, program.desktop.services(program.scheduler));
             QVERIFY(next.topMessage() != previous);
             previous = next.topMessage();
         }

@@ -1,6 +1,9 @@
 #include "EditorBench.h"
 
+#include <QBuffer>
+#include <QColor>
 #include <QGuiApplication>
+#include <QImage>
 #include <QInputMethodEvent>
 #include <QMimeData>
 #include <QQuickWindow>
@@ -10,10 +13,38 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
+/// A PNG of 400 by 200 pixels in that colour, or the text itself where it names none.
+QByteArray bytesOf(const QString &picture)
+{
+    if (!QColor::isValidColor(picture))
+        return picture.toUtf8();
+    QImage image(400, 200, QImage::Format_RGB32);
+    image.fill(QColor(picture));
+    QBuffer buffer;
+    image.save(&buffer, "PNG");
+    return buffer.data();
+}
+
+void describePicture(const Block &block, QVariantMap &described)
+{
+    if (block.imageData)
+        described.insert(u"hasPicture"_s, true);
+    if (block.isFullWidth)
+        described.insert(u"isFullWidth"_s, *block.isFullWidth);
+    if (block.bannerTitle)
+        described.insert(u"bannerTitle"_s, *block.bannerTitle);
+}
+
 Block blockFrom(const QVariantMap &described)
 {
     Block block(blockTypeFromRawValue(described[u"type"_s].toString()).value(),
                 described[u"content"_s].toString());
+    if (described.contains(u"picture"_s))
+        block.imageData = bytesOf(described[u"picture"_s].toString());
+    if (described.contains(u"isFullWidth"_s))
+        block.isFullWidth = described[u"isFullWidth"_s].toBool();
+    if (described.contains(u"bannerTitle"_s))
+        block.bannerTitle = described[u"bannerTitle"_s].toString();
     if (!described.contains(u"todos"_s))
         return block;
     block.todos.emplace();
@@ -26,6 +57,7 @@ Block blockFrom(const QVariantMap &described)
 QVariantMap describe(const Block &block)
 {
     QVariantMap described{{u"type"_s, rawValue(block.type)}, {u"content"_s, block.content}};
+    describePicture(block, described);
     if (!block.todos)
         return described;
     QVariantList todos;
@@ -45,8 +77,8 @@ void EditorBench::open(const QVariantList &blocks)
         m_appState.permanentlyDeleteDocument(document);
     m_appState.createDocument(Space::work);
     replace(blocks);
-    m_editor =
-        new EditorViewModel(m_appState, m_scheduler, m_pasteboard, m_appState.openDocumentID().value(), this);
+    m_editor = new EditorViewModel(m_appState, m_desktop.services(m_scheduler),
+                                   m_appState.openDocumentID().value(), this);
     Q_EMIT editorChanged();
 }
 
@@ -102,4 +134,25 @@ bool EditorBench::dropFromElsewhere(QQuickItem *item, QPointF place, const QStri
     drop.ignore();
     QCoreApplication::sendEvent(item->window(), &drop);
     return enter.isAccepted() || drop.isAccepted();
+}
+
+void EditorBench::choosePicture(const QString &picture)
+{
+    m_desktop.pictureFiles.files["/picture"] = bytesOf(picture);
+    m_desktop.imageChooser.answer(QList<std::filesystem::path>{"/picture"});
+}
+
+void EditorBench::chooseNothing()
+{
+    m_desktop.imageChooser.answer(QList<std::filesystem::path>{});
+}
+
+void EditorBench::failToChoose(const QString &why)
+{
+    m_desktop.imageChooser.answer(FileError{why});
+}
+
+void EditorBench::copyPicture(const QString &picture)
+{
+    m_desktop.pasteboard.png = bytesOf(picture);
 }

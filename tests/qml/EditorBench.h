@@ -3,8 +3,8 @@
 #include "Editor/EditorViewModel.h"
 #include "Store/AppState.h"
 #include "support/ManualClock.h"
+#include "support/ManualDesktop.h"
 #include "support/ManualDocumentFile.h"
-#include "support/ManualPasteboard.h"
 #include "support/ManualScheduler.h"
 
 #include <QPointer>
@@ -14,7 +14,8 @@
 #include <memory>
 
 /// One document in a store on manual time, with its editor's view model, for view tests. A block is
-/// described as { type, content, todos: [{ text, done }] }.
+/// described as { type, content, todos: [{ text, done }], picture, isFullWidth, bannerTitle }, where a
+/// picture is the name of a colour or bytes that are none.
 class EditorBench : public QObject
 {
     Q_OBJECT
@@ -43,14 +44,21 @@ public:
     Q_INVOKABLE bool dropFromElsewhere(QQuickItem *item, QPointF place, const QString &format,
                                        const QString &text) const;
 
+    /// The user has chosen the file of that picture, or nothing, or the chooser has failed.
+    Q_INVOKABLE void choosePicture(const QString &picture);
+    Q_INVOKABLE void chooseNothing();
+    Q_INVOKABLE void failToChoose(const QString &why);
+    /// Another program has copied a picture.
+    Q_INVOKABLE void copyPicture(const QString &picture);
+
 Q_SIGNALS:
     void editorChanged();
 
 private:
     ManualScheduler m_scheduler;
     ManualClock m_clock;
-    ManualPasteboard m_pasteboard;
     ManualDocumentFile m_file;
+    ManualDesktop m_desktop;
     AppState m_appState;
     QPointer<EditorViewModel> m_editor;
 };

@@ -4,8 +4,8 @@
 #include "Shell/MainViewModel.h"
 #include "Store/AppState.h"
 #include "support/ManualClock.h"
+#include "support/ManualDesktop.h"
 #include "support/ManualDocumentFile.h"
-#include "support/ManualPasteboard.h"
 #include "support/ManualScheduler.h"
 
 #include <QtQml/qqml.h>
@@ -48,8 +48,8 @@ private:
     ManualScheduler m_scheduler;
     ManualClock m_clock;
     ManualDocumentFile m_file;
-    ManualPasteboard m_pasteboard;
+    ManualDesktop m_desktop;
     AppState m_appState{m_scheduler, m_clock, m_file};
-    MainViewModel m_main{m_appState, m_scheduler, m_pasteboard};
+    MainViewModel m_main{m_appState, m_desktop.services(m_scheduler)};
     LaunchSequence m_launch{m_scheduler};
 };

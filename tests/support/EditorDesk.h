@@ -3,8 +3,8 @@
 #include "Editor/EditorViewModel.h"
 #include "Store/AppState.h"
 #include "support/ManualClock.h"
+#include "support/ManualDesktop.h"
 #include "support/ManualDocumentFile.h"
-#include "support/ManualPasteboard.h"
 #include "support/ManualScheduler.h"
 #include "support/PageText.h"
 
@@ -18,7 +18,7 @@ public:
         PelkoDocument page = *m_state.openDocument();
         page.blocks = blocks;
         m_state.updateDocument(page);
-        editor = std::make_unique<EditorViewModel>(m_state, scheduler, pasteboard, page.id);
+        editor = std::make_unique<EditorViewModel>(m_state, desktop.services(scheduler), page.id);
         QObject::connect(editor.get(), &EditorViewModel::focusRequested, editor.get(),
                          [this](const QString &blockID, const QString &todoID, int caret) {
                              FocusTarget target{.blockID = QUuid(blockID), .caret = caret};
@@ -29,7 +29,7 @@ public:
     }
 
     ManualScheduler scheduler;
-    ManualPasteboard pasteboard;
+    ManualDesktop desktop;
     std::unique_ptr<EditorViewModel> editor;
 
     AppState &state() { return m_state; }

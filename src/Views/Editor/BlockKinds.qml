@@ -58,10 +58,20 @@ QtObject {
         after: 24
     }
 
+    /// A picture at the top of the page, which stands above everything.
+    readonly property BlockKind banner: BlockKind {
+        name: "banner"
+        icon: "photo"
+        tip: qsTr("Banner")
+        after: 30
+    }
+
     /// In the order of the block bar.
     readonly property list<BlockKind> all: [heading, body, quote, code, divider, image, checklist]
 
     function named(name: string) : BlockKind {
+        if (name === banner.name)
+            return banner
         for (let i = 0; i < all.length; ++i)
             if (all[i].name === name)
                 return all[i]

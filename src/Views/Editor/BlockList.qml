@@ -18,7 +18,7 @@ FocusScope {
     function focusBlock(blockID: string, todoID: string, caret: int) {
         list.forceLayout()
         list.currentIndex = editor.rowOf(blockID)
-        list.positionViewAtIndex(list.currentIndex, ListView.Contain)
+        bringIntoSight(list.currentIndex)
         list.currentRow?.block.takeFocus(todoID, caret)
     }
 
@@ -44,15 +44,20 @@ FocusScope {
         list.contentY = Math.max(list.contentY + (above || below), list.originY - list.topMargin)
     }
 
+    /// Above the first block there is the air that belongs to it.
+    function bringIntoSight(row: int) {
+        row === 0 ? list.positionViewAtBeginning() : list.positionViewAtIndex(row, ListView.Contain)
+    }
+
     function scrollTo(blockID: string) {
         const from = list.contentY
-        list.positionViewAtIndex(editor.rowOf(blockID), ListView.Contain)
+        bringIntoSight(editor.rowOf(blockID))
         scroll.glide(from, list.contentY)
     }
 
-    function openMenu(blockID: string, item: Item, position: point) {
+    function openMenu(row: BlockRow, item: Item, position: point) {
         const corner = root.mapFromItem(item, position)
-        menu.blockID = blockID
+        menu.row = row
         if (menu.hasEntries)
             menu.popUp(corner.x, corner.y)
     }
@@ -61,9 +66,10 @@ FocusScope {
         id: context
 
         editor: root.editor
+        images: ImageCache {}
         measure: Math.min(Metrics.measure, root.width - 2 * Metrics.pageMargin)
         onFocusEntered: row => list.currentIndex = row
-        onMenuRequested: (blockID, item, position) => root.openMenu(blockID, item, position)
+        onMenuRequested: (row, item, position) => root.openMenu(row as BlockRow, item, position)
         onRevealRequested: reveal.start()
         onWalkedOut: (row, forward) => root.walkFrom(row, forward)
     }
@@ -202,11 +208,10 @@ FocusScope {
     BlockMenu {
         id: menu
 
-        property string blockID
-
         anchors.fill: parent
         backdrop: list
         offersDelete: root.editor.offersDelete
-        onDeleteRequested: root.editor.deleteBlock(blockID)
+        onDeleteRequested: blockID => root.editor.deleteBlock(blockID)
+        onFullWidthToggled: blockID => root.editor.toggleFullWidth(blockID)
     }
 }

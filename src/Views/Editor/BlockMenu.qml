@@ -6,11 +6,24 @@ PopupMenu {
     id: root
 
     required property bool offersDelete
-    readonly property bool hasEntries: offersDelete
+    property BlockRow row: null
 
-    signal deleteRequested
+    readonly property bool offersFullWidth: row?.hasImage ?? false
+    readonly property bool isFullWidth: row?.isFullWidth ?? false
+    readonly property bool hasEntries: offersDelete || offersFullWidth
+
+    signal fullWidthToggled(string blockID)
+    signal deleteRequested(string blockID)
 
     name: qsTr("Block")
+
+    PopupMenuRow {
+        icon.name: root.isFullWidth ? "arrow.down.right.and.arrow.up.left" : "arrow.up.left.and.arrow.down.right"
+        menu: root
+        name: root.isFullWidth ? qsTr("Default Width") : qsTr("Full Width")
+        visible: root.offersFullWidth
+        onTriggered: root.fullWidthToggled(root.row.blockID)
+    }
 
     PopupMenuRow {
         destroys: true
@@ -18,6 +31,6 @@ PopupMenu {
         menu: root
         name: qsTr("Delete Block")
         visible: root.offersDelete
-        onTriggered: root.deleteRequested()
+        onTriggered: root.deleteRequested(root.row.blockID)
     }
 }

@@ -1,42 +1,40 @@
 #include "BlockPicture.h"
 
-#include <QBuffer>
-#include <QImageReader>
+#include "Models/Block.h"
+#include "Store/ChangeScope.h"
+
 #include <QPainter>
-#include <QPainterPath>
+#include <QQuickWindow>
 
-namespace
+void BlockPicture::setImages(ImageCache *images)
 {
-
-// The widest that a page shows a picture, at twice the density; more would only cost memory.
-constexpr int widestDecoded = 1280;
-
-QImage decode(const QByteArray &bytes)
-{
-    QBuffer buffer;
-    buffer.setData(bytes);
-    QImageReader reader(&buffer);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.width() > widestDecoded)
-        reader.setScaledSize(size.scaled(widestDecoded, size.height(), Qt::KeepAspectRatio));
-    return reader.read();
+    if (m_images == images)
+        return;
+    if (m_images)
+        m_images->disconnect(this);
+    m_images = images;
+    if (m_images)
+        connect(m_images, &ImageCache::arrived, this, &BlockPicture::lookAgainFor);
+    look();
+    Q_EMIT imagesChanged();
 }
 
-} // namespace
-
-qreal BlockPicture::aspectRatio() const
+void BlockPicture::setBlockID(const QString &blockID)
 {
-    return m_image.isNull() ? 0 : qreal(m_image.height()) / m_image.width();
+    const QUuid id(blockID);
+    if (m_blockID == id)
+        return;
+    m_blockID = id;
+    look();
+    Q_EMIT blockIDChanged();
 }
 
 void BlockPicture::setImageData(const QByteArray &bytes)
 {
-    if (m_imageData == bytes)
+    if (isSamePicture(m_imageData, bytes))
         return;
     m_imageData = bytes;
-    m_image = decode(bytes);
-    repaintPicture();
+    look();
     Q_EMIT imageDataChanged();
 }
 
@@ -49,11 +47,63 @@ void BlockPicture::setRadius(qreal radius)
     Q_EMIT radiusChanged();
 }
 
+void BlockPicture::look()
+{
+    if (!isComponentComplete() || !m_images || !window())
+        return;
+    const bool hasPicture = !m_imageData.isEmpty() && !m_blockID.isNull();
+    const QSize full = hasPicture ? m_images->sizeOf(m_blockID, m_imageData) : QSize();
+    // Gives the item its size, which decides how large a picture is asked for.
+    ChangeScope(*this).assign(m_aspectRatio, full.isEmpty() ? 0.0 : qreal(full.height()) / full.width(),
+                              &BlockPicture::aspectRatioChanged);
+    const QSize pixels = (size() * window()->effectiveDevicePixelRatio()).toSize();
+    const bool wasReady = isReady();
+    m_image =
+        hasPicture && !pixels.isEmpty() ? m_images->cachedImage(m_blockID, m_imageData, pixels) : QImage();
+    repaintPicture();
+    if (isReady() != wasReady)
+        Q_EMIT readyChanged();
+}
+
+void BlockPicture::lookAgainFor(const QUuid &id)
+{
+    if (id == m_blockID)
+        look();
+}
+
 void BlockPicture::paintPicture(QPainter &painter, const QSizeF &size)
 {
-    QPainterPath shape;
-    shape.addRoundedRect(QRectF({}, size), m_radius, m_radius);
+    if (m_image.isNull())
+        return;
+    const QSizeF image = m_image.size();
+    const qreal scale = qMax(size.width() / image.width(), size.height() / image.height());
+    QTransform place;
+    place.translate((size.width() - image.width() * scale) / 2, (size.height() - image.height() * scale) / 2);
+    place.scale(scale, scale);
+    QBrush brush(m_image);
+    brush.setTransform(place);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.setClipPath(shape);
-    painter.drawImage(QRectF({}, size), m_image);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(brush);
+    painter.drawRoundedRect(QRectF({}, size), m_radius, m_radius);
+}
+
+void BlockPicture::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    PictureItem::geometryChange(newGeometry, oldGeometry);
+    if (newGeometry.size() != oldGeometry.size())
+        look();
+}
+
+void BlockPicture::itemChange(ItemChange change, const ItemChangeData &value)
+{
+    PictureItem::itemChange(change, value);
+    if (change == ItemDevicePixelRatioHasChanged || (change == ItemSceneChange && value.window))
+        look();
+}
+
+void BlockPicture::componentComplete()
+{
+    PictureItem::componentComplete();
+    look();
 }

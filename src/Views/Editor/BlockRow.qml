@@ -11,10 +11,14 @@ FocusScope {
     required property string kind
     required property string kindAbove
     required property bool canDelete
+    /// Whether this is an image block with a picture.
+    required property bool hasImage
+    required property bool isFullWidth
     required property PageContext page
     /// The editor of the block, one of the children.
     required property BlockEditor block
     default property alias editors: body.data
+    property real bodyWidth: page.measure
 
     /// A new row grows into its place, so that what stands below moves aside instead of jumping.
     property real growth: 1
@@ -38,13 +42,12 @@ FocusScope {
 
     function enter(forward: bool) {
         block.walkedTo = true
-        const last = canDelete ? deleteButton : nextItemInFocusChain(true)
-        const stop = forward ? nextItemInFocusChain(true) : last as Item
+        const stop = forward || !controls.last ? nextItemInFocusChain(true) : controls.last
         stop.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
     }
 
     function openMenu() {
-        page.menuRequested(blockID, block, Qt.point(0, block.height))
+        page.menuRequested(root, block, Qt.point(0, block.height))
     }
 
     function moveBlock(event: KeyEvent, rows: int) {
@@ -58,6 +61,8 @@ FocusScope {
     Keys.onBacktabPressed: walk(false)
     Keys.onMenuPressed: openMenu()
     Keys.onPressed: event => {
+        if (event.matches(StandardKey.Paste))
+            return event.accepted = page.editor.pastePicture(blockID)
         event.accepted = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier
         if (event.accepted)
             openMenu()
@@ -110,7 +115,7 @@ FocusScope {
 
     TapHandler {
         acceptedButtons: Qt.RightButton
-        onTapped: point => root.page.menuRequested(root.blockID, root, point.position)
+        onTapped: point => root.page.menuRequested(root, root, point.position)
     }
 
     Rectangle {
@@ -119,7 +124,7 @@ FocusScope {
         color: root.lifted ? FirePalette.takenWash : FirePalette.hoverWash
         opacity: root.pointedAt || root.lifted ? 1 : 0
         radius: Metrics.washRadius
-        visible: opacity > 0 && (root.kind !== "divider" || root.lifted)
+        visible: opacity > 0 && (root.kind !== "divider" || root.lifted) && root.bodyWidth < root.width
 
         Behavior on opacity {
             NumberAnimation { duration: PelkoAnimation.micro.duration; easing: PelkoAnimation.micro.curve }
@@ -133,7 +138,7 @@ FocusScope {
         focus: true
         height: root.block.implicitHeight
         opacity: root.lifted ? Metrics.liftedOpacity : 1
-        width: root.page.measure
+        width: root.bodyWidth
         y: BlockKinds.gap(root.kindAbove, root.kind)
 
         Behavior on opacity {
@@ -144,9 +149,9 @@ FocusScope {
     BlockGrip {
         id: grip
 
-        anchors { right: body.left; rightMargin: Metrics.space12 }
         opacity: root.pointedAt ? 1 : 0
         visible: root.page.editor.offersDelete && opacity > 0
+        x: Math.max(Metrics.space8, body.x - width - Metrics.space12)
         y: body.y + root.block.firstLine - height / 2
         onTriggered: root.openMenu()
 
@@ -155,21 +160,21 @@ FocusScope {
         }
     }
 
-    BubblyDeleteButton {
-        id: deleteButton
+    HoverControls {
+        id: controls
 
-        readonly property bool isShown: root.pointedAt || activeFocus
-
-        Keys.forwardTo: [root]
-        anchors { right: body.right; verticalCenter: body.top }
-        opacity: isShown ? 1 : 0
-        // Out of sight, it can still be walked to from within the block.
-        visible: root.canDelete && (opacity > 0 || root.activeFocus)
-        onTriggered: root.page.editor.deleteBlock(root.blockID)
-
-        Behavior on opacity {
-            NumberAnimation { duration: PelkoAnimation.micro.duration; easing: PelkoAnimation.micro.curve }
-        }
+        // Over text they straddle its edge, so that they cover no words; over a picture they lie inside.
+        anchors { right: body.right; rightMargin: root.hasImage ? Metrics.space8 : 0 }
+        backdrop: root.hasImage ? body : null
+        isBanner: root.isFullWidth
+        keys: root
+        offersBanner: root.hasImage
+        offersDelete: root.canDelete
+        pointedAt: root.pointedAt
+        reachable: root.activeFocus
+        y: body.y + (root.hasImage ? Metrics.space8 : -height / 2)
+        onBannerToggled: root.page.editor.toggleFullWidth(root.blockID)
+        onDeleteRequested: root.page.editor.deleteBlock(root.blockID)
     }
 
     Connections {

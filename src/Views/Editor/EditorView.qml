@@ -28,7 +28,11 @@ FocusScope {
 
     PageVeil {
         anchors { left: parent.left; right: parent.right; top: parent.top }
-        visible: !root.editor.firstBlockIsBanner || !page.atTop
+        opacity: root.editor.firstBlockIsBanner && page.atTop ? 0 : 1
+
+        Behavior on opacity {
+            NumberAnimation { duration: Motion.fade }
+        }
     }
 
     WindowDragArea {

@@ -1,44 +1,88 @@
 import QtQuick
 import Pelko
 
-/// The picture of an image block, as wide as the column; without data, a quiet panel in its place.
+/// The picture of an image block, or a button that asks for one. `spread` carries it from its place in the column,
+/// 0, to the banner across the page, 1.
 BlockEditor {
     id: root
 
+    required property string blockID
     required property bool hasImage
     required property var imageData
+    required property ImageCache images
+    required property bool isBanner
+    required property string bannerTitle
+    property real spread: 0
+
+    // Where nothing can be drawn, there still is a block to point at.
+    readonly property real ratio: Math.min(picture.aspectRatio, Metrics.highestPicture)
+    readonly property real inColumn: ratio > 0 ? Math.max(1, Math.round(width * ratio)) : Metrics.emptyImageHeight
+
+    signal imageRequested
+    signal titleEdited(string value, int caret)
+    signal titleFinished
+
+    function takeFocus(todoID: string, caret: int) {
+        isBanner ? title.takeFocus(caret) : hasImage ? forceActiveFocus() : add.forceActiveFocus()
+    }
+
     Accessible.focusable: true
-    Accessible.name: BlockKinds.image.tip
+    Accessible.ignored: !hasImage
+    Accessible.name: isBanner ? BlockKinds.banner.tip : BlockKinds.image.tip
     Accessible.role: Accessible.Graphic
     Keys.forwardTo: [keys]
-    activeFocusOnTab: true
-    implicitHeight: hasImage ? Math.round(width * picture.aspectRatio) : Metrics.emptyImageHeight
+    activeFocusOnTab: hasImage && !isBanner
+    caretRectangle: isBanner ? mapFromItem(title, title.cursorRectangle) : Qt.rect(0, 0, 0, 0)
+    implicitHeight: inColumn + (Metrics.bannerHeight - inColumn) * spread
 
     BlockPicture {
         id: picture
 
-        anchors.fill: parent
+        anchors.horizontalCenter: parent.horizontalCenter
+        blockID: root.blockID
+        height: parent.height
         imageData: root.imageData
-        radius: Metrics.pictureRadius
+        images: root.images
+        opacity: ready ? 1 : 0
+        radius: Metrics.pictureRadius * Math.max(0, 1 - root.spread)
+        width: root.isBanner || aspectRatio <= Metrics.highestPicture ? parent.width : Math.max(1, height / aspectRatio)
+
+        Behavior on opacity {
+            NumberAnimation { duration: Motion.fade }
+        }
     }
 
-    Rectangle {
+    BannerOverlay {
         anchors.fill: parent
-        border { width: 1; color: FirePalette.hairline }
-        color: FirePalette.hoverWash
-        radius: Metrics.pictureRadius
-        visible: !root.hasImage
+        opacity: Math.min(1, root.spread)
+        visible: root.spread > 0
+    }
 
-        SymbolIcon {
-            anchors.centerIn: parent
-            color: FirePalette.inkPlaceholder
-            name: BlockKinds.image.icon
-            size: Metrics.chipSymbol
-        }
+    BannerTitleField {
+        id: title
+
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Metrics.bannerPadding }
+        content: root.bannerTitle
+        focus: root.isBanner
+        keys: root.keys
+        opacity: Math.min(1, root.spread)
+        visible: root.isBanner
+        onEdited: (value, caret) => root.titleEdited(value, caret)
+        onFinished: root.titleFinished()
+    }
+
+    AddImageButton {
+        id: add
+
+        Keys.forwardTo: [root.keys]
+        focus: !root.hasImage
+        visible: !root.hasImage
+        width: parent.width
+        onTriggered: root.imageRequested()
     }
 
     FocusRing {
         controlRadius: Metrics.pictureRadius
-        shown: root.activeFocus && root.walkedTo
+        shown: root.activeFocus && root.walkedTo && root.hasImage && !root.isBanner
     }
 }

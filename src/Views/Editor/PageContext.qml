@@ -6,6 +6,8 @@ QtObject {
     required property EditorViewModel editor
     /// The width of the text column.
     required property real measure
+    /// The decoded pictures of this page.
+    required property ImageCache images
 
     /// The focus came to a row.
     signal focusEntered(int row)
@@ -17,5 +19,5 @@ QtObject {
     signal reorderBegan
     /// All rows stand in their new places.
     signal reorderEnded
-    signal menuRequested(string blockID, Item item, point position)
+    signal menuRequested(Item row, Item item, point position)
 }

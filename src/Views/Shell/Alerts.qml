@@ -7,6 +7,7 @@ Item {
 
     required property MainViewModel main
     property Item backdrop: null
+    readonly property ImageImport imageImport: main.editor?.imageImport ?? null
 
     AlertDialog {
         open: root.main.showDocLimitNudge
@@ -36,6 +37,16 @@ Item {
         message: root.main.errorText
         actions: DialogAction { name: "Got it"; cancels: true }
         onDismissed: root.main.dismissError()
+    }
+
+    AlertDialog {
+        open: root.imageImport?.showImageImportError ?? false
+        backdrop: root.backdrop
+        symbol: "photo"
+        title: "Couldn't import image."
+        message: root.imageImport?.imageImportError ?? ""
+        actions: DialogAction { name: "OK"; cancels: true }
+        onDismissed: root.imageImport.dismissImageImportError()
     }
 
     AlertDialog {

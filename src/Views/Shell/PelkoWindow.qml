@@ -9,6 +9,7 @@ Window {
     required property MainViewModel main
     required property LaunchSequence launch
     required property TimersViewModel timers
+    required property FolderChooser folderChooser
 
     width: 1100
     height: 750
@@ -32,7 +33,8 @@ Window {
             done = true
             Qt.createComponent("WindowContent.qml").createObject(window.contentItem,
                                                                  { main: window.main, launch: window.launch,
-                                                                   timers: window.timers })
+                                                                   timers: window.timers,
+                                                                   folderChooser: window.folderChooser })
         }
     }
 }

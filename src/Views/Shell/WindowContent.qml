@@ -11,6 +11,7 @@ FocusScope {
     required property MainViewModel main
     required property LaunchSequence launch
     property TimersViewModel timers: null
+    required property FolderChooser folderChooser
 
     anchors.fill: parent
     focus: true
@@ -23,6 +24,12 @@ FocusScope {
         main: root.main
         launch: root.launch
         timers: root.timers
+    }
+
+    FolderChooserDialog {
+        anchors.fill: parent
+        chooser: root.folderChooser
+        backdrop: launchView
     }
 
     Alerts {

@@ -1,0 +1,49 @@
+import QtQuick
+import Pelko
+
+/// The buttons over the upper right corner of a block under the pointer.
+Row {
+    id: root
+
+    required property bool pointedAt
+    /// The keyboard is in the block: out of sight, the buttons can still be walked to.
+    required property bool reachable
+    required property bool offersBanner
+    required property bool isBanner
+    required property bool offersDelete
+    required property Item keys
+    /// What is seen through their glass.
+    property Item backdrop: null
+
+    readonly property Item last: offersDelete ? remove : offersBanner ? toggle : null
+
+    signal bannerToggled
+    signal deleteRequested
+
+    opacity: pointedAt || toggle.activeFocus || remove.activeFocus ? 1 : 0
+    spacing: Metrics.space8
+    visible: last !== null && (opacity > 0 || reachable)
+
+    Behavior on opacity {
+        NumberAnimation { duration: PelkoAnimation.micro.duration; easing: PelkoAnimation.micro.curve }
+    }
+
+    BannerToggleButton {
+        id: toggle
+
+        Keys.forwardTo: [root.keys]
+        backdrop: root.backdrop
+        isBanner: root.isBanner
+        visible: root.offersBanner
+        onTriggered: root.bannerToggled()
+    }
+
+    BubblyDeleteButton {
+        id: remove
+
+        Keys.forwardTo: [root.keys]
+        backdrop: root.backdrop
+        visible: root.offersDelete
+        onTriggered: root.deleteRequested()
+    }
+}
