@@ -5,6 +5,7 @@
 #include "Platform/LocalPictureFolders.h"
 #include "Platform/QtScheduler.h"
 #include "Platform/SystemPasteboard.h"
+#include "Services/EditorServices.h"
 #include "Shell/FolderChooser.h"
 
 /// What the program hands to its editors.

@@ -156,3 +156,17 @@ void EditorBench::copyPicture(const QString &picture)
 {
     m_desktop.pasteboard.png = bytesOf(picture);
 }
+
+void EditorBench::pressTwice(QQuickItem *item, QPointF place) const
+{
+    const QPointF scene = item->mapToScene(place);
+    const QPointF global = item->mapToGlobal(place);
+    const auto send = [&](QEvent::Type type, Qt::MouseButtons held) {
+        QMouseEvent event(type, scene, scene, global, Qt::LeftButton, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(item->window(), &event);
+    };
+    send(QEvent::MouseButtonPress, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, Qt::NoButton);
+    send(QEvent::MouseButtonPress, Qt::LeftButton);
+    send(QEvent::MouseButtonDblClick, Qt::LeftButton);
+}

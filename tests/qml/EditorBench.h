@@ -35,6 +35,12 @@ public:
     /// Sends what an input method composes to the focused field, and what it settles on.
     Q_INVOKABLE void compose(const QString &preedit);
     Q_INVOKABLE void commit(const QString &text, const QString &preedit = {});
+    /// The pointer's button goes down, up and down again.
+    Q_INVOKABLE void pressTwice(QQuickItem *item, QPointF place) const;
+    /// Puts text on the pasteboard, and tells what is there.
+    Q_INVOKABLE void copy(const QString &text) { m_desktop.pasteboard.put({.text = text}); }
+    Q_INVOKABLE QString copied() const { return m_desktop.pasteboard.item.text; }
+    Q_INVOKABLE QString copiedMarkdown() const { return m_desktop.pasteboard.item.markdown; }
     /// How often the data file was written.
     Q_INVOKABLE int saves() const { return m_file.writes(); }
     /// The shape of the pointer in the window of that item.

@@ -17,9 +17,18 @@ FocusScope {
 
     function focusBlock(blockID: string, todoID: string, caret: int) {
         list.forceLayout()
+        makeRow(blockID)
+        list.currentRow?.block.takeFocus(todoID, caret)
+    }
+
+    function makeRow(blockID: string) {
         list.currentIndex = editor.rowOf(blockID)
         bringIntoSight(list.currentIndex)
-        list.currentRow?.block.takeFocus(todoID, caret)
+    }
+
+    function scrollBy(distance: real) {
+        scroll.scrollBy(distance)
+        list.forceLayout()
     }
 
     function walkFrom(row: int, forward: bool) {
@@ -65,6 +74,7 @@ FocusScope {
     PageContext {
         id: context
 
+        caret: pageCaret
         editor: root.editor
         images: ImageCache {}
         measure: Math.min(Metrics.measure, root.width - 2 * Metrics.pageMargin)
@@ -72,6 +82,25 @@ FocusScope {
         onMenuRequested: (row, item, position) => root.openMenu(row as BlockRow, item, position)
         onRevealRequested: reveal.start()
         onWalkedOut: (row, forward) => root.walkFrom(row, forward)
+    }
+
+    PageCaret {
+        id: pageCaret
+
+        pageStep: list.height - Metrics.pageTop - Metrics.pageFoot
+        selection: root.editor.selection
+        view: list
+        onRowNeeded: blockID => root.makeRow(blockID)
+        onScrollRequested: distance => root.scrollBy(distance)
+        onShowRequested: item => root.show(list.contentItem.mapFromItem(item, 0, 0, item.width, item.height))
+    }
+
+    FrameAnimation {
+        running: pageCaret.pull !== 0
+        onTriggered: {
+            root.scrollBy(pageCaret.pull * Metrics.dragScroll * frameTime)
+            pageCaret.carryOn()
+        }
     }
 
     // Rows that were just made or moved find their place with the next layout.

@@ -146,6 +146,14 @@ FocusScope {
         }
     }
 
+    SelectionWash {
+        anchors.fill: body
+        block: root.block
+        blockID: root.blockID
+        caret: root.page.caret
+        kind: root.kind
+    }
+
     BlockGrip {
         id: grip
 

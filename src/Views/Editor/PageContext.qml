@@ -4,6 +4,7 @@ import Pelko
 /// What the rows of a page know of it, and what they ask of it.
 QtObject {
     required property EditorViewModel editor
+    required property PageCaret caret
     /// The width of the text column.
     required property real measure
     /// The decoded pictures of this page.

@@ -48,6 +48,7 @@ FocusScope {
         keys: root.keys
         lineHeight: Metrics.todoLine
         placeholder: qsTr("To do...")
+        todoID: root.todoID
         y: (Typography.checklistRow - Metrics.todoLine) / 2
         onCursorRectangleChanged: if (activeFocus) root.caretMoved(mapToItem(root, cursorRectangle))
         onEdited: (value, caret) => root.edited(value, caret)

@@ -10,6 +10,11 @@ TextEdit {
     required property string placeholder
     /// Sees the keys before the field does.
     required property Item keys
+    /// Of the entry of a checklist that is written in; empty elsewhere.
+    property string todoID
+
+    readonly property BlockRow row: keys as BlockRow
+
     property real lineHeight: 0
 
     signal edited(string value, int caret)
@@ -38,6 +43,8 @@ TextEdit {
 
     activeFocusOnTab: true
     cursorDelegate: Caret {}
+    // What is selected in one field can be part of a selection whose caret is in another.
+    persistentSelection: true
     renderType: Text.NativeRendering
     selectByMouse: true
     selectedTextColor: color
@@ -54,6 +61,23 @@ TextEdit {
         document: root.textDocument
         lineHeight: root.lineHeight
         onEdited: value => root.edited(value, root.cursorPosition)
+    }
+
+    FieldCaret {
+        id: place
+
+        blockID: root.row.blockID
+        page: root.row.page.caret
+        todoID: root.todoID
+    }
+
+    // The end of a line that has nothing else to be selected.
+    Rectangle {
+        color: root.selectionColor
+        height: root.cursorRectangle.height
+        visible: place.selectedEmpty
+        width: Metrics.space6
+        y: root.cursorRectangle.y
     }
 
     Text {

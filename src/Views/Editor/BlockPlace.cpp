@@ -1,0 +1,33 @@
+#include "BlockPlace.h"
+
+#include "PageCaret.h"
+
+#include <QQuickWindow>
+
+BlockPlace::~BlockPlace()
+{
+    if (m_page)
+        m_page->remove(*this);
+}
+
+void BlockPlace::componentComplete()
+{
+    m_item->installEventFilter(this);
+    m_page->add(*this);
+}
+
+void BlockPlace::setCovered(bool covered)
+{
+    if (m_isCovered == covered)
+        return;
+    m_isCovered = covered;
+    Q_EMIT coveredChanged();
+}
+
+bool BlockPlace::eventFilter(QObject *, QEvent *event)
+{
+    // Keys that a field has left unused come by here as well.
+    const bool isMine =
+        event->type() == QEvent::KeyPress && m_page && m_item->window()->activeFocusItem() == m_item;
+    return isMine && m_page->keys().pressed(*this, *static_cast<QKeyEvent *>(event));
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QPointer>
+#include <QQuickItem>
+#include <QUuid>
+
+class PageCaret;
+
+/// Where a block stands on the page and whether it is selected as a whole. A block without text gives the
+/// keys that move the caret to the page.
+class BlockPlace : public QObject, public QQmlParserStatus
+{
+    Q_OBJECT
+    Q_MOC_INCLUDE("PageCaret.h")
+    Q_INTERFACES(QQmlParserStatus)
+    Q_PROPERTY(PageCaret *page MEMBER m_page REQUIRED)
+    Q_PROPERTY(QString blockID MEMBER m_blockID REQUIRED)
+    Q_PROPERTY(QQuickItem *item MEMBER m_item REQUIRED)
+    Q_PROPERTY(bool covered READ isCovered NOTIFY coveredChanged)
+    QML_ELEMENT
+
+public:
+    using QObject::QObject;
+    ~BlockPlace() override;
+
+    QUuid blockID() const { return QUuid(m_blockID); }
+    QQuickItem *item() const { return m_item; }
+    bool isCovered() const { return m_isCovered; }
+    void setCovered(bool covered);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void classBegin() override {}
+    void componentComplete() override;
+
+Q_SIGNALS:
+    void coveredChanged();
+
+private:
+    QPointer<PageCaret> m_page;
+    QString m_blockID;
+    QPointer<QQuickItem> m_item;
+    bool m_isCovered = false;
+};

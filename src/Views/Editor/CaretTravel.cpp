@@ -1,0 +1,113 @@
+#include "CaretTravel.h"
+
+#include "FieldCaret.h"
+#include "PageCaret.h"
+#include "TextLines.h"
+
+namespace
+{
+
+qreal scrolled(const QQuickItem &view)
+{
+    return view.property("contentY").toReal();
+}
+
+} // namespace
+
+qreal CaretTravel::inField(const FieldCaret &field, qreal x) const
+{
+    return field.field().mapFromItem(&m_page.view(), QPointF(x, 0)).x();
+}
+
+std::optional<PagePosition> CaretTravel::destination(const PagePosition &from, const CaretKey &key)
+{
+    const Passages &passages = m_page.selection()->passages();
+    const qsizetype index = passages.indexOf(from.passage);
+    if (index < 0)
+        return std::nullopt;
+    if (key.move == CaretMove::start || key.move == CaretMove::end)
+        return pageEnd(key.move == CaretMove::end, !key.extends);
+    const Passage passage = passages.at(index);
+    const qreal x = isVertical(key.move) ? columnOf(from) : 0;
+    const auto to = step(passage, from.offset, key, x);
+    if (to && isVertical(key.move))
+        m_column = Column{.at = *to, .x = x};
+    return to;
+}
+
+std::optional<PagePosition> CaretTravel::step(const Passage &passage, int offset, const CaretKey &key,
+                                              qreal x)
+{
+    FieldCaret *field = passage.text ? m_page.field(passage.id) : nullptr;
+    if (!field)
+        return over(passage, offset, key, x);
+    if (key.move == CaretMove::pageUp || key.move == CaretMove::pageDown)
+        return pageAway(*field, offset, key, x);
+    const QTextDocument &text = field->text();
+    const auto to = isVertical(key.move)
+                        ? TextLines::nextLine(text, offset, key.move == CaretMove::down, inField(*field, x))
+                        : TextLines::aside(text, offset, key.move);
+    if (to)
+        return PagePosition{.passage = passage.id, .offset = *to};
+    return beyond(passage, isForward(key.move, TextLines::readsFromRight(text, offset)), key, x);
+}
+
+std::optional<PagePosition> CaretTravel::over(const Passage &passage, int offset, const CaretKey &key,
+                                              qreal x)
+{
+    const bool forward = isForward(key.move, false);
+    const PagePosition farSide{.passage = passage.id, .offset = forward ? passage.length() : 0};
+    return key.extends && offset != farSide.offset ? farSide : beyond(passage, forward, key, x);
+}
+
+std::optional<PagePosition> CaretTravel::beyond(const Passage &passage, bool forward, const CaretKey &key,
+                                                qreal x)
+{
+    const Passages &passages = m_page.selection()->passages();
+    const Passage *found =
+        key.extends ? passages.neighbour(passage.id, forward) : passages.textNeighbour(passage.id, forward);
+    if (!found)
+        return isVertical(key.move) ? std::optional(PagePosition{.passage = passage.id,
+                                                                 .offset = forward ? passage.length() : 0})
+                                    : std::nullopt;
+    const Passage next = *found;
+    FieldCaret *field = next.text ? m_page.field(next.id) : nullptr;
+    if (field && isVertical(key.move)) {
+        const int offset = TextLines::endLine(field->text(), !forward, inField(*field, x));
+        return PagePosition{.passage = next.id, .offset = offset};
+    }
+    // A thing without text is gone over as a whole.
+    return PagePosition{.passage = next.id, .offset = forward == (next.text.has_value()) ? 0 : next.length()};
+}
+
+std::optional<PagePosition> CaretTravel::pageAway(const FieldCaret &field, int offset, const CaretKey &key,
+                                                  qreal x)
+{
+    const qreal way = key.move == CaretMove::pageDown ? m_page.pageStep() : -m_page.pageStep();
+    const qreal y = field.field().mapToItem(&m_page.view(), field.rectangleAt(offset).center()).y();
+    const qreal before = scrolled(m_page.view());
+    Q_EMIT m_page.scrollRequested(way);
+    return m_page.nearest({x, y + way - (scrolled(m_page.view()) - before)}, !key.extends);
+}
+
+std::optional<PagePosition> CaretTravel::pageEnd(bool forward, bool onlyInText) const
+{
+    const Passages &passages = m_page.selection()->passages();
+    const auto end = forward ? passages.end() : passages.start();
+    if (!end || !onlyInText || passages.at(passages.indexOf(end->passage)).text)
+        return end;
+    const Passage *text = passages.textNeighbour(end->passage, !forward);
+    return text ? std::optional(PagePosition{.passage = text->id, .offset = forward ? text->length() : 0})
+                : std::nullopt;
+}
+
+qreal CaretTravel::columnOf(const PagePosition &position)
+{
+    if (m_column && m_column->at == position)
+        return m_column->x;
+    FieldCaret *field = m_page.field(position.passage);
+    return field ? field->field()
+                       .mapToItem(&m_page.view(), QPointF(TextLines::xOf(field->text(), position.offset), 0))
+                       .x()
+                 : 0;
+}

@@ -1,0 +1,131 @@
+#include "FieldCaret.h"
+
+#include "PageCaret.h"
+#include "TextLines.h"
+
+#include <QTextDocument>
+
+FieldCaret::~FieldCaret()
+{
+    if (m_page)
+        m_page->remove(*this);
+}
+
+void FieldCaret::componentComplete()
+{
+    field().installEventFilter(this);
+    connect(&field(), &QQuickItem::activeFocusChanged, this, [this](bool hasFocus) {
+        if (hasFocus && m_page)
+            m_page->entered(*this);
+    });
+    m_page->add(*this);
+}
+
+PassageID FieldCaret::passage() const
+{
+    PassageID id{.blockID = QUuid(m_blockID)};
+    if (!m_todoID.isEmpty())
+        id.todoID = QUuid(m_todoID);
+    return id;
+}
+
+QQuickItem &FieldCaret::field() const
+{
+    return *static_cast<QQuickItem *>(parent());
+}
+
+const QTextDocument &FieldCaret::text() const
+{
+    return *field().property("textDocument").value<QQuickTextDocument *>()->textDocument();
+}
+
+int FieldCaret::caret() const
+{
+    return field().property("cursorPosition").toInt();
+}
+
+int FieldCaret::anchor() const
+{
+    const int start = field().property("selectionStart").toInt();
+    return start == caret() ? field().property("selectionEnd").toInt() : start;
+}
+
+bool FieldCaret::isAllSelected() const
+{
+    return qAbs(anchor() - caret()) == field().property("length").toInt();
+}
+
+bool FieldCaret::follows(const CaretKey &key) const
+{
+    if (isVertical(key.move) || key.move == CaretMove::start || key.move == CaretMove::end)
+        return false;
+    const bool collapses = !key.extends && anchor() != caret();
+    return collapses || TextLines::aside(text(), caret(), key.move);
+}
+
+QRectF FieldCaret::rectangleAt(int offset) const
+{
+    QRectF rectangle;
+    QMetaObject::invokeMethod(&field(), "positionToRectangle", Q_RETURN_ARG(QRectF, rectangle),
+                              Q_ARG(int, offset));
+    return rectangle;
+}
+
+void FieldCaret::select(int anchor, int caret)
+{
+    if (this->anchor() != anchor || this->caret() != caret)
+        QMetaObject::invokeMethod(&field(), "select", Q_ARG(int, anchor), Q_ARG(int, caret));
+}
+
+void FieldCaret::show(const SelectedParts &parts, const std::optional<BlockSelection> &selection)
+{
+    const SelectedPart *part = parts.of(passage());
+    setSelectedEmpty(part && part->passage.length() == 0 && part != &parts.all().last());
+    // What is selected as a whole is washed over.
+    if (part && !parts.covers(part->passage.id.blockID))
+        showPart(*part, selection);
+    else if (selection || !hasFocus())
+        deselect();
+}
+
+void FieldCaret::showPart(const SelectedPart &part, const std::optional<BlockSelection> &selection)
+{
+    const bool isUpwards =
+        selection && selection->head == PagePosition{.passage = part.passage.id, .offset = part.start};
+    isUpwards ? select(part.end, part.start) : select(part.start, part.end);
+}
+
+void FieldCaret::setSelectedEmpty(bool selected)
+{
+    if (m_isSelectedEmpty == selected)
+        return;
+    m_isSelectedEmpty = selected;
+    Q_EMIT selectedEmptyChanged();
+}
+
+void FieldCaret::takeFocus()
+{
+    field().forceActiveFocus(Qt::OtherFocusReason);
+}
+
+bool FieldCaret::eventFilter(QObject *, QEvent *event)
+{
+    if (!m_page)
+        return false;
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        return m_page->keys().pressed(*this, *static_cast<QKeyEvent *>(event));
+    case QEvent::InputMethod:
+        return m_page->keys().composed(*static_cast<QInputMethodEvent *>(event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        return m_page->pointer().pressed(*this, *static_cast<QMouseEvent *>(event));
+    case QEvent::MouseMove:
+        return m_page->pointer().moved(*this, *static_cast<QMouseEvent *>(event));
+    case QEvent::MouseButtonRelease:
+    case QEvent::UngrabMouse:
+        return m_page->pointer().released();
+    default:
+        return false;
+    }
+}

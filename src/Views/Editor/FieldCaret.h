@@ -1,0 +1,66 @@
+#pragma once
+
+#include "CaretMove.h"
+#include "Editor/BlockSelection.h"
+
+#include <QPointer>
+#include <QQuickItem>
+#include <QQuickTextDocument>
+
+class PageCaret;
+
+/// Lets the caret of one text field, its parent, leave the field for the rest of the page, and shows in the
+/// field what is selected of it. It sees keys and pointer before the field does.
+class FieldCaret : public QObject, public QQmlParserStatus
+{
+    Q_OBJECT
+    Q_MOC_INCLUDE("PageCaret.h")
+    Q_INTERFACES(QQmlParserStatus)
+    Q_PROPERTY(PageCaret *page MEMBER m_page REQUIRED)
+    Q_PROPERTY(QString blockID MEMBER m_blockID REQUIRED)
+    Q_PROPERTY(QString todoID MEMBER m_todoID)
+    Q_PROPERTY(bool selectedEmpty READ isSelectedEmpty NOTIFY selectedEmptyChanged)
+    QML_ELEMENT
+
+public:
+    using QObject::QObject;
+    ~FieldCaret() override;
+
+    PassageID passage() const;
+    QQuickItem &field() const;
+    const QTextDocument &text() const;
+    bool hasFocus() const { return field().hasActiveFocus(); }
+
+    /// The end of the selection where the caret stands, and the other one.
+    int caret() const;
+    int anchor() const;
+    bool isAllSelected() const;
+    bool isComposing() const { return field().property("inputMethodComposing").toBool(); }
+    /// Whether the field can follow that key by itself.
+    bool follows(const CaretKey &key) const;
+    QRectF rectangleAt(int offset) const;
+    /// There is no text, yet its line belongs to a selection that goes on below.
+    bool isSelectedEmpty() const { return m_isSelectedEmpty; }
+
+    void select(int anchor, int caret);
+    void deselect() { select(caret(), caret()); }
+    /// Shows the part of a selection over several passages, or of none.
+    void show(const SelectedParts &parts, const std::optional<BlockSelection> &selection);
+    void takeFocus();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void classBegin() override {}
+    void componentComplete() override;
+
+Q_SIGNALS:
+    void selectedEmptyChanged();
+
+private:
+    void showPart(const SelectedPart &part, const std::optional<BlockSelection> &selection);
+    void setSelectedEmpty(bool selected);
+
+    QPointer<PageCaret> m_page;
+    QString m_blockID;
+    QString m_todoID;
+    bool m_isSelectedEmpty = false;
+};

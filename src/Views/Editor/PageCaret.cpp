@@ -1,0 +1,164 @@
+#include "PageCaret.h"
+
+#include "BlockPlace.h"
+#include "FieldCaret.h"
+#include "TextLines.h"
+
+#include <QScopedValueRollback>
+
+#include <limits>
+
+namespace
+{
+
+qreal distance(const QRectF &place, qreal y)
+{
+    return std::max({place.top() - y, y - place.bottom(), 0.0});
+}
+
+} // namespace
+
+PageCaret::PageCaret(QObject *parent) : QObject(parent) {}
+
+void PageCaret::setSelection(PageSelection *selection)
+{
+    if (m_selection == selection)
+        return;
+    if (m_selection)
+        m_selection->disconnect(this);
+    m_selection = selection;
+    connect(m_selection, &PageSelection::changed, this, &PageCaret::showSelection);
+    Q_EMIT selectionChanged();
+}
+
+void PageCaret::add(FieldCaret &field)
+{
+    m_fields.insert(field.passage(), &field);
+    field.show(m_selection->parts(), m_selection->selection());
+}
+
+void PageCaret::add(BlockPlace &block)
+{
+    m_blocks.insert(block.blockID(), &block);
+    block.setCovered(m_selection->parts().covers(block.blockID()));
+}
+
+// A row that is made anew stands beside the old one for a moment.
+void PageCaret::remove(FieldCaret &field)
+{
+    if (m_fields.value(field.passage()) == &field)
+        m_fields.remove(field.passage());
+}
+
+void PageCaret::remove(BlockPlace &block)
+{
+    if (m_blocks.value(block.blockID()) == &block)
+        m_blocks.remove(block.blockID());
+}
+
+FieldCaret *PageCaret::field(const PassageID &passage)
+{
+    if (!m_fields.contains(passage))
+        Q_EMIT rowNeeded(passage.blockID.toString(QUuid::WithoutBraces));
+    return m_fields.value(passage);
+}
+
+void PageCaret::showSelection()
+{
+    for (FieldCaret *field : std::as_const(m_fields))
+        field->show(m_selection->parts(), m_selection->selection());
+    for (BlockPlace *block : std::as_const(m_blocks))
+        block->setCovered(m_selection->parts().covers(block->blockID()));
+}
+
+std::optional<PagePosition> PageCaret::nearest(QPointF point, bool onlyInText) const
+{
+    qreal least = std::numeric_limits<qreal>::max();
+    std::optional<PagePosition> found;
+    const auto consider = [&](const QQuickItem &item, auto position) {
+        const QRectF place = item.mapRectToItem(m_view, item.boundingRect());
+        if (distance(place, point.y()) >= least)
+            return;
+        least = distance(place, point.y());
+        found = position(point - place.topLeft(), place.size());
+    };
+    for (const FieldCaret *field : m_fields) {
+        consider(field->field(), [&](QPointF inside, QSizeF) {
+            return PagePosition{.passage = field->passage(),
+                                .offset = TextLines::nearest(field->text(), inside)};
+        });
+    }
+    for (const BlockPlace *block : m_blocks) {
+        const PassageID passage{.blockID = block->blockID()};
+        const bool isThing = m_selection->passages().indexOf(passage) >= 0 && !m_fields.contains(passage);
+        if (!isThing || onlyInText)
+            continue;
+        consider(*block->item(), [&](QPointF inside, QSizeF size) {
+            return PagePosition{.passage = passage, .offset = inside.y() > size.height() / 2 ? 1 : 0};
+        });
+    }
+    return found;
+}
+
+void PageCaret::place(const PagePosition &position)
+{
+    FieldCaret *target = field(position.passage);
+    if (!target)
+        return;
+    m_selection->clear();
+    target->select(position.offset, position.offset);
+    focus(*target);
+}
+
+void PageCaret::show(const BlockSelection &selection)
+{
+    if (m_selection->select(selection))
+        return;
+    const Passages &passages = m_selection->passages();
+    const qsizetype head = passages.indexOf(selection.head.passage);
+    const qsizetype only =
+        head >= 0 && passages.at(head).text ? head : passages.indexOf(selection.anchor.passage);
+    if (only < 0)
+        return;
+    const auto within = [&](const PagePosition &position) {
+        const qsizetype index = passages.indexOf(position.passage);
+        return index == only ? position.offset : index < only ? 0 : passages.at(only).length();
+    };
+    if (FieldCaret *target = field(passages.at(only).id))
+        target->select(within(selection.anchor), within(selection.head));
+}
+
+void PageCaret::select(const BlockSelection &selection)
+{
+    show(selection);
+    const PassageID &head = selection.head.passage;
+    const qsizetype index = m_selection->passages().indexOf(head);
+    if (index >= 0 && m_selection->passages().at(index).text) {
+        if (FieldCaret *target = field(head))
+            focus(*target);
+    } else if (const BlockPlace *block = m_blocks.value(head.blockID)) {
+        Q_EMIT showRequested(block->item());
+    }
+}
+
+void PageCaret::focus(FieldCaret &field)
+{
+    const QScopedValueRollback moving(m_isMoving, true);
+    field.takeFocus();
+}
+
+FieldCaret *PageCaret::current() const
+{
+    return m_current;
+}
+
+void PageCaret::entered(FieldCaret &field)
+{
+    // Back from a menu or from another window, the writer goes on.
+    if (!m_isMoving && m_current != &field)
+        m_selection->clear();
+    // There is one selection on a page.
+    if (m_current && m_current != &field && !m_selection->isCrossing())
+        m_current->deselect();
+    m_current = &field;
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "Editor/PageSelection.h"
+#include "PageKeys.h"
+#include "PointerSelection.h"
+
+#include <QPointer>
+#include <QQuickItem>
+
+class BlockPlace;
+class FieldCaret;
+
+/// The one caret and the one selection of a page whose blocks are fields of their own. What stays within a
+/// field is left to it; what leads out of it happens here.
+class PageCaret : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(PageSelection *selection READ selection WRITE setSelection NOTIFY selectionChanged REQUIRED)
+    Q_PROPERTY(QQuickItem *view MEMBER m_view REQUIRED)
+    Q_PROPERTY(qreal pageStep MEMBER m_pageStep REQUIRED)
+    Q_PROPERTY(qreal pull READ pull NOTIFY pullChanged)
+    QML_ELEMENT
+
+public:
+    explicit PageCaret(QObject *parent = nullptr);
+
+    PageSelection *selection() const { return m_selection; }
+    void setSelection(PageSelection *selection);
+    /// The scrolling view that the fields stand in.
+    QQuickItem &view() const { return *m_view; }
+    /// How far the keys that turn a page go.
+    qreal pageStep() const { return m_pageStep; }
+    /// How far the pointer has pulled a selection over an edge of the view; negative above.
+    qreal pull() const { return m_pointer.pull(); }
+    PageKeys &keys() { return m_keys; }
+    PointerSelection &pointer() { return m_pointer; }
+
+    void add(FieldCaret &field);
+    void add(BlockPlace &block);
+    void remove(FieldCaret &field);
+    void remove(BlockPlace &block);
+
+    /// The field of that passage, for which the view makes the row if need be; null where there is none.
+    FieldCaret *field(const PassageID &passage);
+    /// The field that has the focus, or had it last.
+    FieldCaret *current() const;
+    /// The place on the page, among the rows that the view has made, nearest to a point in the view.
+    std::optional<PagePosition> nearest(QPointF point, bool onlyInText) const;
+
+    /// Puts the caret there.
+    void place(const PagePosition &position);
+    /// Selects, and moves the caret along.
+    void select(const BlockSelection &selection);
+    /// Selects, and leaves the focus where it is.
+    void show(const BlockSelection &selection);
+
+    /// A field got the focus.
+    void entered(FieldCaret &field);
+    /// The view has scrolled under the pointer.
+    Q_INVOKABLE void carryOn() { m_pointer.carryOn(); }
+
+Q_SIGNALS:
+    void selectionChanged();
+    void pullChanged();
+    /// The row of that block has to be made and brought into sight.
+    void rowNeeded(const QString &blockID);
+    void showRequested(QQuickItem *item);
+    void scrollRequested(qreal distance);
+
+private:
+    void focus(FieldCaret &field);
+    void showSelection();
+
+    QPointer<PageSelection> m_selection;
+    QPointer<QQuickItem> m_view;
+    qreal m_pageStep = 0;
+    QHash<PassageID, FieldCaret *> m_fields;
+    QHash<QUuid, BlockPlace *> m_blocks;
+    QPointer<FieldCaret> m_current;
+    bool m_isMoving = false;
+    PageKeys m_keys{*this};
+    PointerSelection m_pointer{*this};
+};

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Editor/BlockSelection.h"
+
+#include <QPointF>
+#include <QPointer>
+
+class FieldCaret;
+class PageCaret;
+class QMouseEvent;
+
+/// Selects with the pointer what lies between two fields. As long as the pointer is in the field it was
+/// pressed in, that field selects by itself. The functions tell whether an event has done its work.
+class PointerSelection
+{
+public:
+    explicit PointerSelection(PageCaret &page) : m_page(page) {}
+
+    bool pressed(FieldCaret &field, QMouseEvent &event);
+    bool moved(const FieldCaret &field, const QMouseEvent &event);
+    bool released();
+
+    /// How far the pointer is over an edge of the view; negative above.
+    qreal pull() const { return m_pull; }
+    /// Goes on to what has come under the pointer.
+    void carryOn();
+
+private:
+    bool extendFrom(const FieldCaret &field, QMouseEvent &event);
+    void dragTo(const PagePosition &head);
+    void setPull(qreal pull);
+
+    PageCaret &m_page;
+    /// Pressed in it, and it knows of that.
+    QPointer<FieldCaret> m_owner;
+    QPointer<FieldCaret> m_pressed;
+    /// What the press itself selected: a place, a word or a line.
+    PagePosition m_start;
+    PagePosition m_end;
+    bool m_isFresh = false;
+    bool m_isDragging = false;
+    QPointF m_pointer;
+    qreal m_pull = 0;
+};

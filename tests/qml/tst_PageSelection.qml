@@ -1,0 +1,387 @@
+import QtQuick
+import QtTest
+import Pelko
+import PelkoTest
+
+Item {
+    id: root
+
+    width: 900
+    height: 640
+
+    EditorBench { id: bench }
+
+    Component {
+        id: view
+
+        EditorView {
+            anchors.fill: parent
+            editor: bench.editor
+            focus: true
+        }
+    }
+
+    TestCase {
+        id: test
+
+        property EditorView page
+
+        name: "PageSelection"
+        when: windowShown
+
+        function open(blocks) {
+            bench.open(blocks)
+            page = createTemporaryObject(view, root)
+            page.forceActiveFocus()
+            bench.advance(0)
+            waitForRendering(page)
+        }
+
+        function kinds() {
+            return bench.blocks().map(block => block.type).join(" ")
+        }
+
+        function contents() {
+            return bench.blocks().map(block => block.content).join("|")
+        }
+
+        function everything(item) {
+            return [item].concat(...Array.from(item.children).map(child => everything(child)))
+        }
+
+        function fields() {
+            return everything(page).filter(item => item.Accessible.role === Accessible.EditableText && item.visible)
+                .sort((a, b) => a.mapToItem(page, 0, 0).y - b.mapToItem(page, 0, 0).y)
+        }
+
+        function saying(text) {
+            return fields().find(field => field.getText(0, 9999).startsWith(text))
+        }
+
+        function go(field, caret) {
+            field.cursorPosition = caret
+            field.forceActiveFocus()
+        }
+
+        function press(keys) {
+            for (const key of keys.split(" ")) {
+                const parts = key.split("+")
+                const names = { Ctrl: Qt.ControlModifier, Shift: Qt.ShiftModifier }
+                const modifiers = parts.slice(0, -1).reduce((sum, name) => sum | names[name], 0)
+                keyClick(Qt["Key_" + parts[parts.length - 1]], modifiers)
+            }
+        }
+
+        /// What is shown selected, text by text.
+        function selected() {
+            return fields().map(field => field.selectedText).join("|")
+        }
+
+        /// The kinds of the blocks that are shown selected as a whole.
+        function washed() {
+            return everything(page).filter(item => item instanceof SelectionWash && item.children[0].visible)
+                .map(item => item.kind).join(" ")
+        }
+
+        function three() {
+            return [{ type: "textLarge", content: "first" }, { type: "textSmall", content: "second" },
+                { type: "quote", content: "third" }]
+        }
+
+        function everyKind() {
+            return [{ type: "textLarge", content: "Head" }, { type: "textSmall", content: "body" },
+                { type: "divider" }, { type: "quote", content: "quote" },
+                { type: "sticky", todos: [{ text: "milk", done: false }, { text: "rye", done: true }] },
+                { type: "code", content: "code" }, { type: "image" }]
+        }
+
+        /// The place in the page of that character of a field.
+        function pointAt(field, caret) {
+            const place = field.positionToRectangle(caret)
+            return field.mapToItem(page, place.x, place.y + place.height / 2)
+        }
+
+        function drag(from, start, to, end) {
+            const a = pointAt(from, start)
+            const b = pointAt(to, end)
+            mousePress(page, a.x, a.y)
+            mouseMove(page, (a.x + b.x) / 2, (a.y + b.y) / 2)
+            mouseMove(page, b.x, b.y)
+        }
+
+        function release(to, end) {
+            const b = pointAt(to, end)
+            mouseRelease(page, b.x, b.y)
+        }
+
+        function select(from, start, to, end) {
+            drag(saying(from), start, saying(to), end)
+            release(saying(to), end)
+        }
+
+        function test_shift_and_a_key_select_over_blocks_data() {
+            return [
+                { from: "first@3", keys: "Shift+Right Shift+Right Shift+Right Shift+Right", selected: "st|s|" },
+                { from: "second@1", keys: "Shift+Left Shift+Left Shift+Left", selected: "t|s|" },
+                { from: "first@2", keys: "Shift+Down Shift+Down", selected: "rst|second|" },
+                { from: "third@2", keys: "Shift+Up", selected: "|nd|th" },
+                { from: "first@2", keys: "Shift+Down Shift+End", selected: "rst|second|" },
+                { from: "third@2", keys: "Shift+Up Shift+Home", selected: "|second|th" },
+                { from: "first@2", keys: "Ctrl+Shift+End", selected: "rst|second|third" },
+                { from: "third@2", keys: "Ctrl+Shift+Home", selected: "first|second|th" },
+                { from: "first@2", keys: "Shift+PageDown", selected: "rst|second|" },
+                { from: "first@5", keys: "Ctrl+Shift+Right Ctrl+Shift+Right", selected: "|second|" },
+                { from: "first@2", keys: "Shift+Down Shift+Up", selected: "||" },
+                { from: "first@2", keys: "Shift+Down Shift+Up Shift+Right", selected: "r||" },
+                { from: "first@4", keys: "Shift+Right Shift+Right Shift+Left Shift+Left Shift+Left", selected: "s||" },
+            ].map(row => Object.assign(row, { tag: row.from + " " + row.keys }))
+        }
+
+        function test_shift_and_a_key_select_over_blocks(row) {
+            open(three())
+            const [text, caret] = row.from.split("@")
+            go(saying(text), Number(caret))
+            press(row.keys)
+            compare(selected(), row.selected)
+        }
+
+        function test_a_key_without_shift_gives_the_selection_up_data() {
+            return [
+                { tag: "Left", to: "first@2" },
+                { tag: "Right", to: "second@3" },
+                { tag: "Up", to: "first@3" },
+                { tag: "Home", to: "second@0" },
+                { tag: "End", to: "second@6" },
+                { tag: "Ctrl+Home", to: "first@0" },
+                { tag: "Ctrl+End", to: "third@5" },
+            ]
+        }
+
+        function test_a_key_without_shift_gives_the_selection_up(row) {
+            open(three())
+            go(saying("first"), 2)
+            press("Shift+Right Shift+Right Shift+Right Shift+Right Shift+Right Shift+Right Shift+Right")
+            press(row.tag)
+            compare(selected(), "||")
+            const field = page.Window.activeFocusItem
+            compare(field.getText(0, 99) + "@" + field.cursorPosition, row.to)
+        }
+
+        function test_things_without_text_are_selected_as_a_whole() {
+            open(everyKind())
+            go(saying("body"), 2)
+            press("Shift+Right Shift+Right Shift+Right")
+            compare(selected(), "|dy||||")
+            compare(washed(), "divider")
+            press("Shift+Right Shift+Down")
+            compare(washed(), "divider")
+            press("Ctrl+Shift+End")
+            compare(washed(), "divider sticky image")
+            compare(selected(), "|dy|quote|||code")
+        }
+
+        function test_select_all_takes_the_text_and_then_the_page() {
+            open(everyKind())
+            go(saying("body"), 1)
+            press("Ctrl+A")
+            compare(selected(), "|body||||")
+            compare(washed(), "")
+            press("Ctrl+A")
+            compare(selected(), "Head|body|quote|||code")
+            compare(washed(), "divider sticky image")
+            compare(page.Window.activeFocusItem, saying("body"))
+            press("Ctrl+C")
+            compare(bench.copied(), "Head\nbody\n---\nquote\nmilk\nrye\ncode")
+        }
+
+        function test_an_empty_text_selects_the_page_at_once() {
+            open([{ type: "textLarge", content: "first" }, { type: "textSmall" }])
+            go(fields()[1], 0)
+            press("Ctrl+A")
+            compare(selected(), "first|")
+        }
+
+        function test_a_drag_selects_over_blocks_data() {
+            return [
+                { tag: "down", from: "first", start: 2, to: "third", end: 2, selected: "rst|second|th" },
+                { tag: "up", from: "third", start: 2, to: "first", end: 2, selected: "rst|second|th" },
+                { tag: "within", from: "second", start: 1, to: "second", end: 4, selected: "|eco|" },
+            ]
+        }
+
+        function test_a_drag_selects_over_blocks(row) {
+            open(three())
+            select(row.from, row.start, row.to, row.end)
+            compare(selected(), row.selected)
+            compare(page.Window.activeFocusItem, saying(row.to))
+            compare(page.Window.activeFocusItem.cursorPosition, row.end)
+        }
+
+        function test_a_drag_that_comes_back_selects_in_its_text_again() {
+            open(three())
+            drag(saying("first"), 2, saying("third"), 2)
+            const back = pointAt(saying("first"), 4)
+            mouseMove(page, back.x, back.y)
+            mouseRelease(page, back.x, back.y)
+            compare(selected(), "rs||")
+        }
+
+        function test_a_double_click_and_drag_keeps_the_whole_word_data() {
+            return [{ tag: "down", to: "third", selected: "|word below|t" }, { tag: "up", to: "first", selected: "irst|a word|" }]
+        }
+
+        function test_a_double_click_and_drag_keeps_the_whole_word(row) {
+            open([{ type: "textLarge", content: "first" }, { type: "textSmall", content: "a word below" }, { type: "quote", content: "third" }])
+            const a = pointAt(saying("a word"), 4)
+            const b = pointAt(saying(row.to), 1)
+            bench.pressTwice(page, Qt.point(a.x, a.y))
+            compare(selected(), "|word|")
+            mouseMove(page, b.x, b.y, -1, Qt.LeftButton)
+            mouseRelease(page, b.x, b.y)
+            compare(selected(), row.selected)
+        }
+
+        function test_a_click_with_shift_selects_up_to_it() {
+            open(three())
+            go(saying("first"), 2)
+            const there = pointAt(saying("third"), 3)
+            mouseClick(page, there.x, there.y, Qt.LeftButton, Qt.ShiftModifier)
+            compare(selected(), "rst|second|thi")
+            const back = pointAt(saying("second"), 3)
+            mouseClick(page, back.x, back.y, Qt.LeftButton, Qt.ShiftModifier)
+            compare(selected(), "rst|sec|")
+        }
+
+        function test_a_click_gives_the_selection_up() {
+            open(three())
+            select("first", 2, "third", 2)
+            wait(Application.styleHints.mouseDoubleClickInterval)
+            const there = pointAt(saying("second"), 3)
+            mouseClick(page, there.x, there.y)
+            compare(selected(), "||")
+            compare(saying("second").cursorPosition, 3)
+        }
+
+        function test_a_drag_over_the_edge_scrolls() {
+            open(Array.from({ length: 60 }, (_, i) => ({ type: "textSmall", content: "line " + i })))
+            const from = pointAt(saying("line 2"), 2)
+            mousePress(page, from.x, from.y)
+            mouseMove(page, from.x, from.y + 100)
+            mouseMove(page, from.x, page.height + 20)
+            tryVerify(() => saying("line 59")?.selectedText.length > 0, 20000)
+            mouseRelease(page, from.x, page.height + 20)
+            press("Ctrl+C")
+            verify(bench.copied().startsWith("ne 2\nline 3\n"))
+            verify(bench.copied().includes("\nline 58\nli"))
+        }
+
+        function test_what_is_selected_goes_and_the_caret_stays_at_the_seam_data() {
+            return [
+                { tag: "Backspace", contents: "fiXrd", kinds: "textLarge" },
+                { tag: "Delete", contents: "fiXrd", kinds: "textLarge" },
+                { tag: "Ctrl+X", contents: "fiXrd", kinds: "textLarge" },
+                { tag: "Z", contents: "fizXrd", kinds: "textLarge" },
+                { tag: "Return", contents: "fi|Xrd", kinds: "textLarge textSmall" },
+            ]
+        }
+
+        function test_what_is_selected_goes_and_the_caret_stays_at_the_seam(row) {
+            open(three())
+            select("first", 2, "third", 3)
+            press(row.tag)
+            keyClick("X")
+            compare(contents(), row.contents)
+            compare(kinds(), row.kinds)
+            compare(selected().replace("|", ""), "")
+        }
+
+        function test_undo_brings_it_back_in_one_step() {
+            open(three())
+            select("first", 2, "third", 3)
+            press("Backspace")
+            compare(contents(), "fird")
+            bench.editor.undo()
+            compare(contents(), "first|second|third")
+        }
+
+        function test_it_is_copied_as_text_and_markdown() {
+            open(everyKind())
+            select("Head", 2, "code", 2)
+            press("Ctrl+C")
+            compare(bench.copied(), "ad\nbody\n---\nquote\nmilk\nrye\nco")
+            compare(bench.copiedMarkdown(), "# ad\n\nbody\n\n---\n\n> quote\n\n- [ ] milk\n- [x] rye\n\n```\nco\n```")
+            compare(selected(), "ad|body|quote|||co")
+        }
+
+        function test_text_is_pasted_over_it() {
+            open(three())
+            bench.copy("one\ntwo")
+            select("first", 2, "third", 3)
+            press("Ctrl+V")
+            compare(contents(), "fione|tword")
+            keyClick("X")
+            compare(contents(), "fione|twoXrd")
+        }
+
+        function test_copy_cut_and_paste_within_a_text_are_its_own() {
+            open(three())
+            go(saying("second"), 0)
+            press("Shift+Right Shift+Right Ctrl+X")
+            compare(contents(), "first|cond|third")
+            press("End Ctrl+V")
+            compare(contents(), "first|condse|third")
+        }
+
+        function test_an_input_method_types_over_it() {
+            open(three())
+            select("first", 2, "third", 3)
+            bench.compose("ni")
+            bench.commit("你")
+            compare(contents(), "fi你rd")
+        }
+
+        function test_a_selection_of_entries_joins_them() {
+            open([{ type: "sticky", todos: [{ text: "milk", done: false }, { text: "rye", done: true }] }])
+            select("milk", 2, "rye", 1)
+            press("Delete")
+            compare(bench.blocks()[0].todos, [{ done: false, text: "miye" }])
+        }
+
+        function test_a_menu_leaves_the_selection() {
+            open(three())
+            select("first", 2, "third", 2)
+            press("Menu")
+            tryVerify(() => everything(page).some(item => item.Accessible.name === "Delete Block" && item.visible))
+            press("Escape")
+            tryVerify(() => !everything(page).some(item => item.Accessible.name === "Delete Block" && item.visible))
+            compare(selected(), "rst|second|th")
+            press("Delete")
+            compare(contents(), "fiird")
+        }
+
+        function test_the_selection_in_one_text_goes_when_another_is_entered() {
+            open(three())
+            go(saying("first"), 0)
+            press("Shift+End")
+            compare(selected(), "first||")
+            const there = pointAt(saying("third"), 3)
+            mouseClick(page, there.x, there.y)
+            compare(selected(), "||")
+        }
+
+        function test_walking_on_with_tab_gives_the_selection_up() {
+            open(three())
+            select("first", 2, "third", 2)
+            press("Tab")
+            compare(selected().replace("th", ""), "||")
+        }
+
+        function test_an_empty_text_in_the_middle_is_seen_selected() {
+            open([{ type: "textLarge", content: "first" }, { type: "textSmall" }, { type: "quote", content: "third" }])
+            const sliver = () => everything(fields()[1]).find(item => item.width === Metrics.space6 && item.color === FirePalette.selection)
+            verify(!sliver().visible)
+            select("first", 2, "third", 2)
+            verify(sliver().visible)
+        }
+    }
+}
