@@ -21,7 +21,7 @@ test=(
     desktop-file-utils appstream mandoc
     qml6-module-qttest
     python3 python3-pyatspi at-spi2-core dbus
-    xvfb openbox xdotool x11-utils x11-apps imagemagick
+    xvfb openbox xdotool x11-utils x11-apps xclip imagemagick
 )
 
 names_of() {

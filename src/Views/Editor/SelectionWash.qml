@@ -20,9 +20,10 @@ Item {
 
     Rectangle {
         // A rule alone is too thin to be seen selected.
-        anchors { fill: parent; margins: root.kind === "divider" ? -Metrics.space8 : 0 }
+        anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }
         color: FirePalette.selection
-        radius: root.kind === "sticky" ? Metrics.stickyRadius : Metrics.pictureRadius
+        height: Math.max(parent.height, Metrics.space12)
+        radius: Math.min(root.kind === "sticky" ? Metrics.stickyRadius : Metrics.pictureRadius, height / 4)
         visible: place.covered
     }
 }

@@ -73,11 +73,11 @@ TextEdit {
 
     // The end of a line that has nothing else to be selected.
     Rectangle {
+        anchors.verticalCenter: parent.verticalCenter
         color: root.selectionColor
-        height: root.cursorRectangle.height
+        height: Math.round(root.font.pixelSize * 1.2)
         visible: place.selectedEmpty
         width: Metrics.space6
-        y: root.cursorRectangle.y
     }
 
     Text {
