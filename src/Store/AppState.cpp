@@ -69,6 +69,8 @@ void AppState::setCurrentSpace(Space space)
 
 void AppState::setOpenDocumentID(std::optional<QUuid> id)
 {
+    if (m_openDocumentID != id)
+        Q_EMIT openDocumentIDAboutToChange();
     ChangeScope(*this).assign(m_openDocumentID, id, &AppState::openDocumentIDChanged);
 }
 
@@ -108,6 +110,7 @@ void AppState::createDocument(Space space)
         setShowDocLimitNudge(true);
         return;
     }
+    Q_EMIT openDocumentIDAboutToChange();
     const PelkoDocument document(space, m_clock.now());
     ChangeScope scope(*this);
     m_documents.append(document);

@@ -67,6 +67,8 @@ public:
 Q_SIGNALS:
     void documentsChanged();
     void currentSpaceChanged();
+    /// Another document is about to be opened: the last moment to hand in what belongs to this one.
+    void openDocumentIDAboutToChange();
     void openDocumentIDChanged();
     void showDocLimitNudgeChanged();
     void showSavedIndicatorChanged();

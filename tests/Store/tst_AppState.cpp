@@ -7,6 +7,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -34,12 +36,40 @@ class TestAppState : public QObject
 
     QList<PelkoDocument> saved() const { return readDocuments(*file.bytes).value(); }
 
+    /// Opens what `open` opens and tells how often that was announced while the page before was still open.
+    static int announcements(AppState &state, const std::function<void()> &open)
+    {
+        const auto before = state.openDocumentID();
+        int count = 0;
+        QObject context;
+        connect(&state, &AppState::openDocumentIDAboutToChange, &context,
+                [&] { count += state.openDocumentID() == before ? 1 : 100; });
+        open();
+        return count;
+    }
+
 private Q_SLOTS:
     void init()
     {
         scheduler = {};
         clock = {};
         file = {};
+    }
+
+    // Announcing
+
+    void itIsSaidBeforeAnotherDocumentIsOpened()
+    {
+        const PelkoDocument one = page(Space::work, 1);
+        const PelkoDocument other = page(Space::ideas, 2);
+        const auto state = start({one, other});
+        QCOMPARE(announcements(*state, [&] { state->setOpenDocumentID(other.id); }), 1);
+        QCOMPARE(announcements(*state, [&] { state->setOpenDocumentID(other.id); }), 0);
+        QCOMPARE(announcements(*state, [&] { state->setOpenDocumentID(std::nullopt); }), 1);
+        QCOMPARE(announcements(*state, [&] { state->createDocument(Space::work); }), 1);
+        for (int count = 2; count < 5; ++count)
+            state->createDocument(Space::work);
+        QCOMPARE(announcements(*state, [&] { state->createDocument(Space::work); }), 0);
     }
 
     // Construction

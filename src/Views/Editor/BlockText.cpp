@@ -1,5 +1,10 @@
 #include "BlockText.h"
 
+#include "Editor/TextChange.h"
+
+#include <QCoreApplication>
+#include <QInputMethodEvent>
+#include <QQuickItem>
 #include <QTextBlockFormat>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -63,6 +68,15 @@ void BlockText::report()
     m_isReporting = false;
 }
 
+void BlockText::commit(QQuickItem *field, const QString &composed)
+{
+    if (!field || composed.isEmpty())
+        return;
+    QInputMethodEvent event;
+    event.setCommitString(composed);
+    QCoreApplication::sendEvent(field, &event);
+}
+
 void BlockText::show()
 {
     if (!text())
@@ -70,18 +84,11 @@ void BlockText::show()
     const QString before = shown();
     if (before == m_content)
         return;
-    const auto shorter = std::min(before.size(), m_content.size());
-    qsizetype start = 0;
-    while (start < shorter && before.at(start) == m_content.at(start))
-        ++start;
-    qsizetype tail = 0;
-    while (tail < shorter - start &&
-           before.at(before.size() - 1 - tail) == m_content.at(m_content.size() - 1 - tail))
-        ++tail;
+    const TextChange change = TextChange::between(before, m_content);
     QTextCursor cursor(text());
-    cursor.setPosition(static_cast<int>(start));
-    cursor.setPosition(static_cast<int>(before.size() - tail), QTextCursor::KeepAnchor);
-    cursor.insertText(m_content.sliced(start, m_content.size() - start - tail));
+    cursor.setPosition(static_cast<int>(change.position));
+    cursor.setPosition(static_cast<int>(change.position + change.removed.size()), QTextCursor::KeepAnchor);
+    cursor.insertText(change.inserted);
 }
 
 void BlockText::applyLineHeight()

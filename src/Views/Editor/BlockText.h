@@ -4,6 +4,7 @@
 #include <QQuickTextDocument>
 #include <QtQml/qqml.h>
 
+class QQuickItem;
 class QTextDocument;
 
 /// Keeps a text field and the text of a block the same, both ways, without ever losing the caret. A text
@@ -33,6 +34,9 @@ public:
     /// Announces the field's text if the writer has changed it. To be called when it may have changed, but
     /// not while an input method composes. Whatever the store made of it is in the field afterwards.
     Q_INVOKABLE void report();
+
+    /// Puts what an input method has composed into the field, as if it had been settled on.
+    Q_INVOKABLE void commit(QQuickItem *field, const QString &composed);
 
 Q_SIGNALS:
     void documentChanged();
