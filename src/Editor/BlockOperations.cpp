@@ -88,6 +88,14 @@ Edit BlockOperations::addBlock(PelkoDocument document, BlockType type)
     return edit;
 }
 
+std::optional<Edit> BlockOperations::writeBelow(PelkoDocument document)
+{
+    if (document.blocks.isEmpty() || !isTextLike(document.blocks.last().type))
+        return addBlock(std::move(document), BlockType::textSmall);
+    const FocusTarget end{.blockID = document.blocks.last().id};
+    return Edit{.document = std::move(document), .focus = end};
+}
+
 std::optional<Edit> BlockOperations::deleteBlock(PelkoDocument document, const QUuid &blockID)
 {
     if (document.blocks.size() < 2)

@@ -31,6 +31,9 @@ std::optional<QUuid> firstTextBlock(const PelkoDocument &document);
 /// New blocks always go last and are scrolled to. The focus names the new block when it is text-like.
 Edit addBlock(PelkoDocument document, BlockType type);
 
+/// Goes on at the end of the page: in its last block, or in a new body block when that is none to write in.
+std::optional<Edit> writeBelow(PelkoDocument document);
+
 /// Removes the block, unless it is the only one.
 std::optional<Edit> deleteBlock(PelkoDocument document, const QUuid &blockID);
 

@@ -2,6 +2,8 @@
 
 #include "Models/PelkoDocument.h"
 
+#include <functional>
+
 /// Where the caret goes after an edit.
 struct FocusTarget {
     /// Stands for the end of the text, whatever its length.
@@ -12,6 +14,15 @@ struct FocusTarget {
     std::optional<QUuid> todoID = std::nullopt;
     /// Counted in UTF-16 units from the start of the text.
     int caret = atEnd;
+
+    /// From the ids that QML knows; an empty `todoID` names none.
+    static FocusTarget at(const QString &blockID, const QString &todoID, int caret)
+    {
+        FocusTarget target{.blockID = QUuid(blockID), .caret = caret};
+        if (!todoID.isEmpty())
+            target.todoID = QUuid(todoID);
+        return target;
+    }
 
     bool operator==(const FocusTarget &) const = default;
 };
@@ -26,3 +37,6 @@ struct Edit {
     /// there.
     std::optional<PelkoDocument> asTyped = std::nullopt;
 };
+
+/// Makes an edit of the page as it is at that moment, or nothing.
+using EditOperation = std::function<std::optional<Edit>(PelkoDocument)>;

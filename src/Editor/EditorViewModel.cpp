@@ -18,14 +18,6 @@ QString text(const QUuid &id)
     return id.toString(QUuid::WithoutBraces);
 }
 
-FocusTarget placeOf(const QString &blockID, const QString &todoID, int caret)
-{
-    FocusTarget target{.blockID = QUuid(blockID), .caret = caret};
-    if (!todoID.isEmpty())
-        target.todoID = QUuid(todoID);
-    return target;
-}
-
 // The field of a block that was just made needs a moment to slide into view.
 constexpr auto newBlockFocusDelay = 180ms;
 constexpr auto bannerFocusDelay = 100ms;
@@ -41,12 +33,13 @@ EditorViewModel::EditorViewModel(AppState &appState, const EditorServices &servi
     , m_documentID(documentID)
     , m_session(appState, services.scheduler, documentID)
     , m_drag(appState)
-    , m_selection(services.pasteboard,
-                  [this](const PageSelection::Operation &operation) { apply(operation); })
+    , m_selection(services.pasteboard, [this](const EditOperation &operation) { apply(operation); })
+    , m_keys([this](const EditOperation &operation) { apply(operation); })
     , m_imageImport(services, [this](const QUuid &id, const QByteArray &bytes) { storePicture(id, bytes); })
 {
     connect(&m_appState, &AppState::documentsChanged, this, &EditorViewModel::refresh);
     connect(&m_appState, &AppState::focusModeChanged, this, &EditorViewModel::focusInFocusMode);
+    connect(&m_appState, &AppState::openDocumentIDAboutToChange, this, &EditorViewModel::settleRequested);
     connect(&m_drag, &BlockDrag::reordered, this,
             [this](const PelkoDocument &before) { m_session.recordStored(before); });
     refresh();
@@ -117,7 +110,7 @@ void EditorViewModel::typed(const QString &blockID, const QString &value, int ca
 {
     if (auto page = documentToMutate())
         commitTyping(TypingRules::apply(*std::move(page), QUuid(blockID), value, caret),
-                     placeOf(blockID, {}, caret));
+                     FocusTarget::at(blockID, {}, caret));
 }
 
 void EditorViewModel::typedTodo(const QString &blockID, const QString &todoID, const QString &value,
@@ -125,14 +118,14 @@ void EditorViewModel::typedTodo(const QString &blockID, const QString &todoID, c
 {
     if (auto page = documentToMutate())
         commitTyping(TodoOperations::setText(*std::move(page), QUuid(blockID), QUuid(todoID), value, caret),
-                     placeOf(blockID, todoID, caret));
+                     FocusTarget::at(blockID, todoID, caret));
 }
 
 void EditorViewModel::typedBannerTitle(const QString &blockID, const QString &value, int caret)
 {
     if (auto page = documentToMutate())
         commitTyping(ImageOperations::setBannerTitle(*std::move(page), QUuid(blockID), value),
-                     placeOf(blockID, {}, caret));
+                     FocusTarget::at(blockID, {}, caret));
 }
 
 bool EditorViewModel::pastePicture(const QString &blockID)
@@ -182,7 +175,7 @@ void EditorViewModel::redo()
         goOn(*edit);
 }
 
-void EditorViewModel::apply(const PageSelection::Operation &operation)
+void EditorViewModel::apply(const EditOperation &operation)
 {
     if (auto page = documentToMutate())
         commit(operation(*std::move(page)));
@@ -192,7 +185,9 @@ void EditorViewModel::commit(const std::optional<Edit> &edit, std::chrono::milli
 {
     if (!edit)
         return;
-    m_session.commit(*edit);
+    const PelkoDocument *before = m_appState.document(edit->document.id);
+    if (before && before->blocks != edit->document.blocks) // else only the caret goes elsewhere
+        m_session.commit(*edit);
     goOn(*edit, focusDelay);
 }
 
@@ -257,7 +252,7 @@ void EditorViewModel::focusGained(const QString &blockID)
 
 void EditorViewModel::caretMoved(const QString &blockID, const QString &todoID, int caret)
 {
-    m_session.goTo(placeOf(blockID, todoID, caret));
+    m_session.goTo(FocusTarget::at(blockID, todoID, caret));
 }
 
 void EditorViewModel::focusLost(const QString &blockID)

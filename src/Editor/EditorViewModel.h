@@ -5,6 +5,7 @@
 #include "Editor/EditSession.h"
 #include "Editor/ImageImport.h"
 #include "Editor/PageSelection.h"
+#include "Editor/WritingKeys.h"
 #include "Services/Scheduler.h"
 
 #include <QObject>
@@ -21,6 +22,7 @@ class EditorViewModel : public QObject
     Q_PROPERTY(QObject *blocks READ blocks CONSTANT)
     Q_PROPERTY(BlockDrag *drag READ drag CONSTANT)
     Q_PROPERTY(PageSelection *selection READ selection CONSTANT)
+    Q_PROPERTY(WritingKeys *keys READ keys CONSTANT)
     Q_PROPERTY(ImageImport *imageImport READ imageImport CONSTANT)
     Q_PROPERTY(QString title READ title NOTIFY titleChanged)
     Q_PROPERTY(bool firstBlockIsBanner READ firstBlockIsBanner NOTIFY firstBlockIsBannerChanged)
@@ -36,6 +38,7 @@ public:
     QObject *blocks() { return &m_blocks; }
     BlockDrag *drag() { return &m_drag; }
     PageSelection *selection() { return &m_selection; }
+    WritingKeys *keys() { return &m_keys; }
     ImageImport *imageImport() { return &m_imageImport; }
     QString title() const { return m_title; }
     bool firstBlockIsBanner() const { return m_firstBlockIsBanner; }
@@ -92,6 +95,8 @@ Q_SIGNALS:
     void offersDeleteChanged();
     void focusedBlockIDChanged();
     void scrollTargetChanged();
+    /// What an input method is composing has to be handed in now: another document is about to be opened.
+    void settleRequested();
     /// The field of that block, or of that entry of its checklist, has to take the keyboard focus with the
     /// caret at that place, -1 for the end of its text.
     void focusRequested(const QString &blockID, const QString &todoID, int caret);
@@ -104,8 +109,8 @@ private:
     void commit(const std::optional<Edit> &edit, std::chrono::milliseconds focusDelay = {});
     void storePicture(const QUuid &blockID, const QByteArray &bytes);
     void commitTyping(const std::optional<Edit> &edit, const FocusTarget &field);
+    void apply(const EditOperation &operation);
     void goOn(const Edit &edit, std::chrono::milliseconds focusDelay = {});
-    void apply(const PageSelection::Operation &operation);
     void focus(const FocusTarget &target);
     void focusAfter(std::chrono::milliseconds delay, const FocusTarget &target);
     void focusInFocusMode();
@@ -121,6 +126,7 @@ private:
     BlockListModel m_blocks;
     BlockDrag m_drag;
     PageSelection m_selection;
+    WritingKeys m_keys;
     ImageImport m_imageImport;
     QString m_title;
     bool m_firstBlockIsBanner = false;

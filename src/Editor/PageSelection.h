@@ -17,7 +17,7 @@ class PageSelection : public QObject
     Q_PROPERTY(bool crossing READ isCrossing NOTIFY changed)
 
 public:
-    using Operation = std::function<std::optional<Edit>(PelkoDocument)>;
+    using Operation = EditOperation;
     /// Applies an operation to the page as one edit.
     using Apply = std::function<void(const Operation &)>;
 

@@ -43,6 +43,13 @@ struct ImageImportForQml {
     QML_UNCREATABLE("Part of an editor.")
 };
 
+struct WritingKeysForQml {
+    Q_GADGET
+    QML_FOREIGN(WritingKeys)
+    QML_NAMED_ELEMENT(WritingKeys)
+    QML_UNCREATABLE("Part of an editor.")
+};
+
 struct LaunchSequenceForQml {
     Q_GADGET
     QML_FOREIGN(LaunchSequence)

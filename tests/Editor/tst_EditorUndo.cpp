@@ -44,6 +44,12 @@ private Q_SLOTS:
         };
         row("key", [](auto &editor) { editor.typed(id('B'), u"onextwo"_s, 4); });
         row("split", [](auto &editor) { editor.typed(id('B'), u"one\ntwo"_s, 4); });
+        row("join", [](auto &editor) { editor.keys()->joinBackwards(id('B'), {}); });
+        row("join of an entry", [](auto &editor) { editor.keys()->joinBackwards(id('D'), id('y')); });
+        row("join from below", [](auto &editor) { editor.keys()->joinForwards(id('A'), {}); });
+        row("a picture by key", [](auto &editor) { editor.keys()->remove(id('C'), true); });
+        row("line break", [](auto &editor) { editor.keys()->breakLine(id('B'), {}, 3, 3); });
+        row("line", [](auto &editor) { editor.keys()->split(id('B'), {}, 3, 3); });
         row("adding", [](auto &editor) { editor.addBlock(u"quote"_s); });
         row("adding a checklist", [](auto &editor) { editor.addBlock(u"sticky"_s); });
         row("moving", [](auto &editor) { editor.moveBlock(id('B'), 1); });
@@ -136,6 +142,40 @@ private Q_SLOTS:
         desk.editor->redo();
         desk.editor->redo();
         QCOMPARE(desk.lines(), converted);
+    }
+
+    void stepsOfTheCaretAreNeitherStoredNorTakenBack()
+    {
+        EditorDesk desk({block('A', BlockType::divider), block('B', body, u"text"_s)});
+        const PelkoDocument before = desk.page();
+        desk.editor->keys()->joinBackwards(id('B'), {});
+        QCOMPARE(desk.takeFocused(), u"A@end"_s);
+        desk.editor->keys()->writeBelow();
+        QCOMPARE(desk.takeFocused(), u"B@end"_s);
+        QCOMPARE(desk.page(), before);
+        desk.editor->undo();
+        QCOMPARE(desk.page(), before);
+    }
+
+    void writingBelowADividerAddsABody()
+    {
+        EditorDesk desk({block('A', BlockType::divider)});
+        desk.editor->keys()->writeBelow();
+        QCOMPARE(desk.lines(), (QStringList{u"A divider \"\""_s, u"+ textSmall \"\""_s}));
+        QCOMPARE(desk.takeFocused(), u"+@end"_s);
+        desk.editor->undo();
+        QCOMPARE(desk.lines(), {u"A divider \"\""_s});
+    }
+
+    void aJoinIsTakenBackWithTheCaretAtTheStart()
+    {
+        EditorDesk desk({block('A', body, u"one"_s), block('B', body, u"two"_s)});
+        desk.editor->caretMoved(id('B'), {}, 0);
+        desk.editor->keys()->joinBackwards(id('B'), {});
+        QCOMPARE(desk.takeFocused(), u"A@3"_s);
+        desk.editor->undo();
+        QCOMPARE(desk.lines(), (QStringList{u"A textSmall \"one\""_s, u"B textSmall \"two\""_s}));
+        QCOMPARE(desk.takeFocused(), u"B@0"_s);
     }
 
     void aWordIsOneStepUntilThePause()

@@ -93,11 +93,16 @@ void EditorBench::replace(const QVariantList &blocks)
 
 QVariantList EditorBench::blocks() const
 {
-    const PelkoDocument page = m_appState.openDocument().value();
+    const PelkoDocument page = *m_appState.document(QUuid(m_editor->documentID()));
     QVariantList described;
     for (const Block &block : page.blocks)
         described.append(describe(block));
     return described;
+}
+
+void EditorBench::openAnother()
+{
+    m_appState.createDocument(Space::work);
 }
 
 void EditorBench::advance(int milliseconds)

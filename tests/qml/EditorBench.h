@@ -30,6 +30,7 @@ public:
     Q_INVOKABLE void open(const QVariantList &blocks);
     /// Replaces the page from outside the editor.
     Q_INVOKABLE void replace(const QVariantList &blocks);
+    /// The page of the editor.
     Q_INVOKABLE QVariantList blocks() const;
     Q_INVOKABLE void advance(int milliseconds);
     /// Sends what an input method composes to the focused field, and what it settles on.
@@ -41,6 +42,8 @@ public:
     Q_INVOKABLE void copy(const QString &text) { m_desktop.pasteboard.put({.text = text}); }
     Q_INVOKABLE QString copied() const { return m_desktop.pasteboard.item.text; }
     Q_INVOKABLE QString copiedMarkdown() const { return m_desktop.pasteboard.item.markdown; }
+    /// Creates another page and opens it; the editor is still the one of the page before.
+    Q_INVOKABLE void openAnother();
     /// How often the data file was written.
     Q_INVOKABLE int saves() const { return m_file.writes(); }
     /// The shape of the pointer in the window of that item.

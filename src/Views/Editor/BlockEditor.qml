@@ -16,6 +16,7 @@ FocusScope {
 
     /// Takes the keyboard focus; `todoID` names an entry where the kind has any, `caret` -1 is the end.
     function takeFocus(todoID: string, caret: int) {
+        walkedTo = true
         forceActiveFocus()
     }
 }

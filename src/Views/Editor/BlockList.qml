@@ -64,6 +64,13 @@ FocusScope {
         scroll.glide(from, list.contentY)
     }
 
+    /// A click under the last block goes on writing there.
+    function writeBelow(position: point) {
+        const last = list.itemAtIndex(list.count - 1)
+        if (last && list.mapToItem(last, position).y > last.height)
+            editor.keys.writeBelow()
+    }
+
     function openMenu(row: BlockRow, item: Item, position: point) {
         const corner = root.mapFromItem(item, position)
         menu.row = row
@@ -151,6 +158,10 @@ FocusScope {
         }
 
         target: root.editor
+    }
+
+    TapHandler {
+        onTapped: point => root.writeBelow(point.position)
     }
 
     BlockDragArea {

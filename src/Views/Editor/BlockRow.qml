@@ -46,6 +46,25 @@ FocusScope {
         stop.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
     }
 
+    /// A block that has the focus itself, and not in a field or control of its own, goes with one key.
+    function removes(event: KeyEvent) : bool {
+        const removes = Window.activeFocusItem === block && [Qt.Key_Backspace, Qt.Key_Delete].includes(event.key)
+        if (removes)
+            page.editor.keys.remove(blockID, event.key === Qt.Key_Delete)
+        return removes
+    }
+
+    function pastes(event: KeyEvent) : bool {
+        return event.matches(StandardKey.Paste) && page.editor.pastePicture(blockID)
+    }
+
+    function opensMenu(event: KeyEvent) : bool {
+        const opens = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier
+        if (opens)
+            openMenu()
+        return opens
+    }
+
     function openMenu() {
         page.menuRequested(root, block, Qt.point(0, block.height))
     }
@@ -60,13 +79,7 @@ FocusScope {
 
     Keys.onBacktabPressed: walk(false)
     Keys.onMenuPressed: openMenu()
-    Keys.onPressed: event => {
-        if (event.matches(StandardKey.Paste))
-            return event.accepted = page.editor.pastePicture(blockID)
-        event.accepted = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier
-        if (event.accepted)
-            openMenu()
-    }
+    Keys.onPressed: event => event.accepted = pastes(event) || opensMenu(event) || removes(event)
     Keys.onDownPressed: event => moveBlock(event, 1)
     Keys.onUpPressed: event => moveBlock(event, -1)
     Keys.onTabPressed: walk(true)

@@ -70,6 +70,27 @@ FocusScope {
         }
     }
 
+    // While another editor takes its place, the one that goes has no say.
+    Shortcut {
+        enabled: root.focus
+        sequences: [StandardKey.Undo]
+        onActivated: root.editor.undo()
+    }
+
+    Shortcut {
+        enabled: root.focus
+        sequences: [StandardKey.Redo, "Ctrl+Y"]
+        onActivated: root.editor.redo()
+    }
+
+    Connections {
+        function onSettleRequested() {
+            (root.Window.activeFocusItem as WritingField)?.settle()
+        }
+
+        target: root.editor
+    }
+
     Component.onCompleted: editor.appeared()
     Component.onDestruction: editor.release()
 }

@@ -13,7 +13,6 @@ BlockEditor {
     readonly property bool isCode: kind === "code"
 
     signal edited(string value, int caret)
-    signal emptied
 
     function takeFocus(todoID: string, caret: int) {
         field.takeFocus(caret)
@@ -65,6 +64,5 @@ BlockEditor {
         x: root.isCode ? Metrics.codePaddingX : root.isQuote ? Metrics.quoteIndent : 0
         y: root.isCode ? Metrics.codePaddingY : 0
         onEdited: (value, caret) => root.edited(value, caret)
-        onEmptied: root.emptied()
     }
 }

@@ -52,7 +52,6 @@ FocusScope {
         y: (Typography.checklistRow - Metrics.todoLine) / 2
         onCursorRectangleChanged: if (activeFocus) root.caretMoved(mapToItem(root, cursorRectangle))
         onEdited: (value, caret) => root.edited(value, caret)
-        onEmptied: root.removed()
     }
 
     RemoveTodoButton {

@@ -18,7 +18,6 @@ TextEdit {
     property real lineHeight: 0
 
     signal edited(string value, int caret)
-    signal emptied
 
     /// -1 stands for the end.
     function takeFocus(caret: int) {
@@ -31,15 +30,23 @@ TextEdit {
             bridge.report()
     }
 
+    /// While a text that was typed is not reported yet, its caret goes with it.
+    function reportCaret() {
+        if (activeFocus && length === content.length)
+            row.page.editor.caretMoved(row.blockID, todoID, cursorPosition)
+    }
+
+    /// Keeps what an input method is composing. An input method that the field has is asked first.
+    function settle() {
+        if (activeFocus)
+            Qt.inputMethod.commit()
+        bridge.commit(root, preeditText)
+    }
+
     Accessible.role: Accessible.EditableText
     Accessible.multiLine: true
     Accessible.focusable: true
-    Keys.forwardTo: [keys]
-    Keys.onPressed: event => {
-        event.accepted = event.key === Qt.Key_Backspace && length === 0 && !inputMethodComposing
-        if (event.accepted)
-            root.emptied()
-    }
+    Keys.forwardTo: [fieldKeys, keys]
 
     activeFocusOnTab: true
     cursorDelegate: Caret {}
@@ -51,6 +58,8 @@ TextEdit {
     selectionColor: FirePalette.selection
     textFormat: TextEdit.PlainText
     wrapMode: TextEdit.Wrap
+    onActiveFocusChanged: activeFocus ? reportCaret() : settle()
+    onCursorPositionChanged: reportCaret()
     onInputMethodComposingChanged: reportUnlessComposing()
     onTextChanged: reportUnlessComposing()
 
@@ -78,6 +87,15 @@ TextEdit {
         height: Math.round(root.font.pixelSize * 1.2)
         visible: place.selectedEmpty
         width: Metrics.space6
+    }
+
+    FieldKeys {
+        id: fieldKeys
+
+        content: root.content
+        field: root
+        row: root.row
+        todoID: root.todoID
     }
 
     Text {

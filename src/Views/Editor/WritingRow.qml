@@ -18,6 +18,5 @@ BlockRow {
         keys: root
         kind: root.kind
         onEdited: (value, caret) => root.page.editor.typed(root.blockID, value, caret)
-        onEmptied: root.page.editor.typed(root.blockID, "", 0)
     }
 }

@@ -1,0 +1,371 @@
+import QtQuick
+import QtTest
+import Pelko
+import PelkoTest
+
+Item {
+    id: root
+
+    width: 900
+    height: 640
+
+    EditorBench { id: bench }
+
+    FocusScope {
+        id: stage
+
+        anchors.fill: parent
+        focus: true
+    }
+
+    Component {
+        id: view
+
+        EditorView {
+            anchors.fill: parent
+            editor: bench.editor
+            focus: true
+        }
+    }
+
+    Item {
+        id: elsewhere
+
+        activeFocusOnTab: true
+    }
+
+    TestCase {
+        id: test
+
+        property EditorView page
+
+        name: "Writing"
+        when: windowShown
+
+        function open(blocks) {
+            bench.open(blocks)
+            page = createTemporaryObject(view, stage)
+            page.forceActiveFocus()
+            bench.advance(0)
+            waitForRendering(page)
+        }
+
+        /// The page in one line: kinds by their first letter, the text in quotes, entries in brackets.
+        function written() {
+            return bench.blocks().map(block => block.type + (block.todos
+                ? "[" + block.todos.map(todo => (todo.done ? "x" : "") + todo.text).join(",") + "]"
+                : block.content === "" ? "" : ":" + block.content)).join(" ").replace(/\n/g, "/")
+        }
+
+        function type(text) {
+            for (const letter of text)
+                keyClick(letter)
+        }
+
+        function press(keys) {
+            for (const key of keys)
+                keySequence(key)
+        }
+
+        function everything(item) {
+            return [item].concat(...Array.from(item.children).map(child => everything(child)))
+        }
+
+        function fields() {
+            return everything(page).filter(item => item instanceof TextEdit && item.visible)
+                .sort((one, other) => one.mapToItem(page, 0, 0).y - other.mapToItem(page, 0, 0).y)
+        }
+
+        /// Puts the caret into one of the fields, counted from the top.
+        function go(field, caret) {
+            fields()[field].takeFocus(caret)
+        }
+
+        function focused() {
+            return page.Window.activeFocusItem
+        }
+
+        // Undo
+
+        function test_undo_and_redo_by_key_data() {
+            return [
+                { tag: "Ctrl+Z, Ctrl+Shift+Z", redo: "Ctrl+Shift+Z" },
+                { tag: "Ctrl+Z, Ctrl+Y", redo: "Ctrl+Y" },
+            ]
+        }
+
+        function test_undo_and_redo_by_key(row) {
+            open([{ type: "textLarge" }])
+            type("one two")
+            press(["Return"])
+            type("three")
+            press(["Ctrl+Z"])
+            compare(written(), "textLarge:one two textSmall")
+            press(["Ctrl+Z"])
+            compare(written(), "textLarge:one two")
+            press(["Ctrl+Z", "Ctrl+Z"])
+            compare(written(), "textLarge")
+            press([row.redo, row.redo, row.redo, row.redo])
+            compare(written(), "textLarge:one two textSmall:three")
+            type("!")
+            compare(written(), "textLarge:one two textSmall:three!")
+        }
+
+        function test_undo_brings_the_caret_back_to_where_it_was() {
+            open([{ type: "textLarge", content: "" }, { type: "textSmall", content: "onetwo" }])
+            go(1, 3)
+            press(["Return"])
+            press(["Ctrl+Z"])
+            compare(focused().cursorPosition, 3)
+            type("X")
+            compare(written(), "textLarge textSmall:oneXtwo")
+        }
+
+        function test_undo_of_a_shortcut_gives_back_what_was_typed() {
+            open([{ type: "textLarge", content: "t" }, { type: "textSmall" }])
+            type("# ")
+            compare(written(), "textLarge:t textLarge")
+            press(["Ctrl+Z"])
+            compare(written(), "textLarge:t textSmall:# ")
+            compare(focused().cursorPosition, 2)
+            press(["Ctrl+Z"])
+            compare(written(), "textLarge:t textSmall")
+        }
+
+        function test_undo_works_in_an_entry() {
+            open([{ type: "sticky", todos: [{ text: "milk", done: false }] }])
+            go(0, 4)
+            type("s")
+            press(["Return"])
+            press(["Ctrl+Z"])
+            compare(written(), "sticky[milks]")
+            compare(focused().cursorPosition, 5)
+            press(["Ctrl+Z"])
+            compare(written(), "sticky[milk]")
+        }
+
+        function test_undo_works_with_the_focus_beside_the_page() {
+            open([{ type: "textLarge", content: "" }])
+            type("word")
+            elsewhere.forceActiveFocus()
+            press(["Ctrl+Z"])
+            compare(written(), "textLarge")
+            verify(fields()[0].activeFocus)
+            elsewhere.forceActiveFocus()
+            press(["Ctrl+Shift+Z"])
+            compare(written(), "textLarge:word")
+        }
+
+        function test_undo_brings_a_deleted_block_back_with_the_caret_in_it() {
+            open([{ type: "textLarge", content: "t" }, { type: "textSmall", content: "text" }])
+            go(1, 2)
+            press(["Menu"])
+            tryVerify(() => everything(page).find(item => item instanceof PopupMenuRow && item.visible))
+            press(["Down", "Return"])
+            tryVerify(() => written() === "textLarge:t")
+            press(["Ctrl+Z"])
+            compare(written(), "textLarge:t textSmall:text")
+            compare(focused(), fields()[1])
+            compare(focused().cursorPosition, 2)
+        }
+
+        // Joining
+
+        function test_backspace_at_the_start_joins_data() {
+            return [
+                { tag: "text", above: { type: "quote", content: "ab" }, joined: "quote:abXcd" },
+                { tag: "checklist", above: { type: "sticky", todos: [{ text: "ab", done: false }] }, joined: "sticky[abXcd]" },
+            ]
+        }
+
+        function test_backspace_at_the_start_joins(row) {
+            open([row.above, { type: "textSmall", content: "cd" }])
+            go(1, 0)
+            press(["Backspace"])
+            type("X")
+            compare(written(), row.joined)
+            press(["Ctrl+Z", "Ctrl+Z"])
+            compare(focused().cursorPosition, 0)
+            compare(focused(), fields()[1])
+        }
+
+        function test_backspace_first_drops_the_style() {
+            open([{ type: "textSmall", content: "ab" }, { type: "code", content: "cd" }])
+            go(1, 0)
+            press(["Backspace"])
+            compare(written(), "textSmall:ab textSmall:cd")
+            press(["Backspace"])
+            compare(written(), "textSmall:abcd")
+        }
+
+        function test_delete_at_the_end_joins() {
+            open([{ type: "textSmall", content: "ab" }, { type: "textLarge", content: "cd" }])
+            go(0, -1)
+            press(["Delete"])
+            type("X")
+            compare(written(), "textSmall:abXcd")
+        }
+
+        function test_keys_within_a_text_join_nothing() {
+            open([{ type: "textSmall", content: "ab" }, { type: "textSmall", content: "cd" }])
+            go(1, 1)
+            press(["Backspace"])
+            compare(written(), "textSmall:ab textSmall:d")
+            go(0, 0)
+            press(["Delete"])
+            compare(written(), "textSmall:b textSmall:d")
+            go(1, 0)
+            fields()[1].selectAll()
+            press(["Backspace"])
+            compare(written(), "textSmall:b textSmall")
+        }
+
+        function test_a_divider_is_stepped_onto_and_removed_by_the_next_key_data() {
+            return [{ tag: "divider", type: "divider" }, { tag: "picture", type: "image" }]
+        }
+
+        function test_a_divider_is_stepped_onto_and_removed_by_the_next_key(row) {
+            open([{ type: "textSmall", content: "ab" }, { type: row.type }, { type: "textSmall", content: "cd" }])
+            go(1, 0)
+            press(["Backspace"])
+            compare(written(), "textSmall:ab " + row.type + " textSmall:cd")
+            verify(everything(focused()).find(item => item instanceof FocusRing && item.shown))
+            press(["Backspace"])
+            compare(written(), "textSmall:ab textSmall:cd")
+            compare(focused(), fields()[0])
+            compare(focused().cursorPosition, 2)
+            press(["Ctrl+Z"])
+            compare(written(), "textSmall:ab " + row.type + " textSmall:cd")
+        }
+
+        function test_backspace_in_an_entry_joins_and_at_last_leaves_the_checklist() {
+            open([{ type: "sticky", todos: [{ text: "a", done: false }, { text: "b", done: true }] }])
+            go(1, 0)
+            press(["Backspace"])
+            compare(written(), "sticky[ab]")
+            compare(focused().cursorPosition, 1)
+            press(["Home", "Backspace"])
+            compare(written(), "textSmall:ab")
+            type("X")
+            compare(written(), "textSmall:Xab")
+        }
+
+        // Lines
+
+        function test_shift_return_breaks_the_line_and_return_splits() {
+            open([{ type: "textLarge", content: "" }, { type: "textSmall", content: "onetwo" }])
+            go(1, 3)
+            press(["Shift+Return"])
+            compare(written(), "textLarge textSmall:one/two")
+            type("X")
+            press(["Return"])
+            type("Y")
+            compare(written(), "textLarge textSmall:one/X textSmall:Ytwo")
+        }
+
+        function test_code_goes_on_over_its_lines_until_an_empty_one() {
+            open([{ type: "textLarge", content: "" }, { type: "code", content: "a" }])
+            go(1, -1)
+            press(["Shift+Return"])
+            type("b")
+            press(["Return"])
+            type("c")
+            press(["Return", "Return"])
+            type("d")
+            compare(written(), "textLarge code:a/b/c textSmall:d")
+        }
+
+        function test_tab_indents_code_and_control_tab_walks_on() {
+            open([{ type: "code", content: "ab" }, { type: "textSmall", content: "c" }])
+            go(0, 1)
+            press(["Tab"])
+            compare(written(), "code:a\tb textSmall:c")
+            keyClick(Qt.Key_Backtab)
+            compare(written(), "code:ab textSmall:c")
+            verify(fields()[0].activeFocus)
+            press(["Ctrl+Tab"])
+            verify(!fields()[0].activeFocus)
+            go(0, 1)
+            keyClick(Qt.Key_Backtab)
+            verify(!fields()[0].activeFocus)
+            compare(written(), "code:ab textSmall:c")
+        }
+
+        function test_a_click_below_the_last_block_goes_on_there_data() {
+            return [
+                { tag: "empty", last: { type: "textSmall" }, written: "textLarge:t textSmall:x" },
+                { tag: "text", last: { type: "quote", content: "ab" }, written: "textLarge:t quote:abx" },
+                { tag: "divider", last: { type: "divider" }, written: "textLarge:t divider textSmall:x" },
+                { tag: "checklist", last: { type: "sticky", todos: [] }, written: "textLarge:t sticky[] textSmall:x" },
+            ]
+        }
+
+        function test_a_click_below_the_last_block_goes_on_there(row) {
+            open([{ type: "textLarge", content: "t" }, row.last])
+            mouseClick(page, page.width / 2, 480)
+            type("x")
+            compare(written(), row.written)
+        }
+
+        function test_a_click_on_the_page_elsewhere_adds_nothing() {
+            open([{ type: "textLarge", content: "t" }, { type: "divider" }])
+            mouseClick(page, 20, fields()[0].mapToItem(page, 0, 5).y)
+            mouseClick(fields()[0], 5, 5)
+            compare(written(), "textLarge:t divider")
+        }
+
+        // Nothing typed is lost
+
+        function test_a_composition_is_kept_when_another_page_is_opened() {
+            open([{ type: "textLarge", content: "" }])
+            type("ab")
+            bench.compose("ni")
+            bench.openAnother()
+            compare(written(), "textLarge:abni")
+            compare(fields()[0].preeditText, "")
+        }
+
+        function test_a_composition_is_kept_when_the_focus_leaves_data() {
+            return [
+                { tag: "text", blocks: [{ type: "textLarge", content: "" }], written: "textLarge:ni" },
+                { tag: "entry", blocks: [{ type: "sticky", todos: [{ text: "", done: false }] }], written: "sticky[ni]" },
+            ]
+        }
+
+        function test_a_composition_is_kept_when_the_focus_leaves(row) {
+            open(row.blocks)
+            go(0, 0)
+            bench.compose("ni")
+            compare(fields()[0].preeditText, "ni")
+            elsewhere.forceActiveFocus()
+            compare(written(), row.written)
+            compare(fields()[0].preeditText, "")
+        }
+
+        function test_a_composition_is_kept_in_its_place() {
+            open([{ type: "textLarge", content: "" }, { type: "textSmall", content: "ab" }])
+            go(1, 1)
+            bench.compose("X")
+            go(0, 0)
+            compare(written(), "textLarge textSmall:aXb")
+            press(["Ctrl+Z"])
+            compare(written(), "textLarge textSmall:ab")
+        }
+
+        function test_what_was_settled_is_not_kept_twice() {
+            open([{ type: "textLarge", content: "" }])
+            bench.compose("ni")
+            bench.commit("你")
+            elsewhere.forceActiveFocus()
+            compare(written(), "textLarge:你")
+        }
+
+        function test_keys_join_and_split_nothing_while_composing() {
+            open([{ type: "textSmall", content: "a" }, { type: "textSmall", content: "b" }])
+            go(1, 0)
+            bench.compose("ni")
+            press(["Backspace"])
+            compare(bench.blocks().length, 2)
+        }
+    }
+}
