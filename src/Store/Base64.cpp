@@ -1,5 +1,7 @@
 #include "Store/Base64.h"
 
+#include "Store/Base64Vector.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -87,9 +89,12 @@ std::size_t paddingOf(std::string_view text)
 
 char *encodeEscapedBase64(QByteArrayView bytes, char *out)
 {
-    const auto *in = reinterpret_cast<const unsigned char *>(bytes.data());
+    const auto begun = Base64Vector::encode(bytes.data(), std::size_t(bytes.size()), out);
+    out = begun.end;
+    const auto *in = reinterpret_cast<const unsigned char *>(bytes.data()) + begun.bytes;
     const qsizetype rest = bytes.size() % 3;
-    for (const auto *end = in + bytes.size() - rest; in != end; in += 3) {
+    const auto *end = reinterpret_cast<const unsigned char *>(bytes.data()) + bytes.size() - rest;
+    for (; in != end; in += 3) {
         const unsigned bits = unsigned(in[0]) << 16 | unsigned(in[1]) << 8 | in[2];
         out = putPair(out, bits >> 12);
         out = putPair(out, bits & 4095);
