@@ -173,8 +173,8 @@ QList<int> BlockListModel::changedRoles(const BlockRow &before, const BlockRow &
             roles.append(shownBy);
     };
     compare(before.block.type, after.block.type, {KindRole});
-    compare(before.above, after.above, {KindAboveRole});
-    compare(before.isBelowBanner, after.isBelowBanner, {KindAboveRole});
+    compare(std::pair(before.above, before.isBelowBanner), std::pair(after.above, after.isBelowBanner),
+            {KindAboveRole});
     compare(before.block.content, after.block.content, {ContentRole});
     if (!isSamePicture(before.block.imageData, after.block.imageData))
         roles.append({ImageDataRole, HasImageRole});

@@ -11,6 +11,9 @@ FocusScope {
     /// How far below the top its first line stands, which is where the grip is.
     property real firstLine: Math.min(height, Metrics.gripHeight) / 2
 
+    /// Has the focus in the place of the block, where it has nothing but a control.
+    property Item control: null
+
     /// The keyboard walked here, so the place of the focus has to be plain to see.
     property bool walkedTo: false
 

@@ -48,14 +48,17 @@ FocusScope {
 
     /// A block that has the focus itself, and not in a field or control of its own, goes with one key.
     function removes(event: KeyEvent) : bool {
-        const removes = Window.activeFocusItem === block && [Qt.Key_Backspace, Qt.Key_Delete].includes(event.key)
+        const whole = block.control ?? block
+        const removes = Window.activeFocusItem === whole && [Qt.Key_Backspace, Qt.Key_Delete].includes(event.key)
         if (removes)
             page.editor.keys.remove(blockID, event.key === Qt.Key_Delete)
         return removes
     }
 
     function pastes(event: KeyEvent) : bool {
-        return event.matches(StandardKey.Paste) && page.editor.pastePicture(blockID)
+        const isControlV = event.key === Qt.Key_V && event.modifiers === Qt.ControlModifier
+        const isShiftInsert = event.key === Qt.Key_Insert && event.modifiers === Qt.ShiftModifier
+        return (isControlV || isShiftInsert) && page.editor.pastePicture(blockID)
     }
 
     function opensMenu(event: KeyEvent) : bool {

@@ -2,7 +2,8 @@
 
 #include "Editor/TextChange.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QInputMethodEvent>
 #include <QQuickItem>
 #include <QTextBlockFormat>
@@ -66,6 +67,11 @@ void BlockText::report()
     Q_EMIT edited(value);
     show();
     m_isReporting = false;
+}
+
+void BlockText::askInputMethod() const
+{
+    QGuiApplication::inputMethod()->commit();
 }
 
 void BlockText::commit(QQuickItem *field, const QString &composed)

@@ -35,6 +35,9 @@ public:
     /// not while an input method composes. Whatever the store made of it is in the field afterwards.
     Q_INVOKABLE void report();
 
+    /// Has the input method settle on what it is composing, if it does so when asked.
+    Q_INVOKABLE void askInputMethod() const;
+
     /// Puts what an input method has composed into the field, as if it had been settled on.
     Q_INVOKABLE void commit(QQuickItem *field, const QString &composed);
 

@@ -73,13 +73,13 @@ FocusScope {
     // While another editor takes its place, the one that goes has no say.
     Shortcut {
         enabled: root.focus
-        sequences: [StandardKey.Undo]
+        sequences: ["Ctrl+Z"]
         onActivated: root.editor.undo()
     }
 
     Shortcut {
         enabled: root.focus
-        sequences: [StandardKey.Redo, "Ctrl+Y"]
+        sequences: ["Ctrl+Shift+Z", "Ctrl+Y"]
         onActivated: root.editor.redo()
     }
 

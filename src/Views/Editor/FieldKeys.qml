@@ -54,7 +54,7 @@ Item {
     }
 
     function undoes(event: KeyEvent) : bool {
-        const undoes = event.matches(StandardKey.Undo)
+        const undoes = event.key === Qt.Key_Z && event.modifiers === Qt.ControlModifier
         if (undoes)
             row.page.editor.undo()
         return undoes
@@ -62,7 +62,8 @@ Item {
 
     function redoes(event: KeyEvent) : bool {
         const isControlY = event.key === Qt.Key_Y && event.modifiers === Qt.ControlModifier
-        const redoes = isControlY || event.matches(StandardKey.Redo)
+        const isShiftZ = event.key === Qt.Key_Z && event.modifiers === (Qt.ControlModifier | Qt.ShiftModifier)
+        const redoes = isControlY || isShiftZ
         if (redoes)
             row.page.editor.redo()
         return redoes

@@ -24,6 +24,7 @@ BlockEditor {
 
     function takeFocus(todoID: string, caret: int) {
         isBanner ? title.takeFocus(caret) : hasImage ? forceActiveFocus() : add.forceActiveFocus()
+        add.focusReason = Qt.TabFocusReason // only the keyboard leads here
     }
 
     Accessible.focusable: true
@@ -33,6 +34,7 @@ BlockEditor {
     Keys.forwardTo: [keys]
     activeFocusOnTab: hasImage && !isBanner
     caretRectangle: isBanner ? mapFromItem(title, title.cursorRectangle) : Qt.rect(0, 0, 0, 0)
+    control: hasImage ? null : add
     implicitHeight: inColumn + (Metrics.bannerHeight - inColumn) * spread
 
     BlockPicture {

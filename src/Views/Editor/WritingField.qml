@@ -39,7 +39,7 @@ TextEdit {
     /// Keeps what an input method is composing. An input method that the field has is asked first.
     function settle() {
         if (activeFocus)
-            Qt.inputMethod.commit()
+            bridge.askInputMethod()
         bridge.commit(root, preeditText)
     }
 
@@ -75,8 +75,8 @@ TextEdit {
     FieldCaret {
         id: place
 
-        blockID: root.row.blockID
-        page: root.row.page.caret
+        blockID: root.row?.blockID ?? ""
+        page: root.row?.page.caret ?? null
         todoID: root.todoID
     }
 
