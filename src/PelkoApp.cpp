@@ -1,31 +1,14 @@
 #include "PelkoApp.h"
 
-#include <QCoreApplication>
-#include <QQuickItem>
+#include "Views/TakeDown.h"
+
+#include <QGuiApplication>
 #include <QQuickWindow>
 #include <QtQml/QQmlExtensionPlugin>
 
 Q_IMPORT_QML_PLUGIN(PelkoPlugin)
 
 using namespace Qt::StringLiterals;
-
-namespace
-{
-// The layers of the window stand in its content.
-constexpr int layerDepth = 2;
-
-/// Deletes what stands in `item`, uppermost first, because glass looks at what lies below.
-void takeDown(QQuickItem &item, int depth)
-{
-    QList<QQuickItem *> children = item.childItems();
-    while (!children.isEmpty()) {
-        QQuickItem *child = children.takeLast();
-        if (depth > 1)
-            takeDown(*child, depth - 1);
-        delete child;
-    }
-}
-} // namespace
 
 PelkoApp::PelkoApp()
 {
@@ -45,10 +28,11 @@ PelkoApp::PelkoApp()
 
 PelkoApp::~PelkoApp()
 {
-    // Items go while their window lives. Left to the window they would outlive parts of it wherever an effect
-    // holds one of them, and the focus they lose is announced through those parts.
-    for (QObject *root : m_engine.rootObjects()) {
-        if (const auto *window = qobject_cast<QQuickWindow *>(root))
-            takeDown(*window->contentItem(), layerDepth);
-    }
+    if (window())
+        takeDown(*window());
+}
+
+QQuickWindow *PelkoApp::window() const
+{
+    return qobject_cast<QQuickWindow *>(m_engine.rootObjects().value(0));
 }

@@ -8,9 +8,13 @@
 #include "Shell/LaunchSequence.h"
 #include "Shell/MainViewModel.h"
 #include "Store/AppState.h"
+#include "Timers/PomodoroTimer.h"
 #include "Timers/TimersViewModel.h"
+#include "Views/Timers/PomodoroPanel.h"
 
 #include <QQmlApplicationEngine>
+
+class QQuickWindow;
 
 /// The composition root: the one place that knows every part and hands each what it needs. Making it loads
 /// the documents and shows the window.
@@ -21,6 +25,8 @@ public:
     ~PelkoApp();
 
 private:
+    QQuickWindow *window() const;
+
     // What is used by others stands first, so that it goes last.
     QtScheduler m_scheduler;
     SystemClock m_clock;
@@ -30,6 +36,8 @@ private:
     AppState m_appState{m_scheduler, m_clock, m_documentFile};
     MainViewModel m_main{m_appState, m_scheduler, m_pasteboard};
     LaunchSequence m_launch{m_scheduler};
-    TimersViewModel m_timers{FlowTimer::shared()};
+    PomodoroTimer m_pomodoroTimer{m_scheduler};
+    TimersViewModel m_timers{m_pomodoroTimer, FlowTimer::shared(), m_appState, m_pasteboard, m_scheduler};
     QQmlApplicationEngine m_engine;
+    PomodoroPanel m_panel{m_engine, m_timers};
 };
