@@ -14,6 +14,7 @@ PelkoApp::PelkoApp()
 {
     QObject::connect(&m_main, &MainViewModel::quitRequested, QCoreApplication::instance(),
                      &QCoreApplication::quit, Qt::QueuedConnection);
+    QObject::connect(&m_remote, &RemoteControl::openRequested, &m_engine, [this] { bringToFront(); });
     // A system without some QML module: the engine has said on standard error which; there is no window to
     // wait for.
     QObject::connect(
@@ -32,7 +33,22 @@ PelkoApp::~PelkoApp()
         takeDown(*window());
 }
 
+std::filesystem::path PelkoApp::dataFolder() const
+{
+    return m_dataLocation.applicationSupportDirectory().value_or(std::filesystem::path()) / "Pelko";
+}
+
 QQuickWindow *PelkoApp::window() const
 {
     return qobject_cast<QQuickWindow *>(m_engine.rootObjects().value(0));
+}
+
+void PelkoApp::bringToFront()
+{
+    if (!window())
+        return;
+    window()->setWindowStates(window()->windowStates() & ~Qt::WindowMinimized);
+    window()->show();
+    window()->raise();
+    window()->requestActivate();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/InstanceServer.h"
 #include "Platform/LocalDocumentFile.h"
 #include "Platform/QtScheduler.h"
 #include "Platform/SystemClock.h"
@@ -7,6 +8,7 @@
 #include "Platform/SystemPasteboard.h"
 #include "Shell/LaunchSequence.h"
 #include "Shell/MainViewModel.h"
+#include "Shell/RemoteControl.h"
 #include "Store/AppState.h"
 #include "Timers/PomodoroTimer.h"
 #include "Timers/TimersViewModel.h"
@@ -25,7 +27,9 @@ public:
     ~PelkoApp();
 
 private:
+    std::filesystem::path dataFolder() const;
     QQuickWindow *window() const;
+    void bringToFront();
 
     // What is used by others stands first, so that it goes last.
     QtScheduler m_scheduler;
@@ -40,4 +44,7 @@ private:
     TimersViewModel m_timers{m_pomodoroTimer, FlowTimer::shared(), m_appState, m_pasteboard, m_scheduler};
     QQmlApplicationEngine m_engine;
     PomodoroPanel m_panel{m_engine, m_timers};
+    RemoteControl m_remote{m_appState, m_pomodoroTimer};
+    InstanceServer m_server{dataFolder(),
+                            [this](const QStringList &arguments) { return m_remote.answer(arguments); }};
 };
