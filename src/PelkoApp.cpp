@@ -1,5 +1,6 @@
 #include "PelkoApp.h"
 
+#include "Timers/PomodoroReading.h"
 #include "Views/TakeDown.h"
 
 #include <QGuiApplication>
@@ -9,12 +10,20 @@
 Q_IMPORT_QML_PLUGIN(PelkoPlugin)
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace
+{
+constexpr auto trayRestartTime = 5s;
+}
 
 PelkoApp::PelkoApp()
 {
     QObject::connect(&m_main, &MainViewModel::quitRequested, QCoreApplication::instance(),
                      &QCoreApplication::quit, Qt::QueuedConnection);
     QObject::connect(&m_remote, &RemoteControl::openRequested, &m_engine, [this] { bringToFront(); });
+    followTimer();
+    followTray();
     // A system without some QML module: the engine has said on standard error which; there is no window to
     // wait for.
     QObject::connect(
@@ -51,4 +60,60 @@ void PelkoApp::bringToFront()
     window()->show();
     window()->raise();
     window()->requestActivate();
+}
+
+void PelkoApp::followTimer()
+{
+    const auto show = [this] { m_tray.show(trayFace(m_pomodoroTimer)); };
+    QObject::connect(&m_pomodoroTimer, &PomodoroTimer::timeRemainingChanged, &m_tray, show);
+    QObject::connect(&m_pomodoroTimer, &PomodoroTimer::isRunningChanged, &m_tray, show);
+    QObject::connect(&m_pomodoroTimer, &PomodoroTimer::sessionCountChanged, &m_tray, show);
+    show();
+}
+
+void PelkoApp::followTray()
+{
+    // The bus can wait until there is something to see.
+    QObject::connect(&m_launch, &LaunchSequence::showFlameChanged, &m_tray,
+                     [this] { m_tray.connectTo(QDBusConnection::sessionBus()); });
+    QObject::connect(&m_tray, &Tray::activated, &m_timers,
+                     [this](const QPoint &place) { m_timers.togglePanel(QRect(place, QSize(1, 1))); });
+    QObject::connect(&m_tray, &Tray::secondaryActivated, &m_timers,
+                     [this] { startOrPause(m_pomodoroTimer); });
+    QObject::connect(&m_tray, &Tray::chosen, &m_timers,
+                     [this](TrayMenuRow::Command command) { carryOut(command); });
+    QObject::connect(&m_tray, &Tray::isPresentChanged, &m_timers, [this] {
+        m_timers.setInTray(m_tray.isPresent());
+        // A tray that crashed comes back. If it does not, a closed window would be out of reach.
+        m_return = m_scheduler.after(trayRestartTime, [this] {
+            if (!m_tray.isPresent() && window() && !window()->isVisible())
+                window()->show();
+        });
+    });
+    // With a tray the program stays there when its window is closed.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QObject::connect(qGuiApp, &QGuiApplication::lastWindowClosed, &m_timers, [this] {
+        if (!m_tray.isPresent())
+            QCoreApplication::quit();
+    });
+}
+
+void PelkoApp::carryOut(TrayMenuRow::Command command)
+{
+    switch (command) {
+    case TrayMenuRow::Command::open:
+        bringToFront();
+        break;
+    case TrayMenuRow::Command::startOrPause:
+        startOrPause(m_pomodoroTimer);
+        break;
+    case TrayMenuRow::Command::reset:
+        m_pomodoroTimer.reset();
+        break;
+    case TrayMenuRow::Command::quit:
+        QCoreApplication::quit();
+        break;
+    case TrayMenuRow::Command::none:
+        break;
+    }
 }

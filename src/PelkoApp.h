@@ -6,6 +6,7 @@
 #include "Platform/SystemClock.h"
 #include "Platform/SystemDataLocation.h"
 #include "Platform/SystemPasteboard.h"
+#include "Platform/Tray/Tray.h"
 #include "Shell/LaunchSequence.h"
 #include "Shell/MainViewModel.h"
 #include "Shell/RemoteControl.h"
@@ -30,6 +31,9 @@ private:
     std::filesystem::path dataFolder() const;
     QQuickWindow *window() const;
     void bringToFront();
+    void followTray();
+    void followTimer();
+    void carryOut(TrayMenuRow::Command command);
 
     // What is used by others stands first, so that it goes last.
     QtScheduler m_scheduler;
@@ -44,6 +48,8 @@ private:
     TimersViewModel m_timers{m_pomodoroTimer, FlowTimer::shared(), m_appState, m_pasteboard, m_scheduler};
     QQmlApplicationEngine m_engine;
     PomodoroPanel m_panel{m_engine, m_timers};
+    Tray m_tray;
+    ScheduledCall m_return;
     RemoteControl m_remote{m_appState, m_pomodoroTimer};
     InstanceServer m_server{dataFolder(),
                             [this](const QStringList &arguments) { return m_remote.answer(arguments); }};
