@@ -19,11 +19,10 @@ constexpr auto trayRestartTime = 5s;
 
 PelkoApp::PelkoApp()
 {
-    QObject::connect(&m_main, &MainViewModel::quitRequested, QCoreApplication::instance(),
-                     &QCoreApplication::quit, Qt::QueuedConnection);
-    QObject::connect(&m_remote, &RemoteControl::openRequested, &m_engine, [this] { bringToFront(); });
+    followRequests();
     followTimer();
     followTray();
+    outliveTheWindow();
     // A system without some QML module: the engine has said on standard error which; there is no window to
     // wait for.
     QObject::connect(
@@ -62,6 +61,19 @@ void PelkoApp::bringToFront()
     window()->requestActivate();
 }
 
+void PelkoApp::followRequests()
+{
+    QObject::connect(&m_main, &MainViewModel::quitRequested, QCoreApplication::instance(),
+                     &QCoreApplication::quit, Qt::QueuedConnection);
+    QObject::connect(&m_remote, &RemoteControl::openRequested, &m_engine, [this] { bringToFront(); });
+    QObject::connect(&m_onBus, &ApplicationOnBus::openRequested, &m_engine, [this] { bringToFront(); });
+    // The bus can wait until there is something to see.
+    QObject::connect(&m_launch, &LaunchSequence::showFlameChanged, &m_tray, [this] {
+        m_tray.connectTo(QDBusConnection::sessionBus());
+        m_onBus.connectTo(QDBusConnection::sessionBus());
+    });
+}
+
 void PelkoApp::followTimer()
 {
     const auto show = [this] { m_tray.show(trayFace(m_pomodoroTimer)); };
@@ -73,28 +85,30 @@ void PelkoApp::followTimer()
 
 void PelkoApp::followTray()
 {
-    // The bus can wait until there is something to see.
-    QObject::connect(&m_launch, &LaunchSequence::showFlameChanged, &m_tray,
-                     [this] { m_tray.connectTo(QDBusConnection::sessionBus()); });
     QObject::connect(&m_tray, &Tray::activated, &m_timers,
                      [this](const QPoint &place) { m_timers.togglePanel(QRect(place, QSize(1, 1))); });
     QObject::connect(&m_tray, &Tray::secondaryActivated, &m_timers,
                      [this] { startOrPause(m_pomodoroTimer); });
     QObject::connect(&m_tray, &Tray::chosen, &m_timers,
                      [this](TrayMenuRow::Command command) { carryOut(command); });
-    QObject::connect(&m_tray, &Tray::isPresentChanged, &m_timers, [this] {
-        m_timers.setInTray(m_tray.isPresent());
-        // A tray that crashed comes back. If it does not, a closed window would be out of reach.
+    QObject::connect(&m_tray, &Tray::isPresentChanged, &m_timers,
+                     [this] { m_timers.setInTray(m_tray.isPresent()); });
+}
+
+void PelkoApp::outliveTheWindow()
+{
+    // With a tray the program stays there when its window is closed.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QObject::connect(qGuiApp, &QGuiApplication::lastWindowClosed, &m_tray, [this] {
+        if (!m_tray.isPresent())
+            QCoreApplication::quit();
+    });
+    // A tray that crashed comes back. If it does not, a closed window would be out of reach.
+    QObject::connect(&m_tray, &Tray::isPresentChanged, &m_engine, [this] {
         m_return = m_scheduler.after(trayRestartTime, [this] {
             if (!m_tray.isPresent() && window() && !window()->isVisible())
                 window()->show();
         });
-    });
-    // With a tray the program stays there when its window is closed.
-    QGuiApplication::setQuitOnLastWindowClosed(false);
-    QObject::connect(qGuiApp, &QGuiApplication::lastWindowClosed, &m_timers, [this] {
-        if (!m_tray.isPresent())
-            QCoreApplication::quit();
     });
 }
 

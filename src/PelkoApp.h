@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Platform/ApplicationOnBus.h"
 #include "Platform/InstanceServer.h"
 #include "Platform/LocalDocumentFile.h"
 #include "Platform/QtScheduler.h"
@@ -31,8 +32,10 @@ private:
     std::filesystem::path dataFolder() const;
     QQuickWindow *window() const;
     void bringToFront();
-    void followTray();
+    void followRequests();
     void followTimer();
+    void followTray();
+    void outliveTheWindow();
     void carryOut(TrayMenuRow::Command command);
 
     // What is used by others stands first, so that it goes last.
@@ -49,6 +52,7 @@ private:
     QQmlApplicationEngine m_engine;
     PomodoroPanel m_panel{m_engine, m_timers};
     Tray m_tray;
+    ApplicationOnBus m_onBus;
     ScheduledCall m_return;
     RemoteControl m_remote{m_appState, m_pomodoroTimer};
     InstanceServer m_server{dataFolder(),

@@ -1,3 +1,4 @@
+#include "Platform/PrivateBus.h"
 #include "Platform/Tray/StatusNotifierItem.h"
 #include "Platform/Tray/Tray.h"
 #include "Platform/Tray/TrayTypes.h"
@@ -6,7 +7,6 @@
 #include <QDBusContext>
 #include <QDBusInterface>
 #include <QDBusPendingReply>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -17,46 +17,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 const QString watcherName = u"org.kde.StatusNotifierWatcher"_s;
-
-/// A bus that nobody else is on.
-class PrivateBus
-{
-public:
-    PrivateBus()
-    {
-        m_daemon.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
-        m_daemon.waitForReadyRead();
-        m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
-    }
-    ~PrivateBus() { end(); }
-    Q_DISABLE_COPY_MOVE(PrivateBus)
-
-    void end()
-    {
-        for (const QString &name : std::as_const(m_names))
-            QDBusConnection::disconnectFromBus(name);
-        m_names.clear();
-        m_daemon.kill();
-        m_daemon.waitForFinished();
-    }
-
-    QDBusConnection connection(const QString &name)
-    {
-        m_names.append(name);
-        return QDBusConnection::connectToBus(m_address, name);
-    }
-
-    void kill()
-    {
-        m_daemon.kill();
-        m_daemon.waitForFinished();
-    }
-
-private:
-    QProcess m_daemon;
-    QString m_address;
-    QStringList m_names;
-};
 
 /// The part of a desktop that keeps the list of items.
 class Watcher : public QObject, protected QDBusContext
