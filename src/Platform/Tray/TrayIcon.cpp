@@ -24,6 +24,7 @@ constexpr QColor track(255, 255, 255, 41);
 constexpr QColor ink(0xFF, 0xF6, 0xEE);
 constexpr qreal fullCircle = 360 * 16; // as the painter counts
 constexpr qreal top = 90;
+constexpr qreal shortArc = 0.05;
 
 QPainterPath flameOutline()
 {
@@ -54,8 +55,9 @@ void paintRing(QPainter &painter, int size, const TrayFace &face)
     const qreal spent = qMax(face.progress, 0.01);
     QConicalGradient colours(ring.center(), top);
     colours.setColorAt(0, ember);
-    colours.setColorAt(qMax(0.0, 1 - spent), amberSoft);
-    colours.setColorAt(1, ember);
+    colours.setColorAt(1 - spent, amberSoft);
+    // An arc that has just begun is too short for two colours.
+    colours.setColorAt(1, spent < shortArc ? amberSoft : ember);
     painter.setOpacity(face.flameOpacity);
     painter.setPen(QPen(colours, stroke, Qt::SolidLine, spent < 0.9 ? Qt::RoundCap : Qt::FlatCap));
     painter.drawArc(ring, qRound(top * 16), -qRound(fullCircle * spent));
