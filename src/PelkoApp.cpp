@@ -67,10 +67,11 @@ void PelkoApp::followRequests()
                      &QCoreApplication::quit, Qt::QueuedConnection);
     QObject::connect(&m_remote, &RemoteControl::openRequested, &m_engine, [this] { bringToFront(); });
     QObject::connect(&m_onBus, &ApplicationOnBus::openRequested, &m_engine, [this] { bringToFront(); });
-    // The bus can wait until there is something to see.
+    // The bus and the panel can wait until there is something to see; the launch card covers what they cost.
     QObject::connect(&m_launch, &LaunchSequence::showFlameChanged, &m_tray, [this] {
         m_tray.connectTo(QDBusConnection::sessionBus());
         m_onBus.connectTo(QDBusConnection::sessionBus());
+        m_panel.prepareSoon();
     });
 }
 

@@ -50,7 +50,7 @@ private:
     PomodoroTimer m_pomodoroTimer{m_scheduler};
     TimersViewModel m_timers{m_pomodoroTimer, FlowTimer::shared(), m_appState, m_pasteboard, m_scheduler};
     QQmlApplicationEngine m_engine;
-    PomodoroPanel m_panel{m_engine, m_timers};
+    PomodoroPanel m_panel{m_engine, m_timers, m_scheduler};
     Tray m_tray;
     ApplicationOnBus m_onBus;
     ScheduledCall m_return;

@@ -1,6 +1,7 @@
 #include "PanelWindow.h"
 
 #include "Timers/PanelPlace.h"
+#include "Views/TakeDown.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -10,6 +11,11 @@ PanelWindow::PanelWindow(QWindow *parent) : QQuickWindow(parent)
     setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     connect(this, &QWindow::activeChanged, this, &PanelWindow::followActive);
     connect(this, &QWindow::heightChanged, this, &PanelWindow::place);
+}
+
+PanelWindow::~PanelWindow()
+{
+    takeDown(*this);
 }
 
 void PanelWindow::openAt(const QRect &opener)

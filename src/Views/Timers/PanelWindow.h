@@ -12,6 +12,7 @@ class PanelWindow : public QQuickWindow
 
 public:
     explicit PanelWindow(QWindow *parent = nullptr);
+    ~PanelWindow() override;
 
     /// `opener` is in the coordinates of the desktop.
     void openAt(const QRect &opener);

@@ -3,13 +3,20 @@
 #include "PanelWindow.h"
 #include "Timers/PomodoroViewModel.h"
 #include "Timers/TimersViewModel.h"
-#include "Views/TakeDown.h"
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
-PomodoroPanel::PomodoroPanel(QQmlEngine &engine, TimersViewModel &timers, QObject *parent)
+namespace
+{
+constexpr auto restAfterClosing = 500ms;
+}
+
+PomodoroPanel::PomodoroPanel(QQmlEngine &engine, TimersViewModel &timers, Scheduler &scheduler,
+                             QObject *parent)
     : QObject(parent)
     , m_timers(timers)
+    , m_scheduler(scheduler)
     , m_component(&engine)
 {
     connect(&m_timers, &TimersViewModel::panelOpened, this, &PomodoroPanel::open);
@@ -18,8 +25,6 @@ PomodoroPanel::PomodoroPanel(QQmlEngine &engine, TimersViewModel &timers, QObjec
 
 PomodoroPanel::~PomodoroPanel()
 {
-    if (m_window)
-        takeDown(*m_window);
     delete m_window;
 }
 
@@ -28,8 +33,15 @@ PanelWindow *PomodoroPanel::window() const
     return m_window;
 }
 
-void PomodoroPanel::open(const QRect &opener)
+void PomodoroPanel::prepareSoon()
 {
+    m_preparation = m_scheduler.after(restAfterClosing, [this] { prepare(); });
+}
+
+void PomodoroPanel::prepare()
+{
+    if (m_window)
+        return;
     // Not before it is wanted: the start of the program has other things to do.
     if (m_component.isNull())
         m_component.loadUrl(QUrl(u"qrc:/qt/qml/Pelko/Views/Timers/PomodoroWindow.qml"_s));
@@ -38,13 +50,22 @@ void PomodoroPanel::open(const QRect &opener)
         m_component.createWithInitialProperties({{u"panel"_s, QVariant::fromValue(panel)}}));
     if (!m_window) {
         delete panel;
-        m_timers.closePanel();
         return;
     }
     panel->setParent(m_window);
+    m_panel = panel;
     connect(m_window, &PanelWindow::dismissed, &m_timers, &TimersViewModel::leavePanel);
+}
+
+void PomodoroPanel::open(const QRect &opener)
+{
+    prepare();
+    if (!m_window) {
+        m_timers.closePanel();
+        return;
+    }
     m_window->openAt(opener);
-    panel->shown();
+    m_panel->shown();
 }
 
 void PomodoroPanel::close()
@@ -55,4 +76,5 @@ void PomodoroPanel::close()
     // Whoever closes it may stand inside it.
     m_window->deleteLater();
     m_window.clear();
+    prepareSoon();
 }

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Window
 import Pelko
 
 /// The ring with its flame, the time, the phase, a dot for each session done, and the two buttons.
@@ -24,7 +25,7 @@ Column {
             progress: root.panel.progress
 
             Behavior on progress {
-                enabled: !Motion.reduced
+                enabled: !Motion.reduced && root.Window.visibility !== Window.Hidden
                 NumberAnimation { duration: 1000 }
             }
         }
