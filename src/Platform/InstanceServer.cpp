@@ -17,10 +17,10 @@ constexpr int waitingLine = 64;
 class Caller : public QObject
 {
 public:
-    Caller(FileDescriptor socket, const InstanceServer::Answer &answer, QObject *parent)
+    Caller(FileDescriptor socket, InstanceServer::Answer answer, QObject *parent)
         : QObject(parent)
         , m_socket(std::move(socket))
-        , m_answer(answer)
+        , m_answer(std::move(answer))
         , m_notifier(m_socket.number(), QSocketNotifier::Read)
     {
         connect(&m_notifier, &QSocketNotifier::activated, this, &Caller::receive);
@@ -67,9 +67,9 @@ private:
 };
 } // namespace
 
-InstanceServer::InstanceServer(const std::filesystem::path &dataFolder, Answer answer, QObject *parent)
+InstanceServer::InstanceServer(std::filesystem::path dataFolder, Answer answer, QObject *parent)
     : QObject(parent)
-    , m_folder(dataFolder)
+    , m_folder(std::move(dataFolder))
     , m_answer(std::move(answer))
 {
     const InstanceSocket address(m_folder);

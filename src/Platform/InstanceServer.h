@@ -20,7 +20,7 @@ class InstanceServer : public QObject
 public:
     using Answer = std::function<CommandLineAnswer(const QStringList &arguments)>;
 
-    InstanceServer(const std::filesystem::path &dataFolder, Answer answer, QObject *parent = nullptr);
+    InstanceServer(std::filesystem::path dataFolder, Answer answer, QObject *parent = nullptr);
     ~InstanceServer() override;
 
 private:

@@ -18,7 +18,7 @@ const QString watcherPath = u"/StatusNotifierWatcher"_s;
 
 /// Calls `then` with the reply, as long as `owner` lives.
 template <typename Then>
-void call(const QDBusConnection &bus, QObject *owner, const QDBusMessage &message, Then then)
+void call(const QDBusConnection &bus, QObject *owner, const QDBusMessage &message, const Then &then)
 {
     auto *pending = new QDBusPendingCallWatcher(bus.asyncCall(message), owner);
     QObject::connect(pending, &QDBusPendingCallWatcher::finished, owner, [pending, then] {

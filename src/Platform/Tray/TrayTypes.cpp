@@ -15,6 +15,8 @@ TrayPixmap TrayPixmap::of(const QImage &image)
     return pixmap;
 }
 
+// NOLINTBEGIN(bugprone-return-const-ref-from-parameter): the bus wants its operators in this form
+
 QDBusArgument &operator<<(QDBusArgument &argument, const TrayPixmap &pixmap)
 {
     argument.beginStructure();
@@ -94,6 +96,8 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, TrayMenuEvent &ev
     argument.endStructure();
     return argument;
 }
+
+// NOLINTEND(bugprone-return-const-ref-from-parameter)
 
 void registerTrayTypes()
 {
