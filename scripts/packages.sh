@@ -12,10 +12,10 @@ run=(
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
     qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-templates qml6-module-qt-labs-qmlmodels
     qt6-qpa-plugins qt6-wayland qt6-image-formats-plugins
-    libgl1-mesa-dri fonts-inter
+    libgl1-mesa-dri fonts-inter fonts-jetbrains-mono
 )
 display=(xvfb xauth imagemagick)
-benchmark=(libbenchmark-dev)
+benchmark=(libbenchmark-dev dbus)
 test=(
     clang-format-19 clang-tidy-19 clang-19 libclang-rt-19-dev shellcheck git
     desktop-file-utils appstream mandoc

@@ -1,36 +1,28 @@
 #include "PelkoApp.h"
 
+#include "Timers/PomodoroReading.h"
+#include "Views/TakeDown.h"
+
 #include <QGuiApplication>
-#include <QQuickItem>
 #include <QQuickWindow>
 #include <QtQml/QQmlExtensionPlugin>
 
 Q_IMPORT_QML_PLUGIN(PelkoPlugin)
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace
 {
-// The layers of the window stand in its content.
-constexpr int layerDepth = 2;
-
-/// Deletes what stands in `item`, uppermost first, because glass looks at what lies below.
-void takeDown(QQuickItem &item, int depth)
-{
-    QList<QQuickItem *> children = item.childItems();
-    while (!children.isEmpty()) {
-        QQuickItem *child = children.takeLast();
-        if (depth > 1)
-            takeDown(*child, depth - 1);
-        delete child;
-    }
+constexpr auto trayRestartTime = 5s;
 }
-} // namespace
 
 PelkoApp::PelkoApp()
 {
-    QObject::connect(&m_main, &MainViewModel::quitRequested, QCoreApplication::instance(),
-                     &QCoreApplication::quit, Qt::QueuedConnection);
+    followRequests();
+    followTimer();
+    followTray();
+    outliveTheWindow();
     // A system without some QML module: the engine has said on standard error which; there is no window to
     // wait for.
     QObject::connect(
@@ -54,10 +46,98 @@ QString PelkoApp::activeWindowName()
 
 PelkoApp::~PelkoApp()
 {
-    // Items go while their window lives. Left to the window they would outlive parts of it wherever an effect
-    // holds one of them, and the focus they lose is announced through those parts.
-    for (QObject *root : m_engine.rootObjects()) {
-        if (const auto *window = qobject_cast<QQuickWindow *>(root))
-            takeDown(*window->contentItem(), layerDepth);
+    if (window())
+        takeDown(*window());
+}
+
+std::filesystem::path PelkoApp::dataFolder() const
+{
+    return m_dataLocation.applicationSupportDirectory().value_or(std::filesystem::path()) / "Pelko";
+}
+
+QQuickWindow *PelkoApp::window() const
+{
+    return qobject_cast<QQuickWindow *>(m_engine.rootObjects().value(0));
+}
+
+void PelkoApp::bringToFront()
+{
+    if (!window())
+        return;
+    window()->setWindowStates(window()->windowStates() & ~Qt::WindowMinimized);
+    window()->show();
+    window()->raise();
+    window()->requestActivate();
+}
+
+void PelkoApp::followRequests()
+{
+    QObject::connect(&m_main, &MainViewModel::quitRequested, QCoreApplication::instance(),
+                     &QCoreApplication::quit, Qt::QueuedConnection);
+    QObject::connect(&m_remote, &RemoteControl::openRequested, &m_engine, [this] { bringToFront(); });
+    QObject::connect(&m_onBus, &ApplicationOnBus::openRequested, &m_engine, [this] { bringToFront(); });
+    // The bus and the panel can wait until there is something to see; the launch card covers what they cost.
+    QObject::connect(&m_launch, &LaunchSequence::showFlameChanged, &m_tray, [this] {
+        m_tray.connectTo(QDBusConnection::sessionBus());
+        m_onBus.connectTo(QDBusConnection::sessionBus());
+        m_panel.prepareSoon();
+    });
+}
+
+void PelkoApp::followTimer()
+{
+    const auto show = [this] { m_tray.show(trayFace(m_pomodoroTimer)); };
+    QObject::connect(&m_pomodoroTimer, &PomodoroTimer::timeRemainingChanged, &m_tray, show);
+    QObject::connect(&m_pomodoroTimer, &PomodoroTimer::isRunningChanged, &m_tray, show);
+    QObject::connect(&m_pomodoroTimer, &PomodoroTimer::sessionCountChanged, &m_tray, show);
+    show();
+}
+
+void PelkoApp::followTray()
+{
+    QObject::connect(&m_tray, &Tray::activated, &m_timers,
+                     [this](const QPoint &place) { m_timers.togglePanel(QRect(place, QSize(1, 1))); });
+    QObject::connect(&m_tray, &Tray::secondaryActivated, &m_timers,
+                     [this] { startOrPause(m_pomodoroTimer); });
+    QObject::connect(&m_tray, &Tray::chosen, &m_timers,
+                     [this](TrayMenuRow::Command command) { carryOut(command); });
+    QObject::connect(&m_tray, &Tray::isPresentChanged, &m_timers,
+                     [this] { m_timers.setInTray(m_tray.isPresent()); });
+}
+
+void PelkoApp::outliveTheWindow()
+{
+    // With a tray the program stays there when its window is closed.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QObject::connect(qGuiApp, &QGuiApplication::lastWindowClosed, &m_tray, [this] {
+        if (!m_tray.isPresent())
+            QCoreApplication::quit();
+    });
+    // A tray that crashed comes back. If it does not, a closed window would be out of reach.
+    QObject::connect(&m_tray, &Tray::isPresentChanged, &m_engine, [this] {
+        m_return = m_scheduler.after(trayRestartTime, [this] {
+            if (!m_tray.isPresent() && window() && !window()->isVisible())
+                window()->show();
+        });
+    });
+}
+
+void PelkoApp::carryOut(TrayMenuRow::Command command)
+{
+    switch (command) {
+    case TrayMenuRow::Command::open:
+        bringToFront();
+        break;
+    case TrayMenuRow::Command::startOrPause:
+        startOrPause(m_pomodoroTimer);
+        break;
+    case TrayMenuRow::Command::reset:
+        m_pomodoroTimer.reset();
+        break;
+    case TrayMenuRow::Command::quit:
+        QCoreApplication::quit();
+        break;
+    case TrayMenuRow::Command::none:
+        break;
     }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Platform/ApplicationOnBus.h"
+#include "Platform/InstanceServer.h"
 #include "Platform/LocalDocumentFile.h"
 #include "Platform/LocalPictureFiles.h"
 #include "Platform/LocalPictureFolders.h"
@@ -8,13 +10,19 @@
 #include "Platform/SystemClock.h"
 #include "Platform/SystemDataLocation.h"
 #include "Platform/SystemPasteboard.h"
+#include "Platform/Tray/Tray.h"
 #include "Shell/FolderChooser.h"
 #include "Shell/LaunchSequence.h"
 #include "Shell/MainViewModel.h"
+#include "Shell/RemoteControl.h"
 #include "Store/AppState.h"
+#include "Timers/PomodoroTimer.h"
 #include "Timers/TimersViewModel.h"
+#include "Views/Timers/PomodoroPanel.h"
 
 #include <QQmlApplicationEngine>
+
+class QQuickWindow;
 
 /// The composition root: the one place that knows every part and hands each what it needs. Making it loads
 /// the documents and shows the window.
@@ -26,6 +34,14 @@ public:
 
 private:
     static QString activeWindowName();
+    std::filesystem::path dataFolder() const;
+    QQuickWindow *window() const;
+    void bringToFront();
+    void followRequests();
+    void followTimer();
+    void followTray();
+    void outliveTheWindow();
+    void carryOut(TrayMenuRow::Command command);
 
     // What is used by others stands first, so that it goes last.
     QtScheduler m_scheduler;
@@ -40,6 +56,14 @@ private:
     AppState m_appState{m_scheduler, m_clock, m_documentFile};
     MainViewModel m_main{m_appState, {m_scheduler, m_pasteboard, m_imageChooser, m_pictureFiles}};
     LaunchSequence m_launch{m_scheduler};
-    TimersViewModel m_timers{FlowTimer::shared()};
+    PomodoroTimer m_pomodoroTimer{m_scheduler};
+    TimersViewModel m_timers{m_pomodoroTimer, FlowTimer::shared(), m_appState, m_pasteboard, m_scheduler};
     QQmlApplicationEngine m_engine;
+    PomodoroPanel m_panel{m_engine, m_timers, m_scheduler};
+    Tray m_tray;
+    ApplicationOnBus m_onBus;
+    ScheduledCall m_return;
+    RemoteControl m_remote{m_appState, m_pomodoroTimer};
+    InstanceServer m_server{dataFolder(),
+                            [this](const QStringList &arguments) { return m_remote.answer(arguments); }};
 };

@@ -1,7 +1,8 @@
 #include "PelkoApp.h"
+#include "Platform/OnlyInstance.h"
 #include "Platform/SceneGraphChoice.h"
 #include "Platform/SystemDataLocation.h"
-#include "Shell/CommandLine.h"
+#include "Shell/RemoteControl.h"
 
 #include <QGuiApplication>
 #include <QIcon>
@@ -15,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-QStringList commandLine(int argc, char *argv[])
+QStringList arguments(int argc, char *argv[])
 {
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
@@ -29,6 +30,18 @@ int say(const CommandLineAnswer &answer)
     return answer.exitCode;
 }
 
+/// Straight into the file. What cannot be read is not written over behind the writer's back.
+CommandLineAnswer captureIntoFile(const DataLocation &location, const SparkCommand &command)
+{
+    QtScheduler scheduler;
+    const SystemClock clock;
+    LocalDocumentFile file(location);
+    AppState appState(scheduler, clock, file);
+    if (const std::optional<QString> &error = appState.lastError())
+        return {u"pelko: %1\n"_s.arg(*error), 1};
+    return captureSpark(appState, command);
+}
+
 void describe(QGuiApplication &application)
 {
     application.setApplicationName(u"Pelko"_s);
@@ -36,24 +49,41 @@ void describe(QGuiApplication &application)
     application.setDesktopFileName(u"app.pelko.Pelko"_s);
     application.setWindowIcon(QIcon(u":/app.pelko.Pelko.svg"_s));
 }
+
+int showWindow(int argc, char *argv[])
+{
+    if (prefersSoftwareSceneGraph(QProcessEnvironment::systemEnvironment(), QDir(u"/dev/dri"_s)))
+        QQuickWindow::setSceneGraphBackend(u"software"_s);
+    QGuiApplication application(argc, argv);
+    describe(application);
+    PelkoApp app;
+    return QGuiApplication::exec();
+}
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    if (const auto answer = answerCommandLine(commandLine(argc, argv)))
-        return say(*answer);
-    if (!SystemDataLocation().applicationSupportDirectory())
-        return say({u"Pelko: Could not locate Application Support directory.\n"_s, 1});
-    if (prefersSoftwareSceneGraph(QProcessEnvironment::systemEnvironment(), QDir(u"/dev/dri"_s)))
-        QQuickWindow::setSceneGraphBackend(u"software"_s);
-
     // A file that may not grow any further is a failed save, not the end of the program.
     std::signal(SIGXFSZ, SIG_IGN);
     // What is written is for the writer only: it is left in no core file.
     constexpr rlimit none{0, 0};
     ::setrlimit(RLIMIT_CORE, &none);
-    QGuiApplication application(argc, argv);
-    describe(application);
-    PelkoApp app;
-    return QGuiApplication::exec();
+    const CommandLine commandLine = readCommandLine(arguments(argc, argv));
+    if (const auto *known = std::get_if<CommandLineAnswer>(&commandLine))
+        return say(*known);
+    const SystemDataLocation location;
+    const auto support = location.applicationSupportDirectory();
+    if (!support)
+        return say({u"Pelko: Could not locate Application Support directory.\n"_s, 1});
+
+    OnlyInstance instance(*support / "Pelko");
+    if (const auto answer = instance.yieldTo(arguments(argc, argv)))
+        return say(*answer);
+    if (std::holds_alternative<PomodoroCommand>(commandLine))
+        return say({u"pelko: Pelko is not running.\n"_s, 1});
+    if (const auto *spark = std::get_if<SparkCommand>(&commandLine)) {
+        const QCoreApplication application(argc, argv);
+        return say(captureIntoFile(location, *spark));
+    }
+    return showWindow(argc, argv);
 }

@@ -18,22 +18,46 @@ QString helpText()
     return u"Usage: pelko [OPTION]\n"
            "Write short pages, block by block.\n"
            "\n"
-           "  -h, --help     show this help and end\n"
-           "  -v, --version  show the version and end\n"_s;
+           "      --spark TEXT     capture a spark, without a window\n"
+           "      --pomodoro VERB  start, pause or reset the timer of the running Pelko,\n"
+           "                       or show its status\n"
+           "  -h, --help           show this help and end\n"
+           "  -v, --version        show the version and end\n"_s;
 }
 
 QString versionText()
 {
     return u"pelko %1\n"_s.arg(QLatin1StringView(PELKO_VERSION));
 }
+
+CommandLine readSpark(const QString &text)
+{
+    if (QStringView(text).trimmed().isEmpty())
+        return refuse(u"A spark needs some text."_s);
+    return SparkCommand{text};
+}
+
+CommandLine readPomodoro(const QString &word)
+{
+    using Verb = PomodoroCommand::Verb;
+    for (const auto &[name, verb] :
+         {std::pair("start"_L1, Verb::start), std::pair("pause"_L1, Verb::pause),
+          std::pair("reset"_L1, Verb::reset), std::pair("status"_L1, Verb::status)}) {
+        if (word == name)
+            return PomodoroCommand{verb};
+    }
+    return refuse(u"--pomodoro takes start, pause, reset or status, not '%1'."_s.arg(word));
+}
 } // namespace
 
-std::optional<CommandLineAnswer> answerCommandLine(const QStringList &arguments)
+CommandLine readCommandLine(const QStringList &arguments)
 {
     const QCommandLineOption help(QStringList{u"h"_s, u"help"_s});
     const QCommandLineOption version(QStringList{u"v"_s, u"version"_s});
+    const QCommandLineOption spark(u"spark"_s, {}, u"TEXT"_s);
+    const QCommandLineOption pomodoro(u"pomodoro"_s, {}, u"VERB"_s);
     QCommandLineParser parser;
-    parser.addOptions({help, version});
+    parser.addOptions({help, version, spark, pomodoro});
 
     if (!parser.parse(arguments))
         return refuse(parser.errorText());
@@ -43,5 +67,11 @@ std::optional<CommandLineAnswer> answerCommandLine(const QStringList &arguments)
         return CommandLineAnswer{versionText()};
     if (!parser.positionalArguments().isEmpty())
         return refuse(u"Unexpected argument '%1'."_s.arg(parser.positionalArguments().constFirst()));
-    return std::nullopt;
+    if (parser.values(spark).size() + parser.values(pomodoro).size() > 1)
+        return refuse(u"One command at a time."_s);
+    if (parser.isSet(spark))
+        return readSpark(parser.value(spark));
+    if (parser.isSet(pomodoro))
+        return readPomodoro(parser.value(pomodoro));
+    return OpenCommand{};
 }

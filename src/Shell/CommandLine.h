@@ -2,9 +2,9 @@
 
 #include <QStringList>
 
-#include <optional>
+#include <variant>
 
-/// What the program says to its command line instead of starting.
+/// What the program says to its command line.
 struct CommandLineAnswer {
     /// For standard output, or for standard error when the exit code is not 0.
     QString text;
@@ -13,6 +13,28 @@ struct CommandLineAnswer {
     bool operator==(const CommandLineAnswer &) const = default;
 };
 
-/// The answer to `arguments`, the first of which names the program; nothing when it is to start. Needs no
-/// application object, so it works where there is no display.
-std::optional<CommandLineAnswer> answerCommandLine(const QStringList &arguments);
+/// To show the window.
+struct OpenCommand {
+    bool operator==(const OpenCommand &) const = default;
+};
+
+/// To file one line as a spark. The text is not blank.
+struct SparkCommand {
+    QString text;
+
+    bool operator==(const SparkCommand &) const = default;
+};
+
+/// To work the pomodoro of the running program.
+struct PomodoroCommand {
+    enum class Verb { start, pause, reset, status };
+    Verb verb = Verb::status;
+
+    bool operator==(const PomodoroCommand &) const = default;
+};
+
+using CommandLine = std::variant<CommandLineAnswer, OpenCommand, SparkCommand, PomodoroCommand>;
+
+/// What `arguments`, the first of which names the program, ask for, or the answer to them where that is
+/// already known. Needs no application object, so it works where there is no display.
+CommandLine readCommandLine(const QStringList &arguments);

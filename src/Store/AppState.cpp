@@ -183,9 +183,11 @@ void AppState::save()
 {
     const auto produce = [this](ByteSink &sink) { return m_writer.write(m_documents, sink); };
     if (const std::optional<FileError> error = m_file.replace(produce)) {
-        setLastError(u"Save failed: "_s + error->description);
+        m_lastSaveError = u"Save failed: "_s + error->description;
+        setLastError(m_lastSaveError);
         return;
     }
+    m_lastSaveError.reset();
     m_savedIndicatorTask = m_scheduler.after(savedIndicatorTime, [this] { setShowSavedIndicator(false); });
     setShowSavedIndicator(true);
 }

@@ -33,6 +33,9 @@ public:
     /// What went wrong, in words for the user, until it is dismissed.
     const std::optional<QString> &lastError() const { return m_lastError; }
 
+    /// What became of the last save, dismissed or not; nothing when it went well.
+    const std::optional<QString> &lastSaveError() const { return m_lastSaveError; }
+
     /// The document of that id, or nullptr. Valid until the documents next change.
     const PelkoDocument *document(const QUuid &id) const;
     /// The document that `openDocumentID` names, whatever its space.
@@ -99,6 +102,7 @@ private:
     bool m_showTasksPanel = false;
     bool m_showAbout = false;
     std::optional<QString> m_lastError;
+    std::optional<QString> m_lastSaveError;
     ScheduledCall m_saveTimer;
     ScheduledCall m_savedIndicatorTask;
 };

@@ -47,6 +47,15 @@ QtObject {
     readonly property int menuRowHeight: 30
     readonly property int panelWidth: 240
 
+    readonly property int timerPanelWidth: 300
+    readonly property int timerPanelPadding: 18
+    readonly property int timerButtonSize: 34
+    readonly property int ringSize: 84
+    readonly property int sessionDot: 4
+    readonly property int captureHeight: 38
+    readonly property int sparksHintHeight: 100
+    readonly property int labelFlame: 13
+
     readonly property int measure: 624
     readonly property int pageMargin: 48
     readonly property int pageTop: 60

@@ -1,3 +1,82 @@
 #include "Timers/TimersViewModel.h"
 
-TimersViewModel::TimersViewModel(FlowTimer &flow, QObject *parent) : QObject(parent), m_flow(flow) {}
+#include "Store/ChangeScope.h"
+#include "Timers/PomodoroReading.h"
+#include "Timers/PomodoroTimer.h"
+#include "Timers/PomodoroViewModel.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace
+{
+constexpr auto clickTime = 300ms; // from a press to the click it becomes
+}
+
+TimersViewModel::TimersViewModel(PomodoroTimer &timer, FlowTimer &flow, AppState &appState,
+                                 Pasteboard &pasteboard, Scheduler &scheduler, QObject *parent)
+    : QObject(parent)
+    , m_timer(timer)
+    , m_flow(flow)
+    , m_appState(appState)
+    , m_pasteboard(pasteboard)
+    , m_scheduler(scheduler)
+{
+    connect(&m_timer, &PomodoroTimer::isRunningChanged, this, &TimersViewModel::isRunningChanged);
+    connect(&m_timer, &PomodoroTimer::isRunningChanged, this, &TimersViewModel::labelTextChanged);
+    connect(&m_timer, &PomodoroTimer::timeRemainingChanged, this, &TimersViewModel::labelTextChanged);
+}
+
+bool TimersViewModel::isRunning() const
+{
+    return m_timer.isRunning();
+}
+
+QString TimersViewModel::labelText() const
+{
+    return m_timer.isRunning() ? m_timer.displayTime() : QString();
+}
+
+QString TimersViewModel::labelName() const
+{
+    return m_timer.isRunning() ? tr("Timer, %1").arg(timeLeftInWords(m_timer)) : tr("Timer");
+}
+
+void TimersViewModel::setInTray(bool inTray)
+{
+    ChangeScope(*this).assign(m_isInTray, inTray, &TimersViewModel::isInTrayChanged);
+}
+
+PomodoroViewModel *TimersViewModel::makePanel(QObject *parent)
+{
+    return new PomodoroViewModel(m_timer, m_appState, m_pasteboard, m_scheduler, parent);
+}
+
+void TimersViewModel::togglePanel(const QRect &opener)
+{
+    if (m_isPanelOpen) {
+        closePanel();
+        return;
+    }
+    if (m_hasJustLeft)
+        return;
+    ChangeScope(*this).assign(m_isPanelOpen, true, &TimersViewModel::isPanelOpenChanged);
+    Q_EMIT panelOpened(opener);
+}
+
+void TimersViewModel::closePanel()
+{
+    if (!m_isPanelOpen)
+        return;
+    ChangeScope(*this).assign(m_isPanelOpen, false, &TimersViewModel::isPanelOpenChanged);
+    Q_EMIT panelClosed();
+}
+
+void TimersViewModel::leavePanel()
+{
+    if (!m_isPanelOpen)
+        return;
+    m_hasJustLeft = true;
+    m_afterLeaving = m_scheduler.after(clickTime, [this] { m_hasJustLeft = false; });
+    closePanel();
+}

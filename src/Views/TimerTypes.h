@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Timers/PomodoroViewModel.h"
 #include "Timers/TimersViewModel.h"
 
 #include <QtQml/qqml.h>
@@ -9,6 +10,13 @@ struct FlowTimerForQml {
     Q_GADGET
     QML_FOREIGN(FlowTimer)
     QML_NAMED_ELEMENT(FlowTimer)
+    QML_UNCREATABLE("Handed in by the program.")
+};
+
+struct PomodoroViewModelForQml {
+    Q_GADGET
+    QML_FOREIGN(PomodoroViewModel)
+    QML_NAMED_ELEMENT(PomodoroViewModel)
     QML_UNCREATABLE("Handed in by the program.")
 };
 

@@ -31,6 +31,13 @@ class Typography : public QObject
     Q_PROPERTY(QFont menuKey READ menuKey CONSTANT)
     Q_PROPERTY(QFont capsule READ capsule CONSTANT)
     Q_PROPERTY(QFont caption READ caption CONSTANT)
+    Q_PROPERTY(QFont pomodoroTime READ pomodoroTime CONSTANT)
+    Q_PROPERTY(QFont phaseLabel READ phaseLabel CONSTANT)
+    Q_PROPERTY(QFont sessionCount READ sessionCount CONSTANT)
+    Q_PROPERTY(QFont captureCaption READ captureCaption CONSTANT)
+    Q_PROPERTY(QFont recentCaption READ recentCaption CONSTANT)
+    Q_PROPERTY(QFont sparkCount READ sparkCount CONSTANT)
+    Q_PROPERTY(QFont sparkText READ sparkText CONSTANT)
     Q_PROPERTY(int bannerTitleLine READ bannerTitleLine CONSTANT)
     Q_PROPERTY(int headingLine READ headingLine CONSTANT)
     Q_PROPERTY(int bodyLine READ bodyLine CONSTANT)
@@ -40,6 +47,8 @@ class Typography : public QObject
     Q_PROPERTY(int dialogTitleLine READ dialogTitleLine CONSTANT)
     Q_PROPERTY(int messageLine READ messageLine CONSTANT)
     Q_PROPERTY(int metaLine READ metaLine CONSTANT)
+    Q_PROPERTY(int pomodoroTimeLine READ pomodoroTimeLine CONSTANT)
+    Q_PROPERTY(int sparkLine READ sparkLine CONSTANT)
     QML_ELEMENT
     QML_SINGLETON
 
@@ -68,6 +77,14 @@ public:
     QFont capsule() const { return face(m_textFamily, 11, QFont::Medium); }
     QFont caption() const { return face(m_textFamily, 10, QFont::Bold, 1.2); }
 
+    QFont pomodoroTime() const { return face(m_monoFamily, 38, QFont::Light, -0.5); }
+    QFont phaseLabel() const { return face(m_textFamily, 9, QFont::Bold, 2); }
+    QFont sessionCount() const { return face(m_textFamily, 9, QFont::Medium); }
+    QFont captureCaption() const { return face(m_textFamily, 9, QFont::DemiBold, 1.4); }
+    QFont recentCaption() const { return face(m_textFamily, 9, QFont::Bold, 1.4); }
+    QFont sparkCount() const { return face(m_textFamily, 9, QFont::DemiBold); }
+    QFont sparkText() const { return face(m_textFamily, 12, QFont::Normal); }
+
     int bannerTitleLine() const { return 44; }
     int headingLine() const { return 42; }
     int bodyLine() const { return 27; }
@@ -77,6 +94,8 @@ public:
     int dialogTitleLine() const { return 23; }
     int messageLine() const { return 19; }
     int metaLine() const { return 16; }
+    int pomodoroTimeLine() const { return 46; }
+    int sparkLine() const { return 17; }
 
     /// A face of the given height in pixels, with `tracking` pixels added after each letter.
     Q_INVOKABLE QFont face(const QString &family, qreal pixels, int weight, qreal tracking = 0) const;

@@ -1,6 +1,7 @@
 #include "Platform/QtScheduler.h"
 
 #include <QTest>
+#include <QThread>
 
 using namespace std::chrono_literals;
 
@@ -47,6 +48,18 @@ private Q_SLOTS:
         const int made = calls;
         QTest::qWait(40);
         QCOMPARE(calls, made);
+    }
+
+    void whatWasMissedIsNotMadeUpFor()
+    {
+        int calls = 0;
+        const ScheduledCall call = scheduler.every(50ms, [&] { ++calls; });
+        QThread::msleep(400); // the machine slept, or somebody stopped the process
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+
+        QVERIFY2(calls <= 2, qPrintable(QString::number(calls)));
+        QTRY_VERIFY(calls >= 3); // and then it goes on
     }
 
     void anActionMayDropItsOwnRequest()

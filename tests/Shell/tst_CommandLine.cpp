@@ -9,7 +9,42 @@ class TestCommandLine : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void startsWithoutArguments() { QVERIFY(!answerCommandLine({u"pelko"_s})); }
+    void opensWithoutArguments() { QCOMPARE(readCommandLine({u"pelko"_s}), CommandLine(OpenCommand())); }
+
+    void readsASpark_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("apart") << QStringList{u"pelko"_s, u"--spark"_s, u" a thought\nof two lines "_s};
+        QTest::newRow("together") << QStringList{u"pelko"_s, u"--spark= a thought\nof two lines "_s};
+    }
+
+    void readsASpark()
+    {
+        QFETCH(QStringList, arguments);
+        QCOMPARE(readCommandLine(arguments), CommandLine(SparkCommand{u" a thought\nof two lines "_s}));
+    }
+
+    void readsASparkThatLooksLikeAnOption()
+    {
+        QCOMPARE(readCommandLine({u"pelko"_s, u"--spark=--help"_s}), CommandLine(SparkCommand{u"--help"_s}));
+    }
+
+    void readsThePomodoro_data()
+    {
+        QTest::addColumn<QString>("word");
+        QTest::addColumn<PomodoroCommand::Verb>("verb");
+        QTest::newRow("start") << u"start"_s << PomodoroCommand::Verb::start;
+        QTest::newRow("pause") << u"pause"_s << PomodoroCommand::Verb::pause;
+        QTest::newRow("reset") << u"reset"_s << PomodoroCommand::Verb::reset;
+        QTest::newRow("status") << u"status"_s << PomodoroCommand::Verb::status;
+    }
+
+    void readsThePomodoro()
+    {
+        QFETCH(QString, word);
+        QFETCH(PomodoroCommand::Verb, verb);
+        QCOMPARE(readCommandLine({u"pelko"_s, u"--pomodoro"_s, word}), CommandLine(PomodoroCommand{verb}));
+    }
 
     void answersHelp_data()
     {
@@ -21,7 +56,8 @@ private Q_SLOTS:
     void answersHelp()
     {
         QFETCH(QString, option);
-        const auto answer = answerCommandLine({u"pelko"_s, option});
+        const CommandLine read = readCommandLine({u"pelko"_s, option});
+        const auto *answer = std::get_if<CommandLineAnswer>(&read);
 
         QVERIFY(answer);
         QCOMPARE(answer->exitCode, 0);
@@ -41,22 +77,30 @@ private Q_SLOTS:
         QFETCH(QString, option);
         const CommandLineAnswer expected{u"pelko %1\n"_s.arg(QLatin1StringView(PELKO_VERSION)), 0};
 
-        QCOMPARE(answerCommandLine({u"pelko"_s, option}), std::optional(expected));
+        QCOMPARE(readCommandLine({u"pelko"_s, option}), CommandLine(expected));
     }
 
     void refusesWhatItDoesNotKnow_data()
     {
-        QTest::addColumn<QString>("argument");
-        QTest::newRow("long option") << u"--frobnicate"_s;
-        QTest::newRow("short option") << u"-x"_s;
-        QTest::newRow("value for a plain option") << u"--help=please"_s;
-        QTest::newRow("file") << u"page.txt"_s;
+        QTest::addColumn<QStringList>("words");
+        QTest::newRow("long option") << QStringList{u"--frobnicate"_s};
+        QTest::newRow("short option") << QStringList{u"-x"_s};
+        QTest::newRow("value for a plain option") << QStringList{u"--help=please"_s};
+        QTest::newRow("file") << QStringList{u"page.txt"_s};
+        QTest::newRow("spark without text") << QStringList{u"--spark"_s};
+        QTest::newRow("empty spark") << QStringList{u"--spark"_s, QString()};
+        QTest::newRow("blank spark") << QStringList{u"--spark"_s, u" \n\t "_s};
+        QTest::newRow("pomodoro without verb") << QStringList{u"--pomodoro"_s};
+        QTest::newRow("pomodoro with another verb") << QStringList{u"--pomodoro"_s, u"skip"_s};
+        QTest::newRow("two sparks") << QStringList{u"--spark"_s, u"a"_s, u"--spark"_s, u"b"_s};
+        QTest::newRow("spark and pomodoro") << QStringList{u"--spark"_s, u"a"_s, u"--pomodoro"_s, u"start"_s};
     }
 
     void refusesWhatItDoesNotKnow()
     {
-        QFETCH(QString, argument);
-        const auto answer = answerCommandLine({u"pelko"_s, argument});
+        QFETCH(QStringList, words);
+        const CommandLine read = readCommandLine(QStringList{u"pelko"_s} + words);
+        const auto *answer = std::get_if<CommandLineAnswer>(&read);
 
         QVERIFY(answer);
         QCOMPARE(answer->exitCode, 2);

@@ -6,7 +6,8 @@ import Pelko
 Item {
     id: root
 
-    readonly property TextEdit field: parent as TextEdit
+    // The field it stands in, of one line or of many.
+    readonly property var field: parent
     readonly property bool blinking: field?.activeFocus && field.selectedText === ""
 
     property int blinksLeft: 0

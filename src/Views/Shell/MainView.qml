@@ -73,6 +73,7 @@ FocusScope {
 
         anchors { left: parent.left; right: parent.right; top: parent.top }
         menuOpen: menu.open
+        timers: root.timers
         onMenuRequested: menu.popUpBelow(strip.menuButton)
     }
 

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Window
 import Pelko
@@ -8,6 +10,7 @@ Item {
     id: strip
 
     property bool menuOpen: false
+    property TimersViewModel timers: null
     readonly property alias menuButton: menuButton
     readonly property bool filled: Window.visibility === Window.Maximized || Window.visibility === Window.FullScreen
 
@@ -26,6 +29,18 @@ Item {
         active: strip.menuOpen
         onTriggered: strip.menuRequested()
         Accessible.role: Accessible.ButtonMenu
+    }
+
+    // A tray shows it where there is one.
+    Repeater {
+        model: strip.timers && !strip.timers.isInTray ? [strip.timers] : []
+
+        MenuBarTimerLabel {
+            required property TimersViewModel modelData
+
+            anchors { left: menuButton.right; leftMargin: Metrics.space8; verticalCenter: menuButton.verticalCenter }
+            timers: modelData
+        }
     }
 
     Row {

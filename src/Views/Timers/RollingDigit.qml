@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Window
 import Pelko
 
 /// One cell of a time. A new value comes in from below while the old one leaves upwards, fading.
@@ -22,7 +23,7 @@ Item {
     function change() {
         leavingValue = shownValue
         shownValue = value
-        if (rolls && !Motion.reduced && visible)
+        if (rolls && !Motion.reduced && visible && Window.visibility !== Window.Hidden)
             rolling.restart()
     }
 

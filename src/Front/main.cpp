@@ -1,0 +1,44 @@
+// What is started as "pelko". Another Pelko may have the data open already: then it gets the command line and
+// this process ends before it has loaded anything but the system's library. Otherwise the program itself
+// takes this process over.
+
+#include "Front/RunningInstance.h"
+#include "Front/UserDataFolder.h"
+
+#include <climits>
+#include <cstdio>
+#include <cstring>
+#include <unistd.h>
+
+namespace
+{
+std::string ownFolder()
+{
+    char path[PATH_MAX];
+    const ssize_t length = ::readlink("/proc/self/exe", path, sizeof path);
+    const std::string program(path, std::size_t(length > 0 ? length : 0));
+    return program.substr(0, program.rfind('/'));
+}
+
+/// Beside this one where both are built, below libexec where they are installed.
+int becomeTheProgram(char *argv[])
+{
+    const std::string folder = ownFolder();
+    for (const char *place : {"/pelko-window", "/../libexec/pelko-window"})
+        ::execv((folder + place).c_str(), argv);
+    std::fprintf(stderr, "pelko: %s/../libexec/pelko-window: %s\n", folder.c_str(), std::strerror(errno));
+    return 1;
+}
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const std::vector<std::string> arguments(argv + (argc > 0), argv + argc);
+    if (const auto folder = userDataFolder()) {
+        if (const auto answer = askRunningInstance(*folder + "/Pelko", arguments)) {
+            std::fputs(answer->text.c_str(), answer->exitCode == 0 ? stdout : stderr);
+            return answer->exitCode;
+        }
+    }
+    return becomeTheProgram(argv);
+}

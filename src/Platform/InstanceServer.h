@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Platform/FileDescriptor.h"
+#include "Shell/CommandLine.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+class QSocketNotifier;
+
+/// Listens beside the data for command lines that were given to another process, and answers them. Only the
+/// process that holds the lock of the folder may listen there. Where the file system knows no sockets nobody
+/// is heard, and a second start says so.
+class InstanceServer : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Answer = std::function<CommandLineAnswer(const QStringList &arguments)>;
+
+    InstanceServer(std::filesystem::path dataFolder, Answer answer, QObject *parent = nullptr);
+    ~InstanceServer() override;
+
+private:
+    void accept();
+
+    std::filesystem::path m_folder;
+    Answer m_answer;
+    FileDescriptor m_socket;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};

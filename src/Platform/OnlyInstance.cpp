@@ -1,0 +1,60 @@
+#include "Platform/OnlyInstance.h"
+
+#include "Front/RunningInstance.h"
+
+#include <cerrno>
+#include <chrono>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace
+{
+constexpr auto patience = 10s;
+constexpr auto betweenTries = 20ms;
+
+std::optional<CommandLineAnswer> ask(const std::filesystem::path &folder, const QStringList &arguments)
+{
+    std::vector<std::string> bytes;
+    for (const QString &argument : arguments.mid(1))
+        bytes.push_back(argument.toLocal8Bit().toStdString());
+    const auto answer = askRunningInstance(folder, bytes);
+    if (!answer)
+        return std::nullopt;
+    return CommandLineAnswer{QString::fromLocal8Bit(answer->text), answer->exitCode};
+}
+} // namespace
+
+OnlyInstance::OnlyInstance(std::filesystem::path dataFolder) : m_folder(std::move(dataFolder)) {}
+
+std::optional<CommandLineAnswer> OnlyInstance::yieldTo(const QStringList &arguments)
+{
+    const auto deadline = std::chrono::steady_clock::now() + patience;
+    do {
+        if (tryToLock() != Attempt::taken)
+            return std::nullopt;
+        if (auto answer = ask(m_folder, arguments))
+            return answer;
+        std::this_thread::sleep_for(betweenTries);
+    } while (std::chrono::steady_clock::now() < deadline);
+    return CommandLineAnswer{u"pelko: Another Pelko has these documents open and does not answer.\n"_s, 1};
+}
+
+OnlyInstance::Attempt OnlyInstance::tryToLock()
+{
+    std::error_code ignored;
+    std::filesystem::create_directories(m_folder.parent_path(), ignored);
+    ::mkdir(m_folder.c_str(), S_IRWXU);
+    FileDescriptor lock(::open((m_folder / "instance.lock").c_str(),
+                               O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
+    if (!lock.isOpen())
+        return Attempt::impossible;
+    if (::flock(lock.number(), LOCK_EX | LOCK_NB) != 0)
+        return errno == EWOULDBLOCK ? Attempt::taken : Attempt::impossible;
+    m_lock = std::move(lock);
+    return Attempt::locked;
+}

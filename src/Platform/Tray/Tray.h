@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Timers/TrayFace.h"
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QPoint>
+
+class QDBusServiceWatcher;
+class StatusNotifierItem;
+class TrayMenu;
+
+/// The program's item in the tray of the desktop, over the session bus. It enrols itself wherever a tray
+/// comes up, as often as one does, and is quiet where there is none. Nothing here waits for the bus.
+class Tray : public QObject
+{
+    Q_OBJECT
+
+public:
+    static const QString itemPath;
+    static const QString menuPath;
+
+    explicit Tray(QObject *parent = nullptr);
+
+    /// Whether somebody shows the item.
+    bool isPresent() const { return m_isPresent; }
+
+    /// Offers the item on `bus`, which need not be connected.
+    void connectTo(const QDBusConnection &bus);
+    void show(const TrayFace &face);
+
+Q_SIGNALS:
+    void isPresentChanged();
+    /// The item was clicked, at that place of the desktop.
+    void activated(const QPoint &place);
+    /// The other click, that of the middle button.
+    void secondaryActivated();
+    void chosen(TrayMenuRow::Command command);
+
+private Q_SLOTS:
+    void askForHost();
+    void loseBus();
+
+private:
+    void enrol();
+    void askWhetherLabelsAreDrawn();
+    void setPresent(bool present);
+
+    QDBusConnection m_bus;
+    StatusNotifierItem *m_item;
+    QObject *m_menuObject;
+    TrayMenu *m_menu;
+    QDBusServiceWatcher *m_watcher = nullptr;
+    QString m_serviceName;
+    bool m_isPresent = false;
+};

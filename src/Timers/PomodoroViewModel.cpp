@@ -1,0 +1,135 @@
+#include "Timers/PomodoroViewModel.h"
+
+#include "Services/Pasteboard.h"
+#include "Store/AppState.h"
+#include "Store/ChangeScope.h"
+#include "Timers/PomodoroReading.h"
+#include "Timers/PomodoroTimer.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace
+{
+constexpr qint64 dotLimit = 4;
+constexpr qsizetype cardLimit = 4;
+constexpr auto focusDelayWhenShown = 150ms;
+constexpr auto focusDelayAfterCapture = 50ms;
+} // namespace
+
+PomodoroViewModel::PomodoroViewModel(PomodoroTimer &timer, AppState &appState, Pasteboard &pasteboard,
+                                     Scheduler &scheduler, QObject *parent)
+    : QObject(parent)
+    , m_timer(timer)
+    , m_appState(appState)
+    , m_pasteboard(pasteboard)
+    , m_scheduler(scheduler)
+{
+    followTimer();
+    connect(&m_appState, &AppState::documentsChanged, this, &PomodoroViewModel::refreshSparks);
+    refreshSparks();
+}
+
+void PomodoroViewModel::followTimer()
+{
+    connect(&m_timer, &PomodoroTimer::timeRemainingChanged, this, &PomodoroViewModel::timeChanged);
+    // A phase decides how long the ring is.
+    connect(&m_timer, &PomodoroTimer::isFocusPhaseChanged, this, &PomodoroViewModel::timeChanged);
+    connect(&m_timer, &PomodoroTimer::isFocusPhaseChanged, this, &PomodoroViewModel::phaseChanged);
+    connect(&m_timer, &PomodoroTimer::isRunningChanged, this, &PomodoroViewModel::isRunningChanged);
+    connect(&m_timer, &PomodoroTimer::sessionCountChanged, this, &PomodoroViewModel::sessionsChanged);
+}
+
+QString PomodoroViewModel::displayTime() const
+{
+    return m_timer.displayTime();
+}
+
+double PomodoroViewModel::progress() const
+{
+    return phaseProgress(m_timer);
+}
+
+bool PomodoroViewModel::isRunning() const
+{
+    return m_timer.isRunning();
+}
+
+QString PomodoroViewModel::phase() const
+{
+    return m_timer.isFocusPhase() ? u"FOCUS"_s : u"BREAK"_s;
+}
+
+int PomodoroViewModel::sessionDots() const
+{
+    return int(std::min(m_timer.sessionCount(), dotLimit));
+}
+
+QString PomodoroViewModel::moreSessions() const
+{
+    const qint64 more = m_timer.sessionCount() - dotLimit;
+    return more > 0 ? u"+%1"_s.arg(more) : QString();
+}
+
+bool PomodoroViewModel::canSubmit() const
+{
+    return !QStringView(m_quickNote).trimmed().isEmpty();
+}
+
+void PomodoroViewModel::shown()
+{
+    focusCaptureAfter(focusDelayWhenShown);
+}
+
+void PomodoroViewModel::toggleTimer()
+{
+    startOrPause(m_timer);
+}
+
+void PomodoroViewModel::resetTimer()
+{
+    m_timer.reset();
+}
+
+void PomodoroViewModel::typed(const QString &text)
+{
+    ChangeScope(*this).assign(m_quickNote, text, &PomodoroViewModel::quickNoteChanged);
+}
+
+void PomodoroViewModel::submitSpark()
+{
+    if (!canSubmit())
+        return;
+    const std::optional<PelkoDocument> spark = m_appState.captureSpark(m_quickNote.trimmed());
+    if (!spark)
+        return;
+    m_lastCapturedID = spark->id;
+    refreshSparks();
+    typed({});
+    focusCaptureAfter(focusDelayAfterCapture);
+}
+
+void PomodoroViewModel::copySpark(const QString &sparkID)
+{
+    if (const PelkoDocument *spark = m_appState.document(QUuid(sparkID)))
+        m_pasteboard.put({.text = sparkText(*spark)});
+}
+
+void PomodoroViewModel::deleteSpark(const QString &sparkID)
+{
+    if (const PelkoDocument *spark = m_appState.document(QUuid(sparkID)))
+        m_appState.permanentlyDeleteDocument(*spark);
+    focusCaptureAfter(focusDelayAfterCapture); // the card that may have had the keyboard is gone
+}
+
+void PomodoroViewModel::refreshSparks()
+{
+    RecentSparks recent = recentSparks(m_appState.documents(), cardLimit, m_lastCapturedID);
+    m_sparks.publish(std::move(recent.cards));
+    ChangeScope(*this).assign(m_sparkCount, int(recent.total), &PomodoroViewModel::sparkCountChanged);
+}
+
+void PomodoroViewModel::focusCaptureAfter(std::chrono::milliseconds delay)
+{
+    m_delayedFocus = m_scheduler.after(delay, [this] { Q_EMIT captureFocusRequested(); });
+}

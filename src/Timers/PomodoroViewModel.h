@@ -1,0 +1,84 @@
+#pragma once
+
+#include "Services/Scheduler.h"
+#include "Timers/SparkListModel.h"
+
+class AppState;
+class Pasteboard;
+class PomodoroTimer;
+
+/// What the pomodoro panel shows and can do, from its opening to its closing: the timer, the field a spark
+/// is caught in, and the latest sparks. Timer and sparks live elsewhere and outlast it; what stands in the
+/// field does not.
+class PomodoroViewModel : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString displayTime READ displayTime NOTIFY timeChanged)
+    Q_PROPERTY(double progress READ progress NOTIFY timeChanged)
+    Q_PROPERTY(bool isRunning READ isRunning NOTIFY isRunningChanged)
+    Q_PROPERTY(QString phase READ phase NOTIFY phaseChanged)
+    Q_PROPERTY(int sessionDots READ sessionDots NOTIFY sessionsChanged)
+    Q_PROPERTY(QString moreSessions READ moreSessions NOTIFY sessionsChanged)
+    Q_PROPERTY(QString quickNote READ quickNote NOTIFY quickNoteChanged)
+    Q_PROPERTY(bool canSubmit READ canSubmit NOTIFY quickNoteChanged)
+    Q_PROPERTY(int sparkCount READ sparkCount NOTIFY sparkCountChanged)
+    Q_PROPERTY(QObject *sparks READ sparks CONSTANT)
+
+public:
+    PomodoroViewModel(PomodoroTimer &timer, AppState &appState, Pasteboard &pasteboard, Scheduler &scheduler,
+                      QObject *parent = nullptr);
+
+    QString displayTime() const;
+    /// How much of the phase has passed, from 0 to 1.
+    double progress() const;
+    bool isRunning() const;
+    /// "FOCUS" or "BREAK".
+    QString phase() const;
+    /// One for each completed session, four at most.
+    int sessionDots() const;
+    /// "+N" for the sessions that have no dot; empty when all have.
+    QString moreSessions() const;
+    /// What stands in the capture field.
+    const QString &quickNote() const { return m_quickNote; }
+    bool canSubmit() const;
+    /// Of all sparks.
+    int sparkCount() const { return m_sparkCount; }
+    QObject *sparks() { return &m_sparks; }
+
+    /// The panel is on screen: soon the field wants the keyboard.
+    Q_INVOKABLE void shown();
+    Q_INVOKABLE void toggleTimer();
+    Q_INVOKABLE void resetTimer();
+    /// The field holds `text` now.
+    Q_INVOKABLE void typed(const QString &text);
+    /// Captures what stands in the field, unless that is blank.
+    Q_INVOKABLE void submitSpark();
+    /// Puts all of the spark's text on the pasteboard.
+    Q_INVOKABLE void copySpark(const QString &sparkID);
+    Q_INVOKABLE void deleteSpark(const QString &sparkID);
+
+Q_SIGNALS:
+    void timeChanged();
+    void isRunningChanged();
+    void phaseChanged();
+    void sessionsChanged();
+    void quickNoteChanged();
+    void sparkCountChanged();
+    /// The capture field has to take the keyboard.
+    void captureFocusRequested();
+
+private:
+    void followTimer();
+    void refreshSparks();
+    void focusCaptureAfter(std::chrono::milliseconds delay);
+
+    PomodoroTimer &m_timer;
+    AppState &m_appState;
+    Pasteboard &m_pasteboard;
+    Scheduler &m_scheduler;
+    SparkListModel m_sparks;
+    int m_sparkCount = 0;
+    QString m_quickNote;
+    std::optional<QUuid> m_lastCapturedID;
+    ScheduledCall m_delayedFocus;
+};

@@ -1,0 +1,33 @@
+#include "Timers/SparkListModel.h"
+
+QVariant SparkListModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const SparkCard &card = rows().at(index.row());
+    switch (role) {
+    case SparkIDRole:
+        return card.id.toString(QUuid::WithoutBraces);
+    case TextRole:
+        return card.text;
+    case IsNewRole:
+        return card.isNew;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> SparkListModel::roleNames() const
+{
+    return {{SparkIDRole, "sparkID"}, {TextRole, "text"}, {IsNewRole, "isNew"}};
+}
+
+QList<int> SparkListModel::changedRoles(const SparkCard &before, const SparkCard &after) const
+{
+    QList<int> roles;
+    if (before.text != after.text)
+        roles.append(TextRole);
+    if (before.isNew != after.isNew)
+        roles.append(IsNewRole);
+    return roles;
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Editor/IdListModel.h"
+#include "Timers/RecentSparks.h"
+
+inline QUuid rowKey(const SparkCard &card)
+{
+    return card.id;
+}
+
+/// The sparks on cards for QML.
+class SparkListModel : public IdListModel<SparkCard>
+{
+    Q_OBJECT
+
+public:
+    enum Role { SparkIDRole = Qt::UserRole, TextRole, IsNewRole };
+
+    using IdListModel::IdListModel;
+
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+protected:
+    QList<int> changedRoles(const SparkCard &before, const SparkCard &after) const override;
+};

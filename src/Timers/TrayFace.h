@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+class PomodoroTimer;
+
+/// One entry of the tray's menu; a separator has no text.
+struct TrayMenuRow {
+    enum class Command { none, open, startOrPause, reset, quit };
+    Command command = Command::none;
+    QString text;
+
+    bool operator==(const TrayMenuRow &) const = default;
+};
+
+/// What the tray shows of the pomodoro.
+struct TrayFace {
+    bool isRunning = false;
+    /// Of the flame: 0.8 at rest; while the timer runs the two ends of its pulse, second by second.
+    double flameOpacity = 0.8;
+    /// From 0 to 1.
+    double progress = 0;
+    int minutesLeft = 25;
+    /// The remaining time beside the flame; empty at rest.
+    QString label;
+    QString toolTipTitle;
+    QString toolTipText;
+    QList<TrayMenuRow> menu;
+
+    bool operator==(const TrayFace &) const = default;
+};
+
+TrayFace trayFace(const PomodoroTimer &timer);

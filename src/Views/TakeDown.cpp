@@ -1,0 +1,27 @@
+#include "TakeDown.h"
+
+#include <QQuickItem>
+#include <QQuickWindow>
+
+namespace
+{
+// The layers of a window stand in its content.
+constexpr int layerDepth = 2;
+
+/// Uppermost first, because glass looks at what lies below.
+void takeDownItem(QQuickItem &item, int depth)
+{
+    QList<QQuickItem *> children = item.childItems();
+    while (!children.isEmpty()) {
+        QQuickItem *child = children.takeLast();
+        if (depth > 1)
+            takeDownItem(*child, depth - 1);
+        delete child;
+    }
+}
+} // namespace
+
+void takeDown(QQuickWindow &window)
+{
+    takeDownItem(*window.contentItem(), layerDepth);
+}

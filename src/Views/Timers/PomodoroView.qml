@@ -1,0 +1,89 @@
+import QtQuick
+import Pelko
+
+/// The pomodoro panel: the timer, the field that catches a spark, and the latest sparks, one below the other.
+FocusScope {
+    id: root
+
+    required property PomodoroViewModel panel
+
+    implicitWidth: Metrics.timerPanelWidth
+    implicitHeight: sections.height + 2 * Metrics.timerPanelPadding + Metrics.space6
+
+    Accessible.role: Accessible.Pane
+    Accessible.name: "Pomodoro"
+
+    Item {
+        id: surface
+
+        anchors.fill: parent
+
+        Rectangle {
+            anchors.fill: parent
+            color: FirePalette.deepBackground
+        }
+
+        Rectangle {
+            anchors.fill: parent
+            gradient: Gradient {
+                GradientStop { position: 0.5; color: Qt.alpha(FirePalette.amber, 0) }
+                GradientStop { position: 1; color: Qt.alpha(FirePalette.amber, 0.06) }
+            }
+        }
+
+        Column {
+            id: sections
+
+            x: Metrics.timerPanelPadding
+            y: Metrics.timerPanelPadding + Metrics.space6
+            width: parent.width - 2 * x
+
+            TimerSection {
+                anchors.horizontalCenter: parent.horizontalCenter
+                panel: root.panel
+            }
+
+            SectionLine {}
+
+            CaptureSection {
+                width: parent.width
+                focus: true
+                panel: root.panel
+            }
+
+            SectionLine {}
+
+            SparksSection {
+                width: parent.width
+                panel: root.panel
+                onMenuRequested: (sparkID, text, item, x, y) => menu.openFor(sparkID, text, item.mapToItem(root, x, y))
+            }
+        }
+    }
+
+    SparkMenu {
+        id: menu
+
+        panel: root.panel
+        backdrop: surface
+    }
+
+    // The window's own rim, so that a dark panel does not melt into a dark desktop.
+    Rectangle {
+        anchors.fill: parent
+        color: "transparent"
+        border.color: FirePalette.white(0.10)
+    }
+
+    component SectionLine: Item {
+        width: parent?.width ?? 0
+        height: 2 * Metrics.space14 + 0.5
+
+        Rectangle {
+            y: Metrics.space14
+            width: parent.width
+            height: 0.5
+            color: FirePalette.white(0.06)
+        }
+    }
+}

@@ -1,0 +1,34 @@
+import QtQuick
+import Pelko
+
+/// What can be done with one spark.
+PopupMenu {
+    id: menu
+
+    required property PomodoroViewModel panel
+    property string sparkID: ""
+
+    function openFor(id: string, text: string, place: point) {
+        sparkID = id
+        name = text
+        popUp(place.x, place.y)
+    }
+
+    name: ""
+    minimumWidth: 138
+
+    PopupMenuRow {
+        menu: menu
+        name: "Copy"
+        icon.name: "doc.on.doc"
+        onTriggered: menu.panel.copySpark(menu.sparkID)
+    }
+
+    PopupMenuRow {
+        menu: menu
+        name: "Delete"
+        icon.name: "trash"
+        destroys: true
+        onTriggered: menu.panel.deleteSpark(menu.sparkID)
+    }
+}

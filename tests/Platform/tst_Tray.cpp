@@ -1,0 +1,312 @@
+#include "Platform/PrivateBus.h"
+#include "Platform/Tray/StatusNotifierItem.h"
+#include "Platform/Tray/Tray.h"
+#include "Platform/Tray/TrayTypes.h"
+#include "Timers/TrayFace.h"
+
+#include <QDBusContext>
+#include <QDBusInterface>
+#include <QDBusPendingReply>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+const QString watcherName = u"org.kde.StatusNotifierWatcher"_s;
+
+/// The part of a desktop that keeps the list of items.
+class Watcher : public QObject, protected QDBusContext
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
+    Q_PROPERTY(bool IsStatusNotifierHostRegistered MEMBER hasHost)
+
+public:
+    explicit Watcher(const QDBusConnection &bus) : m_bus(bus)
+    {
+        m_bus.registerObject(u"/StatusNotifierWatcher"_s, this, QDBusConnection::ExportAllContents);
+        m_bus.registerService(watcherName);
+    }
+    ~Watcher() override
+    {
+        m_bus.unregisterService(watcherName);
+        m_bus.unregisterObject(u"/StatusNotifierWatcher"_s);
+    }
+    Q_DISABLE_COPY_MOVE(Watcher)
+
+    bool hasHost = true;
+    QStringList items;
+
+public Q_SLOTS:
+    void RegisterStatusNotifierItem(const QString &service) { items.append(service); }
+
+Q_SIGNALS:
+    void StatusNotifierHostRegistered();
+    void StatusNotifierHostUnregistered();
+
+private:
+    QDBusConnection m_bus;
+};
+
+TrayFace running()
+{
+    return {.isRunning = true,
+            .flameOpacity = 1.0,
+            .progress = 0.3,
+            .minutesLeft = 17,
+            .label = u"16:42"_s,
+            .toolTipTitle = u"16:42 of focus left"_s,
+            .toolTipText = u"2 sessions done"_s,
+            .menu = {{TrayMenuRow::Command::open, u"Open Pelko"_s},
+                     {TrayMenuRow::Command::startOrPause, u"Pause"_s},
+                     {TrayMenuRow::Command::none, {}},
+                     {TrayMenuRow::Command::quit, u"Quit"_s}}};
+}
+} // namespace
+
+class TestTray : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<PrivateBus> m_bus;
+    std::unique_ptr<Tray> m_tray;
+    QString m_item;
+
+    /// Lets the other side, which is this same thread, answer.
+    static QDBusMessage answered(const QDBusPendingCall &call)
+    {
+        QDBusPendingCallWatcher watcher(call);
+        const bool isFinished = QTest::qWaitFor([&] { return watcher.isFinished(); });
+        return isFinished ? watcher.reply() : QDBusMessage();
+    }
+
+    QDBusMessage callItem(const QString &path, const QString &interface, const QString &method,
+                          const QVariantList &arguments = {})
+    {
+        QDBusMessage message = QDBusMessage::createMethodCall(m_item, path, interface, method);
+        message.setArguments(arguments);
+        return answered(QDBusConnection(u"host"_s).asyncCall(message));
+    }
+
+    QDBusMessage callMenu(const QString &method, const QVariantList &arguments)
+    {
+        return callItem(u"/MenuBar"_s, u"com.canonical.dbusmenu"_s, method, arguments);
+    }
+
+    QVariant property(const QString &name)
+    {
+        const QDBusMessage reply = callItem(u"/StatusNotifierItem"_s, u"org.freedesktop.DBus.Properties"_s,
+                                            u"Get"_s, {u"org.kde.StatusNotifierItem"_s, name});
+        return reply.arguments().value(0).value<QDBusVariant>().variant();
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        m_bus = std::make_unique<PrivateBus>();
+        m_tray = std::make_unique<Tray>();
+        m_item = u"org.kde.StatusNotifierItem-%1-1"_s.arg(QCoreApplication::applicationPid());
+    }
+
+    void cleanup()
+    {
+        m_tray.reset();
+        m_bus.reset();
+    }
+
+    void enrolsWhereThereIsATray()
+    {
+        const Watcher watcher(m_bus->connection(u"host"_s));
+        const QSignalSpy present(m_tray.get(), &Tray::isPresentChanged);
+
+        m_tray->connectTo(m_bus->connection(u"pelko"_s));
+
+        QTRY_VERIFY(m_tray->isPresent());
+        QCOMPARE(watcher.items, QStringList{m_item});
+        QCOMPARE(present.count(), 1);
+    }
+
+    void isNotPresentWithoutATray()
+    {
+        m_tray->connectTo(m_bus->connection(u"pelko"_s));
+        QTest::qWait(50);
+        QVERIFY(!m_tray->isPresent());
+
+        const Watcher watcher(m_bus->connection(u"host"_s));
+
+        QTRY_VERIFY(m_tray->isPresent());
+    }
+
+    void isNotPresentWithoutABus()
+    {
+        m_tray->connectTo(QDBusConnection::connectToBus(u"unix:path=/nowhere"_s, u"pelko"_s));
+        m_tray->show(running());
+
+        QVERIFY(!m_tray->isPresent());
+        QDBusConnection::disconnectFromBus(u"pelko"_s);
+    }
+
+    void aListNobodyShowsIsNoTray()
+    {
+        Watcher watcher(m_bus->connection(u"host"_s));
+        watcher.hasHost = false;
+        m_tray->connectTo(m_bus->connection(u"pelko"_s));
+        QTRY_COMPARE(watcher.items.size(), 1);
+        QTest::qWait(50);
+        QVERIFY(!m_tray->isPresent());
+
+        watcher.hasHost = true;
+        Q_EMIT watcher.StatusNotifierHostRegistered();
+        QTRY_VERIFY(m_tray->isPresent());
+
+        watcher.hasHost = false;
+        Q_EMIT watcher.StatusNotifierHostUnregistered();
+        QTRY_VERIFY(!m_tray->isPresent());
+    }
+
+    void enrolsAgainWhenTheTrayComesBack()
+    {
+        const QDBusConnection host = m_bus->connection(u"host"_s);
+        auto watcher = std::make_unique<Watcher>(host);
+        m_tray->connectTo(m_bus->connection(u"pelko"_s));
+        QTRY_VERIFY(m_tray->isPresent());
+
+        watcher.reset();
+        QTRY_VERIFY(!m_tray->isPresent());
+        watcher = std::make_unique<Watcher>(host);
+
+        QTRY_VERIFY(m_tray->isPresent());
+        QCOMPARE(watcher->items, QStringList{m_item});
+    }
+
+    void aBusThatDiesTakesTheTrayWithIt()
+    {
+        const Watcher watcher(m_bus->connection(u"host"_s));
+        m_tray->connectTo(m_bus->connection(u"pelko"_s));
+        QTRY_VERIFY(m_tray->isPresent());
+
+        m_bus->kill();
+
+        QTRY_VERIFY(!m_tray->isPresent());
+        m_tray->show(running());
+    }
+
+    void tellsTheTimeInLabelAndToolTip()
+    {
+        const Watcher watcher(m_bus->connection(u"host"_s));
+        m_tray->connectTo(m_bus->connection(u"pelko"_s));
+        QTRY_VERIFY(m_tray->isPresent());
+        QCOMPARE(property(u"XAyatanaLabel"_s).toString(), QString());
+
+        m_tray->show(running());
+
+        QCOMPARE(property(u"XAyatanaLabel"_s).toString(), u"16:42"_s);
+        const auto toolTip = qdbus_cast<TrayToolTip>(property(u"ToolTip"_s));
+        QCOMPARE(toolTip.title, u"16:42 of focus left"_s);
+        QCOMPARE(toolTip.text, u"2 sessions done"_s);
+    }
+
+    void offersTheIconInSeveralSizes()
+    {
+        const Watcher watcher(m_bus->connection(u"host"_s));
+        m_tray->connectTo(m_bus->connection(u"pelko"_s));
+        QTRY_VERIFY(m_tray->isPresent());
+        m_tray->show(running());
+
+        const auto pixmaps = qdbus_cast<TrayPixmaps>(property(u"IconPixmap"_s));
+
+        QList<int> sizes;
+        for (const TrayPixmap &pixmap : pixmaps) {
+            sizes.append(pixmap.width);
+            QCOMPARE(pixmap.bytes.size(), 4 * pixmap.width * pixmap.height);
+        }
+        QCOMPARE(sizes, QList<int>({16, 22, 24, 32, 48}));
+    }
+
+    void announcesOnlyWhatChanged()
+    {
+        const StatusNotifierItem *item = m_tray->findChild<StatusNotifierItem *>();
+        const QSignalSpy icon(item, &StatusNotifierItem::NewIcon);
+        const QSignalSpy label(item, &StatusNotifierItem::XAyatanaNewLabel);
+        const QSignalSpy toolTip(item, &StatusNotifierItem::NewToolTip);
+
+        m_tray->show(running());
+        m_tray->show(running());
+        QCOMPARE(icon.count() + label.count() + toolTip.count(), 3);
+
+        TrayFace next = running();
+        next.flameOpacity = 0.5;
+        m_tray->show(next);
+        QCOMPARE(icon.count(), 2);
+        QCOMPARE(label.count() + toolTip.count(), 2);
+    }
+
+    void clicksArriveWithTheirPlace()
+    {
+        const Watcher watcher(m_bus->connection(u"host"_s));
+        m_tray->connectTo(m_bus->connection(u"pelko"_s));
+        QTRY_VERIFY(m_tray->isPresent());
+        const QSignalSpy activated(m_tray.get(), &Tray::activated);
+        const QSignalSpy secondary(m_tray.get(), &Tray::secondaryActivated);
+        const QString item = u"org.kde.StatusNotifierItem"_s;
+
+        callItem(u"/StatusNotifierItem"_s, item, u"Activate"_s, {1300, 12});
+        callItem(u"/StatusNotifierItem"_s, item, u"SecondaryActivate"_s, {1300, 12});
+        callItem(u"/StatusNotifierItem"_s, item, u"Scroll"_s, {1, u"vertical"_s});
+
+        QCOMPARE(activated.count(), 1);
+        QCOMPARE(activated[0][0].toPoint(), QPoint(1300, 12));
+        QCOMPARE(secondary.count(), 1);
+    }
+
+    void theMenuIsReadAndUsedOverTheBus()
+    {
+        const Watcher watcher(m_bus->connection(u"host"_s));
+        m_tray->connectTo(m_bus->connection(u"pelko"_s));
+        QTRY_VERIFY(m_tray->isPresent());
+        m_tray->show(running());
+        const QSignalSpy chosen(m_tray.get(), &Tray::chosen);
+
+        const QDBusMessage reply = callMenu(u"GetLayout"_s, {0, -1, QStringList()});
+        QCOMPARE(reply.signature(), u"u(ia{sv}av)"_s);
+        const auto root = qdbus_cast<TrayMenuNode>(reply.arguments().value(1));
+        QStringList labels;
+        for (const QDBusVariant &child : root.children) {
+            const auto row = qdbus_cast<TrayMenuNode>(child.variant());
+            labels.append(row.properties.value(u"label"_s, row.properties.value(u"type"_s)).toString());
+        }
+        QCOMPARE(labels, QStringList({u"Open Pelko"_s, u"Pause"_s, u"separator"_s, u"Quit"_s}));
+
+        callMenu(u"Event"_s, {2, u"hovered"_s, QVariant::fromValue(QDBusVariant(0)), 0U});
+        callMenu(u"Event"_s, {99, u"clicked"_s, QVariant::fromValue(QDBusVariant(0)), 0U});
+        QCOMPARE(chosen.count(), 0);
+        callMenu(u"Event"_s, {2, u"clicked"_s, QVariant::fromValue(QDBusVariant(0)), 0U});
+        QCOMPARE(chosen.count(), 1);
+        QCOMPARE(chosen[0][0].value<TrayMenuRow::Command>(), TrayMenuRow::Command::startOrPause);
+    }
+
+    void aMenuThatChangesIsReadAgain()
+    {
+        const Watcher watcher(m_bus->connection(u"host"_s));
+        m_tray->connectTo(m_bus->connection(u"pelko"_s));
+        QTRY_VERIFY(m_tray->isPresent());
+        m_tray->show(running());
+        const uint before = callMenu(u"GetLayout"_s, {0, -1, QStringList()}).arguments().value(0).toUInt();
+
+        TrayFace paused = running();
+        paused.menu[1].text = u"Start"_s;
+        m_tray->show(paused);
+
+        QVERIFY(callMenu(u"GetLayout"_s, {0, -1, QStringList()}).arguments().value(0).toUInt() > before);
+        const QDBusMessage start = callMenu(u"GetProperty"_s, {2, u"label"_s});
+        QCOMPARE(start.arguments().value(0).value<QDBusVariant>().variant().toString(), u"Start"_s);
+    }
+};
+
+QTEST_MAIN(TestTray)
+#include "tst_Tray.moc"
