@@ -71,6 +71,7 @@ QtObject {
     readonly property int quoteIndent: quoteBarWidth + 18
     readonly property int codePaddingX: 18
     readonly property int codePaddingY: 15
+    readonly property int codeTab: 32
     readonly property int stickyPadding: 18
     readonly property int emptyImageHeight: 100
     readonly property int bannerHeight: 280

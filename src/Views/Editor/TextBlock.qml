@@ -60,6 +60,7 @@ BlockEditor {
         keys: root.keys
         lineHeight: style.lineHeight
         placeholder: BlockKinds.named(root.kind).placeholder
+        tabStopDistance: Metrics.codeTab
         width: parent.width - 2 * x
         x: root.isCode ? Metrics.codePaddingX : root.isQuote ? Metrics.quoteIndent : 0
         y: root.isCode ? Metrics.codePaddingY : 0
