@@ -2,8 +2,6 @@
 
 #include "Editor/BlockOperations.h"
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace
@@ -40,6 +38,11 @@ QString nameOfAbove(const BlockRow &row)
     if (row.isBelowBanner)
         return u"banner"_s;
     return row.above ? rawValue(*row.above) : QString();
+}
+
+bool isKeyOf(const BlockRow &shown, const Block &block)
+{
+    return shown.block.id == block.id && rowEditor(shown.block.type) == rowEditor(block.type);
 }
 
 QList<BlockRow> rowsOf(const PelkoDocument &document)
@@ -91,14 +94,18 @@ void BlockListModel::publish(const PelkoDocument &document)
 
 bool BlockListModel::publishInPlace(const PelkoDocument &document)
 {
-    const auto key = [](const Block &block) { return std::pair(block.id, rowEditor(block.type)); };
-    if (!std::ranges::equal(
-            rows(), document.blocks, {}, [](const BlockRow &row) { return rowKey(row); }, key))
+    if (rows().size() != document.blocks.size())
         return false;
-    for (qsizetype row = 0; row < document.blocks.size(); ++row) {
-        if (!isRowOf(rows().at(row), document, row))
-            update(row, rowOf(document, row));
+    QList<qsizetype> changed;
+    for (qsizetype row = 0; row < rows().size(); ++row) {
+        if (isRowOf(rows().at(row), document, row))
+            continue;
+        if (!isKeyOf(rows().at(row), document.blocks.at(row)))
+            return false;
+        changed.append(row);
     }
+    for (const qsizetype row : changed)
+        update(row, rowOf(document, row));
     return true;
 }
 

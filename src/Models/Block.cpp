@@ -2,12 +2,22 @@
 
 #include <tuple>
 
+namespace
+{
+
+/// Versions of a page share the texts that did not change: most are told to be equal without being read.
+bool isSameText(const QString &one, const QString &other)
+{
+    return (one.constData() == other.constData() && one.size() == other.size()) || one == other;
+}
+
+} // namespace
+
 bool Block::operator==(const Block &other) const
 {
-    const auto others =
-        std::tie(other.id, other.type, other.content, other.todos, other.isFullWidth, other.bannerTitle);
-    return std::tie(id, type, content, todos, isFullWidth, bannerTitle) == others &&
-           isSamePicture(imageData, other.imageData);
+    const auto others = std::tie(other.id, other.type, other.todos, other.isFullWidth, other.bannerTitle);
+    return std::tie(id, type, todos, isFullWidth, bannerTitle) == others &&
+           isSameText(content, other.content) && isSamePicture(imageData, other.imageData);
 }
 
 bool isSamePicture(const std::optional<QByteArray> &one, const std::optional<QByteArray> &other)
