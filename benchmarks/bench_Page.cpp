@@ -60,7 +60,11 @@ public:
     }
 
     /// The items have to go while their window is there.
-    ~Stage() override { qDeleteAll(m_window->contentItem()->childItems()); }
+    ~Stage() override
+    {
+        qDeleteAll(m_window->contentItem()->childItems());
+        breathe();
+    }
 
     QQuickWindow &window() const { return *m_window; }
 
@@ -69,9 +73,16 @@ public:
     {
         for (int frame = 0; frame < frames; ++frame) {
             std::this_thread::sleep_for(frameTime);
-            QCoreApplication::processEvents();
+            breathe();
             draw();
         }
+    }
+
+    /// Does what an event loop does between two events.
+    void breathe()
+    {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
     void draw()
@@ -211,7 +222,7 @@ void play(benchmark::State &state, Stage &stage, Step step)
         const auto next = std::chrono::steady_clock::now() + frameTime;
         const Milliseconds start = worked();
         step();
-        QCoreApplication::processEvents();
+        stage.breathe();
         stage.draw();
         const Milliseconds work = worked() - start;
         state.SetIterationTime(work.count() / 1000);
