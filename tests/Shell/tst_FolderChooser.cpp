@@ -1,0 +1,241 @@
+#include "Shell/FolderChooser.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include <map>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+namespace fs = std::filesystem;
+using Entry = PictureFolders::Entry;
+
+/// Folders in memory. What is no folder is a file, and "locked" cannot be opened.
+class ManualPictureFolders : public PictureFolders
+{
+public:
+    QList<fs::path> places() const override { return {"/home/me", "/home/me/Pictures"}; }
+
+    ScheduledCall list(const fs::path &folder, Completion completion) override
+    {
+        const auto request = std::make_shared<Completion>(std::move(completion));
+        m_requests.emplace_back(folder, request);
+        return ScheduledCall(request);
+    }
+
+    /// The disk has found what it was asked for.
+    void answer()
+    {
+        for (const auto &[folder, waiting] : std::exchange(m_requests, {})) {
+            if (const auto tell = waiting.lock())
+                (*tell)(listing(folder));
+        }
+    }
+
+private:
+    static Listing listing(const fs::path &folder)
+    {
+        static const std::map<fs::path, QList<Entry>> folders{
+            {"/home/me", {{"/home/me/Pictures", true}, {"/home/me/cat.png", false}}},
+            {"/home/me/Pictures",
+             {{"/home/me/Pictures/alp.jpg", false},
+              {"/home/me/Pictures/Ant.jpg", false},
+              {"/home/me/Pictures/bee.jpg", false}}},
+            {"/home", {{"/home/me", true}}},
+            {"/", {{"/home", true}}}};
+        if (folder.filename() == "locked")
+            return FileError{u"Permission denied"_s};
+        const auto found = folders.find(folder);
+        return found == folders.end() ? Listing(File{}) : Listing(found->second);
+    }
+
+    std::vector<std::pair<fs::path, std::weak_ptr<Completion>>> m_requests;
+};
+
+QString written(const ImageChooser::Choice &choice)
+{
+    QStringList names;
+    for (const fs::path &file : std::get<QList<fs::path>>(choice))
+        names << QString::fromStdString(file.string());
+    return names.isEmpty() ? u"nothing"_s : names.join(u' ');
+}
+} // namespace
+
+class TestFolderChooser : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<ManualPictureFolders> folders;
+    std::unique_ptr<FolderChooser> chooser;
+    ScheduledCall request;
+    QStringList choices;
+
+    void choose()
+    {
+        request = chooser->choose([this](const ImageChooser::Choice &choice) { choices << written(choice); });
+        folders->answer();
+    }
+
+    QStringList names() const
+    {
+        const auto &model = *qobject_cast<QAbstractItemModel *>(chooser->entries());
+        QStringList found;
+        for (int row = 0; row < model.rowCount(); ++row) {
+            const QModelIndex index = model.index(row, 0);
+            const bool isFolder = index.data(FolderEntryModel::IsFolderRole).toBool();
+            found << index.data(FolderEntryModel::NameRole).toString() + (isFolder ? u"/"_s : QString());
+        }
+        return found;
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        folders = std::make_unique<ManualPictureFolders>();
+        chooser = std::make_unique<FolderChooser>(*folders);
+        request = {};
+        choices.clear();
+    }
+
+    void cleanup()
+    {
+        request = {};
+        chooser.reset();
+    }
+
+    void itOpensInTheHomeFolder()
+    {
+        QVERIFY(!chooser->isOpen());
+        choose();
+        QVERIFY(chooser->isOpen());
+        QCOMPARE(chooser->folder(), u"/home/me"_s);
+        QCOMPARE(chooser->place(), 0);
+        QCOMPARE(chooser->places(), (QStringList{u"me"_s, u"Pictures"_s}));
+        QCOMPARE(names(), (QStringList{u"Pictures/"_s, u"cat.png"_s}));
+    }
+
+    void aFolderIsEnteredAndAPictureChosen()
+    {
+        choose();
+        chooser->take(0);
+        folders->answer();
+        QCOMPARE(chooser->folder(), u"/home/me/Pictures"_s);
+        chooser->take(2);
+        QCOMPARE(choices, QStringList{u"/home/me/Pictures/bee.jpg"_s});
+        QVERIFY(!chooser->isOpen());
+    }
+
+    void itOpensAgainWhereItWas()
+    {
+        choose();
+        chooser->take(0);
+        folders->answer();
+        chooser->cancel();
+        choose();
+        QCOMPARE(chooser->folder(), u"/home/me/Pictures"_s);
+    }
+
+    void goingUpBeginsWhereOneCameFrom()
+    {
+        choose();
+        chooser->goToPlace(1);
+        folders->answer();
+        QSignalSpy listed(chooser.get(), &FolderChooser::listed);
+        chooser->goUp();
+        folders->answer();
+        QCOMPARE(chooser->folder(), u"/home/me"_s);
+        QCOMPARE(listed.value(0).value(0).toInt(), 0);
+    }
+
+    void fromTheTopThereIsNoWayUp()
+    {
+        choose();
+        chooser->goTo(u"/"_s);
+        folders->answer();
+        QVERIFY(!chooser->canGoUp());
+        chooser->goUp();
+        folders->answer();
+        QCOMPARE(chooser->folder(), u"/"_s);
+    }
+
+    void aTypedPathIsGoneTo_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("whole") << u"/home"_s << u"/home"_s;
+        QTest::newRow("home") << u"~"_s << u"/home/me"_s;
+        QTest::newRow("in home") << u" ~/Pictures/ "_s << u"/home/me/Pictures"_s;
+        QTest::newRow("from here") << u"Pictures"_s << u"/home/me/Pictures"_s;
+        QTest::newRow("up") << u".."_s << u"/home"_s;
+    }
+
+    void aTypedPathIsGoneTo()
+    {
+        QFETCH(const QString, typed);
+        QFETCH(const QString, folder);
+        choose();
+        chooser->goTo(typed);
+        folders->answer();
+        QCOMPARE(chooser->folder(), folder);
+    }
+
+    void aTypedFileIsChosen()
+    {
+        choose();
+        chooser->goTo(u"cat.png"_s);
+        folders->answer();
+        QCOMPARE(choices, QStringList{u"/home/me/cat.png"_s});
+    }
+
+    void aFolderThatCannotBeShownSaysWhyAndTheOldOneStays()
+    {
+        choose();
+        chooser->goTo(u"locked"_s);
+        folders->answer();
+        QCOMPARE(chooser->problem(), u"Permission denied"_s);
+        QCOMPARE(chooser->folder(), u"/home/me"_s);
+        chooser->take(0);
+        folders->answer();
+        QCOMPARE(chooser->problem(), QString());
+    }
+
+    void cancellingChoosesNothing()
+    {
+        choose();
+        chooser->cancel();
+        QCOMPARE(choices, QStringList{u"nothing"_s});
+        QVERIFY(!chooser->isOpen());
+    }
+
+    void droppingTheRequestClosesTheChooserWithoutAWord()
+    {
+        choose();
+        request = {};
+        QVERIFY(!chooser->isOpen());
+        QCOMPARE(choices, QStringList());
+    }
+
+    void lettersFindTheNextNameThatBeginsSo()
+    {
+        choose();
+        chooser->goToPlace(1);
+        folders->answer();
+        QCOMPARE(chooser->rowStartingWith(u"b"_s, 0), 2);
+        QCOMPARE(chooser->rowStartingWith(u"a"_s, 1), 1);
+        QCOMPARE(chooser->rowStartingWith(u"AL"_s, 1), 0);
+        QCOMPARE(chooser->rowStartingWith(u"z"_s, 0), -1);
+    }
+
+    void aRowThatIsNotThereChoosesNothing()
+    {
+        choose();
+        chooser->take(-1);
+        chooser->take(9);
+        QVERIFY(chooser->isOpen());
+    }
+};
+
+QTEST_APPLESS_MAIN(TestFolderChooser)
+#include "tst_FolderChooser.moc"
