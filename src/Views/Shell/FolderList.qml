@@ -68,6 +68,7 @@ FocusScope {
             required property bool isFolder
 
             Accessible.role: Accessible.ListItem
+            Keys.enabled: false // the list, which hands its focus to the current row, knows what keys do
             Accessible.selected: chosen
             chosen: ListView.isCurrentItem
             focusPolicy: Qt.NoFocus
