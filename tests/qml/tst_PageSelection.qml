@@ -373,7 +373,23 @@ Item {
             open(three())
             select("first", 2, "third", 2)
             press("Tab")
-            compare(selected().replace("th", ""), "||")
+            compare(selected(), "||")
+        }
+
+        function test_tab_in_code_leaves_what_was_selected_in_place() {
+            open([{ type: "textSmall", content: "first" }, { type: "code", content: "code" }])
+            select("first", 2, "code", 2)
+            press("Tab")
+            compare(contents(), "first|co\tde")
+        }
+
+        function test_undo_brings_the_caret_back_to_where_the_selection_ended() {
+            open(three())
+            select("first", 2, "third", 3)
+            press("Delete Ctrl+Z")
+            compare(contents(), "first|second|third")
+            keyClick("X")
+            compare(contents(), "first|second|thiXrd")
         }
 
         function test_an_empty_text_in_the_middle_is_seen_selected() {

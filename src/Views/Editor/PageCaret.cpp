@@ -141,6 +141,13 @@ void PageCaret::select(const BlockSelection &selection)
     }
 }
 
+void PageCaret::giveUp()
+{
+    m_selection->clear();
+    if (m_current)
+        m_current->deselect();
+}
+
 void PageCaret::focus(FieldCaret &field)
 {
     const QScopedValueRollback moving(m_isMoving, true);

@@ -54,6 +54,8 @@ public:
     /// Selects, and leaves the focus where it is.
     void show(const BlockSelection &selection);
 
+    /// Selects nothing any more, and leaves the caret where it is.
+    void giveUp();
     /// A field got the focus.
     void entered(FieldCaret &field);
     /// The view has scrolled under the pointer.

@@ -99,7 +99,7 @@ bool PageKeys::change(const QKeyEvent &event)
         selection().replace(key.text);
         return true;
     case SelectionKey::Action::leave:
-        selection().clear();
+        m_page.giveUp();
         return false;
     case SelectionKey::Action::none:
         return false;
