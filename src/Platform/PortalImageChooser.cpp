@@ -2,9 +2,9 @@
 
 #include "Platform/PortalRequest.h"
 
-PortalImageChooser::PortalImageChooser(const QDBusConnection &bus, ParentWindow parentWindow,
+PortalImageChooser::PortalImageChooser(QDBusConnection bus, ParentWindow parentWindow,
                                        ImageChooser &otherwise)
-    : m_bus(bus)
+    : m_bus(std::move(bus))
     , m_parentWindow(std::move(parentWindow))
     , m_otherwise(otherwise)
 {

@@ -12,7 +12,7 @@ public:
     /// Names the window that the chooser belongs to, in the way the desktop names windows; empty for none.
     using ParentWindow = std::function<QString()>;
 
-    PortalImageChooser(const QDBusConnection &bus, ParentWindow parentWindow, ImageChooser &otherwise);
+    PortalImageChooser(QDBusConnection bus, ParentWindow parentWindow, ImageChooser &otherwise);
 
     ScheduledCall choose(Completion completion) override;
 

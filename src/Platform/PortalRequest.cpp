@@ -28,6 +28,8 @@ struct Filter {
     QList<Pattern> patterns;
 };
 
+// NOLINTBEGIN(bugprone-return-const-ref-from-parameter): the bus wants its operators in this form
+
 QDBusArgument &operator<<(QDBusArgument &argument, const Pattern &pattern)
 {
     argument.beginStructure();
@@ -59,6 +61,8 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, Filter &filter)
     argument.endStructure();
     return argument;
 }
+
+// NOLINTEND(bugprone-return-const-ref-from-parameter)
 
 QVariantMap optionsFor(const QString &token)
 {
@@ -97,9 +101,9 @@ QString requestPath(const QDBusConnection &bus, const QString &token)
 }
 } // namespace
 
-PortalRequest::PortalRequest(const QDBusConnection &bus, ImageChooser::Completion completion,
+PortalRequest::PortalRequest(QDBusConnection bus, ImageChooser::Completion completion,
                              ImageChooser &otherwise)
-    : m_bus(bus)
+    : m_bus(std::move(bus))
     , m_completion(std::move(completion))
     , m_otherwise(otherwise)
 {

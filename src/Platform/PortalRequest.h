@@ -15,7 +15,7 @@ class PortalRequest : public QObject
     Q_OBJECT
 
 public:
-    PortalRequest(const QDBusConnection &bus, ImageChooser::Completion completion, ImageChooser &otherwise);
+    PortalRequest(QDBusConnection bus, ImageChooser::Completion completion, ImageChooser &otherwise);
     ~PortalRequest() override;
 
     void send(const QString &parentWindow);

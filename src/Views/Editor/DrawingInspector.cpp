@@ -113,7 +113,7 @@ bool reachesOut(const QXmlStreamReader &xml)
     if (xml.name() != "image"_L1)
         return false;
     const QXmlStreamAttributes attributes = xml.attributes();
-    return std::any_of(attributes.begin(), attributes.end(), [](const QXmlStreamAttribute &attribute) {
+    return std::ranges::any_of(attributes, [](const QXmlStreamAttribute &attribute) {
         return attribute.name() == "href"_L1 && !isPhoto(attribute.value());
     });
 }
