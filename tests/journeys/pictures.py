@@ -1,5 +1,6 @@
 """Fills an image block through the file chooser with keys alone, makes the picture a banner, titles it, and back."""
 
+import base64
 import pathlib
 import struct
 import zlib
@@ -29,7 +30,7 @@ def write_pictures(home):
 
 
 def picture_blocks(saved):
-    return [block for block in library.page(saved)["blocks"] if block["type"] == "image"]
+    return [block for block in library.page(saved)["blocks"] if "imageData" in block]
 
 
 def fill_by_keys(pelko):
@@ -64,8 +65,6 @@ def pictures(pelko):
     fill_by_keys(pelko)
     pelko.wait_saved(lambda saved: picture_blocks(saved), "a picture")
     pelko.wait_gone("Files")
-    import base64
-
     stored = picture_blocks(pelko.saved())[0]["imageData"]
     assert base64.b64decode(stored) == (folder / "dawn.png").read_bytes(), "the bytes are kept as they are"
 
