@@ -135,6 +135,9 @@ Item {
             open([{ type: "textLarge" }, { type: "quote", content: "q" }])
             const placeholder = everything(page).find(item => item.text === "Start writing..." && item.visible)
             verify(placeholder)
+            const caret = placeholder.parent.cursorRectangle
+            compare(placeholder.y, caret.y)
+            verify(Math.abs(placeholder.height - caret.height) <= 1, "it stands where its letters will")
             type("a")
             verify(!placeholder.visible)
         }

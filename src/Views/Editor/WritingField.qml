@@ -100,14 +100,14 @@ TextEdit {
 
     Text {
         Accessible.ignored: true
-        anchors.fill: parent
+        anchors { left: parent.left; right: parent.right }
         color: FirePalette.inkPlaceholder
         elide: Text.ElideRight
         font: root.font
-        lineHeight: root.lineHeight
-        lineHeightMode: root.lineHeight > 0 ? Text.FixedHeight : Text.ProportionalHeight
         renderType: Text.NativeRendering
         text: root.placeholder
         visible: root.length === 0 && root.preeditText === ""
+        // Where the letters of the field will stand in their line.
+        y: root.cursorRectangle.y
     }
 }
