@@ -15,6 +15,7 @@ FIELDS = {Role.TEXT, Role.ENTRY, Role.PARAGRAPH}
 def application(process_id):
     """The root of a process's tree, or None while it has not said hello."""
     desktop = Atspi.get_desktop(0)
+    desktop.clear_cache()  # no main loop runs here that would tell of newcomers
     for index in range(desktop.get_child_count()):
         child = desktop.get_child_at_index(index)
         try:
