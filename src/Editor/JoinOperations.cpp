@@ -96,9 +96,8 @@ Edit leaveChecklist(PelkoDocument document, qsizetype row)
     todos.removeFirst();
     FocusTarget start = edgeOf(document.blocks.at(row), true);
     if (!first.text.isEmpty()) {
-        const Block left(BlockType::textSmall, first.text);
-        start = {.blockID = left.id, .caret = 0};
-        document.blocks.insert(row, left);
+        document.blocks.insert(row, Block(BlockType::textSmall, first.text));
+        start = {.blockID = document.blocks.at(row).id, .caret = 0};
     }
     return {.document = std::move(document), .focus = start};
 }

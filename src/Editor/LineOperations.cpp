@@ -46,9 +46,8 @@ FocusTarget insertBelow(PelkoDocument &document, const Field &field, const QStri
 {
     Block &block = document.blocks[field.row];
     if (field.todo < 0) {
-        const Block rest(BlockType::textSmall, text);
-        document.blocks.insert(field.row + 1, rest);
-        return {.blockID = rest.id, .caret = 0};
+        document.blocks.insert(field.row + 1, Block(BlockType::textSmall, text));
+        return {.blockID = document.blocks.at(field.row + 1).id, .caret = 0};
     }
     const TodoItem rest{.text = text};
     block.todos->insert(field.todo + 1, rest);
