@@ -107,7 +107,7 @@ TextEdit {
         renderType: Text.NativeRendering
         text: root.placeholder
         visible: root.length === 0 && root.preeditText === ""
-        // Where the letters of the field will stand in their line.
-        y: root.cursorRectangle.y
+        // A line of fixed height has its letters at the foot.
+        y: root.lineHeight > 0 ? root.lineHeight - height : 0
     }
 }
