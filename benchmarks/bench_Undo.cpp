@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <functional>
 #include <malloc.h>
+#include <span>
 
 using namespace Qt::StringLiterals;
 
@@ -28,11 +29,14 @@ qint64 heapInUse()
 PelkoDocument writtenPage(qsizetype letters, int pictures)
 {
     PelkoDocument page(Space::work, 0);
-    for (int row = 0; row < 50; ++row)
-        page.blocks.append(Block(BlockType::textSmall, QString(letters, u'x')));
-    for (int row = 0; row < pictures; ++row) {
-        page.blocks.append(Block(BlockType::image));
-        page.blocks.last().imageData = QByteArray(3'000'000, 'x');
+    page.blocks.resize(50 + pictures);
+    for (Block &block : page.blocks) {
+        block.id = QUuid::createUuid();
+        block.content = QString(letters, u'x');
+    }
+    for (Block &picture : std::span(page.blocks).last(std::size_t(pictures))) {
+        picture.type = BlockType::image;
+        picture.imageData = QByteArray(3'000'000, 'x');
     }
     return page;
 }
