@@ -1,6 +1,7 @@
 #include "Editor/BlockListModel.h"
 
 #include "Editor/BlockOperations.h"
+#include "Editor/PictureBytes.h"
 
 using namespace Qt::StringLiterals;
 
@@ -144,7 +145,7 @@ QVariant BlockListModel::data(const QModelIndex &index, int role) const
     case ContentRole:
         return block.content;
     case ImageDataRole:
-        return block.imageData.value_or(QByteArray());
+        return QVariant::fromValue(PictureBytes{block.imageData.value_or(QByteArray())});
     case HasImageRole:
         return block.type == BlockType::image && block.imageData.has_value();
     case IsFullWidthRole:

@@ -48,6 +48,7 @@ public:
         /// "writing", "divider", "image" or "sticky"; never changes while the row lives.
         RowEditorRole,
         ContentRole,
+        /// As PictureBytes.
         ImageDataRole,
         HasImageRole,
         IsFullWidthRole,

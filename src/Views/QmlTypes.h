@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Editor/EditorViewModel.h"
+#include "Editor/PictureBytes.h"
 #include "Shell/FolderChooser.h"
 #include "Shell/LaunchSequence.h"
 #include "Shell/MainViewModel.h"
@@ -34,6 +35,12 @@ struct PageSelectionForQml {
     QML_FOREIGN(PageSelection)
     QML_NAMED_ELEMENT(PageSelection)
     QML_UNCREATABLE("Part of an editor.")
+};
+
+struct PictureBytesForQml {
+    Q_GADGET
+    QML_FOREIGN(PictureBytes)
+    QML_VALUE_TYPE(pictureBytes)
 };
 
 struct ImageImportForQml {

@@ -1,4 +1,5 @@
 #include "Editor/BlockListModel.h"
+#include "Editor/PictureBytes.h"
 #include "support/ModelLog.h"
 #include "support/PageText.h"
 
@@ -100,7 +101,7 @@ private Q_SLOTS:
         QCOMPARE(value(0, BlockListModel::KindRole), u"image"_s);
         QCOMPARE(value(0, BlockListModel::KindAboveRole), QString());
         QCOMPARE(value(0, BlockListModel::ContentRole), u"unused"_s);
-        QCOMPARE(value(0, BlockListModel::ImageDataRole), "picture"_ba);
+        QCOMPARE(value(0, BlockListModel::ImageDataRole).value<PictureBytes>().bytes, "picture"_ba);
         QCOMPARE(value(0, BlockListModel::HasImageRole), true);
         QCOMPARE(value(0, BlockListModel::IsFullWidthRole), true);
         QCOMPARE(value(0, BlockListModel::IsBannerRole), true);
@@ -129,7 +130,7 @@ private Q_SLOTS:
     void absentFieldsReadAsFalseOrEmpty()
     {
         show({block('A', heading)});
-        QCOMPARE(value(0, BlockListModel::ImageDataRole), QByteArray());
+        QCOMPARE(value(0, BlockListModel::ImageDataRole).value<PictureBytes>().bytes, QByteArray());
         QCOMPARE(value(0, BlockListModel::HasImageRole), false);
         QCOMPARE(value(0, BlockListModel::IsFullWidthRole), false);
         QCOMPARE(value(0, BlockListModel::BannerTitleRole), QString());

@@ -1,5 +1,7 @@
 #include "EditorBench.h"
 
+#include "Editor/PictureBytes.h"
+
 #include <QBuffer>
 #include <QColor>
 #include <QGuiApplication>
@@ -174,4 +176,11 @@ void EditorBench::pressTwice(QQuickItem *item, QPointF place) const
     send(QEvent::MouseButtonRelease, Qt::NoButton);
     send(QEvent::MouseButtonPress, Qt::LeftButton);
     send(QEvent::MouseButtonDblClick, Qt::LeftButton);
+}
+
+bool EditorBench::sharesBytes(QObject *picture, int row) const
+{
+    const auto shown = picture->property("imageData").value<PictureBytes>();
+    const QByteArray stored = m_appState.openDocument()->blocks.at(row).imageData.value();
+    return shown.bytes.constData() == stored.constData();
 }

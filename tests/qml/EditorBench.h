@@ -57,6 +57,8 @@ public:
     Q_INVOKABLE void choosePicture(const QString &picture);
     Q_INVOKABLE void chooseNothing();
     Q_INVOKABLE void failToChoose(const QString &why);
+    /// Whether what shows the picture of that row holds the bytes of the store and not a copy of them.
+    Q_INVOKABLE bool sharesBytes(QObject *picture, int row) const;
     /// Another program has copied a picture.
     Q_INVOKABLE void copyPicture(const QString &picture);
 

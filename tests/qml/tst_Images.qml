@@ -97,6 +97,11 @@ Item {
             tryVerify(() => colorAt(picture, 300, 150) === "#ff0000")
         }
 
+        function test_a_picture_is_shown_from_the_bytes_of_the_store() {
+            open([{ type: "image", picture: "red" }])
+            verify(bench.sharesBytes(pictures()[0], 0))
+        }
+
         function test_its_corners_are_round() {
             open([{ type: "image", picture: "red" }])
             tryVerify(() => colorAt(pictures()[0], 300, 150) === "#ff0000")

@@ -29,11 +29,11 @@ void BlockPicture::setBlockID(const QString &blockID)
     Q_EMIT blockIDChanged();
 }
 
-void BlockPicture::setImageData(const QByteArray &bytes)
+void BlockPicture::setImageData(const PictureBytes &picture)
 {
-    if (isSamePicture(m_imageData, bytes))
+    if (isSamePicture(m_imageData, picture.bytes))
         return;
-    m_imageData = bytes;
+    m_imageData = picture.bytes;
     look();
     Q_EMIT imageDataChanged();
 }

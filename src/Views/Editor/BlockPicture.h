@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Controls/PictureItem.h"
+#include "Editor/PictureBytes.h"
 #include "ImageCache.h"
 
 #include <QPointer>
@@ -12,7 +13,7 @@ class BlockPicture : public PictureItem
     Q_OBJECT
     Q_PROPERTY(ImageCache *images READ images WRITE setImages NOTIFY imagesChanged REQUIRED)
     Q_PROPERTY(QString blockID READ blockID WRITE setBlockID NOTIFY blockIDChanged REQUIRED)
-    Q_PROPERTY(QByteArray imageData READ imageData WRITE setImageData NOTIFY imageDataChanged)
+    Q_PROPERTY(PictureBytes imageData READ imageData WRITE setImageData NOTIFY imageDataChanged)
     Q_PROPERTY(qreal radius READ radius WRITE setRadius NOTIFY radiusChanged)
     /// Height divided by width; 0 while it is not known and when there is nothing to draw.
     Q_PROPERTY(qreal aspectRatio READ aspectRatio NOTIFY aspectRatioChanged)
@@ -24,7 +25,7 @@ public:
 
     ImageCache *images() const { return m_images; }
     QString blockID() const { return m_blockID.toString(QUuid::WithoutBraces); }
-    QByteArray imageData() const { return m_imageData; }
+    PictureBytes imageData() const { return {m_imageData}; }
     qreal radius() const { return m_radius; }
     qreal aspectRatio() const { return m_aspectRatio; }
     /// Whether there is something to draw, if only a preview.
@@ -32,7 +33,7 @@ public:
 
     void setImages(ImageCache *images);
     void setBlockID(const QString &blockID);
-    void setImageData(const QByteArray &bytes);
+    void setImageData(const PictureBytes &picture);
     void setRadius(qreal radius);
 
 Q_SIGNALS:

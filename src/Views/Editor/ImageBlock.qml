@@ -8,7 +8,7 @@ BlockEditor {
 
     required property string blockID
     required property bool hasImage
-    required property var imageData
+    required property pictureBytes imageData
     required property ImageCache images
     required property bool isBanner
     required property string bannerTitle

@@ -5,7 +5,7 @@ import Pelko
 BlockRow {
     id: root
 
-    required property var imageData
+    required property pictureBytes imageData
     required property bool isBanner
     required property string bannerTitle
 
