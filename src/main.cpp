@@ -79,6 +79,8 @@ int main(int argc, char *argv[])
     OnlyInstance instance(*support / "Pelko");
     if (const auto answer = instance.yieldTo(arguments(argc, argv)))
         return say(*answer);
+    if (const auto warning = instance.warning())
+        std::fputs(warning->toLocal8Bit().constData(), stderr);
     if (std::holds_alternative<PomodoroCommand>(commandLine))
         return say({u"pelko: Pelko is not running.\n"_s, 1});
     if (const auto *spark = std::get_if<SparkCommand>(&commandLine)) {

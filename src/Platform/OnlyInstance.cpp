@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <cstring>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -44,6 +45,14 @@ std::optional<CommandLineAnswer> OnlyInstance::yieldTo(const QStringList &argume
     return CommandLineAnswer{u"pelko: Another Pelko has these documents open and does not answer.\n"_s, 1};
 }
 
+std::optional<QString> OnlyInstance::warning() const
+{
+    if (m_error == 0 || m_error == EWOULDBLOCK)
+        return std::nullopt;
+    return u"pelko: The documents cannot be locked (%1): do not open them in another Pelko meanwhile.\n"_s
+        .arg(QString::fromLocal8Bit(std::strerror(m_error)));
+}
+
 OnlyInstance::Attempt OnlyInstance::tryToLock()
 {
     std::error_code ignored;
@@ -51,10 +60,11 @@ OnlyInstance::Attempt OnlyInstance::tryToLock()
     ::mkdir(m_folder.c_str(), S_IRWXU);
     FileDescriptor lock(::open((m_folder / "instance.lock").c_str(),
                                O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
-    if (!lock.isOpen())
-        return Attempt::impossible;
-    if (::flock(lock.number(), LOCK_EX | LOCK_NB) != 0)
-        return errno == EWOULDBLOCK ? Attempt::taken : Attempt::impossible;
+    if (!lock.isOpen() || ::flock(lock.number(), LOCK_EX | LOCK_NB) != 0) {
+        m_error = errno;
+        return m_error == EWOULDBLOCK ? Attempt::taken : Attempt::impossible;
+    }
+    m_error = 0;
     m_lock = std::move(lock);
     return Attempt::locked;
 }

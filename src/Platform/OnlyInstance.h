@@ -4,7 +4,8 @@
 #include "Shell/CommandLine.h"
 
 /// Sees to it that one process at a time has the data of a folder open: it holds a lock beside them. Where
-/// the folder cannot hold a lock (it is read-only, or the disk is full) the program goes without one.
+/// the folder cannot hold a lock (it is read-only, another user's, or on a server that keeps no locks) the
+/// program goes without one, and can say so.
 class OnlyInstance
 {
 public:
@@ -16,6 +17,9 @@ public:
 
     bool isLocked() const { return m_lock.isOpen(); }
 
+    /// A line for the user when this process is the one without a lock to show for it.
+    std::optional<QString> warning() const;
+
 private:
     enum class Attempt { locked, taken, impossible };
 
@@ -23,4 +27,5 @@ private:
 
     std::filesystem::path m_folder;
     FileDescriptor m_lock;
+    int m_error = 0; ///< why there is no lock
 };

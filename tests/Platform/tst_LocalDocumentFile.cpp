@@ -1,23 +1,13 @@
 #include "DataFolder.h"
+#include "Unprivileged.h"
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 namespace fs = std::filesystem;
 
 namespace
 {
-/// Ordinary user's rights for as long as it lives: nothing is read-only to root.
-struct Unprivileged {
-    bool worked = ::geteuid() != 0 || ::seteuid(65534) == 0;
-    ~Unprivileged()
-    {
-        if (::geteuid() != ::getuid() && ::seteuid(::getuid()) != 0)
-            qFatal("cannot go back to the user that the test began as");
-    }
-};
-
 int modeOf(const fs::path &file)
 {
     return int(fs::status(file).permissions());

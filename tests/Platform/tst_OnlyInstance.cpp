@@ -2,10 +2,15 @@
 #include "Platform/DataFolder.h"
 #include "Platform/InstanceServer.h"
 #include "Platform/OnlyInstance.h"
+#include "Platform/Unprivileged.h"
 
 #include <QTest>
 
+#include <csignal>
 #include <future>
+#include <sys/file.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
 
 using namespace Qt::StringLiterals;
 
@@ -34,7 +39,63 @@ CommandLineAnswer echo(const QStringList &arguments)
 {
     return {arguments.join('|'_L1), int(arguments.size())};
 }
+
+/// Another Pelko that has the folder open, until it is killed.
+class Holder
+{
+public:
+    explicit Holder(const std::filesystem::path &folder)
+    {
+        int ready[2];
+        if (::pipe(ready) != 0)
+            qFatal("no pipe");
+        m_process = ::fork();
+        if (m_process == 0)
+            hold(folder, ready[1]);
+        char mark = 0;
+        isHolding = ::read(ready[0], &mark, 1) == 1 && mark == 1;
+        ::close(ready[0]);
+        ::close(ready[1]);
+    }
+    ~Holder() { kill(); }
+    Holder(const Holder &) = delete;
+    Holder &operator=(const Holder &) = delete;
+
+    bool isHolding = false;
+
+    void kill()
+    {
+        if (m_process <= 0)
+            return;
+        ::kill(m_process, SIGKILL);
+        ::waitpid(m_process, nullptr, 0);
+        m_process = 0;
+    }
+
+private:
+    [[noreturn]] static void hold(const std::filesystem::path &folder, int ready)
+    {
+        OnlyInstance instance(folder);
+        const char mark = !instance.yieldTo({u"pelko"_s}) && instance.isLocked();
+        const InstanceServer server(folder, echo);
+        if (::write(ready, &mark, 1) != 1)
+            ::_exit(1);
+        while (true)
+            ::pause();
+    }
+
+    pid_t m_process = 0;
+};
+
+/// What asking for a lock fails with; 0 to have the system answer.
+int lockError = 0;
 } // namespace
+
+extern "C" int flock(int descriptor, int operation) noexcept
+{
+    errno = lockError;
+    return lockError ? -1 : int(::syscall(SYS_flock, descriptor, operation));
+}
 
 class TestOnlyInstance : public QObject
 {
@@ -87,12 +148,66 @@ private Q_SLOTS:
         QVERIFY(next.isLocked());
     }
 
+    void aHolderThatIsKilledLetsGoAtOnce()
+    {
+        const DataFolder data;
+        Holder holder(data.folder());
+        QVERIFY(holder.isHolding);
+        const int probe = ::open((data.folder() / "instance.lock").c_str(), O_RDWR | O_CLOEXEC);
+        QVERIFY(::flock(probe, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK);
+        ::close(probe);
+
+        holder.kill();
+
+        OnlyInstance next(data.folder());
+        QVERIFY(!next.yieldTo({u"pelko"_s}));
+        QVERIFY(next.isLocked() && !next.warning());
+        const InstanceServer server(data.folder(), echo); // in the place of the socket that was left
+        QVERIFY(settled(ask(data.folder(), {})));
+    }
+
     void aFolderThatCannotBeLockedIsNotInTheWay()
     {
         OnlyInstance instance("/proc/no such folder/Pelko");
 
         QVERIFY(!instance.yieldTo({u"pelko"_s}));
-        QVERIFY(!instance.isLocked());
+        QVERIFY(!instance.isLocked() && instance.warning());
+    }
+
+    void aServerThatKeepsNoLocksIsWarnedOf_data()
+    {
+        QTest::addColumn<int>("error");
+        QTest::newRow("no locks available") << ENOLCK;
+        QTest::newRow("not supported") << EOPNOTSUPP;
+    }
+
+    void aServerThatKeepsNoLocksIsWarnedOf()
+    {
+        QFETCH(const int, error);
+        const DataFolder data;
+        OnlyInstance instance(data.folder());
+        lockError = error;
+        const auto answer = instance.yieldTo({u"pelko"_s});
+        lockError = 0;
+
+        QVERIFY(!answer && !instance.isLocked());
+        QVERIFY(
+            instance.warning().value_or(QString()).contains(QString::fromLocal8Bit(std::strerror(error))));
+    }
+
+    void theLockOfAnotherUserIsWarnedOf()
+    {
+        DataFolder data;
+        OnlyInstance first(data.folder());
+        QVERIFY(!first.yieldTo({u"pelko"_s}));
+        if (::geteuid() != 0)
+            QSKIP("Only the superuser can act for a second user.");
+        data.openToEverybody();
+        const Unprivileged user;
+        OnlyInstance second(data.folder());
+
+        QVERIFY(!second.yieldTo({u"pelko"_s}));
+        QVERIFY(!second.isLocked() && second.warning());
     }
 
     void twoFoldersAreTwoInstances()

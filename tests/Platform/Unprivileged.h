@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <unistd.h>
+
+/// An ordinary user's rights for as long as it lives: nothing is read-only to root.
+struct Unprivileged {
+    Unprivileged() = default;
+    ~Unprivileged()
+    {
+        if (::geteuid() != ::getuid() && ::seteuid(::getuid()) != 0)
+            qFatal("cannot go back to the user that the test began as");
+    }
+    Unprivileged(const Unprivileged &) = delete;
+    Unprivileged &operator=(const Unprivileged &) = delete;
+
+    bool worked = ::geteuid() != 0 || ::seteuid(65534) == 0;
+};
