@@ -125,6 +125,22 @@ Item {
             verify(place().startsWith(row.to), place())
         }
 
+        function test_keys_leave_what_has_no_text_data() {
+            const ways = [{ keys: "Up", to: "above@0" }, { keys: "Left", to: "above@5" },
+                { keys: "Down", to: "below@0" }, { keys: "Right", to: "below@0" }]
+            const pictures = [{ type: "image" }, { type: "image", picture: "red" }, { type: "divider" }]
+            return [].concat(...pictures.map(picture => ways.map(way =>
+                ({ tag: picture.type + " " + (picture.picture ?? "") + way.keys, picture, keys: way.keys, to: way.to }))))
+        }
+
+        function test_keys_leave_what_has_no_text(row) {
+            open([{ type: "textSmall", content: "above" }, row.picture, { type: "textSmall", content: "below" }])
+            const block = everything(page).find(item => item instanceof BlockEditor && !(item instanceof TextBlock))
+            block.takeFocus("", -1)
+            press(row.keys)
+            compare(place(), row.to)
+        }
+
         function test_up_and_down_keep_their_column() {
             open([{ type: "textLarge", content: "A heading as wide as this" }, { type: "textSmall", content: "x" },
                 { type: "divider" }, { type: "quote" }, { type: "code", content: "abc\na long line of code, even wider than this one" },

@@ -24,10 +24,15 @@ void BlockPlace::setCovered(bool covered)
     Q_EMIT coveredChanged();
 }
 
+bool BlockPlace::hasFocus() const
+{
+    const QQuickItem *focused = m_item->window()->activeFocusItem();
+    return focused && (focused == m_item || focused == m_control);
+}
+
 bool BlockPlace::eventFilter(QObject *, QEvent *event)
 {
-    // Keys that a field has left unused come by here as well.
-    const bool isMine =
-        event->type() == QEvent::KeyPress && m_page && m_item->window()->activeFocusItem() == m_item;
+    // Keys that a field or a control has left unused come by here as well.
+    const bool isMine = event->type() == QEvent::KeyPress && m_page && hasFocus();
     return isMine && m_page->keys().pressed(*this, *static_cast<QKeyEvent *>(event));
 }

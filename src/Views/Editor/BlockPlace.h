@@ -7,7 +7,7 @@
 class PageCaret;
 
 /// Where a block stands on the page and whether it is selected as a whole. A block without text gives the
-/// keys that move the caret to the page.
+/// keys that move the caret to the page, also from the control that stands for it.
 class BlockPlace : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
@@ -16,6 +16,7 @@ class BlockPlace : public QObject, public QQmlParserStatus
     Q_PROPERTY(PageCaret *page MEMBER m_page REQUIRED)
     Q_PROPERTY(QString blockID MEMBER m_blockID REQUIRED)
     Q_PROPERTY(QQuickItem *item MEMBER m_item REQUIRED)
+    Q_PROPERTY(QQuickItem *control MEMBER m_control)
     Q_PROPERTY(bool covered READ isCovered NOTIFY coveredChanged)
     QML_ELEMENT
 
@@ -28,6 +29,9 @@ public:
     bool isCovered() const { return m_isCovered; }
     void setCovered(bool covered);
 
+    /// Whether it has the keyboard as a whole, and not in a field.
+    bool hasFocus() const;
+
     bool eventFilter(QObject *watched, QEvent *event) override;
     void classBegin() override {}
     void componentComplete() override;
@@ -39,5 +43,6 @@ private:
     QPointer<PageCaret> m_page;
     QString m_blockID;
     QPointer<QQuickItem> m_item;
+    QPointer<QQuickItem> m_control;
     bool m_isCovered = false;
 };

@@ -28,7 +28,7 @@ std::optional<PagePosition> CaretTravel::destination(const PagePosition &from, c
     if (key.move == CaretMove::start || key.move == CaretMove::end)
         return pageEnd(key.move == CaretMove::end, !key.extends);
     const Passage passage = passages.at(index);
-    const qreal x = isVertical(key.move) ? columnOf(from) : 0;
+    const qreal x = isVertical(key.move) ? columnOf(passage, from.offset) : 0;
     const auto to = step(passage, from.offset, key, x);
     if (to && isVertical(key.move))
         m_column = Column{.at = *to, .x = x};
@@ -38,7 +38,7 @@ std::optional<PagePosition> CaretTravel::destination(const PagePosition &from, c
 std::optional<PagePosition> CaretTravel::step(const Passage &passage, int offset, const CaretKey &key,
                                               qreal x)
 {
-    FieldCaret *field = passage.text ? m_page.field(passage.id) : nullptr;
+    FieldCaret *field = fieldOf(passage);
     if (!field)
         return over(passage, offset, key, x);
     if (key.move == CaretMove::pageUp || key.move == CaretMove::pageDown)
@@ -71,7 +71,7 @@ std::optional<PagePosition> CaretTravel::beyond(const Passage &passage, bool for
                                                                  .offset = forward ? passage.length() : 0})
                                     : std::nullopt;
     const Passage next = *found;
-    FieldCaret *field = next.text ? m_page.field(next.id) : nullptr;
+    FieldCaret *field = fieldOf(next);
     if (field && isVertical(key.move)) {
         const int offset = TextLines::endLine(field->text(), !forward, inField(*field, x));
         return PagePosition{.passage = next.id, .offset = offset};
@@ -101,13 +101,18 @@ std::optional<PagePosition> CaretTravel::pageEnd(bool forward, bool onlyInText) 
                 : std::nullopt;
 }
 
-qreal CaretTravel::columnOf(const PagePosition &position)
+FieldCaret *CaretTravel::fieldOf(const Passage &passage) const
 {
-    if (m_column && m_column->at == position)
+    return passage.text ? m_page.field(passage.id) : nullptr;
+}
+
+qreal CaretTravel::columnOf(const Passage &passage, int offset)
+{
+    if (m_column && m_column->at == PagePosition{.passage = passage.id, .offset = offset})
         return m_column->x;
-    FieldCaret *field = m_page.field(position.passage);
+    FieldCaret *field = fieldOf(passage);
     return field ? field->field()
-                       .mapToItem(&m_page.view(), QPointF(TextLines::xOf(field->text(), position.offset), 0))
+                       .mapToItem(&m_page.view(), QPointF(TextLines::xOf(field->text(), offset), 0))
                        .x()
                  : 0;
 }

@@ -14,6 +14,7 @@ Item {
         id: place
 
         blockID: root.blockID
+        control: root.block.control
         item: root.block
         page: root.caret
     }
