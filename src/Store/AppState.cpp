@@ -25,6 +25,17 @@ QList<PelkoDocument> newestFirst(const QList<PelkoDocument> &documents, Space sp
     std::ranges::stable_sort(found, std::ranges::greater(), &PelkoDocument::createdAt);
     return found;
 }
+
+/// Of pages made in the same instant the first in the list, as in a list of the newest first.
+std::optional<QUuid> newestOf(const QList<PelkoDocument> &documents, Space space)
+{
+    const PelkoDocument *newest = nullptr;
+    for (const PelkoDocument &document : documents) {
+        if (document.space == space && (!newest || document.createdAt > newest->createdAt))
+            newest = &document;
+    }
+    return newest ? std::optional(newest->id) : std::nullopt;
+}
 } // namespace
 
 AppState::AppState(Scheduler &scheduler, const Clock &clock, DocumentFile &file)
@@ -69,9 +80,7 @@ void AppState::setCurrentSpace(Space space)
 
 void AppState::setOpenDocumentID(std::optional<QUuid> id)
 {
-    if (m_openDocumentID != id)
-        Q_EMIT openDocumentIDAboutToChange();
-    ChangeScope(*this).assign(m_openDocumentID, id, &AppState::openDocumentIDChanged);
+    show(m_currentSpace, id);
 }
 
 void AppState::setShowDocLimitNudge(bool shown)
@@ -102,6 +111,18 @@ void AppState::setShowAbout(bool shown)
 void AppState::clearLastError()
 {
     setLastError(std::nullopt);
+}
+
+void AppState::switchSpace(Space space)
+{
+    const PelkoDocument *open = m_openDocumentID ? document(*m_openDocumentID) : nullptr;
+    show(space, open && open->space == space ? m_openDocumentID : newestOf(m_documents, space));
+}
+
+void AppState::showDocument(const QUuid &id)
+{
+    if (const PelkoDocument *wanted = document(id))
+        show(wanted->space, id);
 }
 
 void AppState::createDocument(Space space)
@@ -141,8 +162,7 @@ void AppState::permanentlyDeleteDocument(const PelkoDocument &document)
     if (m_documents.removeIf([&id](const PelkoDocument &other) { return other.id == id; }) > 0)
         scope.announce(&AppState::documentsChanged);
     if (m_openDocumentID == id) {
-        const QList<PelkoDocument> left = currentSpaceDocuments();
-        const auto next = left.isEmpty() ? std::nullopt : std::optional(left.first().id);
+        const std::optional<QUuid> next = newestOf(m_documents, m_currentSpace);
         scope.assign(m_openDocumentID, next, &AppState::openDocumentIDChanged);
     }
     debounceSave();
@@ -204,6 +224,15 @@ void AppState::load()
         m_documents = std::move(*documents);
     else
         m_lastError = u"Failed to load your documents."_s;
+}
+
+void AppState::show(Space space, std::optional<QUuid> id)
+{
+    if (m_openDocumentID != id)
+        Q_EMIT openDocumentIDAboutToChange();
+    ChangeScope changes(*this);
+    changes.assign(m_currentSpace, space, &AppState::currentSpaceChanged);
+    changes.assign(m_openDocumentID, id, &AppState::openDocumentIDChanged);
 }
 
 void AppState::debounceSave()

@@ -54,6 +54,11 @@ public:
     void setShowAbout(bool shown);
     void clearLastError();
 
+    /// Shows a space: the newest of its documents is opened, or none where it is empty. An open document that
+    /// lies in it stays open.
+    void switchSpace(Space space);
+    /// Opens a document and shows the space it lies in. An unknown id changes nothing.
+    void showDocument(const QUuid &id);
     /// Adds an empty page to `space` and opens it, or raises `showDocLimitNudge` when five are there.
     void createDocument(Space space);
     /// Replaces the document of the same id and stamps it as edited now. An unknown id changes nothing.
@@ -83,6 +88,7 @@ Q_SIGNALS:
 
 private:
     void load();
+    void show(Space space, std::optional<QUuid> id);
     void debounceSave();
     void setShowSavedIndicator(bool shown);
     void setLastError(std::optional<QString> error);

@@ -93,6 +93,74 @@ private Q_SLOTS:
         QCOMPARE(file.writes(), 1);
     }
 
+    // Spaces
+
+    void switchingTheSpaceOpensItsNewestDocument()
+    {
+        const QList documents{page(Space::work, 1), page(Space::ideas, 5), page(Space::ideas, 9),
+                              page(Space::ideas, 9)};
+        const auto state = start(documents);
+        state->switchSpace(Space::ideas);
+        QCOMPARE(state->currentSpace(), Space::ideas);
+        QCOMPARE(state->openDocumentID(), documents[2].id);
+        scheduler.advance(10s);
+        QCOMPARE(file.writes(), 0);
+    }
+
+    void switchingToAnEmptySpaceOpensNothing()
+    {
+        const auto state = start({page(Space::work, 1)});
+        state->switchSpace(Space::journal);
+        QCOMPARE(state->currentSpace(), Space::journal);
+        QCOMPARE(state->openDocumentID(), std::nullopt);
+    }
+
+    void switchingToTheSpaceOfTheOpenDocumentLeavesItOpen()
+    {
+        const QList documents{page(Space::work, 1), page(Space::work, 9)};
+        const auto state = start(documents);
+        QSignalSpy about(state.get(), &AppState::openDocumentIDAboutToChange);
+        state->switchSpace(Space::work);
+        QCOMPARE(state->openDocumentID(), documents[0].id);
+        QCOMPARE(about.size(), 0);
+    }
+
+    void theSpaceAndItsDocumentChangeTogether()
+    {
+        const QList documents{page(Space::work, 1), page(Space::journal, 1)};
+        const auto state = start(documents);
+        int heard = 0;
+        const auto look = [&] {
+            ++heard;
+            QCOMPARE(state->currentSpace(), Space::journal);
+            QCOMPARE(state->openDocumentID(), documents[1].id);
+        };
+        connect(state.get(), &AppState::currentSpaceChanged, this, look);
+        connect(state.get(), &AppState::openDocumentIDChanged, this, look);
+        QSignalSpy about(state.get(), &AppState::openDocumentIDAboutToChange);
+        state->switchSpace(Space::journal);
+        QCOMPARE(heard, 2);
+        QCOMPARE(about.size(), 1);
+    }
+
+    void showingADocumentShowsItsSpace()
+    {
+        const QList documents{page(Space::work, 1), page(Space::journal, 1), page(Space::journal, 9)};
+        const auto state = start(documents);
+        state->showDocument(documents[1].id);
+        QCOMPARE(state->currentSpace(), Space::journal);
+        QCOMPARE(state->openDocumentID(), documents[1].id);
+    }
+
+    void showingAnUnknownDocumentChangesNothing()
+    {
+        const QList documents{page(Space::work, 1), page(Space::journal, 1)};
+        const auto state = start(documents);
+        state->showDocument(QUuid::createUuid());
+        QCOMPARE(state->currentSpace(), Space::work);
+        QCOMPARE(state->openDocumentID(), documents[0].id);
+    }
+
     // Sparks
 
     void aSparkIsOneTrimmedLineInIdeasAndSavedAtOnce()
