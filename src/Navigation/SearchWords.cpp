@@ -1,0 +1,52 @@
+#include "Navigation/SearchWords.h"
+
+#include "Navigation/FoldedText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+/// Whether a word may end between two characters.
+bool isEdge(QChar before, QChar after)
+{
+    return !before.isLetterOrNumber() || !after.isLetterOrNumber();
+}
+} // namespace
+
+Found SearchWord::next(QStringView folded, qsizetype from) const
+{
+    const qsizetype place = m_matcher.indexIn(folded, from);
+    return place < 0 ? Found() : Found{fitAt(folded, place), place};
+}
+
+Found SearchWord::best(QStringView folded) const
+{
+    Found best;
+    for (Found found = next(folded, 0); found.fit != Fit::none; found = next(folded, found.place + 1)) {
+        if (found.fit > best.fit)
+            best = found;
+        if (best.fit == Fit::whole)
+            break;
+    }
+    return best;
+}
+
+Fit SearchWord::fitAt(QStringView folded, qsizetype place) const
+{
+    const qsizetype end = place + length();
+    const bool begins = place == 0 || isEdge(folded.at(place - 1), folded.at(place));
+    const bool ends = end == folded.size() || isEdge(folded.at(end - 1), folded.at(end));
+    if (!begins)
+        return Fit::within;
+    return ends ? Fit::whole : Fit::beginning;
+}
+
+SearchWords::SearchWords(QStringView typed)
+{
+    QStringList words = FoldedText::folded(typed).simplified().split(u' ', Qt::SkipEmptyParts);
+    if (words.size() > 1)
+        m_phrase.emplace(words.join(u' '));
+    words.removeDuplicates();
+    for (const QString &word : std::as_const(words))
+        m_words.emplace_back(word);
+}
