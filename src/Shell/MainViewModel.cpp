@@ -1,5 +1,6 @@
 #include "Shell/MainViewModel.h"
 
+#include "Shell/WindowTitle.h"
 #include "Store/AppState.h"
 #include "Store/ChangeScope.h"
 #include "Theme/PelkoVoice.h"
@@ -118,7 +119,7 @@ void MainViewModel::followOpenDocument()
     ChangeScope changes(*this);
     changes.assign(m_openDocumentID, open ? open->id.toString(QUuid::WithoutBraces) : QString(),
                    &MainViewModel::openDocumentIDChanged);
-    changes.assign(m_windowTitle, open ? u"%1 – Pelko"_s.arg(open->title().simplified()) : u"Pelko"_s,
+    changes.assign(m_windowTitle, ::windowTitle(open ? open->title() : QString()),
                    &MainViewModel::windowTitleChanged);
     if (!open)
         changes.assign(m_emptyMessage, PelkoVoice::pick(PelkoVoice::emptyNotesPool(), u"emptyNotes"_s),
