@@ -1,5 +1,6 @@
 #include "PelkoApp.h"
 
+#include "Platform/WindowStates.h"
 #include "Timers/PomodoroReading.h"
 #include "Views/TakeDown.h"
 
@@ -34,6 +35,7 @@ PelkoApp::PelkoApp()
                                    {u"timers"_s, QVariant::fromValue(&m_timers)},
                                    {u"folderChooser"_s, QVariant::fromValue(&m_folderChooser)}});
     m_engine.load(QUrl(u"qrc:/qt/qml/Pelko/Views/Shell/PelkoWindow.qml"_s));
+    followWindow();
 }
 
 /// The name under which a chooser of the desktop's own knows the window it belongs to.
@@ -62,12 +64,8 @@ QQuickWindow *PelkoApp::window() const
 
 void PelkoApp::bringToFront()
 {
-    if (!window())
-        return;
-    window()->setWindowStates(window()->windowStates() & ~Qt::WindowMinimized);
-    window()->show();
-    window()->raise();
-    window()->requestActivate();
+    if (window())
+        ::bringToFront(*window());
 }
 
 void PelkoApp::followRequests()
@@ -81,6 +79,16 @@ void PelkoApp::followRequests()
         m_tray.connectTo(QDBusConnection::sessionBus());
         m_onBus.connectTo(QDBusConnection::sessionBus());
         m_panel.prepareSoon();
+    });
+}
+
+void PelkoApp::followWindow()
+{
+    if (!window())
+        return;
+    QObject::connect(window(), &QWindow::visibleChanged, &m_main, [this](bool isOpen) {
+        if (!isOpen)
+            m_main.greet();
     });
 }
 
@@ -117,7 +125,7 @@ void PelkoApp::outliveTheWindow()
     QObject::connect(&m_tray, &Tray::isPresentChanged, &m_engine, [this] {
         m_return = m_scheduler.after(trayRestartTime, [this] {
             if (!m_tray.isPresent() && window() && !window()->isVisible())
-                window()->show();
+                window()->setVisible(true);
         });
     });
 }

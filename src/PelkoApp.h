@@ -38,6 +38,7 @@ private:
     QQuickWindow *window() const;
     void bringToFront();
     void followRequests();
+    void followWindow();
     void followTimer();
     void followTray();
     void outliveTheWindow();

@@ -11,8 +11,8 @@ MainViewModel::MainViewModel(AppState &appState, const EditorServices &services,
     : QObject(parent)
     , m_appState(appState)
     , m_services(services)
-    , m_topMessage(PelkoVoice::pick(PelkoVoice::greetingPool(), u"greeting"_s))
 {
+    greet();
     followStore();
     followOpenDocument();
     followError();
@@ -42,6 +42,12 @@ bool MainViewModel::showDocLimitNudge() const
 bool MainViewModel::showAbout() const
 {
     return m_appState.showAbout();
+}
+
+void MainViewModel::greet()
+{
+    ChangeScope(*this).assign(m_topMessage, PelkoVoice::pick(PelkoVoice::greetingPool(), u"greeting"_s),
+                              &MainViewModel::topMessageChanged);
 }
 
 EditorViewModel *MainViewModel::openEditor(const QString &documentID)

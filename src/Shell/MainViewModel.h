@@ -19,7 +19,7 @@ class MainViewModel : public QObject
     Q_PROPERTY(QString openDocumentID READ openDocumentID NOTIFY openDocumentIDChanged)
     Q_PROPERTY(EditorViewModel *editor READ editor NOTIFY editorChanged)
     Q_PROPERTY(QString windowTitle READ windowTitle NOTIFY windowTitleChanged)
-    Q_PROPERTY(QString topMessage READ topMessage CONSTANT)
+    Q_PROPERTY(QString topMessage READ topMessage NOTIFY topMessageChanged)
     Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY emptyMessageChanged)
     Q_PROPERTY(bool showNav READ showNav NOTIFY showNavChanged)
     Q_PROPERTY(bool showDocLimitNudge READ showDocLimitNudge NOTIFY showDocLimitNudgeChanged)
@@ -39,7 +39,7 @@ public:
     /// The editor that was opened last; null when it is gone.
     EditorViewModel *editor() const { return m_editor; }
     QString windowTitle() const { return m_windowTitle; }
-    /// The greeting of this window, the same for its whole life.
+    /// The greeting of the window, the same for as long as it is open.
     QString topMessage() const { return m_topMessage; }
     /// Picked again whenever the empty state comes up or the library changes behind it.
     QString emptyMessage() const { return m_emptyMessage; }
@@ -56,6 +56,8 @@ public:
     QString deleteConfirmText() const { return m_deleteConfirmText; }
     const QList<MenuCommand> &menuCommands() const { return ::menuCommands(); }
 
+    /// The window was closed: it opens with another greeting than before.
+    void greet();
     /// A new editor of that document. Whoever shows it calls its `release` when done.
     Q_INVOKABLE EditorViewModel *openEditor(const QString &documentID);
     /// Creates a document in the current space, or raises the limit alert.
@@ -75,6 +77,7 @@ Q_SIGNALS:
     void openDocumentIDChanged();
     void editorChanged();
     void windowTitleChanged();
+    void topMessageChanged();
     void emptyMessageChanged();
     void showNavChanged();
     void showDocLimitNudgeChanged();

@@ -308,7 +308,7 @@ private Q_SLOTS:
         QVERIFY(!program.appState.showNav());
     }
 
-    void theGreetingIsOneLineForTheWholeLifeOfTheWindow()
+    void theGreetingIsOneLineForAsLongAsTheWindowIsOpen()
     {
         Program program;
         const QString greeting = program.main.topMessage();
@@ -326,6 +326,19 @@ private Q_SLOTS:
             const MainViewModel next(program.appState, program.desktop.services(program.scheduler));
             QVERIFY(next.topMessage() != previous);
             previous = next.topMessage();
+        }
+    }
+
+    void aWindowThatIsOpenedAgainGreetsWithAnotherLine()
+    {
+        Program program;
+        QSignalSpy changes(&program.main, &MainViewModel::topMessageChanged);
+        for (int i = 1; i <= 30; ++i) {
+            const QString before = program.main.topMessage();
+            program.main.greet();
+            QVERIFY(program.main.topMessage() != before);
+            QVERIFY(PelkoVoice::greetingPool().contains(program.main.topMessage()));
+            QCOMPARE(changes.count(), i);
         }
     }
 
