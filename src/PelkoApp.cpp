@@ -70,8 +70,10 @@ void PelkoApp::bringToFront()
 
 void PelkoApp::followRequests()
 {
-    QObject::connect(&m_main, &MainViewModel::quitRequested, QCoreApplication::instance(),
+    QObject::connect(m_main.commands(), &ShellCommands::quitRequested, QCoreApplication::instance(),
                      &QCoreApplication::quit, Qt::QueuedConnection);
+    QObject::connect(m_main.commands(), &ShellCommands::fullScreenToggled, &m_engine,
+                     [this] { toggleFullScreen(*window()); });
     QObject::connect(&m_remote, &RemoteControl::openRequested, &m_engine, [this] { bringToFront(); });
     QObject::connect(&m_onBus, &ApplicationOnBus::openRequested, &m_engine, [this] { bringToFront(); });
     // The bus and the panel can wait until there is something to see; the launch card covers what they cost.
@@ -86,6 +88,8 @@ void PelkoApp::followWindow()
 {
     if (!window())
         return;
+    QObject::connect(window(), &QWindow::visibilityChanged, m_main.commands(),
+                     [this] { m_main.commands()->setFullScreen(fillsScreen(*window())); });
     QObject::connect(window(), &QWindow::visibleChanged, &m_main, [this](bool isOpen) {
         if (!isOpen)
             m_main.greet();

@@ -63,16 +63,6 @@ void MainViewModel::createDocument()
     m_appState.createDocument(m_appState.currentSpace());
 }
 
-void MainViewModel::run(const QString &commandID)
-{
-    if (commandID == "newDocument"_L1)
-        createDocument();
-    else if (commandID == "about"_L1)
-        m_appState.setShowAbout(true);
-    else if (commandID == "quit"_L1)
-        Q_EMIT quitRequested();
-}
-
 void MainViewModel::dismissNav()
 {
     m_appState.setShowNav(false);

@@ -2,7 +2,7 @@
 
 #include "Editor/EditorViewModel.h"
 #include "Models/PelkoDocument.h"
-#include "Shell/MenuCommands.h"
+#include "Shell/ShellCommands.h"
 
 #include <QObject>
 #include <QPointer>
@@ -29,7 +29,7 @@ class MainViewModel : public QObject
     Q_PROPERTY(QString errorText READ errorText NOTIFY errorTextChanged)
     Q_PROPERTY(bool showDeleteConfirmation READ showDeleteConfirmation NOTIFY docToDeleteChanged)
     Q_PROPERTY(QString deleteConfirmText READ deleteConfirmText NOTIFY deleteConfirmTextChanged)
-    Q_PROPERTY(QList<MenuCommand> menuCommands READ menuCommands CONSTANT)
+    Q_PROPERTY(ShellCommands *commands READ commands CONSTANT)
 
 public:
     MainViewModel(AppState &appState, const EditorServices &services, QObject *parent = nullptr);
@@ -54,7 +54,7 @@ public:
     bool showDeleteConfirmation() const { return m_docToDelete.has_value(); }
     /// Keeps its last value after the alert is gone.
     QString deleteConfirmText() const { return m_deleteConfirmText; }
-    const QList<MenuCommand> &menuCommands() const { return ::menuCommands(); }
+    ShellCommands *commands() { return &m_commands; }
 
     /// The window was closed: it opens with another greeting than before.
     void greet();
@@ -62,8 +62,6 @@ public:
     Q_INVOKABLE EditorViewModel *openEditor(const QString &documentID);
     /// Creates a document in the current space, or raises the limit alert.
     Q_INVOKABLE void createDocument();
-    /// Does what the menu command of that id says. An unknown id does nothing.
-    Q_INVOKABLE void run(const QString &commandID);
     Q_INVOKABLE void dismissNav();
     Q_INVOKABLE void dismissDocLimitNudge();
     Q_INVOKABLE void dismissAbout();
@@ -87,8 +85,6 @@ Q_SIGNALS:
     void errorTextChanged();
     void docToDeleteChanged();
     void deleteConfirmTextChanged();
-    /// The "Quit" command was given.
-    void quitRequested();
 
 private:
     void followStore();
@@ -97,6 +93,7 @@ private:
 
     AppState &m_appState;
     const EditorServices m_services;
+    ShellCommands m_commands{m_appState};
     QPointer<EditorViewModel> m_editor;
     QString m_openDocumentID;
     QString m_windowTitle;

@@ -4,10 +4,17 @@ using namespace Qt::StringLiterals;
 
 const QList<MenuCommand> &menuCommands()
 {
+    using Group = CommandGroup;
     static const QList<MenuCommand> commands{
-        {u"newDocument"_s, u"New Document"_s, u"plus"_s, u"Ctrl+N"_s},
-        {u"about"_s, u"About Pelko"_s, u"info.circle"_s, {}},
-        {u"quit"_s, u"Quit"_s, u"power"_s, u"Ctrl+Q"_s},
+        {u"newDocument"_s, u"New Document"_s, u"plus"_s, u"Ctrl+N"_s, Group::documents},
+        {u"ideas"_s, u"Ideas"_s, u"lightbulb"_s, u"Ctrl+1"_s, Group::spaces},
+        {u"work"_s, u"Work"_s, u"briefcase"_s, u"Ctrl+2"_s, Group::spaces},
+        {u"journal"_s, u"Journal"_s, u"book.closed"_s, u"Ctrl+3"_s, Group::spaces},
+        {u"pomodoro"_s, u"Pomodoro"_s, u"timer"_s, u"Ctrl+P"_s, Group::views},
+        {u"fullScreen"_s, u"Full screen"_s, u"arrow.up.left.and.arrow.down.right"_s, u"F11"_s, Group::views},
+        {u"about"_s, u"About Pelko"_s, u"info.circle"_s, {}, Group::program},
+        {u"quit"_s, u"Quit"_s, u"power"_s, u"Ctrl+Q"_s, Group::program},
+        {u"appMenu"_s, u"App menu"_s, {}, u"F10"_s, Group::none},
     };
     return commands;
 }

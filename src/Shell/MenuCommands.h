@@ -1,27 +1,21 @@
 #pragma once
 
 #include <QList>
-#include <QMetaType>
-#include <QObject>
 #include <QString>
 
-/// One command of the application: a row of the app menu and, when it has one, a key.
-struct MenuCommand {
-    Q_GADGET
-    Q_PROPERTY(QString id MEMBER id CONSTANT)
-    Q_PROPERTY(QString title MEMBER title CONSTANT)
-    Q_PROPERTY(QString symbol MEMBER symbol CONSTANT)
-    Q_PROPERTY(QString shortcut MEMBER shortcut CONSTANT)
+/// The groups of the app menu, in its order, with a hairline between any two. What belongs to none is given by its key
+/// alone.
+enum class CommandGroup { documents, spaces, views, program, none };
 
-public:
+/// One command of the program: what it is called wherever it is offered, and its key when it has one.
+struct MenuCommand {
     QString id;
     QString title;
     QString symbol;
     /// In portable words, where "Ctrl" is Command on a Mac; empty for none.
     QString shortcut;
-
-    bool operator==(const MenuCommand &) const = default;
+    CommandGroup group = CommandGroup::none;
 };
 
-/// Every command, in the order of the menu. The shortcuts and the app menu are both made from it.
+/// Every command, in the order of the menu. The app menu, the keys and the sheet of keys are all made from it.
 const QList<MenuCommand> &menuCommands();

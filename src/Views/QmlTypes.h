@@ -71,8 +71,16 @@ struct FolderChooserForQml {
     QML_UNCREATABLE("Handed in by the program.")
 };
 
-struct MenuCommandForQml {
+struct ShellCommandsForQml {
     Q_GADGET
-    QML_FOREIGN(MenuCommand)
-    QML_VALUE_TYPE(menuCommand)
+    QML_FOREIGN(ShellCommands)
+    QML_NAMED_ELEMENT(ShellCommands)
+    QML_UNCREATABLE("Part of the main window's view model.")
+};
+
+struct CommandListModelForQml {
+    Q_GADGET
+    QML_FOREIGN(CommandListModel)
+    QML_NAMED_ELEMENT(CommandListModel)
+    QML_UNCREATABLE("Part of the commands.")
 };

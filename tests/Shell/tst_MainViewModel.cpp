@@ -86,7 +86,7 @@ private Q_SLOTS:
         Program program;
         program.createDocuments(5);
         QVERIFY(!program.main.showDocLimitNudge());
-        program.main.run(u"newDocument"_s);
+        program.main.commands()->run(u"newDocument"_s);
 
         QCOMPARE(program.appState.documents().size(), 5);
         QVERIFY(program.main.showDocLimitNudge());
@@ -176,51 +176,12 @@ private Q_SLOTS:
     void theAboutCommandShowsTheAboutAlert()
     {
         Program program;
-        program.main.run(u"about"_s);
+        program.main.commands()->run(u"about"_s);
         QVERIFY(program.main.showAbout());
 
         program.main.dismissAbout();
         QVERIFY(!program.main.showAbout());
         QVERIFY(!program.appState.showAbout());
-    }
-
-    void theQuitCommandAsksToQuit()
-    {
-        Program program;
-        QSignalSpy quit(&program.main, &MainViewModel::quitRequested);
-        program.main.run(u"quit"_s);
-
-        QCOMPARE(quit.count(), 1);
-    }
-
-    void everyMenuCommandDoesSomething_data()
-    {
-        QTest::addColumn<QString>("id");
-        for (const MenuCommand &command : menuCommands())
-            QTest::newRow(qPrintable(command.id)) << command.id;
-    }
-
-    void everyMenuCommandDoesSomething()
-    {
-        QFETCH(QString, id);
-        Program program;
-        QSignalSpy quit(&program.main, &MainViewModel::quitRequested);
-        QSignalSpy about(&program.main, &MainViewModel::showAboutChanged);
-        QSignalSpy open(&program.main, &MainViewModel::openDocumentIDChanged);
-        program.main.run(id);
-
-        QCOMPARE(quit.count() + about.count() + open.count(), 1);
-    }
-
-    void anUnknownCommandDoesNothing()
-    {
-        Program program;
-        QSignalSpy quit(&program.main, &MainViewModel::quitRequested);
-        program.main.run(u"paintItBlack"_s);
-
-        QCOMPARE(quit.count(), 0);
-        QVERIFY(!program.main.showAbout());
-        QVERIFY(program.appState.documents().isEmpty());
     }
 
     void deletingThroughTheAlertOpensTheNewestRemainingPage()

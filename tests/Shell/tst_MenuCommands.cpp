@@ -17,7 +17,8 @@ private Q_SLOTS:
         for (const MenuCommand &command : menuCommands())
             titles << command.title;
 
-        QCOMPARE(titles, (QStringList{u"New Document"_s, u"About Pelko"_s, u"Quit"_s}));
+        QCOMPARE(titles, (QStringList{u"New Document"_s, u"Ideas"_s, u"Work"_s, u"Journal"_s, u"Pomodoro"_s,
+                                      u"Full screen"_s, u"About Pelko"_s, u"Quit"_s, u"App menu"_s}));
     }
 
     void newDocumentHasThePlatformsNewShortcut()
@@ -35,19 +36,42 @@ private Q_SLOTS:
                 continue;
             const QKeySequence keys(command.shortcut, QKeySequence::PortableText);
             QCOMPARE(keys.toString(QKeySequence::PortableText), command.shortcut);
+            QCOMPARE(keys.count(), 1);
             QVERIFY2(!seen.contains(command.shortcut), qPrintable(command.shortcut));
             seen.insert(command.shortcut);
         }
     }
 
-    void everyCommandHasItsOwnIdAndASymbol()
+    void everyCommandHasItsOwnIdAndTitle()
     {
         QSet<QString> seen;
         for (const MenuCommand &command : menuCommands()) {
-            QVERIFY2(!command.symbol.isEmpty(), qPrintable(command.id));
-            QVERIFY2(!seen.contains(command.id), qPrintable(command.id));
-            seen.insert(command.id);
+            for (const QString &word : {command.id, command.title}) {
+                QVERIFY2(!word.isEmpty() && !seen.contains(word), qPrintable(word));
+                seen.insert(word);
+            }
         }
+    }
+
+    void everyCommandOfTheMenuHasASymbolAndEveryOtherAKey()
+    {
+        for (const MenuCommand &command : menuCommands())
+            QVERIFY2(command.group == CommandGroup::none ? !command.shortcut.isEmpty()
+                                                         : !command.symbol.isEmpty(),
+                     qPrintable(command.id));
+    }
+
+    void theCommandsOfAGroupStandTogether()
+    {
+        QList<CommandGroup> groups;
+        for (const MenuCommand &command : menuCommands()) {
+            if (groups.isEmpty() || groups.last() != command.group)
+                groups << command.group;
+        }
+        QList<CommandGroup> sorted = groups;
+        std::sort(sorted.begin(), sorted.end());
+
+        QCOMPARE(groups, sorted);
     }
 };
 

@@ -8,6 +8,7 @@
 #include "support/ManualDocumentFile.h"
 #include "support/ManualScheduler.h"
 
+#include <QFile>
 #include <QtQml/qqml.h>
 
 /// A program without a disk, on a time that a view test moves: what the views of the shell are given.
@@ -21,11 +22,16 @@ public:
     MainViewModel *mainViewModel() { return &m_main; }
     LaunchSequence *launch() { return &m_launch; }
 
+    Q_INVOKABLE bool isDrawn(const QString &symbol) const
+    {
+        return QFile::exists(QStringLiteral(":/qt/qml/Pelko/Theme/symbols/%1.svg").arg(symbol));
+    }
     Q_INVOKABLE int documentCount() const { return static_cast<int>(m_appState.documents().size()); }
     Q_INVOKABLE void advance(int milliseconds)
     {
         m_scheduler.advance(std::chrono::milliseconds(milliseconds));
     }
+    Q_INVOKABLE bool isIn(const QString &space) const { return rawValue(m_appState.currentSpace()) == space; }
     Q_INVOKABLE void showNav() { m_appState.setShowNav(true); }
     Q_INVOKABLE void open(int index) { m_appState.setOpenDocumentID(m_appState.documents()[index].id); }
     Q_INVOKABLE void closeDocument() { m_appState.setOpenDocumentID(std::nullopt); }

@@ -22,6 +22,7 @@ Item {
             focus: true
 
             MainView { anchors.fill: parent; focus: true; main: program.main }
+            CommandKeys { commands: program.main.commands }
             Alerts { id: alerts; anchors.fill: parent; main: program.main }
 
             // Stands last so that it outlives the views.
@@ -30,11 +31,15 @@ Item {
     }
 
     TestCase {
+        id: test
+
         name: "Shell"
         when: windowShown
 
         property var app
         property var root
+
+        SignalSpy { id: requests; target: test.app?.main.commands ?? null; signalName: "fullScreenToggled" }
 
         function init() {
             root = createTemporaryObject(shell, stage)
@@ -106,7 +111,7 @@ Item {
             return [
                 { tag: "limit", raise: () => app.createDocuments(6), title: "Five is the limit.", button: "Fine",
                   message: "You've got 5 docs in this space. Archive one first. Constraints breed creativity." },
-                { tag: "about", raise: () => app.main.run("about"), title: "Pelko", button: "Close",
+                { tag: "about", raise: () => app.main.commands.run("about"), title: "Pelko", button: "Close",
                   message: "Built by Dravel. Fueled by espresso and poor decisions." },
                 { tag: "error", raise: () => app.failToSave(), title: "", button: "Got it",
                   message: "Save failed: No space left on device" }
@@ -126,7 +131,7 @@ Item {
 
         function test_anAlertGivesTheFocusBack() {
             const button = named(root, "Start Writing")
-            app.main.run("about")
+            app.main.commands.run("about")
             verify(!button.activeFocus)
             keyClick(Qt.Key_Return)
             verify(button.activeFocus)
@@ -137,7 +142,7 @@ Item {
             app.advance(1000)
             const caret = stage.Window.activeFocusItem
             verify(caret instanceof TextEdit)
-            app.main.run("about")
+            app.main.commands.run("about")
             verify(!caret.activeFocus)
             keyClick(Qt.Key_Escape)
             verify(caret.activeFocus)
@@ -182,12 +187,54 @@ Item {
             compare(app.documentCount(), 1)
         }
 
+        function menuRows() {
+            const rows = []
+            const gather = item => {
+                if (item instanceof PopupMenuRow && item.visible)
+                    rows.push(item)
+                Array.from(item.children).forEach(gather)
+            }
+            gather(root)
+            return rows
+        }
+
         function test_theMenuListsTheCommands() {
             mouseClick(named(root, "Menu"))
-            for (const title of ["New Document", "About Pelko", "Quit"])
-                verify(named(root, title), title)
+            const titles = menuRows().map(row => row.name)
+            compare(titles, ["New Document", "Ideas", "Work", "Journal", "Pomodoro", "Full screen", "About Pelko",
+                             "Quit"])
             mouseClick(named(root, "About Pelko"))
             verify(app.main.showAbout)
+        }
+
+        function test_everyRowOfTheMenuHasItsSymbol() {
+            keyClick(Qt.Key_F10)
+            for (const row of menuRows())
+                verify(app.isDrawn(row.icon.name), row.name)
+        }
+
+        function test_theMenuTicksTheCurrentSpace() {
+            const ticks = () => menuRows().filter(row => row.Accessible.checked).map(row => row.name)
+            keyClick(Qt.Key_F10)
+            compare(ticks(), ["Work"])
+            compare(menuRows().filter(row => row.Accessible.checkable).map(row => row.name),
+                    ["Ideas", "Work", "Journal", "Full screen"])
+            mouseClick(named(root, "Journal"))
+            keyClick(Qt.Key_F10)
+            compare(ticks(), ["Journal"])
+        }
+
+        function test_everyKeyOfTheTableGivesItsCommand() {
+            keyClick(Qt.Key_3, Qt.ControlModifier)
+            verify(app.isIn("journal"))
+            keyClick(Qt.Key_N, Qt.ControlModifier)
+            compare(app.documentCount(), 1)
+            app.advance(1000)
+            verify(stage.Window.activeFocusItem instanceof TextEdit)
+            keyClick(Qt.Key_1, Qt.ControlModifier)
+            verify(app.isIn("ideas"))
+            keyClick(Qt.Key_F11)
+            compare(requests.count, 1)
         }
 
         function test_theFrameHasNames() {

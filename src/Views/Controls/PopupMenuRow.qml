@@ -10,6 +10,8 @@ T.AbstractButton {
     required property string name
     property string keys: ""
     property bool destroys: false
+    /// Stands for something that is on or off.
+    property bool tickable: ticked
     property bool ticked: false
     required property PopupMenu menu
 
@@ -39,7 +41,7 @@ T.AbstractButton {
 
     Accessible.role: Accessible.MenuItem
     Accessible.name: name
-    Accessible.checkable: ticked
+    Accessible.checkable: tickable
     Accessible.checked: ticked
     Accessible.onPressAction: row.take()
 

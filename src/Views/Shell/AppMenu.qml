@@ -1,28 +1,54 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Qt.labs.qmlmodels
 import Pelko
 
 /// The app menu, made from the table of commands.
 PopupMenu {
     id: appMenu
 
-    required property MainViewModel main
+    required property ShellCommands commands
 
     name: "Pelko"
     minimumWidth: 240
 
     Repeater {
-        model: appMenu.main.menuCommands
+        model: appMenu.commands.list
 
-        PopupMenuRow {
-            required property var modelData
+        delegate: DelegateChooser {
+            role: "kind"
 
-            menu: appMenu
-            name: modelData.title
-            icon.name: modelData.symbol
-            keys: modelData.shortcut
-            onTriggered: appMenu.main.run(modelData.id)
+            DelegateChoice {
+                roleValue: "separator"
+
+                PopupMenuSeparator {}
+            }
+
+            DelegateChoice {
+                roleValue: "command"
+
+                PopupMenuRow {
+                    required property string commandID
+                    required property string title
+                    required property string symbol
+                    required property string shortcut
+                    required property bool isInMenu
+                    required property bool isEnabled
+                    required property bool isTickable
+                    required property bool isTicked
+
+                    menu: appMenu
+                    visible: isInMenu
+                    enabled: isEnabled
+                    name: title
+                    icon.name: symbol
+                    keys: shortcut
+                    tickable: isTickable
+                    ticked: isTicked
+                    onTriggered: appMenu.commands.run(commandID)
+                }
+            }
         }
     }
 }

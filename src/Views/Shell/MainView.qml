@@ -25,6 +25,12 @@ FocusScope {
         function onOpenDocumentIDChanged() { root.showContent(T.StackView.ReplaceTransition) }
     }
 
+    Connections {
+        target: root.main.commands
+        function onMenuRequested() { menu.popUpBelow(strip.menuButton) }
+        function onPomodoroRequested() { root.timers?.togglePanel(strip.timerPlace()) }
+    }
+
     Rectangle {
         anchors.fill: parent
         color: FirePalette.deepBackground
@@ -80,13 +86,8 @@ FocusScope {
     AppMenu {
         id: menu
 
-        main: root.main
+        commands: root.main.commands
         backdrop: content
-    }
-
-    Shortcut {
-        sequences: ["F10"]
-        onActivated: menu.popUpBelow(strip.menuButton)
     }
 
     component Fade: Transition {

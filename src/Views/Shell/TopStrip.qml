@@ -16,6 +16,13 @@ Item {
 
     signal menuRequested()
 
+    /// Where on the screen the pomodoro panel belongs.
+    function timerPlace() : rect {
+        const opener = timerLabels.itemAt(0) ?? menuButton
+        const corner = opener.mapToGlobal(0, 0)
+        return Qt.rect(corner.x, corner.y, opener.width, opener.height)
+    }
+
     implicitHeight: Metrics.stripHeight
     visible: Qt.platform.os !== "osx"
 
@@ -33,6 +40,8 @@ Item {
 
     // A tray shows it where there is one.
     Repeater {
+        id: timerLabels
+
         model: strip.timers && !strip.timers.isInTray ? [strip.timers] : []
 
         MenuBarTimerLabel {

@@ -42,14 +42,7 @@ FocusScope {
         anchors.fill: parent
     }
 
-    Instantiator {
-        model: root.main.menuCommands
-        delegate: Shortcut {
-            required property var modelData
-
-            sequences: modelData.shortcut === "" ? [] : [modelData.shortcut]
-            context: Qt.WindowShortcut
-            onActivated: root.main.run(modelData.id)
-        }
+    CommandKeys {
+        commands: root.main.commands
     }
 }

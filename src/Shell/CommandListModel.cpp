@@ -1,0 +1,112 @@
+#include "Shell/CommandListModel.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+CommandListModel::CommandListModel(const QList<MenuCommand> &commands, QObject *parent)
+    : QAbstractListModel(parent)
+{
+    for (const MenuCommand &command : commands) {
+        const bool beginsGroup = !m_rows.isEmpty() && command.group != m_rows.last().command.group;
+        if (beginsGroup && command.group != CommandGroup::none)
+            m_rows.append(Row{.isSeparator = true});
+        m_rows.append(Row{.command = command});
+    }
+}
+
+int CommandListModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+}
+
+QVariant CommandListModel::data(const QModelIndex &index, int role) const
+{
+    const Row &row = m_rows.at(index.row());
+    switch (role) {
+    case KindRole:
+        return row.isSeparator ? u"separator"_s : u"command"_s;
+    case CommandIDRole:
+        return row.command.id;
+    case TitleRole:
+        return row.command.title;
+    case SymbolRole:
+        return row.command.symbol;
+    case ShortcutRole:
+        return row.command.shortcut;
+    case IsInMenuRole:
+        return row.command.group != CommandGroup::none;
+    case IsEnabledRole:
+        return row.isEnabled;
+    case IsTickableRole:
+        return bool(row.deed.isTicked);
+    case IsTickedRole:
+        return row.isTicked;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> CommandListModel::roleNames() const
+{
+    return {{KindRole, "kind"},           {CommandIDRole, "commandID"}, {TitleRole, "title"},
+            {SymbolRole, "symbol"},       {ShortcutRole, "shortcut"},   {IsInMenuRole, "isInMenu"},
+            {IsEnabledRole, "isEnabled"}, {IsTickableRole, "isTickable"}, {IsTickedRole, "isTicked"}};
+}
+
+bool CommandListModel::isEnabled(const QString &id) const
+{
+    const Row *found = row(id);
+    return found && found->isEnabled;
+}
+
+bool CommandListModel::isTicked(const QString &id) const
+{
+    const Row *found = row(id);
+    return found && found->isTicked;
+}
+
+void CommandListModel::bind(const QString &id, CommandDeed deed)
+{
+    const Row *found = row(id);
+    Q_ASSERT(found && deed.run);
+    const qsizetype place = found - m_rows.constData();
+    m_rows[place].deed = std::move(deed);
+    ask(m_rows[place]);
+    const QModelIndex bound = index(static_cast<int>(place));
+    Q_EMIT dataChanged(bound, bound, {IsEnabledRole, IsTickableRole, IsTickedRole});
+}
+
+void CommandListModel::run(const QString &id) const
+{
+    if (!isEnabled(id))
+        return;
+    // What it does may bind and refresh.
+    const std::function<void()> deed = row(id)->deed.run;
+    deed();
+}
+
+void CommandListModel::refresh()
+{
+    for (int place = 0; place < rowCount(); ++place) {
+        if (ask(m_rows[place]))
+            Q_EMIT dataChanged(index(place), index(place), {IsEnabledRole, IsTickedRole});
+    }
+}
+
+bool CommandListModel::ask(Row &row)
+{
+    const bool isEnabled = row.deed.run && row.deed.isEnabled();
+    const bool isTicked = row.deed.isTicked && row.deed.isTicked();
+    const bool differs = row.isEnabled != isEnabled || row.isTicked != isTicked;
+    row.isEnabled = isEnabled;
+    row.isTicked = isTicked;
+    return differs;
+}
+
+const CommandListModel::Row *CommandListModel::row(const QString &id) const
+{
+    const auto found =
+        std::ranges::find_if(m_rows, [&id](const Row &row) { return !row.isSeparator && row.command.id == id; });
+    return found == m_rows.end() ? nullptr : &*found;
+}

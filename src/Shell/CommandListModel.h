@@ -1,0 +1,68 @@
+#pragma once
+
+#include "Shell/MenuCommands.h"
+
+#include <QAbstractListModel>
+#include <QHash>
+
+#include <functional>
+
+/// What a command does, whether it can be given now, and whether it stands for something that is on. Without a
+/// question it is always possible and never on.
+struct CommandDeed {
+    std::function<void()> run;
+    std::function<bool()> isEnabled = [] { return true; };
+    std::function<bool()> isTicked = nullptr;
+};
+
+/// The commands as the app menu shows them, with the hairlines between their groups. Each is bound to its deed by
+/// whoever can do it; until then it is disabled.
+class CommandListModel : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    enum Role {
+        /// "command" or "separator".
+        KindRole = Qt::UserRole,
+        CommandIDRole,
+        TitleRole,
+        SymbolRole,
+        ShortcutRole,
+        /// Whether it has a place in the menu and not only a key.
+        IsInMenuRole,
+        IsEnabledRole,
+        /// Whether it can be on or off at all.
+        IsTickableRole,
+        IsTickedRole,
+    };
+
+    explicit CommandListModel(const QList<MenuCommand> &commands, QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+    bool isEnabled(const QString &id) const;
+    bool isTicked(const QString &id) const;
+
+    void bind(const QString &id, CommandDeed deed);
+    /// Gives the command of that id. One that is unknown or disabled does nothing.
+    void run(const QString &id) const;
+    /// The answers of the deeds may have changed.
+    void refresh();
+
+private:
+    struct Row {
+        MenuCommand command = {};
+        bool isSeparator = false;
+        CommandDeed deed = {};
+        bool isEnabled = false;
+        bool isTicked = false;
+    };
+
+    const Row *row(const QString &id) const;
+    /// Tells whether the answers differ from those before.
+    static bool ask(Row &row);
+
+    QList<Row> m_rows;
+};

@@ -1,0 +1,49 @@
+#include "Shell/ShellCommands.h"
+
+#include "Store/AppState.h"
+
+using namespace Qt::StringLiterals;
+
+ShellCommands::ShellCommands(AppState &appState, QObject *parent)
+    : QObject(parent)
+    , m_appState(appState)
+{
+    bind(u"newDocument"_s, {.run = [this] { m_appState.createDocument(m_appState.currentSpace()); }});
+    bind(u"about"_s, {.run = [this] { m_appState.setShowAbout(true); }});
+    bindSpaces();
+    bindRequests();
+    followStore();
+}
+
+void ShellCommands::bindSpaces()
+{
+    for (const Space space : allSpaces)
+        bind(rawValue(space), {.run = [this, space] { m_appState.switchSpace(space); },
+                               .isTicked = [this, space] { return m_appState.currentSpace() == space; }});
+}
+
+void ShellCommands::bindRequests()
+{
+    bind(u"appMenu"_s, {.run = [this] { Q_EMIT menuRequested(); }});
+    bind(u"pomodoro"_s, {.run = [this] { Q_EMIT pomodoroRequested(); }});
+    bind(u"fullScreen"_s,
+         {.run = [this] { Q_EMIT fullScreenToggled(); }, .isTicked = [this] { return m_isFullScreen; }});
+    bind(u"quit"_s, {.run = [this] { Q_EMIT quitRequested(); }});
+}
+
+void ShellCommands::followStore()
+{
+    for (const auto changed : {&AppState::currentSpaceChanged, &AppState::openDocumentIDChanged})
+        connect(&m_appState, changed, &m_list, &CommandListModel::refresh);
+}
+
+void ShellCommands::run(const QString &id)
+{
+    m_list.run(id);
+}
+
+void ShellCommands::setFullScreen(bool on)
+{
+    m_isFullScreen = on;
+    m_list.refresh();
+}

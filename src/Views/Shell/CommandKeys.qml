@@ -1,0 +1,24 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Pelko
+
+/// The keys of the commands, made from their table.
+Instantiator {
+    id: keys
+
+    required property ShellCommands commands
+
+    model: commands.list
+
+    delegate: Shortcut {
+        required property string commandID
+        required property string shortcut
+        required property bool isEnabled
+
+        enabled: isEnabled
+        sequences: shortcut === "" ? [] : [shortcut]
+        context: Qt.WindowShortcut
+        onActivated: keys.commands.run(commandID)
+    }
+}

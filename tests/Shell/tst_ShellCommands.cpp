@@ -1,0 +1,143 @@
+#include "Shell/ShellCommands.h"
+
+#include "Store/AppState.h"
+#include "support/ManualClock.h"
+#include "support/ManualDocumentFile.h"
+#include "support/ManualScheduler.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+struct Program {
+    ManualScheduler scheduler;
+    ManualClock clock;
+    ManualDocumentFile file;
+    AppState appState{scheduler, clock, file};
+    ShellCommands commands{appState};
+
+    bool isTicked(const QString &id) { return commands.list()->isTicked(id); }
+    bool isEnabled(const QString &id) { return commands.list()->isEnabled(id); }
+};
+
+/// Counts everything a command can set off.
+class Echo
+{
+public:
+    explicit Echo(Program &program)
+    {
+        for (const auto asked : {&ShellCommands::menuRequested, &ShellCommands::pomodoroRequested,
+                                 &ShellCommands::fullScreenToggled, &ShellCommands::quitRequested})
+            QObject::connect(&program.commands, asked, &m_context, [this] { ++count; });
+        for (const auto changed :
+             {&AppState::documentsChanged, &AppState::currentSpaceChanged, &AppState::showAboutChanged})
+            QObject::connect(&program.appState, changed, &m_context, [this] { ++count; });
+    }
+
+    int count = 0;
+
+private:
+    QObject m_context;
+};
+} // namespace
+
+class TestShellCommands : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyCommandDoesOneThing_data()
+    {
+        QTest::addColumn<QString>("id");
+        for (const MenuCommand &command : menuCommands())
+            QTest::newRow(qPrintable(command.id)) << command.id;
+    }
+
+    void everyCommandDoesOneThing()
+    {
+        QFETCH(QString, id);
+        Program program;
+        program.appState.createDocument(Space::work);
+        // The current space is the one command of three that has nothing left to do.
+        program.commands.run(id == u"work"_s ? u"journal"_s : u"work"_s);
+        const Echo echo(program);
+        program.commands.run(id);
+
+        QCOMPARE(echo.count, 1);
+    }
+
+    void anUnknownCommandDoesNothing()
+    {
+        Program program;
+        const Echo echo(program);
+        program.commands.run(u"paintItBlack"_s);
+
+        QCOMPARE(echo.count, 0);
+    }
+
+    void newDocumentIsMadeInTheCurrentSpace()
+    {
+        Program program;
+        program.commands.run(u"journal"_s);
+        program.commands.run(u"newDocument"_s);
+
+        QCOMPARE(program.appState.documents().size(), 1);
+        QCOMPARE(program.appState.documents().first().space, Space::journal);
+    }
+
+    void newDocumentAtFiveShowsTheLimitInsteadOfCreating()
+    {
+        Program program;
+        for (int i = 0; i < 6; ++i)
+            program.commands.run(u"newDocument"_s);
+
+        QCOMPARE(program.appState.documents().size(), 5);
+        QVERIFY(program.appState.showDocLimitNudge());
+    }
+
+    void aSpaceOpensItsNewestPage()
+    {
+        Program program;
+        program.appState.createDocument(Space::ideas);
+        const auto idea = program.appState.openDocumentID();
+        program.appState.createDocument(Space::work);
+        program.commands.run(u"ideas"_s);
+
+        QCOMPARE(program.appState.currentSpace(), Space::ideas);
+        QCOMPARE(program.appState.openDocumentID(), idea);
+    }
+
+    void theCurrentSpaceIsTicked()
+    {
+        Program program;
+        for (const QString &current : {u"journal"_s, u"ideas"_s, u"work"_s}) {
+            program.commands.run(current);
+            for (const QString &space : {u"journal"_s, u"ideas"_s, u"work"_s})
+                QCOMPARE(program.isTicked(space), space == current);
+        }
+    }
+
+    void aboutShowsTheAlert()
+    {
+        Program program;
+        program.commands.run(u"about"_s);
+
+        QVERIFY(program.appState.showAbout());
+    }
+
+    void fullScreenIsTickedWhileTheWindowFillsTheScreen()
+    {
+        Program program;
+        QVERIFY(!program.isTicked(u"fullScreen"_s));
+        program.commands.setFullScreen(true);
+        QVERIFY(program.isTicked(u"fullScreen"_s));
+        program.commands.setFullScreen(false);
+        QVERIFY(!program.isTicked(u"fullScreen"_s));
+    }
+};
+
+QTEST_MAIN(TestShellCommands)
+#include "tst_ShellCommands.moc"
