@@ -1,0 +1,104 @@
+#include "Export/FileNames.h"
+
+#include <QRegularExpression>
+#include <QTextBoundaryFinder>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+// File systems allow 255 bytes, encrypting ones about 140. What is added to a name stays below 60.
+constexpr qsizetype longestName = 80;
+
+bool isDropped(QChar character)
+{
+    const bool joins =
+        character == QChar(0x200c) || character == QChar(0x200d); // letters, or parts of an emoji
+    return character.category() == QChar::Other_Format && !joins;
+}
+
+QString withoutForbidden(const QString &text)
+{
+    QString kept;
+    for (const QChar character : text) {
+        if (u"/\\|:"_s.contains(character))
+            kept += u'-';
+        else if (character.category() == QChar::Other_Control || u"<>\"?*"_s.contains(character))
+            kept += u' ';
+        else if (!isDropped(character))
+            kept += character;
+    }
+    return kept.simplified();
+}
+
+/// Leading dots hide a file, a leading hyphen makes it an option, trailing dots get lost.
+QString trimmed(const QString &name)
+{
+    static const QRegularExpression edges(u"^[\\s.-]+|[\\s.]+$"_s);
+    return QString(name).remove(edges);
+}
+
+/// The longest beginning of at most that many bytes that ends between two characters as a reader sees them.
+QString shortened(const QString &name, qsizetype bytes)
+{
+    if (name.toUtf8().size() <= bytes)
+        return name;
+    QTextBoundaryFinder boundaries(QTextBoundaryFinder::Grapheme, name);
+    qsizetype end = 0;
+    while (boundaries.toNextBoundary() > 0) {
+        const qsizetype next = boundaries.position();
+        if (QStringView(name).first(next).toUtf8().size() > bytes)
+            break;
+        end = next;
+    }
+    const qsizetype lastSpace = name.lastIndexOf(u' ', end);
+    return name.first(lastSpace > end / 2 ? lastSpace : end);
+}
+
+/// Names that stand for devices on some systems, whatever follows their first dot.
+bool isReserved(const QString &name)
+{
+    static const QRegularExpression devices(
+        u"^(?:con|prn|aux|nul|conin\\$|conout\\$|(?:com|lpt)[0-9¹²³])\\s*(?:\\.|$)"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    return devices.match(name).hasMatch();
+}
+} // namespace
+
+QString fileNameFrom(const QString &text)
+{
+    // Far more than is kept, so that a novel for a title is no work. Half a pair of surrogates, which is no
+    // text, becomes a question mark by way of UTF-8, and is forbidden then.
+    const QString start = QString::fromUtf8(text.trimmed().left(1000).toUtf8());
+    const QString composed = start.normalized(QString::NormalizationForm_C);
+    const QString name = trimmed(shortened(trimmed(withoutForbidden(composed)), longestName));
+    if (name.isEmpty())
+        return u"Untitled"_s;
+    return isReserved(name) ? u'_' + name : name;
+}
+
+QString FileNames::take(const QString &text, const QUuid &id)
+{
+    const QString plain = fileNameFrom(text);
+    const QString digits = id.toString(QUuid::Id128);
+    for (const QString &name : {plain, plain + u' ' + digits.first(8), plain + u' ' + digits}) {
+        if (takeIfFree(name))
+            return name;
+    }
+    // Only a file written by hand holds the same id twice.
+    for (int number = 2;; ++number) {
+        const QString name = plain + u' ' + QString::number(number);
+        if (takeIfFree(name))
+            return name;
+    }
+}
+
+bool FileNames::takeIfFree(const QString &name)
+{
+    // By way of capitals, which tell "ß" as "SS".
+    const QString seen = name.toUpper().toCaseFolded().normalized(QString::NormalizationForm_C);
+    if (m_taken.contains(seen))
+        return false;
+    m_taken.insert(seen);
+    return true;
+}
