@@ -83,15 +83,9 @@ std::optional<FileError> AtomicFile::open(const fs::path &path)
 
 std::optional<FileError> AtomicFile::write(QByteArrayView bytes)
 {
-    while (!bytes.isEmpty()) {
-        const ssize_t count = ::write(m_descriptor.number(), bytes.data(), std::size_t(bytes.size()));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            return lastSystemError();
-        bytes = bytes.sliced(count);
-        m_written += count;
-    }
+    if (auto error = m_descriptor.write(bytes))
+        return error;
+    m_written += bytes.size();
     startWriteBack();
     return std::nullopt;
 }

@@ -22,6 +22,11 @@ public:
     bool isOpen() const { return m_number >= 0; }
     int number() const { return m_number; }
 
+    /// Writes all of it.
+    [[nodiscard]] std::optional<FileError> write(QByteArrayView bytes) const;
+    /// Some file systems tell only now that what was written has found no room.
+    [[nodiscard]] std::optional<FileError> close();
+
 private:
     int m_number = -1;
 };
