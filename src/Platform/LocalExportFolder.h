@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Services/ExportFolder.h"
+
+#include <QThreadPool>
+
+/// Folders of this machine, written to on a thread of their own. An export under way when the program ends
+/// is given up and leaves nothing.
+class LocalExportFolder : public ExportFolder
+{
+public:
+    LocalExportFolder();
+
+    ScheduledCall write(const std::filesystem::path &folder, Producer produce, Existing existing,
+                        Completion completion) override;
+
+private:
+    QThreadPool m_writer;
+};
