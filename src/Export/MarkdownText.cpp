@@ -59,7 +59,7 @@ private:
         case u'[':
             return true;
         case u'\\':
-            return at == m_text.size() - 1 || isPunctuation(m_text[at + 1]);
+            return at == m_text.size() - 1 || isPunctuation(m_text[at + 1]) || isSpelledOut(at + 1);
         case u'<':
             return opensTag(at);
         case u'&':
@@ -117,8 +117,8 @@ private:
 qsizetype markAtStart(const QString &line)
 {
     static const QRegularExpression mark(
-        uR"(^(?:#{1,6}(?=[ \t]|\z)|>|[-+](?=[ \t]|\z)|[-=|:](?=[-=|: \t]*\z)))"_s);
-    static const QRegularExpression number(uR"(^[0-9]{1,9}(?=[.)](?:[ \t]|\z)))"_s);
+        uR"(^(?:#{1,6}(?=\s|\z)|>|[-+](?=\s|\z)|[-=|:](?=[-=|:\s]*\z)))"_s);
+    static const QRegularExpression number(uR"(^[0-9]{1,9}(?=[.)](?:\s|\z)))"_s);
     if (mark.match(line).hasMatch())
         return 0;
     const QRegularExpressionMatch numbered = number.match(line);

@@ -138,6 +138,7 @@ a<b
         row(u"###### x"_s, u"\\###### x"_s);
         row(u"> x"_s, u"\\> x"_s);
         row(u"- x"_s, u"\\- x"_s);
+        row(u"-\f\vx"_s, u"\\-\f\vx"_s); // more than CommonMark calls a space, for readers that do
         row(u"+"_s, u"\\+"_s);
         row(u"* x"_s, u"\\* x"_s);
         row(u"1. x"_s, u"1\\. x"_s);
@@ -153,6 +154,7 @@ a<b
         row(u"<b> <!-- </b> <?"_s, u"\\<b> \\<!-- \\</b> \\<?"_s);
         row(u"&amp; &#65;"_s, u"\\&amp; \\&#65;"_s);
         row(u"a\\*b\\"_s, u"a\\\\\\*b\\\\"_s);
+        row(u"a\\\rb\\ "_s, u"a\\\\&#13;b\\\\&#32;"_s);
         row(u"a\n\nb"_s, u"a\\\n\\\nb"_s);
         row(u"\n a \t"_s, u"&#10;&#32;a &#9;"_s);
         row(u"a\n\n"_s, u"a&#10;&#10;"_s);
