@@ -198,7 +198,7 @@ private Q_SLOTS:
     {
         put("ideas", "a file");
         const QStringList before = everything();
-        QCOMPARE(write(Existing::replace), u"File exists"_s);
+        QCOMPARE(write(Existing::replace), u"Not a directory"_s);
         QCOMPARE(everything(), before);
     }
 
