@@ -180,6 +180,7 @@ std::optional<PelkoDocument> AppState::captureSpark(const QString &text)
     ChangeScope scope(*this);
     m_documents.append(spark);
     scope.announce(&AppState::documentsChanged);
+    m_hasUnsavedChanges = true;
     save();
     return spark;
 }
@@ -208,8 +209,15 @@ void AppState::save()
         return;
     }
     m_lastSaveError.reset();
+    m_hasUnsavedChanges = false;
     m_savedIndicatorTask = m_scheduler.after(savedIndicatorTime, [this] { setShowSavedIndicator(false); });
     setShowSavedIndicator(true);
+}
+
+void AppState::saveChanges()
+{
+    if (m_hasUnsavedChanges)
+        save();
 }
 
 void AppState::load()
@@ -237,6 +245,7 @@ void AppState::show(Space space, std::optional<QUuid> id)
 
 void AppState::debounceSave()
 {
+    m_hasUnsavedChanges = true;
     m_saveTimer = m_scheduler.after(saveDelay, [this] { save(); });
 }
 

@@ -71,6 +71,8 @@ public:
     void moveBlock(const QUuid &documentID, qsizetype from, qsizetype to);
     /// Writes all documents now. A failure becomes `lastError`.
     void save();
+    /// Writes them if anything has changed that is not in the file yet. `lastSaveError` tells what came of it.
+    void saveChanges();
 
 Q_SIGNALS:
     void documentsChanged();
@@ -109,6 +111,7 @@ private:
     bool m_showAbout = false;
     std::optional<QString> m_lastError;
     std::optional<QString> m_lastSaveError;
+    bool m_hasUnsavedChanges = false;
     ScheduledCall m_saveTimer;
     ScheduledCall m_savedIndicatorTask;
 };

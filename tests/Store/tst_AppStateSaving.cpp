@@ -44,6 +44,33 @@ private Q_SLOTS:
         QCOMPARE(file.writes(), 1);
     }
 
+    void changesAreSavedAheadOfTimeWhenAskedFor()
+    {
+        edit();
+        state->saveChanges();
+        QCOMPARE(file.writes(), 1);
+        state->saveChanges();
+        QCOMPARE(file.writes(), 1);
+    }
+
+    void aStoreWithoutChangesSavesNothing()
+    {
+        file.bytes = "what cannot be read"_ba;
+        AppState unread(scheduler, clock, file);
+        unread.saveChanges();
+        QCOMPARE(file.bytes, "what cannot be read"_ba);
+    }
+
+    void changesThatCouldNotBeSavedAreTriedAgain()
+    {
+        file.writeError = u"No space left on device"_s;
+        state->captureSpark(u"kept"_s);
+        file.writeError.reset();
+        state->saveChanges();
+        QCOMPARE(file.writes(), 1);
+        QCOMPARE(state->lastSaveError(), std::nullopt);
+    }
+
     void aStoreThatDiesTakesItsPendingSaveAlong()
     {
         edit();
