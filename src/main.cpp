@@ -1,4 +1,5 @@
 #include "PelkoApp.h"
+#include "Platform/LibraryExport.h"
 #include "Platform/OnlyInstance.h"
 #include "Platform/SceneGraphChoice.h"
 #include "Platform/SystemDataLocation.h"
@@ -75,6 +76,9 @@ int main(int argc, char *argv[])
     const auto support = location.applicationSupportDirectory();
     if (!support)
         return say({u"Pelko: Could not locate Application Support directory.\n"_s, 1});
+
+    if (const auto *exportTo = std::get_if<ExportCommand>(&commandLine))
+        return say(exportLibrary(location, *exportTo));
 
     OnlyInstance instance(*support / "Pelko");
     if (const auto answer = instance.yieldTo(arguments(argc, argv)))

@@ -38,6 +38,16 @@ QString nameOf(const PelkoDocument &document)
     return title == u"Untitled"_s ? firstWords(document) : title;
 }
 
+bool holdsPicture(const Block &block)
+{
+    return block.type == BlockType::image && block.imageData;
+}
+
+QString counted(qsizetype count, QLatin1StringView noun)
+{
+    return QString::number(count) + u' ' + noun + (count == 1 ? ""_L1 : "s"_L1);
+}
+
 /// Appends the files of a page. `folder` is empty or ends with a slash.
 void append(QList<ExportedFile> &files, const PelkoDocument &document, const QString &folder,
             const QString &name)
@@ -46,7 +56,7 @@ void append(QList<ExportedFile> &files, const PelkoDocument &document, const QSt
     QHash<qsizetype, QString> addresses;
     for (qsizetype row = 0; row < document.blocks.size(); ++row) {
         const Block &block = document.blocks.at(row);
-        if (block.type != BlockType::image || !block.imageData)
+        if (!holdsPicture(block))
             continue;
         const QString picture =
             u"%1 %2.%3"_s.arg(name, QString::number(beside.size() + 1), pictureSuffix(*block.imageData));
@@ -81,4 +91,13 @@ QList<ExportedFile> Export::library(const QList<PelkoDocument> &documents)
         append(files, *document, rawValue(document->space) + u'/', name);
     }
     return files;
+}
+
+QString Export::contents(const QList<PelkoDocument> &documents)
+{
+    qsizetype pictures = 0;
+    for (const PelkoDocument &document : documents)
+        pictures += std::ranges::count_if(document.blocks, holdsPicture);
+    const QString pages = counted(documents.size(), "page"_L1);
+    return pictures > 0 ? u"%1 and %2"_s.arg(pages, counted(pictures, "picture"_L1)) : pages;
 }

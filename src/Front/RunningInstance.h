@@ -6,6 +6,9 @@
 
 /// What the running program says to a command line that was handed to it.
 struct InstanceAnswer {
+    /// In the place of an exit code: the caller carries its command out itself.
+    static constexpr int yours = 254;
+
     int exitCode = 0;
     /// For standard output, or for standard error when the exit code is not 0.
     std::string text;

@@ -35,7 +35,8 @@ int main(int argc, char *argv[])
 {
     const std::vector<std::string> arguments(argv + (argc > 0), argv + argc);
     if (const auto folder = userDataFolder()) {
-        if (const auto answer = askRunningInstance(*folder + "/Pelko", arguments)) {
+        const auto answer = askRunningInstance(*folder + "/Pelko", arguments);
+        if (answer && answer->exitCode != InstanceAnswer::yours) {
             std::fputs(answer->text.c_str(), answer->exitCode == 0 ? stdout : stderr);
             return answer->exitCode;
         }

@@ -17,6 +17,7 @@ namespace
 {
 constexpr auto patience = 10s;
 constexpr auto betweenTries = 20ms;
+static_assert(CommandLineAnswer::yours == InstanceAnswer::yours);
 
 std::optional<CommandLineAnswer> ask(const std::filesystem::path &folder, const QStringList &arguments)
 {

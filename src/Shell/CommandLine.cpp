@@ -21,6 +21,8 @@ QString helpText()
            "      --spark TEXT     capture a spark, without a window\n"
            "      --pomodoro VERB  start, pause or reset the timer of the running Pelko,\n"
            "                       or show its status\n"
+           "      --export DIR     write all pages as Markdown, with their pictures, into DIR\n"
+           "      --overwrite      let --export replace files that are there already\n"
            "  -h, --help           show this help and end\n"
            "  -v, --version        show the version and end\n"_s;
 }
@@ -48,6 +50,14 @@ CommandLine readPomodoro(const QString &word)
     }
     return refuse(u"--pomodoro takes start, pause, reset or status, not '%1'."_s.arg(word));
 }
+
+CommandLine readExport(const QString &folder, bool overwrites)
+{
+    using Existing = ExportFolder::Existing;
+    if (folder.isEmpty())
+        return refuse(u"--export needs a folder."_s);
+    return ExportCommand{folder, overwrites ? Existing::replace : Existing::keep};
+}
 } // namespace
 
 CommandLine readCommandLine(const QStringList &arguments)
@@ -56,8 +66,10 @@ CommandLine readCommandLine(const QStringList &arguments)
     const QCommandLineOption version(QStringList{u"v"_s, u"version"_s});
     const QCommandLineOption spark(u"spark"_s, {}, u"TEXT"_s);
     const QCommandLineOption pomodoro(u"pomodoro"_s, {}, u"VERB"_s);
+    const QCommandLineOption exportTo(u"export"_s, {}, u"DIR"_s);
+    const QCommandLineOption overwrite(u"overwrite"_s);
     QCommandLineParser parser;
-    parser.addOptions({help, version, spark, pomodoro});
+    parser.addOptions({help, version, spark, pomodoro, exportTo, overwrite});
 
     if (!parser.parse(arguments))
         return refuse(parser.errorText());
@@ -67,11 +79,15 @@ CommandLine readCommandLine(const QStringList &arguments)
         return CommandLineAnswer{versionText()};
     if (!parser.positionalArguments().isEmpty())
         return refuse(u"Unexpected argument '%1'."_s.arg(parser.positionalArguments().constFirst()));
-    if (parser.values(spark).size() + parser.values(pomodoro).size() > 1)
+    if (parser.values(spark).size() + parser.values(pomodoro).size() + parser.values(exportTo).size() > 1)
         return refuse(u"One command at a time."_s);
+    if (parser.isSet(overwrite) && !parser.isSet(exportTo))
+        return refuse(u"--overwrite goes with --export."_s);
     if (parser.isSet(spark))
         return readSpark(parser.value(spark));
     if (parser.isSet(pomodoro))
         return readPomodoro(parser.value(pomodoro));
+    if (parser.isSet(exportTo))
+        return readExport(parser.value(exportTo), parser.isSet(overwrite));
     return OpenCommand{};
 }

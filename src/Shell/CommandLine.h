@@ -1,11 +1,17 @@
 #pragma once
 
+#include "Services/ExportFolder.h"
+
 #include <QStringList>
 
 #include <variant>
 
 /// What the program says to its command line.
 struct CommandLineAnswer {
+    /// In the place of an exit code: nothing is against it, and the process that was given the command line
+    /// carries it out itself.
+    static constexpr int yours = 254;
+
     /// For standard output, or for standard error when the exit code is not 0.
     QString text;
     int exitCode = 0;
@@ -33,7 +39,16 @@ struct PomodoroCommand {
     bool operator==(const PomodoroCommand &) const = default;
 };
 
-using CommandLine = std::variant<CommandLineAnswer, OpenCommand, SparkCommand, PomodoroCommand>;
+/// To write all pages into a folder. Its path is not empty.
+struct ExportCommand {
+    QString folder;
+    ExportFolder::Existing existing = ExportFolder::Existing::keep;
+
+    bool operator==(const ExportCommand &) const = default;
+};
+
+using CommandLine =
+    std::variant<CommandLineAnswer, OpenCommand, SparkCommand, PomodoroCommand, ExportCommand>;
 
 /// What `arguments`, the first of which names the program, ask for, or the answer to them where that is
 /// already known. Needs no application object, so it works where there is no display.

@@ -29,8 +29,18 @@ CommandLineAnswer RemoteControl::answer(const QStringList &arguments)
         return captureSpark(m_appState, *spark);
     if (const auto *pomodoro = std::get_if<PomodoroCommand>(&commandLine))
         return workPomodoro(pomodoro->verb);
+    if (std::holds_alternative<ExportCommand>(commandLine))
+        return letExport();
     Q_EMIT openRequested();
     return {};
+}
+
+CommandLineAnswer RemoteControl::letExport()
+{
+    m_appState.saveChanges();
+    if (const std::optional<QString> &error = m_appState.lastSaveError())
+        return {u"pelko: %1\n"_s.arg(*error), 1};
+    return {{}, CommandLineAnswer::yours};
 }
 
 CommandLineAnswer RemoteControl::workPomodoro(PomodoroCommand::Verb verb)

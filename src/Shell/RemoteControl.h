@@ -26,6 +26,8 @@ Q_SIGNALS:
     void openRequested();
 
 private:
+    /// An export reads the file, which anybody may; it has to hold the latest words.
+    CommandLineAnswer letExport();
     CommandLineAnswer workPomodoro(PomodoroCommand::Verb verb);
     QString pomodoroStatus() const;
 

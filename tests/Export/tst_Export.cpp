@@ -114,6 +114,15 @@ private Q_SLOTS:
         QTEST(Export::page(page(blocks)).constFirst().path, "path");
     }
 
+    void pagesAndPicturesAreCounted()
+    {
+        PelkoDocument illustrated = page({image('A'), block('B', BlockType::image)});
+        QCOMPARE(Export::contents({}), u"0 pages"_s);
+        QCOMPARE(Export::contents({document(u"A"_s, 1)}), u"1 page"_s);
+        QCOMPARE(Export::contents({illustrated, document(u"A"_s, 1)}), u"2 pages and 1 picture"_s);
+        QCOMPARE(Export::contents({illustrated, illustrated}), u"2 pages and 2 pictures"_s);
+    }
+
     void theFirstBytesTellTheFormatOfAPicture_data()
     {
         QTest::addColumn<QByteArray>("bytes");

@@ -46,6 +46,25 @@ private Q_SLOTS:
         QCOMPARE(readCommandLine({u"pelko"_s, u"--pomodoro"_s, word}), CommandLine(PomodoroCommand{verb}));
     }
 
+    void readsAnExport_data()
+    {
+        using Existing = ExportFolder::Existing;
+        QTest::addColumn<QStringList>("words");
+        QTest::addColumn<ExportCommand>("command");
+        QTest::newRow("apart") << QStringList{u"--export"_s, u"my notes/"_s}
+                               << ExportCommand{u"my notes/"_s, Existing::keep};
+        QTest::newRow("together") << QStringList{u"--export=-x"_s} << ExportCommand{u"-x"_s, Existing::keep};
+        QTest::newRow("overwriting") << QStringList{u"--overwrite"_s, u"--export"_s, u"."_s}
+                                     << ExportCommand{u"."_s, Existing::replace};
+    }
+
+    void readsAnExport()
+    {
+        QFETCH(QStringList, words);
+        QFETCH(ExportCommand, command);
+        QCOMPARE(readCommandLine(QStringList{u"pelko"_s} + words), CommandLine(command));
+    }
+
     void answersHelp_data()
     {
         QTest::addColumn<QString>("option");
@@ -93,6 +112,11 @@ private Q_SLOTS:
         QTest::newRow("pomodoro without verb") << QStringList{u"--pomodoro"_s};
         QTest::newRow("pomodoro with another verb") << QStringList{u"--pomodoro"_s, u"skip"_s};
         QTest::newRow("two sparks") << QStringList{u"--spark"_s, u"a"_s, u"--spark"_s, u"b"_s};
+        QTest::newRow("export without a folder") << QStringList{u"--export"_s};
+        QTest::newRow("export into nothing") << QStringList{u"--export="_s};
+        QTest::newRow("two exports") << QStringList{u"--export"_s, u"a"_s, u"--export"_s, u"b"_s};
+        QTest::newRow("nothing to overwrite") << QStringList{u"--overwrite"_s};
+        QTest::newRow("spark and export") << QStringList{u"--spark"_s, u"a"_s, u"--export"_s, u"b"_s};
         QTest::newRow("spark and pomodoro") << QStringList{u"--spark"_s, u"a"_s, u"--pomodoro"_s, u"start"_s};
     }
 

@@ -62,6 +62,25 @@ private Q_SLOTS:
         QCOMPARE(opened.count(), 0);
     }
 
+    void anExportIsTheCallersOnceTheLatestWordsAreSaved()
+    {
+        const CommandLineAnswer yours{{}, CommandLineAnswer::yours};
+        QCOMPARE(m_program->answer({u"--export"_s, u"notes"_s}), yours);
+        QCOMPARE(m_program->file.writes(), 0);
+
+        m_program->appState.createDocument(Space::work);
+        QCOMPARE(m_program->answer({u"--export"_s, u"notes"_s}), yours);
+        QCOMPARE(m_program->file.writes(), 1);
+    }
+
+    void anExportWithoutTheLatestWordsIsNone()
+    {
+        m_program->appState.createDocument(Space::work);
+        m_program->file.writeError = u"No space left on device"_s;
+        const CommandLineAnswer expected{u"pelko: Save failed: No space left on device\n"_s, 1};
+        QCOMPARE(m_program->answer({u"--export"_s, u"notes"_s}), expected);
+    }
+
     void aSparkThatCannotBeSavedIsToldAndKept()
     {
         m_program->file.writeError = u"No space left on device"_s;

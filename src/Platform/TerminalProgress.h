@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QString>
+
+#include <cstdio>
+
+/// A line on a terminal that says how far long work has come. It appears when the work has taken a while,
+/// and is gone in the end. Says nothing to what is no terminal.
+class TerminalProgress
+{
+public:
+    /// As in "Exporting 12 of 100 files".
+    TerminalProgress(const QString &verb, const QString &noun, std::FILE *stream = stderr);
+    ~TerminalProgress();
+    Q_DISABLE_COPY_MOVE(TerminalProgress)
+
+    void show(qsizetype done, qsizetype all);
+
+private:
+    const QString m_verb;
+    const QString m_noun;
+    std::FILE *const m_stream;
+    const bool m_isTerminal;
+    QElapsedTimer m_sinceShown;
+    bool m_isShown = false;
+};
