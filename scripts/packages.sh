@@ -20,7 +20,7 @@ test=(
     clang-format-19 clang-tidy-19 clang-19 libclang-rt-19-dev shellcheck git
     desktop-file-utils appstream mandoc
     qml6-module-qttest
-    python3 python3-pyatspi at-spi2-core dbus
+    python3 python3-pyatspi at-spi2-core dbus cmark
     xvfb openbox xdotool x11-utils x11-apps xclip imagemagick
 )
 
