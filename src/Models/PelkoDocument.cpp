@@ -1,9 +1,8 @@
 #include "Models/PelkoDocument.h"
 
-#include <QDateTime>
+#include "Models/LocalTime.h"
 
 #include <algorithm>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -35,12 +34,7 @@ bool isTitledBanner(const Block &block)
 
 QString monthAndDay(Timestamp time, const QTimeZone &zone, const QLocale &locale)
 {
-    constexpr double referenceDate = 978'307'200; // 2001-01-01 in seconds since 1970
-    // A file may hold any number, a calendar may not: times beyond some 270,000 years count as its edge.
-    constexpr double edge = 8.64e15;
-    const double milliseconds = std::clamp(std::floor((time + referenceDate) * 1000), -edge, edge);
-    const auto date = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(milliseconds), zone).date();
-    return locale.toString(date, u"MMM d"_s);
+    return locale.toString(localTime(time, zone).date(), u"MMM d"_s);
 }
 } // namespace
 
