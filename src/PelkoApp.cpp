@@ -33,6 +33,7 @@ PelkoApp::PelkoApp()
     m_engine.setInitialProperties({{u"main"_s, QVariant::fromValue(&m_main)},
                                    {u"launch"_s, QVariant::fromValue(&m_launch)},
                                    {u"timers"_s, QVariant::fromValue(&m_timers)},
+                                   {u"tasks"_s, QVariant::fromValue(&m_tasks)},
                                    {u"folderChooser"_s, QVariant::fromValue(&m_folderChooser)}});
     m_engine.load(QUrl(u"qrc:/qt/qml/Pelko/Views/Shell/PelkoWindow.qml"_s));
     followWindow();

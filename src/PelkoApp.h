@@ -11,11 +11,13 @@
 #include "Platform/SystemDataLocation.h"
 #include "Platform/SystemPasteboard.h"
 #include "Platform/Tray/Tray.h"
+#include "Platform/UserPreferences.h"
 #include "Shell/FolderChooser.h"
 #include "Shell/LaunchSequence.h"
 #include "Shell/MainViewModel.h"
 #include "Shell/RemoteControl.h"
 #include "Store/AppState.h"
+#include "Tasks/TasksViewModel.h"
 #include "Timers/PomodoroTimer.h"
 #include "Timers/TimersViewModel.h"
 #include "Views/Timers/PomodoroPanel.h"
@@ -49,6 +51,7 @@ private:
     SystemClock m_clock;
     SystemDataLocation m_dataLocation;
     SystemPasteboard m_pasteboard;
+    UserPreferences m_preferences;
     LocalDocumentFile m_documentFile{m_dataLocation};
     LocalPictureFiles m_pictureFiles;
     LocalPictureFolders m_pictureFolders;
@@ -59,6 +62,7 @@ private:
     LaunchSequence m_launch{m_scheduler};
     PomodoroTimer m_pomodoroTimer{m_scheduler};
     TimersViewModel m_timers{m_pomodoroTimer, FlowTimer::shared(), m_appState, m_pasteboard, m_scheduler};
+    TasksViewModel m_tasks{m_appState, {m_scheduler, m_clock, m_preferences}};
     QQmlApplicationEngine m_engine;
     PomodoroPanel m_panel{m_engine, m_timers, m_scheduler};
     Tray m_tray;

@@ -16,6 +16,16 @@ QtObject {
         rimFoot: FirePalette.white(0.05)
         hairline: FirePalette.white(0.075)
     }
+    readonly property GlassKind badge: GlassKind {
+        sheenOnPlain: true
+        tint: FirePalette.white(0.10)
+        plain: FirePalette.white(0.10)
+        sheenTop: FirePalette.white(0.05)
+        sheenFoot: FirePalette.white(0.02)
+        rimTop: FirePalette.white(0.16)
+        rimMiddle: FirePalette.white(0.08)
+        rimFoot: FirePalette.white(0.06)
+    }
     readonly property GlassKind capsule: GlassKind {
         tint: Qt.rgba(24 / 255, 20 / 255, 18 / 255, 0.46)
         plain: "#2B2724"

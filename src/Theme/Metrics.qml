@@ -46,6 +46,18 @@ QtObject {
     readonly property int chipGap: 6
     readonly property int menuRowHeight: 30
     readonly property int panelWidth: 240
+    readonly property int panelPadding: 14
+    readonly property int cardPaddingX: 15
+    readonly property int cardPaddingY: 14
+    readonly property int badgeHeight: 16
+    readonly property int taskListHeight: 160
+    readonly property int taskToggleSize: 22
+    readonly property int taskToggleGlyph: 13
+    readonly property int taskDeleteSize: 16
+    readonly property int taskDeleteGlyph: 7
+    readonly property int goalBarHeight: 5
+    readonly property int streakCoin: 38
+    readonly property int streakFlame: 16
 
     readonly property int timerPanelWidth: 300
     readonly property int timerPanelPadding: 18

@@ -38,6 +38,16 @@ class Typography : public QObject
     Q_PROPERTY(QFont recentCaption READ recentCaption CONSTANT)
     Q_PROPERTY(QFont sparkCount READ sparkCount CONSTANT)
     Q_PROPERTY(QFont sparkText READ sparkText CONSTANT)
+    Q_PROPERTY(QFont clock READ clock CONSTANT)
+    Q_PROPERTY(QFont clockMarker READ clockMarker CONSTANT)
+    Q_PROPERTY(QFont goalFigure READ goalFigure CONSTANT)
+    Q_PROPERTY(QFont streakFigure READ streakFigure CONSTANT)
+    Q_PROPERTY(QFont cardCaption READ cardCaption CONSTANT)
+    Q_PROPERTY(QFont streakCaption READ streakCaption CONSTANT)
+    Q_PROPERTY(QFont taskGroup READ taskGroup CONSTANT)
+    Q_PROPERTY(QFont taskText READ taskText CONSTANT)
+    Q_PROPERTY(QFont noTasks READ noTasks CONSTANT)
+    Q_PROPERTY(QFont badge READ badge CONSTANT)
     Q_PROPERTY(int bannerTitleLine READ bannerTitleLine CONSTANT)
     Q_PROPERTY(int headingLine READ headingLine CONSTANT)
     Q_PROPERTY(int bodyLine READ bodyLine CONSTANT)
@@ -49,6 +59,10 @@ class Typography : public QObject
     Q_PROPERTY(int metaLine READ metaLine CONSTANT)
     Q_PROPERTY(int pomodoroTimeLine READ pomodoroTimeLine CONSTANT)
     Q_PROPERTY(int sparkLine READ sparkLine CONSTANT)
+    Q_PROPERTY(int clockLine READ clockLine CONSTANT)
+    Q_PROPERTY(int goalLine READ goalLine CONSTANT)
+    Q_PROPERTY(int streakLine READ streakLine CONSTANT)
+    Q_PROPERTY(int taskLine READ taskLine CONSTANT)
     QML_ELEMENT
     QML_SINGLETON
 
@@ -85,6 +99,17 @@ public:
     QFont sparkCount() const { return face(m_textFamily, 9, QFont::DemiBold); }
     QFont sparkText() const { return face(m_textFamily, 12, QFont::Normal); }
 
+    QFont clock() const { return face(m_displayFamily, 32, QFont::Light); }
+    QFont clockMarker() const { return face(m_textFamily, 11, QFont::DemiBold); }
+    QFont goalFigure() const { return face(m_displayFamily, 22, QFont::DemiBold); }
+    QFont streakFigure() const { return face(m_displayFamily, 20, QFont::DemiBold); }
+    QFont cardCaption() const { return face(m_textFamily, 9, QFont::Bold, 1.2); }
+    QFont streakCaption() const { return face(m_textFamily, 8, QFont::Bold, 1.2); }
+    QFont taskGroup() const { return face(m_textFamily, 8, QFont::Bold, 0.5); }
+    QFont taskText() const { return face(m_textFamily, 11, QFont::Normal); }
+    QFont noTasks() const { return face(m_textFamily, 10, QFont::Normal); }
+    QFont badge() const { return face(m_textFamily, 9, QFont::ExtraBold); }
+
     int bannerTitleLine() const { return 44; }
     int headingLine() const { return 42; }
     int bodyLine() const { return 27; }
@@ -96,6 +121,10 @@ public:
     int metaLine() const { return 16; }
     int pomodoroTimeLine() const { return 46; }
     int sparkLine() const { return 17; }
+    int clockLine() const { return 36; }
+    int goalLine() const { return 27; }
+    int streakLine() const { return 25; }
+    int taskLine() const { return 14; }
 
     /// A face of the given height in pixels, with `tracking` pixels added after each letter.
     Q_INVOKABLE QFont face(const QString &family, qreal pixels, int weight, qreal tracking = 0) const;

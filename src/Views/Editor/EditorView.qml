@@ -7,6 +7,7 @@ FocusScope {
 
     required property EditorViewModel editor
     property TimersViewModel timers: null
+    property TasksViewModel tasks: null
 
     function leaveBackwards() {
         page.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
@@ -58,6 +59,16 @@ FocusScope {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         onAddRequested: kind => root.editor.addBlock(kind)
         onWalkedBack: page.enter(false)
+
+        Repeater {
+            model: root.tasks?.isOffered ? [root.tasks] : []
+
+            TasksPanelToggleButton {
+                required property TasksViewModel modelData
+
+                tasks: modelData
+            }
+        }
 
         Repeater {
             model: root.timers ? [root.timers.flow] : []

@@ -10,6 +10,7 @@ FocusScope {
     required property MainViewModel main
     required property LaunchSequence launch
     property TimersViewModel timers: null
+    property TasksViewModel tasks: null
 
     Connections {
         target: root.Window.window
@@ -22,6 +23,7 @@ FocusScope {
         focus: true
         main: root.main
         timers: root.timers
+        tasks: root.tasks
     }
 
     Rectangle {

@@ -4,18 +4,20 @@ import QtQuick
 import QtQuick.Templates as T
 import Pelko
 
-/// The editor of the open document or the empty state; over it the layer that ends the navigation, the window's frame
-/// and the alerts.
+/// The editor of the open document or the empty state, and beside it the tasks panel; over them the layer that ends the
+/// navigation, the window's frame and the alerts.
 FocusScope {
     id: root
 
     required property MainViewModel main
     property TimersViewModel timers: null
+    property TasksViewModel tasks: null
 
     function showContent(operation: int) {
         main.openDocumentID === ""
             ? content.replace(null, emptyState, {}, operation)
-            : content.replace(null, editor, { editor: main.openEditor(main.openDocumentID), timers }, operation)
+            : content.replace(null, editor, { editor: main.openEditor(main.openDocumentID), timers, tasks },
+                              operation)
     }
 
     Component.onCompleted: showContent(T.StackView.Immediate)
@@ -39,7 +41,7 @@ FocusScope {
     T.StackView {
         id: content
 
-        anchors.fill: parent
+        anchors { fill: parent; rightMargin: panel.room }
         focus: true
         onCurrentItemChanged: if (currentItem) currentItem.focus = true
         replaceEnter: Fade { from: 0; to: 1 }
@@ -58,6 +60,14 @@ FocusScope {
         EmptyState {
             main: root.main
         }
+    }
+
+    TasksPanelPlace {
+        id: panel
+
+        anchors { bottom: parent.bottom; right: parent.right; top: parent.top }
+        tasks: root.tasks
+        onClosed: if (activeFocus) content.forceActiveFocus(Qt.OtherFocusReason)
     }
 
     // Almost invisible: it only has to be hit.

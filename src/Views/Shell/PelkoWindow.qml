@@ -9,6 +9,7 @@ Window {
     required property MainViewModel main
     required property LaunchSequence launch
     required property TimersViewModel timers
+    required property TasksViewModel tasks
     required property FolderChooser folderChooser
 
     width: 1100
@@ -33,7 +34,7 @@ Window {
             done = true
             Qt.createComponent("WindowContent.qml").createObject(window.contentItem,
                                                                  { main: window.main, launch: window.launch,
-                                                                   timers: window.timers,
+                                                                   timers: window.timers, tasks: window.tasks,
                                                                    folderChooser: window.folderChooser })
         }
     }

@@ -11,6 +11,7 @@ FocusScope {
     required property MainViewModel main
     required property LaunchSequence launch
     property TimersViewModel timers: null
+    property TasksViewModel tasks: null
     required property FolderChooser folderChooser
 
     anchors.fill: parent
@@ -24,6 +25,7 @@ FocusScope {
         main: root.main
         launch: root.launch
         timers: root.timers
+        tasks: root.tasks
     }
 
     FolderChooserDialog {

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Tasks/TasksPanelViewModel.h"
+#include "Tasks/TasksViewModel.h"
+
+#include <QtQml/qqml.h>
+
+/// Makes the view models of the tasks panel, which know nothing of QML, known to it.
+struct TasksViewModelForQml {
+    Q_GADGET
+    QML_FOREIGN(TasksViewModel)
+    QML_NAMED_ELEMENT(TasksViewModel)
+    QML_UNCREATABLE("Handed in by the program.")
+};
+
+struct TasksPanelViewModelForQml {
+    Q_GADGET
+    QML_FOREIGN(TasksPanelViewModel)
+    QML_NAMED_ELEMENT(TasksPanelViewModel)
+    QML_UNCREATABLE("Handed in by the program.")
+};

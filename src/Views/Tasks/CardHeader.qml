@@ -1,0 +1,43 @@
+import QtQuick
+import Pelko
+
+/// The line at the top of a card: its symbol, what it is about, and how many there are of it, if any.
+Item {
+    id: header
+
+    required property string symbol
+    required property string caption
+    property font font: Typography.cardCaption
+    /// Of the caption, which is white, and of the symbol, which is amber.
+    property real ink: 0.6
+    property real glow: 0.85
+    property int count: 0
+
+    width: parent?.width ?? 0
+    implicitHeight: Metrics.space14
+
+    SymbolIcon {
+        id: icon
+
+        anchors.verticalCenter: parent.verticalCenter
+        color: Qt.alpha(FirePalette.amber, header.glow)
+        name: header.symbol
+        size: 10
+    }
+
+    Text {
+        Accessible.name: text
+        Accessible.role: Accessible.Heading
+        anchors { left: icon.right; leftMargin: Metrics.space8; verticalCenter: parent.verticalCenter }
+        color: FirePalette.white(header.ink)
+        font: header.font
+        text: header.caption
+        textFormat: Text.PlainText
+    }
+
+    CountBadge {
+        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+        count: header.count
+        visible: count > 0
+    }
+}

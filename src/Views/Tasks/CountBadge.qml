@@ -1,0 +1,26 @@
+import QtQuick
+import Pelko
+
+/// A number on a capsule of glass.
+GlassPlate {
+    id: badge
+
+    required property int count
+
+    Accessible.name: figure.text
+    Accessible.role: Accessible.StaticText
+    implicitHeight: Metrics.badgeHeight
+    implicitWidth: Math.max(18, Math.ceil(figure.implicitWidth) + 10)
+    kind: Glass.badge
+
+    Text {
+        id: figure
+
+        Accessible.ignored: true
+        anchors.centerIn: parent
+        color: FirePalette.white(0.95)
+        font: Typography.badge
+        text: badge.count
+        textFormat: Text.PlainText
+    }
+}

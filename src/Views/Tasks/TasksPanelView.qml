@@ -1,0 +1,68 @@
+import QtQuick
+import Pelko
+
+/// The column of cards at the right of the editor. It scrolls where the window is too low for it.
+FocusScope {
+    id: root
+
+    required property TasksPanelViewModel panel
+
+    Accessible.name: qsTr("Tasks panel")
+    Accessible.role: Accessible.Pane
+    implicitWidth: Metrics.panelWidth
+
+    Item {
+        id: ground
+
+        anchors.fill: parent
+        clip: true
+
+        // Painted anew for every so many pixels only while the window is resized.
+        SidebarBG {
+            readonly property int step: 128
+
+            anchors { bottom: parent.bottom; left: parent.left; right: parent.right }
+            height: step * Math.ceil(parent.height / step)
+        }
+    }
+
+    WindowDragArea {
+        anchors.fill: parent
+    }
+
+    Flickable {
+        id: scroll
+
+        anchors { fill: parent; topMargin: Metrics.stripHeight }
+        boundsBehavior: Flickable.StopAtBounds
+        clip: interactive
+        contentHeight: cards.height + Metrics.panelPadding
+        interactive: contentHeight > height
+
+        Column {
+            id: cards
+
+            spacing: Metrics.panelPadding
+            width: parent.width - 2 * Metrics.panelPadding
+            x: Metrics.panelPadding
+
+            ClockCard {
+                backdrop: ground
+                panel: root.panel
+                width: parent.width
+            }
+        }
+    }
+
+    PelkoScrollBar {
+        anchors { bottom: scroll.bottom; right: parent.right; top: scroll.top }
+        flickable: scroll
+    }
+
+    // The line that divides it from the editor.
+    Rectangle {
+        color: FirePalette.white(0.08)
+        height: parent.height
+        width: 0.5
+    }
+}
