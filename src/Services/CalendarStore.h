@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Models/Timestamp.h"
+#include "Services/Scheduler.h"
+
+#include <QList>
+#include <QString>
+#include <QTimeZone>
+
+#include <optional>
+
+/// One thing in the user's calendars, at one time: what repeats is as many events.
+struct CalendarEvent {
+    std::optional<QString> title = std::nullopt;
+    Timestamp start = 0;
+    std::optional<QString> identifier = std::nullopt;
+
+    bool operator==(const CalendarEvent &) const = default;
+};
+
+/// A stretch of time, its end not included, and the zone whose midnights begin the days of it.
+struct CalendarWindow {
+    Timestamp from = 0;
+    Timestamp to = 0;
+    QTimeZone zone = QTimeZone::utc();
+};
+
+/// The calendars that the user keeps on this desktop, to be read only.
+class CalendarStore
+{
+public:
+    /// Nothing where the user's calendars may not be read, or where there are none.
+    using Answer = std::optional<QList<CalendarEvent>>;
+    using Completion = std::function<void(const Answer &)>;
+
+    virtual ~CalendarStore() = default;
+
+    /// Asks for access to all calendars and, with it, for every event that overlaps the window, without
+    /// holding up the interface. Answers once and on the interface thread, unless what is returned has been
+    /// dropped by then.
+    [[nodiscard]] virtual ScheduledCall fetch(const CalendarWindow &window, Completion completion) = 0;
+};
