@@ -6,7 +6,7 @@ set -euo pipefail
 build=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools qt6-shadertools-dev qt6-shader-baker qt6-svg-dev
-    libgl-dev libsimdjson-dev
+    libgl-dev libsimdjson-dev libical-dev pkg-config
 )
 run=(
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
@@ -20,7 +20,7 @@ test=(
     clang-format-19 clang-tidy-19 clang-19 libclang-rt-19-dev shellcheck git
     desktop-file-utils appstream mandoc
     qml6-module-qttest
-    python3 python3-pyatspi at-spi2-core dbus cmark
+    python3 python3-pyatspi at-spi2-core dbus cmark evolution-data-server
     xvfb openbox xdotool x11-utils x11-apps xclip imagemagick
 )
 

@@ -1,0 +1,64 @@
+#include "Calendar/CalendarContents.h"
+
+namespace
+{
+constexpr Timestamp referenceDate = 978'307'200; // of timestamps, as seconds since 1970
+
+CalendarEvent eventFrom(const Occurrence &occurrence)
+{
+    CalendarEvent event{.title = occurrence.title, .start = Timestamp(occurrence.start) - referenceDate};
+    if (!occurrence.identifier.isEmpty())
+        event.identifier = QString::fromUtf8(occurrence.identifier);
+    return event;
+}
+} // namespace
+
+CalendarContents::CalendarContents(const CalendarWindow &window)
+    : m_span{.from = window.from + referenceDate, .to = window.to + referenceDate}
+    , m_zones(window.zone)
+    , m_reader(m_zones, [this](CalendarEntry &&entry) { keep(std::move(entry)); })
+{
+}
+
+void CalendarContents::read(QByteArrayView text)
+{
+    m_reader.read(text);
+}
+
+void CalendarContents::keep(CalendarEntry &&entry)
+{
+    if (!isNear(entry))
+        return;
+    std::size_t place = m_series.size();
+    if (!entry.uid.isEmpty())
+        place = m_places.insert(entry.uid, m_places.value(entry.uid, place)).value();
+    if (place == m_series.size())
+        m_series.emplace_back();
+    m_series[place].add(std::move(entry));
+}
+
+/// Told by the wall clock alone, which no zone moves by more than a day: most entries are long past.
+bool CalendarContents::isNear(const CalendarEntry &entry) const
+{
+    constexpr qint64 slack = 2 * 86400;
+    if (entry.repeats() || entry.recurrenceId)
+        return true;
+    return entry.start.wall < m_span.to + slack &&
+           entry.start.wall + entry.span.roughSeconds() > m_span.from - slack;
+}
+
+QList<CalendarEvent> CalendarContents::events(const IsGivenUp &isGivenUp) const
+{
+    QList<CalendarEvent> events;
+    for (const bool repeating : {false, true}) {
+        for (const EventSeries &series : m_series) {
+            if (series.repeats() != repeating)
+                continue;
+            if (isGivenUp())
+                return events;
+            for (const Occurrence &occurrence : series.occurrences(m_span, isGivenUp))
+                events.append(eventFrom(occurrence));
+        }
+    }
+    return events;
+}

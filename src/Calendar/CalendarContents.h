@@ -1,0 +1,29 @@
+#pragma once
+
+#include "Calendar/CalendarReader.h"
+#include "Calendar/EventSeries.h"
+#include "Services/CalendarStore.h"
+
+/// One calendar, read from one or many texts for the sake of a window of time: what has nothing to do with
+/// the window is not kept.
+class CalendarContents
+{
+public:
+    explicit CalendarContents(const CalendarWindow &window);
+
+    void read(QByteArrayView text);
+
+    /// The events that overlap the window: first those that happen once, then the others, each in the order
+    /// in which they were read. Those that are known by the time that all is given up, if it is.
+    QList<CalendarEvent> events(const IsGivenUp &isGivenUp) const;
+
+private:
+    void keep(CalendarEntry &&entry);
+    bool isNear(const CalendarEntry &entry) const;
+
+    Span m_span;
+    ZoneTable m_zones;
+    CalendarReader m_reader;
+    std::vector<EventSeries> m_series;
+    QHash<QByteArray, std::size_t> m_places; // in m_series, by the UID
+};

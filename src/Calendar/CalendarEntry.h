@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Calendar/CalendarTime.h"
+#include "Calendar/RecurrenceRule.h"
+
+#include <QList>
+#include <QString>
+
+/// Another time at which an entry takes place, and how long it takes then if that differs.
+struct ExtraDate {
+    CalendarTime start;
+    std::optional<CalendarSpan> span = std::nullopt;
+};
+
+/// One event as a calendar has it written down: by itself, the first of a series, or what one occurrence of a
+/// series was changed to.
+struct CalendarEntry {
+    QByteArray uid = {};
+    std::optional<QString> title = std::nullopt;
+    CalendarTime start = {};
+    CalendarSpan span = {};
+    bool isCancelled = false;
+
+    QList<RecurrenceRule> rules = {};
+    QList<ExtraDate> extraDates = {};
+    QList<CalendarTime> exceptions = {};
+
+    /// The time of the occurrence that this takes the place of, and of all later ones where it says so.
+    std::optional<CalendarTime> recurrenceId = std::nullopt;
+    bool isForFuture = false;
+
+    bool repeats() const { return !rules.isEmpty() || !extraDates.isEmpty(); }
+    qint64 endUtc(qint64 wall) const { return span.endUtc(wall, *start.zone); }
+};

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "Calendar/CalendarEntry.h"
+#include "Calendar/ZoneTable.h"
+
+#include <functional>
+
+/// Reads the events of a calendar's text, one after the other: whole calendars and single events alike. An
+/// event that does not end, or that does not say when it begins, is left out, and so is everything else there
+/// may be in a text; nothing in it makes the reading fail, or take longer than its length.
+class CalendarReader
+{
+public:
+    using Take = std::function<void(CalendarEntry &&)>;
+
+    CalendarReader(ZoneTable &zones, Take take) : m_zones(zones), m_take(std::move(take)) {}
+
+    void read(QByteArrayView text);
+
+private:
+    struct EventDraft {
+        CalendarEntry entry = {};
+        bool hasStart = false;
+        std::optional<CalendarTime> end = std::nullopt;
+        std::optional<CalendarSpan> span = std::nullopt;
+    };
+    struct ZoneDraft {
+        QByteArray name = {};
+        std::vector<Observance> observances = {};
+        bool isInObservance = false;
+    };
+
+    void begin(QByteArrayView component);
+    void end(QByteArrayView component);
+    void readEventLine(const ContentLine &line);
+    void readRecurrenceLine(const ContentLine &line);
+    void readZoneLine(const ContentLine &line);
+    void finishEvent();
+    void addExtraDates(const ContentLine &line);
+    void addExceptions(const ContentLine &line);
+
+    ZoneTable &m_zones;
+    Take m_take;
+    std::optional<EventDraft> m_event;
+    std::optional<ZoneDraft> m_zone;
+    int m_depth = 0; // of what is inside the event: alarms, and whatever else
+};

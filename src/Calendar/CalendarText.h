@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+/// A title as a calendar writes it, for the user to read on one line; nothing where it is blank. Text that is
+/// not UTF-8 is taken for Latin-1.
+std::optional<QString> titleFrom(QByteArrayView value);
+
+/// "one,two" as two.
+std::vector<QByteArrayView> listItems(QByteArrayView value);
+
+/// "+0130" or "-053000" as seconds; 0 for what is neither.
+int offsetFrom(QByteArrayView value);

@@ -1,0 +1,108 @@
+#include "Calendar/EventSeries.h"
+
+#include "Calendar/LaterChanges.h"
+#include "Calendar/TimeSet.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+constexpr qint64 day = 86400;
+}
+
+void EventSeries::add(CalendarEntry entry)
+{
+    (entry.recurrenceId ? m_changes : m_entries).append(std::move(entry));
+}
+
+bool EventSeries::repeats() const
+{
+    return !m_changes.isEmpty() || std::ranges::any_of(m_entries, &CalendarEntry::repeats);
+}
+
+QList<Occurrence> EventSeries::occurrences(const Span &span, const IsGivenUp &isGivenUp) const
+{
+    QList<Occurrence> found;
+    // Who calls all of it off says so once, and not of each occurrence that was changed before.
+    if (!m_entries.isEmpty() && std::ranges::all_of(m_entries, &CalendarEntry::isCancelled))
+        return found;
+    for (const CalendarEntry &entry : m_entries) {
+        if (!entry.isCancelled)
+            addRepeated(found, entry, span, isGivenUp);
+    }
+    for (const CalendarEntry &change : m_changes) {
+        const qint64 start = change.start.utc();
+        if (!change.isCancelled)
+            addIfOverlapping(found, span, {start, change.title, identifierAt(change, start)},
+                             change.endUtc(change.start.wall));
+    }
+    std::ranges::stable_sort(found, {}, &Occurrence::start);
+    const auto copies = std::ranges::unique(found);
+    found.erase(copies.begin(), copies.end());
+    return found;
+}
+
+void EventSeries::addRepeated(QList<Occurrence> &found, const CalendarEntry &entry, const Span &span,
+                              const IsGivenUp &isGivenUp) const
+{
+    const Instances all = instances(entry, span, isGivenUp);
+    const LaterChanges later(entry, m_changes);
+    for (auto instance = all.begin(); instance != all.end(); ++instance) {
+        const CalendarEntry *change = later.at(instance.key());
+        if (change && change->isCancelled)
+            continue;
+        const qint64 wall = instance.key() + (change ? later.shiftOf(*change) : 0);
+        const CalendarSpan length = change ? change->span : instance.value();
+        const qint64 start = entry.start.zone->utc(wall);
+        addIfOverlapping(found, span,
+                         {start, change ? change->title : entry.title, identifierAt(entry, start)},
+                         length.endUtc(wall, *entry.start.zone));
+    }
+}
+
+/// The times an entry has by itself, near a span: without those that were left out or changed one by one.
+EventSeries::Instances EventSeries::instances(const CalendarEntry &entry, const Span &span,
+                                              const IsGivenUp &isGivenUp) const
+{
+    const WallZone &zone = *entry.start.zone;
+    qint64 longest = entry.span.roughSeconds();
+    for (const ExtraDate &extra : entry.extraDates)
+        longest = std::max(longest, extra.span.value_or(entry.span).roughSeconds());
+    const qint64 reach = std::max<qint64>(longest, 0) + LaterChanges(entry, m_changes).reach() + day;
+    const RecurrenceRule::Range range{.from = zone.wall(qint64(std::floor(span.from))) - reach,
+                                      .to = zone.wall(qint64(std::ceil(span.to))) + reach};
+    Instances all{{entry.start.wall, entry.span}};
+    for (const RecurrenceRule &rule : entry.rules) {
+        for (const qint64 wall : rule.times(entry.start, range, isGivenUp))
+            all.insert(wall, entry.span);
+    }
+    for (const ExtraDate &extra : entry.extraDates)
+        all.insert(extra.start.isDay ? extra.start.wall : zone.wall(extra.start.utc()),
+                   extra.span.value_or(entry.span));
+
+    TimeSet elsewhere(entry.start);
+    for (const CalendarTime &time : entry.exceptions)
+        elsewhere.add(time);
+    for (const CalendarEntry &change : m_changes)
+        elsewhere.add(*change.recurrenceId);
+    all.removeIf([&](const auto &instance) {
+        return instance.key() < range.from || instance.key() >= range.to ||
+               elsewhere.contains(instance.key());
+    });
+    return all;
+}
+
+void EventSeries::addIfOverlapping(QList<Occurrence> &found, const Span &span, const Occurrence &occurrence,
+                                   qint64 end)
+{
+    if (span.overlaps(occurrence.start, end))
+        found.append(occurrence);
+}
+
+QByteArray EventSeries::identifierAt(const CalendarEntry &entry, qint64 start) const
+{
+    if (entry.uid.isEmpty() || !repeats())
+        return entry.uid;
+    return entry.uid + '/' + QByteArray::number(start);
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "Calendar/CalendarEntry.h"
+
+#include <QMap>
+
+/// A stretch of time in seconds of the world's clock, its end not included.
+struct Span {
+    double from = 0;
+    double to = 0;
+
+    /// What takes no time at all overlaps where it is.
+    bool overlaps(qint64 start, qint64 end) const { return start < to && (end > from || start >= from); }
+};
+
+/// One time at which something takes place.
+struct Occurrence {
+    qint64 start = 0;
+    std::optional<QString> title = std::nullopt;
+    QByteArray identifier = {};
+
+    bool operator==(const Occurrence &) const = default;
+};
+
+/// All entries of one UID: something that happens once or again and again, and what single occurrences of it,
+/// or all from one on, were changed to.
+class EventSeries
+{
+public:
+    void add(CalendarEntry entry);
+
+    /// Takes place at more than the one time it was entered for, or was changed.
+    bool repeats() const;
+
+    /// The occurrences that overlap a span, in the order of their starts. What was cancelled is not among
+    /// them.
+    QList<Occurrence> occurrences(const Span &span, const IsGivenUp &isGivenUp) const;
+
+private:
+    using Instances = QMap<qint64, CalendarSpan>; // by the wall time in the zone of the entry
+
+    Instances instances(const CalendarEntry &entry, const Span &span, const IsGivenUp &isGivenUp) const;
+    void addRepeated(QList<Occurrence> &found, const CalendarEntry &entry, const Span &span,
+                     const IsGivenUp &isGivenUp) const;
+    static void addIfOverlapping(QList<Occurrence> &found, const Span &span, const Occurrence &occurrence,
+                                 qint64 end);
+    QByteArray identifierAt(const CalendarEntry &entry, qint64 start) const;
+
+    QList<CalendarEntry> m_entries; // more than one only where somebody made a copy
+    QList<CalendarEntry> m_changes;
+};
