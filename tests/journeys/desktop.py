@@ -99,8 +99,14 @@ def end_group(leader):
 
 
 def start_window_manager():
-    manager = subprocess.Popen(["openbox", "--sm-disable"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    until(lambda: "window id" in shown("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "window manager is there")
+    """Returns once it manages windows: one that is shown while it is still taking over can stay unmapped."""
+    ready = pathlib.Path(os.environ["PELKO_JOURNEY"]) / "managed"
+    manager = subprocess.Popen(
+        ["openbox", "--sm-disable", "--startup", f"touch {ready}"],
+        stdout=subprocess.DEVNULL,
+        stderr=subprocess.DEVNULL,
+    )
+    until(ready.exists, "the window manager manages windows")
     return manager
 
 
