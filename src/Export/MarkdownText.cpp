@@ -116,8 +116,7 @@ private:
 /// underline; -1 for none.
 qsizetype markAtStart(const QString &line)
 {
-    static const QRegularExpression mark(
-        uR"(^(?:#{1,6}(?=\s|\z)|>|[-+](?=\s|\z)|[-=|:](?=[-=|:\s]*\z)))"_s);
+    static const QRegularExpression mark(uR"(^(?:#{1,6}(?=\s|\z)|>|[-+](?=\s|\z)|[-=|:](?=[-=|:\s]*\z)))"_s);
     static const QRegularExpression number(uR"(^[0-9]{1,9}(?=[.)](?:\s|\z)))"_s);
     if (mark.match(line).hasMatch())
         return 0;

@@ -49,8 +49,8 @@ QVariant CommandListModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> CommandListModel::roleNames() const
 {
-    return {{KindRole, "kind"},           {CommandIDRole, "commandID"}, {TitleRole, "title"},
-            {SymbolRole, "symbol"},       {ShortcutRole, "shortcut"},   {IsInMenuRole, "isInMenu"},
+    return {{KindRole, "kind"},           {CommandIDRole, "commandID"},   {TitleRole, "title"},
+            {SymbolRole, "symbol"},       {ShortcutRole, "shortcut"},     {IsInMenuRole, "isInMenu"},
             {IsEnabledRole, "isEnabled"}, {IsTickableRole, "isTickable"}, {IsTickedRole, "isTicked"}};
 }
 
@@ -106,7 +106,7 @@ bool CommandListModel::ask(Row &row)
 
 const CommandListModel::Row *CommandListModel::row(const QString &id) const
 {
-    const auto found =
-        std::ranges::find_if(m_rows, [&id](const Row &row) { return !row.isSeparator && row.command.id == id; });
+    const auto found = std::ranges::find_if(
+        m_rows, [&id](const Row &row) { return !row.isSeparator && row.command.id == id; });
     return found == m_rows.end() ? nullptr : &*found;
 }

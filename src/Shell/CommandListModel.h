@@ -7,16 +7,16 @@
 
 #include <functional>
 
-/// What a command does, whether it can be given now, and whether it stands for something that is on. Without a
-/// question it is always possible and never on.
+/// What a command does, whether it can be given now, and whether it stands for something that is on. Without
+/// a question it is always possible and never on.
 struct CommandDeed {
     std::function<void()> run;
     std::function<bool()> isEnabled = [] { return true; };
     std::function<bool()> isTicked = nullptr;
 };
 
-/// The commands as the app menu shows them, with the hairlines between their groups. Each is bound to its deed by
-/// whoever can do it; until then it is disabled.
+/// The commands as the app menu shows them, with the hairlines between their groups. Each is bound to its
+/// deed by whoever can do it; until then it is disabled.
 class CommandListModel : public QAbstractListModel
 {
     Q_OBJECT

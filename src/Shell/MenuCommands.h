@@ -3,8 +3,8 @@
 #include <QList>
 #include <QString>
 
-/// The groups of the app menu, in its order, with a hairline between any two. What belongs to none is given by its key
-/// alone.
+/// The groups of the app menu, in its order, with a hairline between any two. What belongs to none is given
+/// by its key alone.
 enum class CommandGroup { documents, spaces, views, program, none };
 
 /// One command of the program: what it is called wherever it is offered, and its key when it has one.
@@ -17,5 +17,6 @@ struct MenuCommand {
     CommandGroup group = CommandGroup::none;
 };
 
-/// Every command, in the order of the menu. The app menu, the keys and the sheet of keys are all made from it.
+/// Every command, in the order of the menu. The app menu, the keys and the sheet of keys are all made from
+/// it.
 const QList<MenuCommand> &menuCommands();

@@ -4,9 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-ShellCommands::ShellCommands(AppState &appState, QObject *parent)
-    : QObject(parent)
-    , m_appState(appState)
+ShellCommands::ShellCommands(AppState &appState, QObject *parent) : QObject(parent), m_appState(appState)
 {
     bind(u"newDocument"_s, {.run = [this] { m_appState.createDocument(m_appState.currentSpace()); }});
     bind(u"about"_s, {.run = [this] { m_appState.setShowAbout(true); }});

@@ -6,8 +6,8 @@
 
 class AppState;
 
-/// What the program can be told by menu and key. Commands that only change the store are carried out here; what needs
-/// the window, the timers or the end of the program is asked for.
+/// What the program can be told by menu and key. Commands that only change the store are carried out here;
+/// what needs the window, the timers or the end of the program is asked for.
 class ShellCommands : public QObject
 {
     Q_OBJECT

@@ -8,7 +8,8 @@ namespace
 {
 constexpr qsizetype longest = 80;
 
-/// Marks, embeddings, overrides and isolates, which reach beyond the text they stand in when they are left open.
+/// Marks, embeddings, overrides and isolates, which reach beyond the text they stand in when they are left
+/// open.
 bool turnsDirection(QChar character)
 {
     switch (character.unicode()) {

@@ -71,7 +71,8 @@ public:
     void moveBlock(const QUuid &documentID, qsizetype from, qsizetype to);
     /// Writes all documents now. A failure becomes `lastError`.
     void save();
-    /// Writes them if anything has changed that is not in the file yet. `lastSaveError` tells what came of it.
+    /// Writes them if anything has changed that is not in the file yet. `lastSaveError` tells what came of
+    /// it.
     void saveChanges();
 
 Q_SIGNALS:

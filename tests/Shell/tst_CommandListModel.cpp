@@ -10,8 +10,8 @@ namespace
 {
 using Model = CommandListModel;
 
-/// Rows as "id", "-" for a hairline, with "?" where one is disabled, "+" where it is on and "*" where it has a key
-/// only.
+/// Rows as "id", "-" for a hairline, with "?" where one is disabled, "+" where it is on and "*" where it has
+/// a key only.
 QStringList rows(const CommandListModel &model)
 {
     QStringList rows;
