@@ -58,7 +58,7 @@ private:
     FolderChooser m_folderChooser{m_pictureFolders};
     PortalImageChooser m_imageChooser{QDBusConnection::sessionBus(), activeWindowName, m_folderChooser};
     AppState m_appState{m_scheduler, m_clock, m_documentFile};
-    MainViewModel m_main{m_appState, {m_scheduler, m_pasteboard, m_imageChooser, m_pictureFiles}};
+    MainViewModel m_main{m_appState, m_clock, {m_scheduler, m_pasteboard, m_imageChooser, m_pictureFiles}};
     LaunchSequence m_launch{m_scheduler};
     PomodoroTimer m_pomodoroTimer{m_scheduler};
     TimersViewModel m_timers{m_pomodoroTimer, FlowTimer::shared(), m_appState, m_pasteboard, m_scheduler};

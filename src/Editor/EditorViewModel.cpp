@@ -39,6 +39,7 @@ EditorViewModel::EditorViewModel(AppState &appState, const EditorServices &servi
 {
     connect(&m_appState, &AppState::documentsChanged, this, &EditorViewModel::refresh);
     connect(&m_appState, &AppState::focusModeChanged, this, &EditorViewModel::focusInFocusMode);
+    connect(&m_appState, &AppState::showNavChanged, this, &EditorViewModel::focusAfterNavigation);
     connect(&m_appState, &AppState::openDocumentIDAboutToChange, this, &EditorViewModel::settleRequested);
     connect(&m_drag, &BlockDrag::reordered, this,
             [this](const PelkoDocument &before) { m_session.recordStored(before); });
@@ -232,9 +233,19 @@ void EditorViewModel::focus(const FocusTarget &target)
 {
     if (rowOf(text(target.blockID)) < 0) // deleted since, or on another page
         return;
+    if (m_appState.showNav()) { // which has the keyboard until it closes
+        m_waitingFocus = target;
+        return;
+    }
     m_session.goTo(target);
     setFocusedBlockID(text(target.blockID));
     Q_EMIT focusRequested(m_focusedBlockID, target.todoID ? text(*target.todoID) : QString(), target.caret);
+}
+
+void EditorViewModel::focusAfterNavigation()
+{
+    if (const auto waiting = m_appState.showNav() ? std::nullopt : std::exchange(m_waitingFocus, {}))
+        focus(*waiting);
 }
 
 void EditorViewModel::focusAfter(std::chrono::milliseconds delay, const FocusTarget &target)

@@ -114,6 +114,7 @@ private:
     void focus(const FocusTarget &target);
     void focusAfter(std::chrono::milliseconds delay, const FocusTarget &target);
     void focusInFocusMode();
+    void focusAfterNavigation();
     void setFocusedBlockID(const QString &blockID);
     void setScrollTarget(const QString &blockID);
 
@@ -134,4 +135,5 @@ private:
     QString m_focusedBlockID;
     QString m_scrollTarget;
     ScheduledCall m_delayedFocus;
+    std::optional<FocusTarget> m_waitingFocus;
 };

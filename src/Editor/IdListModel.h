@@ -24,9 +24,7 @@ public:
     {
         const auto changes = RowDiff::between(keys(m_rows), keys(rows));
         if (!changes) {
-            beginResetModel();
-            m_rows = std::move(rows);
-            endResetModel();
+            reset(std::move(rows));
             return;
         }
         for (const RowChange &change : *changes)
@@ -36,6 +34,14 @@ public:
     }
 
 protected:
+    /// For rows that have nothing to do with those before.
+    void reset(QList<Row> rows)
+    {
+        beginResetModel();
+        m_rows = std::move(rows);
+        endResetModel();
+    }
+
     /// Puts a row of the same key in the place of another and tells what differs.
     void update(qsizetype row, const Row &after)
     {

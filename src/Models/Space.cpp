@@ -17,6 +17,19 @@ QString rawValue(Space space)
     Q_UNREACHABLE();
 }
 
+QString displayName(Space space)
+{
+    switch (space) {
+    case Space::ideas:
+        return u"Ideas"_s;
+    case Space::work:
+        return u"Work"_s;
+    case Space::journal:
+        return u"Journal"_s;
+    }
+    Q_UNREACHABLE();
+}
+
 std::optional<Space> spaceFromRawValue(QStringView raw)
 {
     const auto found = std::ranges::find_if(allSpaces, [raw](Space space) { return rawValue(space) == raw; });

@@ -17,9 +17,9 @@ struct Found {
 class SearchWord
 {
 public:
-    explicit SearchWord(const QString &folded) : m_matcher(folded) {}
+    explicit SearchWord(const QString &folded) : m_word(folded), m_matcher(folded) {}
 
-    qsizetype length() const { return m_matcher.pattern().size(); }
+    qsizetype length() const { return m_word.size(); }
     /// The first place from `from` on where it stands in the folded text.
     Found next(QStringView folded, qsizetype from) const;
     /// The first of the places that it fits best.
@@ -28,6 +28,7 @@ public:
 private:
     Fit fitAt(QStringView folded, qsizetype place) const;
 
+    QString m_word;
     QStringMatcher m_matcher;
 };
 

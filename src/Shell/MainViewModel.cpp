@@ -1,5 +1,6 @@
 #include "Shell/MainViewModel.h"
 
+#include "Navigation/PageTexts.h"
 #include "Shell/WindowTitle.h"
 #include "Store/AppState.h"
 #include "Store/ChangeScope.h"
@@ -7,10 +8,12 @@
 
 using namespace Qt::StringLiterals;
 
-MainViewModel::MainViewModel(AppState &appState, const EditorServices &services, QObject *parent)
+MainViewModel::MainViewModel(AppState &appState, const Clock &clock, const EditorServices &services,
+                             QObject *parent)
     : QObject(parent)
     , m_appState(appState)
     , m_services(services)
+    , m_navigation(appState, clock)
 {
     greet();
     followStore();
@@ -25,6 +28,8 @@ void MainViewModel::followStore()
     connect(&m_appState, &AppState::lastErrorChanged, this, &MainViewModel::followError);
     connect(&m_appState, &AppState::currentSpaceChanged, this, &MainViewModel::followOpenDocument);
     connect(&m_appState, &AppState::showNavChanged, this, &MainViewModel::showNavChanged);
+    connect(&m_appState, &AppState::showSavedIndicatorChanged, this,
+            &MainViewModel::showSavedIndicatorChanged);
     connect(&m_appState, &AppState::showDocLimitNudgeChanged, this, &MainViewModel::showDocLimitNudgeChanged);
     connect(&m_appState, &AppState::showAboutChanged, this, &MainViewModel::showAboutChanged);
 }
@@ -32,6 +37,11 @@ void MainViewModel::followStore()
 bool MainViewModel::showNav() const
 {
     return m_appState.showNav();
+}
+
+bool MainViewModel::showSavedIndicator() const
+{
+    return m_appState.showSavedIndicator();
 }
 
 bool MainViewModel::showDocLimitNudge() const
@@ -60,7 +70,12 @@ EditorViewModel *MainViewModel::openEditor(const QString &documentID)
 
 void MainViewModel::createDocument()
 {
-    m_appState.createDocument(m_appState.currentSpace());
+    m_navigation.createDocument();
+}
+
+void MainViewModel::toggleNav()
+{
+    m_appState.setShowNav(!m_appState.showNav());
 }
 
 void MainViewModel::dismissNav()
@@ -90,7 +105,7 @@ void MainViewModel::requestDelete(const QString &documentID)
         return;
     ChangeScope changes(*this);
     changes.assign(m_docToDelete, *document, &MainViewModel::docToDeleteChanged);
-    changes.assign(m_deleteConfirmText, u"Delete “%1” for good?"_s.arg(document->title()),
+    changes.assign(m_deleteConfirmText, u"Delete “%1” for good?"_s.arg(pageName(*document)),
                    &MainViewModel::deleteConfirmTextChanged);
 }
 

@@ -2,6 +2,7 @@
 
 #include "Editor/EditorViewModel.h"
 #include "Models/PelkoDocument.h"
+#include "Navigation/NavigationViewModel.h"
 #include "Shell/ShellCommands.h"
 
 #include <QObject>
@@ -18,10 +19,12 @@ class MainViewModel : public QObject
     Q_OBJECT
     Q_PROPERTY(QString openDocumentID READ openDocumentID NOTIFY openDocumentIDChanged)
     Q_PROPERTY(EditorViewModel *editor READ editor NOTIFY editorChanged)
+    Q_PROPERTY(NavigationViewModel *navigation READ navigation CONSTANT)
     Q_PROPERTY(QString windowTitle READ windowTitle NOTIFY windowTitleChanged)
     Q_PROPERTY(QString topMessage READ topMessage NOTIFY topMessageChanged)
     Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY emptyMessageChanged)
     Q_PROPERTY(bool showNav READ showNav NOTIFY showNavChanged)
+    Q_PROPERTY(bool showSavedIndicator READ showSavedIndicator NOTIFY showSavedIndicatorChanged)
     Q_PROPERTY(bool showDocLimitNudge READ showDocLimitNudge NOTIFY showDocLimitNudgeChanged)
     Q_PROPERTY(bool showAbout READ showAbout NOTIFY showAboutChanged)
     Q_PROPERTY(bool showError READ showError NOTIFY showErrorChanged)
@@ -32,18 +35,21 @@ class MainViewModel : public QObject
     Q_PROPERTY(ShellCommands *commands READ commands CONSTANT)
 
 public:
-    MainViewModel(AppState &appState, const EditorServices &services, QObject *parent = nullptr);
+    MainViewModel(AppState &appState, const Clock &clock, const EditorServices &services,
+                  QObject *parent = nullptr);
 
     /// Of the document in the editor; empty when the empty state is shown.
     QString openDocumentID() const { return m_openDocumentID; }
     /// The editor that was opened last; null when it is gone.
     EditorViewModel *editor() const { return m_editor; }
+    NavigationViewModel *navigation() { return &m_navigation; }
     QString windowTitle() const { return m_windowTitle; }
     /// The greeting of the window, the same for as long as it is open.
     QString topMessage() const { return m_topMessage; }
     /// Picked again whenever the empty state comes up or the library changes behind it.
     QString emptyMessage() const { return m_emptyMessage; }
     bool showNav() const;
+    bool showSavedIndicator() const;
     bool showDocLimitNudge() const;
     bool showAbout() const;
     bool showError() const { return m_showError; }
@@ -60,8 +66,9 @@ public:
     void greet();
     /// A new editor of that document. Whoever shows it calls its `release` when done.
     Q_INVOKABLE EditorViewModel *openEditor(const QString &documentID);
-    /// Creates a document in the current space, or raises the limit alert.
+    /// Creates a document in the current space and closes the navigation, or raises the limit alert.
     Q_INVOKABLE void createDocument();
+    Q_INVOKABLE void toggleNav();
     Q_INVOKABLE void dismissNav();
     Q_INVOKABLE void dismissDocLimitNudge();
     Q_INVOKABLE void dismissAbout();
@@ -78,6 +85,7 @@ Q_SIGNALS:
     void topMessageChanged();
     void emptyMessageChanged();
     void showNavChanged();
+    void showSavedIndicatorChanged();
     void showDocLimitNudgeChanged();
     void showAboutChanged();
     void showErrorChanged();
@@ -93,6 +101,7 @@ private:
 
     AppState &m_appState;
     const EditorServices m_services;
+    NavigationViewModel m_navigation;
     ShellCommands m_commands{m_appState};
     QPointer<EditorViewModel> m_editor;
     QString m_openDocumentID;

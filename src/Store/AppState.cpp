@@ -12,7 +12,6 @@ using namespace std::chrono_literals;
 
 namespace
 {
-constexpr qsizetype documentLimit = 5; // in each space
 constexpr auto saveDelay = 500ms;
 constexpr auto savedIndicatorTime = 1500ms;
 

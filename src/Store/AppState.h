@@ -17,6 +17,9 @@ class AppState : public QObject
     Q_OBJECT
 
 public:
+    /// How many documents a space takes from `createDocument`.
+    static constexpr qsizetype documentLimit = 5;
+
     /// Loads the documents. The services must outlive the store.
     AppState(Scheduler &scheduler, const Clock &clock, DocumentFile &file);
     ~AppState() override;

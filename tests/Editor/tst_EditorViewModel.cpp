@@ -624,6 +624,21 @@ private Q_SLOTS:
         QCOMPARE(focused, {});
     }
 
+    void whatWantsTheFocusWaitsUntilTheNavigationCloses()
+    {
+        edit({block('A', heading, u"Title"_s), block('B')});
+        state->setShowNav(true);
+        editor->appeared();
+        scheduler.advance(2s);
+        QCOMPARE(focused, {});
+        state->setShowNav(false);
+        QCOMPARE(focused, {u"B@end"_s});
+        takeFocused();
+        state->setShowNav(true);
+        state->setShowNav(false);
+        QCOMPARE(focused, {});
+    }
+
     void focusModeFocusesTheFirstTextBlock()
     {
         edit({image('A'), block('B', BlockType::quote, u"said"_s), block('C')});

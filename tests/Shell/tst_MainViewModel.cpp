@@ -12,6 +12,7 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace
 {
@@ -27,7 +28,7 @@ struct Program {
     explicit Program(const ManualDocumentFile &start = {})
         : file(start)
         , appState(scheduler, clock, file)
-        , main(appState, desktop.services(scheduler))
+        , main(appState, clock, desktop.services(scheduler))
     {
     }
 
@@ -248,6 +249,26 @@ private Q_SLOTS:
         QCOMPARE(program.main.deleteConfirmText(), u"Delete “Letter to the printer” for good?"_s);
     }
 
+    void theConfirmationNamesALongPageInAFewWords()
+    {
+        Program program;
+        program.createDocuments(1);
+        const QString title = u"x"_s.repeated(10'000) + u"\nmore"_s;
+        program.appState.updateDocument(titled(*program.appState.openDocument(), title));
+        program.main.requestDelete(program.openID());
+
+        QCOMPARE(program.main.deleteConfirmText(), u"Delete “%1…” for good?"_s.arg(title.left(120)));
+    }
+
+    void theConfirmationNamesASparkByWhatItSays()
+    {
+        Program program;
+        const auto spark = program.appState.captureSpark(u"A lamp that dims"_s);
+        program.main.requestDelete(spark->id.toString());
+
+        QCOMPARE(program.main.deleteConfirmText(), u"Delete “A lamp that dims” for good?"_s);
+    }
+
     void askingToDeleteAnUnknownPageAsksNothing()
     {
         Program program;
@@ -269,6 +290,47 @@ private Q_SLOTS:
         QVERIFY(!program.appState.showNav());
     }
 
+    void theNavigationOpensAndClosesWithOneKey()
+    {
+        Program program;
+        program.main.toggleNav();
+        QVERIFY(program.main.showNav());
+        program.main.toggleNav();
+        QVERIFY(!program.main.showNav());
+    }
+
+    void aNewPageClosesTheNavigation()
+    {
+        Program program;
+        program.appState.setShowNav(true);
+        program.main.createDocument();
+
+        QVERIFY(!program.main.showNav());
+    }
+
+    void theNavigationStaysWhereASpaceIsFull()
+    {
+        Program program;
+        program.createDocuments(5);
+        program.appState.setShowNav(true);
+        program.main.createDocument();
+
+        QVERIFY(program.main.showDocLimitNudge());
+        QVERIFY(program.main.showNav());
+    }
+
+    void theTickIsShownAfterASave()
+    {
+        Program program;
+        QSignalSpy changes(&program.main, &MainViewModel::showSavedIndicatorChanged);
+        program.appState.save();
+        QVERIFY(program.main.showSavedIndicator());
+        program.scheduler.advance(1500ms);
+
+        QVERIFY(!program.main.showSavedIndicator());
+        QCOMPARE(changes.count(), 2);
+    }
+
     void theGreetingIsOneLineForAsLongAsTheWindowIsOpen()
     {
         Program program;
@@ -284,7 +346,8 @@ private Q_SLOTS:
         Program program;
         QString previous = program.main.topMessage();
         for (int i = 0; i < 50; ++i) {
-            const MainViewModel next(program.appState, program.desktop.services(program.scheduler));
+            const MainViewModel next(program.appState, program.clock,
+                                     program.desktop.services(program.scheduler));
             QVERIFY(next.topMessage() != previous);
             previous = next.topMessage();
         }

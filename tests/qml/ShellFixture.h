@@ -42,6 +42,23 @@ public:
             m_main.createDocument();
     }
 
+    /// A page that was written a second after the one before.
+    Q_INVOKABLE void addPage(const QString &space, const QString &title, const QString &text)
+    {
+        m_clock.time += 1;
+        m_appState.createDocument(spaceFromRawValue(space).value());
+        PelkoDocument page = m_appState.documents().last();
+        page.blocks[0].content = title;
+        page.blocks[1].content = text;
+        m_appState.updateDocument(page);
+    }
+
+    Q_INVOKABLE void addSpark(const QString &text)
+    {
+        m_clock.time += 1;
+        m_appState.captureSpark(text);
+    }
+
     Q_INVOKABLE void failToSave()
     {
         m_file.writeError = QStringLiteral("No space left on device");
@@ -56,6 +73,6 @@ private:
     ManualDocumentFile m_file;
     ManualDesktop m_desktop;
     AppState m_appState{m_scheduler, m_clock, m_file};
-    MainViewModel m_main{m_appState, m_desktop.services(m_scheduler)};
+    MainViewModel m_main{m_appState, m_clock, m_desktop.services(m_scheduler)};
     LaunchSequence m_launch{m_scheduler};
 };

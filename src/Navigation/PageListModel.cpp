@@ -1,0 +1,91 @@
+#include "Navigation/PageListModel.h"
+
+#include "Navigation/PageTexts.h"
+
+using namespace Qt::StringLiterals;
+
+void PageListModel::begin(QList<PageRow> rows, Timestamp now, const QTimeZone &zone)
+{
+    m_now = now;
+    m_zone = zone;
+    reset(std::move(rows));
+}
+
+QString PageListModel::ageAndLength(const PelkoDocument &page) const
+{
+    const qint64 words = page.wordCount();
+    return u"%1 · %2 %3"_s.arg(page.relativeDate(m_now, m_zone, QLocale()), QString::number(words),
+                               words == 1 ? u"word"_s : u"words"_s);
+}
+
+MarkedLine PageListModel::name(const PageRow &row) const
+{
+    return row.name.value_or(MarkedLine{pageName(row.page), {}});
+}
+
+MarkedLine PageListModel::detail(const PageRow &row) const
+{
+    return row.context ? *row.context : MarkedLine{ageAndLength(row.page), {}};
+}
+
+QString PageListModel::description(const PageRow &row) const
+{
+    QStringList parts{name(row).text, detail(row).text};
+    if (row.name)
+        parts.append(displayName(row.page.space));
+    if (row.isOpen)
+        parts.append(u"open"_s);
+    if (isSpark(row.page))
+        parts.append(u"spark"_s);
+    if (row.page.isPinned.value_or(false))
+        parts.append(u"pinned"_s);
+    if (row.page.isArchived.value_or(false))
+        parts.append(u"archived"_s);
+    return parts.join(u", "_s);
+}
+
+QVariant PageListModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const PageRow &row = rows().at(index.row());
+    switch (role) {
+    case PageIDRole:
+        return row.page.id.toString(QUuid::WithoutBraces);
+    case NameRole:
+        return QVariant::fromValue(name(row));
+    case DetailRole:
+        return QVariant::fromValue(detail(row));
+    case IsOpenRole:
+        return row.isOpen;
+    case IsSparkRole:
+        return isSpark(row.page);
+    case IsPinnedRole:
+        return row.page.isPinned.value_or(false);
+    case IsArchivedRole:
+        return row.page.isArchived.value_or(false);
+    case SpaceRole:
+        return row.name ? displayName(row.page.space) : QString();
+    case DescriptionRole:
+        return description(row);
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> PageListModel::roleNames() const
+{
+    // A control's name is what is read out of it.
+    return {{PageIDRole, "pageID"}, {NameRole, "titleLine"},   {DetailRole, "detailLine"},
+            {IsOpenRole, "isOpen"}, {IsSparkRole, "isSpark"},  {IsPinnedRole, "isPinned"},
+            {SpaceRole, "space"},   {DescriptionRole, "name"}, {IsArchivedRole, "isArchived"}};
+}
+
+QList<int> PageListModel::changedRoles(const PageRow &before, const PageRow &after) const
+{
+    if (before == after)
+        return {};
+    QList<int> roles = roleNames().keys();
+    roles.removeOne(PageIDRole);
+    return roles;
+}
