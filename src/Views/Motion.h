@@ -10,6 +10,8 @@ class Motion : public QObject
     Q_OBJECT
     Q_PROPERTY(bool reduced READ isReduced WRITE setReduced NOTIFY reducedChanged)
     Q_PROPERTY(int fade READ fade CONSTANT)
+    Q_PROPERTY(int savedIn READ savedIn NOTIFY reducedChanged)
+    Q_PROPERTY(int savedOut READ savedOut NOTIFY reducedChanged)
     QML_ELEMENT
     QML_SINGLETON
 
@@ -20,6 +22,9 @@ public:
     void setReduced(bool reduced);
     /// Milliseconds of the only animation left when motion is reduced.
     int fade() const { return 120; }
+    /// How the tick beside the title comes and goes.
+    int savedIn() const { return m_isReduced ? fade() : 150; }
+    int savedOut() const { return m_isReduced ? fade() : 450; }
 
 Q_SIGNALS:
     void reducedChanged();

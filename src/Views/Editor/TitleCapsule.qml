@@ -1,21 +1,25 @@
 import QtQuick
 import Pelko
 
-/// The title of the page in a capsule of glass that floats over it.
+/// The title of the page in a capsule of glass that floats over it. A tick comes and goes quietly when the page was
+/// saved: it is news for nobody who does not look for it, so it is not read out.
 GlassSurface {
     id: root
 
     required property string title
     required property real maximumWidth
+    property bool saved: false
+    readonly property real tickWidth: tick.opacity * (Metrics.savedTick + Metrics.space8)
 
     implicitHeight: Metrics.capsuleHeight
     kind: Glass.capsule
-    implicitWidth: Math.min(maximumWidth, row.implicitWidth + 2 * Metrics.space12)
+    implicitWidth: Math.min(maximumWidth, row.width + tickWidth + 2 * Metrics.space12)
 
     Row {
         id: row
 
-        anchors.centerIn: parent
+        anchors.verticalCenter: parent.verticalCenter
+        x: Metrics.space12
         spacing: Metrics.space8
 
         Rectangle {
@@ -36,7 +40,24 @@ GlassSurface {
             renderType: Text.NativeRendering
             text: root.title.replace(/\s*\n\s*/g, " ")
             textFormat: Text.PlainText
-            width: Math.min(implicitWidth, root.maximumWidth - 2 * Metrics.space12 - Metrics.capsuleDot - Metrics.space8)
+            width: Math.min(implicitWidth, root.maximumWidth - 2 * Metrics.space12 - Metrics.capsuleDot - Metrics.space8
+                            - root.tickWidth)
+        }
+    }
+
+    SymbolIcon {
+        id: tick
+
+        Accessible.ignored: true
+        anchors { right: parent.right; rightMargin: Metrics.space12; verticalCenter: parent.verticalCenter }
+        color: FirePalette.amberSoft
+        name: "checkmark"
+        opacity: root.saved ? 1 : 0
+        size: Metrics.savedTick
+        visible: opacity > 0
+
+        Behavior on opacity {
+            NumberAnimation { duration: root.saved ? Motion.savedIn : Motion.savedOut }
         }
     }
 }
