@@ -8,7 +8,7 @@
 namespace
 {
 constexpr qsizetype roomBefore = 28;
-constexpr qsizetype roomAfter = 100;
+constexpr qsizetype roomAfter = 60;
 
 /// A place from which a line can begin: behind white space, if there is any before `end`.
 qsizetype beginningOfWord(QStringView text, qsizetype from, qsizetype end)

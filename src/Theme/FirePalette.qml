@@ -41,7 +41,12 @@ QtObject {
     readonly property color addImageLine: white(0.16)
     readonly property color selection: Qt.alpha(amber, 0.34)
     readonly property color caret: amberSoft
+    readonly property color hitInk: Qt.lighter(amberSoft, 1.06)
+    readonly property color hitGround: Qt.alpha(amber, 0.30)
+    readonly property color well: Qt.rgba(0, 0, 0, 0.20)
     readonly property color focusRing: Qt.alpha(amberSoft, 0.9)
+    // Almost invisible: it only has to be hit.
+    readonly property color dismissLayer: Qt.rgba(0, 0, 0, 0.01)
     readonly property color scrim: Qt.rgba(10 / 255, 7 / 255, 6 / 255, 0.52)
 
     readonly property color hairline: white(0.07)

@@ -59,6 +59,23 @@ QtObject {
     readonly property int streakCoin: 38
     readonly property int streakFlame: 16
 
+    readonly property int overlayWidth: measure + 64
+    readonly property int overlayTop: 62
+    readonly property int overlayPadding: 16
+    readonly property int overlayFoot: 43
+    readonly property int searchHeight: 42
+    readonly property int spaceTabHeight: 46
+    readonly property int spaceSymbol: 15
+    readonly property int placeDot: 5
+    readonly property int pageRowHeight: 48
+    readonly property int hitRowHeight: 52
+    readonly property int newPageRowHeight: 40
+    readonly property int pageRowIndent: 38
+    readonly property int rowButtonSize: 26
+    readonly property int spaceCapsuleHeight: 22
+    readonly property int navigationGlyph: 13
+    readonly property int savedTick: 10
+
     readonly property int timerPanelWidth: 300
     readonly property int timerPanelPadding: 18
     readonly property int timerButtonSize: 34

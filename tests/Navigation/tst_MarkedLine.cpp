@@ -66,10 +66,9 @@ private Q_SLOTS:
         const QString text = words + u"until the kettle boils and "_s + words;
         const MarkedLine line = lineAround(text, text.indexOf(u"kettle"), SearchWords(u"kettle"));
 
-        QCOMPARE(
-            bracketed(line.text, line.marks),
-            u"…words stand here until the [kettle] boils and many words stand here many words stand here "
-            u"many words stand here many words stand…"_s);
+        QCOMPARE(bracketed(line.text, line.marks),
+                 u"…words stand here until the [kettle] boils and many words stand here many words stand "
+                 u"here…"_s);
     }
 
     void aTextWithoutSpacesIsCutBetweenCharacters()

@@ -141,7 +141,7 @@ class Pelko:
 
     def alert(self):
         """The alert on show; its name is the title, its description the message."""
-        return self.find(roles={screen_reader().Role.ALERT, screen_reader().Role.DIALOG})
+        return self.find(roles={screen_reader().Role.ALERT})
 
     def wait_alert(self, message):
         """Waits for an alert whose message begins so, with the focus inside, and returns it."""

@@ -4,7 +4,7 @@ import QtQuick
 import Pelko
 
 /// Lies over its whole parent while `open`. Takes the keyboard and gives it back to the item that had it; lets
-/// neither clicks nor keys nor shortcuts through to what lies below. Tells of Escape and of a click beside the
+/// neither clicks nor keys nor, unless it `passesShortcuts`, shortcuts through to what lies below. Tells of Escape and of a click beside the
 /// content; closing is up to whoever opened it. `shown` runs from 0 to 1 and back.
 FocusScope {
     id: layer
@@ -12,6 +12,7 @@ FocusScope {
     property bool open: false
     property var motion: PelkoAnimation.settle
     property color scrim: "transparent"
+    property bool passesShortcuts: false
     readonly property alias shown: progress.value
 
     property bool complete: false
@@ -42,7 +43,7 @@ FocusScope {
     onActiveChanged: active ? takeFocus() : giveFocusBack()
     Component.onCompleted: complete = true
     Keys.onEscapePressed: escaped()
-    Keys.onShortcutOverride: event => event.accepted = true
+    Keys.onShortcutOverride: event => event.accepted = !layer.passesShortcuts
     Keys.onPressed: event => event.accepted = true
 
     QtObject {
@@ -71,6 +72,6 @@ FocusScope {
         hoverEnabled: true
         preventStealing: true
         onWheel: wheel => wheel.accepted = true
-        onPressed: layer.clickedBeside()
+        onClicked: layer.clickedBeside()
     }
 }

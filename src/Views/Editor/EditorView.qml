@@ -8,6 +8,11 @@ FocusScope {
     required property EditorViewModel editor
     property TimersViewModel timers: null
     property TasksViewModel tasks: null
+    /// Whether the page was just saved.
+    property bool saved: false
+    property bool navigationShown: false
+
+    signal navigationRequested
 
     function leaveBackwards() {
         page.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
@@ -16,6 +21,30 @@ FocusScope {
     Rectangle {
         anchors.fill: parent
         color: FirePalette.editorSurface
+    }
+
+    // Comes before the page for the keyboard and lies above it for the eye.
+    Row {
+        id: head
+
+        anchors { horizontalCenter: page.horizontalCenter; top: parent.top; topMargin: (Metrics.stripHeight - height) / 2 }
+        spacing: Metrics.space6
+        z: 1
+
+        TitleCapsule {
+            backdrop: page
+            maximumWidth: page.width - 2 * Metrics.titleMargin - head.spacing - navigationButton.width
+            saved: root.saved
+            title: root.editor.title
+        }
+
+        NavigationButton {
+            id: navigationButton
+
+            active: root.navigationShown
+            backdrop: page
+            onTriggered: root.navigationRequested()
+        }
     }
 
     BlockList {
@@ -40,13 +69,6 @@ FocusScope {
         anchors { left: parent.left; right: parent.right; top: parent.top }
         height: Metrics.stripHeight
         maximises: true
-    }
-
-    TitleCapsule {
-        anchors { horizontalCenter: page.horizontalCenter; top: parent.top; topMargin: (Metrics.stripHeight - height) / 2 }
-        maximumWidth: page.width - 2 * Metrics.titleMargin
-        title: root.editor.title
-        backdrop: page
     }
 
     WindowDragArea {
@@ -81,15 +103,15 @@ FocusScope {
         }
     }
 
-    // While another editor takes its place, the one that goes has no say.
+    // What lies over the page, and another editor that takes its place, have the say while they have the keyboard.
     Shortcut {
-        enabled: root.focus
+        enabled: root.activeFocus
         sequences: ["Ctrl+Z"]
         onActivated: root.editor.undo()
     }
 
     Shortcut {
-        enabled: root.focus
+        enabled: root.activeFocus
         sequences: ["Ctrl+Shift+Z", "Ctrl+Y"]
         onActivated: root.editor.redo()
     }

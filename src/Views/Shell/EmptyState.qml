@@ -22,6 +22,13 @@ FocusScope {
         maximises: true
     }
 
+    NavigationButton {
+        active: root.main.showNav
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: (Metrics.stripHeight - height) / 2
+        onTriggered: root.main.toggleNav()
+    }
+
     // Hardly to be seen: the light of the flame on the wall. A small blurred picture, enlarged, is soft enough.
     FlameGlow {
         anchors { centerIn: column; verticalCenterOffset: -root.glowRise }

@@ -1,5 +1,6 @@
 pragma ComponentBehavior: Bound
 
+import QtQml
 import QtQuick
 import QtQuick.Templates as T
 import Pelko
@@ -43,7 +44,11 @@ FocusScope {
 
         anchors { fill: parent; rightMargin: panel.room }
         focus: true
-        onCurrentItemChanged: if (currentItem) currentItem.focus = true
+        onCurrentItemChanged: {
+            if (currentItem)
+                currentItem.focus = true
+            navigation.returnFocusTo = content
+        }
         replaceEnter: Fade { from: 0; to: 1 }
         replaceExit: Fade { from: 1; to: 0 }
     }
@@ -51,7 +56,11 @@ FocusScope {
     Component {
         id: editor
 
-        EditorView {}
+        EditorView {
+            navigationShown: root.main.showNav
+            saved: root.main.showSavedIndicator
+            onNavigationRequested: root.main.toggleNav()
+        }
     }
 
     Component {
@@ -70,18 +79,11 @@ FocusScope {
         onClosed: if (activeFocus) content.forceActiveFocus(Qt.OtherFocusReason)
     }
 
-    // Almost invisible: it only has to be hit.
-    Rectangle {
-        anchors.fill: parent
-        visible: root.main.showNav
-        color: Qt.rgba(0, 0, 0, 0.01)
+    NavigationOverlay {
+        id: navigation
 
-        MouseArea {
-            anchors.fill: parent
-            hoverEnabled: true
-            onClicked: root.main.dismissNav()
-            onWheel: wheel => wheel.accepted = true
-        }
+        backdrop: content
+        main: root.main
     }
 
     TopStrip {

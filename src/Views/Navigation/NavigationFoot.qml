@@ -1,0 +1,29 @@
+import QtQuick
+import Pelko
+
+/// The keys of the navigation, under a hairline.
+Item {
+    implicitHeight: Metrics.overlayFoot
+
+    Rectangle {
+        color: FirePalette.hairline
+        height: 1
+        width: parent.width
+    }
+
+    Row {
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: Metrics.space20
+        x: Metrics.space8
+
+        KeyHint { key: "↑ ↓"; does: qsTr("Choose") }
+        KeyHint { key: qsTr("Return"); does: qsTr("Open") }
+        KeyHint { key: qsTr("Del"); does: qsTr("Delete") }
+    }
+
+    KeyHint {
+        anchors { right: parent.right; rightMargin: Metrics.space8; verticalCenter: parent.verticalCenter }
+        does: qsTr("New Document")
+        key: qsTr("Ctrl N")
+    }
+}

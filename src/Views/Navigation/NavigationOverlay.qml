@@ -1,0 +1,172 @@
+import QtQuick
+import Pelko
+
+/// The way around, on a sheet of glass above an almost invisible layer: the greeting, the field that finds, the spaces,
+/// and the pages of one space or of a search. A click beside the sheet ends it, and so does Escape.
+ModalLayer {
+    id: overlay
+
+    required property MainViewModel main
+    property Item backdrop: null
+    readonly property NavigationViewModel navigation: main.navigation
+    readonly property real highest: height - card.y - Metrics.space24
+
+    function requestDelete(pageID: string) {
+        main.requestDelete(pageID)
+    }
+
+    Accessible.name: qsTr("Go to")
+    Accessible.role: Accessible.Dialog
+    Keys.onDeletePressed: requestDelete(navigation.chosenPage())
+    Keys.onDownPressed: navigation.moveChoice(1)
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_PageDown) navigation.moveChoice(content.pageStep)
+        if (event.key === Qt.Key_PageUp) navigation.moveChoice(-content.pageStep)
+    }
+    Keys.onUpPressed: navigation.moveChoice(-1)
+    motion: PelkoAnimation.smooth
+    open: main.showNav
+    passesShortcuts: true
+    scrim: FirePalette.dismissLayer
+    onClickedBeside: main.dismissNav()
+    onEscaped: main.dismissNav()
+    onOpened: field.input.forceActiveFocus(Qt.PopupFocusReason)
+
+    // Before the first control comes the last one, and behind the last the first again.
+    Item {
+        activeFocusOnTab: true
+        onActiveFocusChanged: {
+            if (activeFocus)
+                end.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+        }
+    }
+
+    GlassSurface {
+        id: card
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        backdrop: overlay.backdrop
+        height: content.height
+        kind: Glass.overlay
+        opacity: Math.max(0, Math.min(1, overlay.shown))
+        radius: Metrics.overlayRadius
+        scale: Motion.reduced ? 1 : 0.98 + 0.02 * overlay.shown
+        transformOrigin: Item.Top
+        width: Math.min(Metrics.overlayWidth, overlay.width - 2 * Metrics.space24)
+        y: Metrics.overlayTop
+
+        Behavior on height {
+            enabled: overlay.shown === 1 && !Motion.reduced
+            NumberAnimation { duration: PelkoAnimation.micro.duration; easing: PelkoAnimation.micro.curve }
+        }
+
+        MouseArea { anchors.fill: parent }
+
+        Item {
+            id: content
+
+            readonly property int rowHeight: overlay.navigation.isSearching ? Metrics.hitRowHeight
+                                                                            : Metrics.pageRowHeight
+            readonly property int pageStep: Math.max(1, Math.floor(list.height / rowHeight) - 1)
+
+            clip: card.height !== height
+            height: foot.y + foot.height
+            width: parent.width
+
+            Text {
+                id: greeting
+
+                Accessible.name: text
+                Accessible.role: Accessible.StaticText
+                color: FirePalette.amberSoft
+                elide: Text.ElideRight
+                font: Typography.button
+                renderType: Text.NativeRendering
+                text: overlay.main.topMessage
+                textFormat: Text.PlainText
+                width: parent.width - 2 * x
+                x: Metrics.overlayPadding + Metrics.space6
+                y: Metrics.space20
+            }
+
+            SearchField {
+                id: field
+
+                navigation: overlay.navigation
+                width: parent.width - 2 * x
+                x: Metrics.overlayPadding
+                y: 50
+                onDeleteRequested: overlay.requestDelete(overlay.navigation.chosenPage())
+            }
+
+            SpaceTabs {
+                id: spaces
+
+                navigation: overlay.navigation
+                visible: !overlay.navigation.isSearching
+                width: field.width
+                x: Metrics.overlayPadding
+                y: field.y + field.height + Metrics.space12
+            }
+
+            Text {
+                id: summary
+
+                Accessible.name: text
+                Accessible.role: Accessible.StaticText
+                color: FirePalette.inkMeta
+                font: Typography.meta
+                renderType: Text.NativeRendering
+                text: overlay.navigation.summary
+                textFormat: Text.PlainText
+                visible: text !== ""
+                x: Metrics.overlayPadding + Metrics.space12
+                y: overlay.navigation.isSearching ? field.y + field.height + Metrics.space12
+                                                  : spaces.y + spaces.height + Metrics.space20
+            }
+
+            PageList {
+                id: list
+
+                readonly property real begins: overlay.navigation.isSearching
+                    ? summary.y + summary.height + Metrics.space8 : spaces.y + spaces.height + Metrics.space8
+                readonly property real below: newPage.height + Metrics.space8 + foot.height
+
+                height: Math.min(overlay.navigation.pageCount * content.rowHeight, overlay.highest - begins - below)
+                navigation: overlay.navigation
+                width: field.width
+                x: Metrics.overlayPadding
+                y: begins
+                onDeleteRequested: pageID => overlay.requestDelete(pageID)
+            }
+
+            NewPageRow {
+                id: newPage
+
+                chosen: visible && overlay.navigation.chosenRow === overlay.navigation.pageCount
+                height: visible ? implicitHeight : 0
+                placesLeft: overlay.navigation.placesLeft
+                visible: !overlay.navigation.isSearching
+                width: field.width
+                x: Metrics.overlayPadding
+                y: Math.max(list.y + list.height, summary.visible ? summary.y + summary.height + Metrics.space12 : 0)
+                onTriggered: overlay.main.createDocument()
+            }
+
+            NavigationFoot {
+                id: foot
+
+                width: field.width
+                x: Metrics.overlayPadding
+                y: newPage.y + newPage.height + Metrics.space8
+            }
+        }
+    }
+
+    Item {
+        id: end
+
+        activeFocusOnTab: true
+        onActiveFocusChanged: if (activeFocus) field.input.forceActiveFocus(Qt.TabFocusReason)
+    }
+}

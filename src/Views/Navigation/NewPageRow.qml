@@ -1,0 +1,49 @@
+import QtQuick
+import Pelko
+
+/// The row behind the last page: it makes a new one, and says how many places are left.
+PressableControl {
+    id: root
+
+    required property string placesLeft
+    required property bool chosen
+
+    Accessible.description: placesLeft
+    controlRadius: Metrics.listRowRadius
+    implicitHeight: Metrics.newPageRowHeight
+    name: qsTr("New Document")
+    pressScale: 1
+
+    background: ChosenGround {
+        chosen: root.chosen
+        pointedAt: root.hovered
+    }
+
+    SymbolIcon {
+        anchors.verticalCenter: parent.verticalCenter
+        color: FirePalette.amberSoft
+        height: Metrics.navigationGlyph
+        name: "plus"
+        width: Metrics.pageRowIndent
+    }
+
+    Text {
+        Accessible.ignored: true
+        anchors.verticalCenter: parent.verticalCenter
+        color: FirePalette.amberSoft
+        font: Typography.listTitle
+        renderType: Text.NativeRendering
+        text: root.name
+        x: Metrics.pageRowIndent
+    }
+
+    Text {
+        Accessible.ignored: true
+        anchors { right: parent.right; rightMargin: Metrics.space12; verticalCenter: parent.verticalCenter }
+        color: FirePalette.inkMeta
+        font: Typography.meta
+        renderType: Text.NativeRendering
+        text: root.placesLeft
+        textFormat: Text.PlainText
+    }
+}

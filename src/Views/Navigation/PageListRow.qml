@@ -1,0 +1,94 @@
+import QtQuick
+import Pelko
+
+/// One page in the list: what it is, its name, a line about it, its marks, and where it is chosen or pointed at the
+/// button that deletes it. What the keys do is known by the search field, which keeps the keyboard.
+PressableControl {
+    id: root
+
+    required property int index
+    required property string pageID
+    required property markedLine titleLine
+    required property markedLine detailLine
+    required property bool isOpen
+    required property bool isSpark
+    required property bool isPinned
+    required property bool isArchived
+    required property string space
+    required property bool chosen
+
+    signal deleteRequested
+
+    Accessible.role: Accessible.ListItem
+    Accessible.selectable: true
+    Accessible.selected: chosen
+    controlRadius: Metrics.listRowRadius
+    focusPolicy: Qt.NoFocus
+    implicitHeight: space === "" ? Metrics.pageRowHeight : Metrics.hitRowHeight
+    pressScale: 1
+
+    background: ChosenGround {
+        chosen: root.chosen
+        pointedAt: root.hovered
+    }
+
+    SpotSymbol {
+        anchors.verticalCenter: parent.verticalCenter
+        isOpen: root.isOpen
+        isSpark: root.isSpark
+        width: Metrics.pageRowIndent
+    }
+
+    Column {
+        anchors { left: parent.left; leftMargin: Metrics.pageRowIndent; right: ends.left; rightMargin: Metrics.space12 }
+        anchors.verticalCenter: parent.verticalCenter
+
+        MarkedText {
+            color: FirePalette.inkHeading
+            font: Typography.listTitle
+            line: root.titleLine
+            markColor: FirePalette.hitInk
+            markGround: FirePalette.hitGround
+            width: parent.width
+        }
+
+        MarkedText {
+            color: FirePalette.inkMeta
+            font: Typography.meta
+            line: root.detailLine
+            markColor: FirePalette.hitInk
+            markGround: FirePalette.hitGround
+            width: parent.width
+        }
+    }
+
+    Row {
+        id: ends
+
+        anchors { right: parent.right; rightMargin: Metrics.space12; verticalCenter: parent.verticalCenter }
+        spacing: Metrics.space12
+
+        RowMark {
+            symbol: "pin.fill"
+            visible: root.isPinned
+        }
+
+        RowMark {
+            symbol: "archivebox"
+            visible: root.isArchived
+        }
+
+        RowDeleteButton {
+            anchors.verticalCenter: parent.verticalCenter
+            name: qsTr("Delete %1").arg(root.titleLine.text)
+            visible: root.chosen || root.hovered || hovered
+            onTriggered: root.deleteRequested()
+        }
+
+        SpaceCapsule {
+            anchors.verticalCenter: parent.verticalCenter
+            space: root.space
+            visible: root.space !== ""
+        }
+    }
+}

@@ -1,0 +1,58 @@
+import QtQuick
+import Pelko
+
+/// The field that finds pages. It keeps the keyboard while the arrow keys choose, so that typing and choosing need no
+/// change of place.
+FieldPlate {
+    id: root
+
+    required property NavigationViewModel navigation
+    readonly property alias input: field
+
+    signal deleteRequested
+
+    active: field.activeFocus
+    implicitHeight: Metrics.searchHeight
+
+    SymbolIcon {
+        id: glass
+
+        anchors.verticalCenter: parent.verticalCenter
+        color: FirePalette.inkMeta
+        name: "magnifyingglass"
+        size: Metrics.chipSymbol
+        x: Metrics.space14
+    }
+
+    LineField {
+        id: field
+
+        // What the arrow keys choose is read out here, where the keyboard is.
+        Accessible.description: root.navigation.chosenDescription
+        Keys.onDeletePressed: event => {
+            const nothingToDelete = cursorPosition === length && selectedText === "" && !event.isAutoRepeat
+            nothingToDelete ? root.deleteRequested() : event.accepted = false
+        }
+        anchors { left: glass.right; leftMargin: Metrics.space12; right: hint.left; rightMargin: Metrics.space12 }
+        anchors.verticalCenter: parent.verticalCenter
+        color: FirePalette.inkBody
+        content: root.navigation.query
+        focus: true
+        font: Typography.checklist
+        name: qsTr("Find")
+        placeholder: qsTr("Find a page, a word, a spark")
+        onAccepted: root.navigation.openChosen()
+        onEdited: text => root.navigation.search(text)
+    }
+
+    Text {
+        id: hint
+
+        Accessible.ignored: true
+        anchors { right: parent.right; rightMargin: Metrics.space14; verticalCenter: parent.verticalCenter }
+        color: FirePalette.inkMeta
+        font: Typography.menuKey
+        renderType: Text.NativeRendering
+        text: qsTr("Esc")
+    }
+}

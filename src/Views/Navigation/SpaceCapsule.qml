@@ -1,0 +1,24 @@
+import QtQuick
+import Pelko
+
+/// Names the space that a hit lies in.
+Rectangle {
+    required property string space
+
+    color: FirePalette.white(0.08)
+    implicitHeight: Metrics.spaceCapsuleHeight
+    implicitWidth: label.implicitWidth + 2 * Metrics.space10
+    radius: height / 2
+
+    Text {
+        id: label
+
+        Accessible.ignored: true
+        anchors.centerIn: parent
+        color: Qt.alpha(FirePalette.ink, 0.72)
+        font: Typography.capsule
+        renderType: Text.NativeRendering
+        text: parent.space
+        textFormat: Text.PlainText
+    }
+}

@@ -1,0 +1,85 @@
+import QtQuick
+import Pelko
+
+/// One of the spaces: its symbol, its name over its five places, and its key.
+PressableControl {
+    id: root
+
+    required property string space
+    required property string title
+    required property string symbol
+    required property int pages
+    required property bool isCurrent
+    required property string keys
+
+    Accessible.checkable: true
+    Accessible.checked: isCurrent
+    Accessible.description: qsTr("%n page(s), five places", "", pages)
+    Accessible.role: Accessible.RadioButton
+    controlRadius: Metrics.menuRowRadius
+    implicitHeight: Metrics.spaceTabHeight
+    name: title
+    pressScale: 0.98
+
+    background: Item {
+        Rectangle {
+            anchors.fill: parent
+            color: FirePalette.rowHover
+            opacity: root.isCurrent ? 0 : Math.min(1, root.hoverAmount)
+            radius: Metrics.menuRowRadius
+        }
+
+        Rectangle {
+            anchors.fill: parent
+            border.color: FirePalette.white(0.11)
+            opacity: root.isCurrent ? 1 : 0
+            radius: Metrics.menuRowRadius
+
+            gradient: Gradient {
+                GradientStop { position: 0; color: FirePalette.white(0.12) }
+                GradientStop { position: 1; color: FirePalette.white(0.08) }
+            }
+
+            Behavior on opacity {
+                NumberAnimation { duration: Motion.reduced ? Motion.fade : PelkoAnimation.micro.duration }
+            }
+        }
+    }
+
+    SymbolIcon {
+        id: icon
+
+        anchors.verticalCenter: parent.verticalCenter
+        color: root.isCurrent ? FirePalette.amberSoft : Qt.alpha(FirePalette.ink, 0.62)
+        name: root.symbol
+        size: Metrics.spaceSymbol
+        x: Metrics.space14
+    }
+
+    Column {
+        anchors { left: icon.right; leftMargin: Metrics.space10; verticalCenter: parent.verticalCenter }
+        spacing: Metrics.space4
+
+        Text {
+            Accessible.ignored: true
+            color: Qt.alpha(FirePalette.ink, root.isCurrent ? 0.96 : 0.80)
+            font: Typography.button
+            renderType: Text.NativeRendering
+            text: root.title
+            textFormat: Text.PlainText
+        }
+
+        PlaceDots {
+            taken: root.pages
+        }
+    }
+
+    Text {
+        Accessible.ignored: true
+        anchors { right: parent.right; rightMargin: Metrics.space12; verticalCenter: parent.verticalCenter }
+        color: FirePalette.inkMeta
+        font: Typography.menuKey
+        renderType: Text.NativeRendering
+        text: root.keys
+    }
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Navigation/NavigationViewModel.h"
+
+#include <QtQml/qqml.h>
+
+/// Makes the navigation, which knows nothing of QML, known to it.
+struct NavigationViewModelForQml {
+    Q_GADGET
+    QML_FOREIGN(NavigationViewModel)
+    QML_NAMED_ELEMENT(NavigationViewModel)
+    QML_UNCREATABLE("Part of the main window.")
+};
+
+struct MarkedLineForQml {
+    Q_GADGET
+    QML_FOREIGN(MarkedLine)
+    QML_VALUE_TYPE(markedLine)
+};
