@@ -103,13 +103,13 @@ Column {
         anchors.horizontalCenter: parent.horizontalCenter
         spacing: Metrics.space12
 
-        TimerButton {
+        RoundButton {
             name: root.panel.isRunning ? "Pause" : "Start"
             icon.name: root.panel.isRunning ? "pause.fill" : "play.fill"
             onTriggered: root.panel.toggleTimer()
         }
 
-        TimerButton {
+        RoundButton {
             name: "Reset"
             icon.name: "arrow.counterclockwise"
             onTriggered: root.panel.resetTimer()
