@@ -92,6 +92,7 @@ FocusScope {
         anchors { left: parent.left; right: parent.right; top: parent.top }
         menuOpen: menu.open
         timers: root.timers
+        onFullScreenLeft: root.main.commands.run("fullScreen")
         onMenuRequested: menu.popUpBelow(strip.menuButton)
     }
 

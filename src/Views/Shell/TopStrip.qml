@@ -12,9 +12,18 @@ Item {
     property bool menuOpen: false
     property TimersViewModel timers: null
     readonly property alias menuButton: menuButton
-    readonly property bool filled: Window.visibility === Window.Maximized || Window.visibility === Window.FullScreen
+    readonly property bool fullScreen: Window.visibility === Window.FullScreen
+    readonly property bool filled: fullScreen || Window.visibility === Window.Maximized
 
     signal menuRequested()
+    signal fullScreenLeft()
+
+    function changeSize() {
+        if (fullScreen)
+            fullScreenLeft()
+        else
+            filled ? Window.window.showNormal() : Window.window.showMaximized()
+    }
 
     /// Where on the screen the pomodoro panel belongs.
     function timerPlace() : rect {
@@ -66,7 +75,7 @@ Item {
         CaptionButton {
             name: strip.filled ? "Restore" : "Maximise"
             icon.name: strip.filled ? "window.restore" : "window.maximise"
-            onTriggered: strip.filled ? strip.Window.window.showNormal() : strip.Window.window.showMaximized()
+            onTriggered: strip.changeSize()
         }
 
         CaptionButton {
