@@ -27,6 +27,7 @@ void MainViewModel::followStore()
     connect(&m_appState, &AppState::documentsChanged, this, &MainViewModel::followOpenDocument);
     connect(&m_appState, &AppState::lastErrorChanged, this, &MainViewModel::followError);
     connect(&m_appState, &AppState::currentSpaceChanged, this, &MainViewModel::followOpenDocument);
+    connect(&m_appState, &AppState::focusModeChanged, this, &MainViewModel::followFocusMode);
     connect(&m_appState, &AppState::showNavChanged, this, &MainViewModel::showNavChanged);
     connect(&m_appState, &AppState::showSavedIndicatorChanged, this,
             &MainViewModel::showSavedIndicatorChanged);
@@ -76,6 +77,13 @@ void MainViewModel::createDocument()
 void MainViewModel::toggleNav()
 {
     m_appState.setShowNav(!m_appState.showNav());
+}
+
+bool MainViewModel::leaveFocusMode()
+{
+    const bool ends = m_isFocused;
+    m_appState.setFocusMode(false);
+    return ends;
 }
 
 void MainViewModel::dismissNav()
@@ -135,6 +143,13 @@ void MainViewModel::followOpenDocument()
     if (!open)
         changes.assign(m_emptyMessage, PelkoVoice::pick(PelkoVoice::emptyNotesPool(), u"emptyNotes"_s),
                        &MainViewModel::emptyMessageChanged);
+    followFocusMode();
+}
+
+void MainViewModel::followFocusMode()
+{
+    ChangeScope(*this).assign(m_isFocused, m_appState.focusMode() && !m_openDocumentID.isEmpty(),
+                              &MainViewModel::isFocusedChanged);
 }
 
 void MainViewModel::followError()

@@ -23,6 +23,7 @@ class MainViewModel : public QObject
     Q_PROPERTY(QString windowTitle READ windowTitle NOTIFY windowTitleChanged)
     Q_PROPERTY(QString topMessage READ topMessage NOTIFY topMessageChanged)
     Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY emptyMessageChanged)
+    Q_PROPERTY(bool isFocused READ isFocused NOTIFY isFocusedChanged)
     Q_PROPERTY(bool showNav READ showNav NOTIFY showNavChanged)
     Q_PROPERTY(bool showSavedIndicator READ showSavedIndicator NOTIFY showSavedIndicatorChanged)
     Q_PROPERTY(bool showDocLimitNudge READ showDocLimitNudge NOTIFY showDocLimitNudgeChanged)
@@ -48,6 +49,8 @@ public:
     QString topMessage() const { return m_topMessage; }
     /// Picked again whenever the empty state comes up or the library changes behind it.
     QString emptyMessage() const { return m_emptyMessage; }
+    /// Nothing but the page is to be seen. Without a page there is nothing to focus on.
+    bool isFocused() const { return m_isFocused; }
     bool showNav() const;
     bool showSavedIndicator() const;
     bool showDocLimitNudge() const;
@@ -69,6 +72,8 @@ public:
     /// Creates a document in the current space and closes the navigation, or raises the limit alert.
     Q_INVOKABLE void createDocument();
     Q_INVOKABLE void toggleNav();
+    /// Ends focus mode. Tells whether there was something to end.
+    Q_INVOKABLE bool leaveFocusMode();
     Q_INVOKABLE void dismissNav();
     Q_INVOKABLE void dismissDocLimitNudge();
     Q_INVOKABLE void dismissAbout();
@@ -84,6 +89,7 @@ Q_SIGNALS:
     void windowTitleChanged();
     void topMessageChanged();
     void emptyMessageChanged();
+    void isFocusedChanged();
     void showNavChanged();
     void showSavedIndicatorChanged();
     void showDocLimitNudgeChanged();
@@ -97,6 +103,7 @@ Q_SIGNALS:
 private:
     void followStore();
     void followOpenDocument();
+    void followFocusMode();
     void followError();
 
     AppState &m_appState;
@@ -108,6 +115,7 @@ private:
     QString m_windowTitle;
     QString m_topMessage;
     QString m_emptyMessage;
+    bool m_isFocused = false;
     bool m_showError = false;
     QString m_errorTitle;
     QString m_errorText;

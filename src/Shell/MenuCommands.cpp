@@ -11,6 +11,7 @@ const QList<MenuCommand> &menuCommands()
         {u"work"_s, u"Work"_s, u"briefcase"_s, u"Ctrl+2"_s, Group::spaces},
         {u"journal"_s, u"Journal"_s, u"book.closed"_s, u"Ctrl+3"_s, Group::spaces},
         {u"pomodoro"_s, u"Pomodoro"_s, u"timer"_s, u"Ctrl+P"_s, Group::views},
+        {u"focusMode"_s, u"Focus mode"_s, u"text.viewfinder"_s, u"Ctrl+Shift+F"_s, Group::views},
         {u"fullScreen"_s, u"Full screen"_s, u"arrow.up.left.and.arrow.down.right"_s, u"F11"_s, Group::views},
         {u"about"_s, u"About Pelko"_s, u"info.circle"_s, {}, Group::program},
         {u"quit"_s, u"Quit"_s, u"power"_s, u"Ctrl+Q"_s, Group::program},

@@ -8,6 +8,9 @@ ShellCommands::ShellCommands(AppState &appState, QObject *parent) : QObject(pare
 {
     bind(u"newDocument"_s, {.run = [this] { m_appState.createDocument(m_appState.currentSpace()); }});
     bind(u"about"_s, {.run = [this] { m_appState.setShowAbout(true); }});
+    bind(u"focusMode"_s, {.run = [this] { m_appState.setFocusMode(!m_appState.focusMode()); },
+                          .isEnabled = [this] { return m_appState.openDocument().has_value(); },
+                          .isTicked = [this] { return m_appState.focusMode(); }});
     bindSpaces();
     bindRequests();
     followStore();
@@ -31,7 +34,8 @@ void ShellCommands::bindRequests()
 
 void ShellCommands::followStore()
 {
-    for (const auto changed : {&AppState::currentSpaceChanged, &AppState::openDocumentIDChanged})
+    for (const auto changed :
+         {&AppState::currentSpaceChanged, &AppState::openDocumentIDChanged, &AppState::focusModeChanged})
         connect(&m_appState, changed, &m_list, &CommandListModel::refresh);
 }
 

@@ -89,6 +89,8 @@ QtObject {
     readonly property int pageMargin: 48
     readonly property int pageTop: 60
     readonly property int pageFoot: 40
+    /// How much lower a page begins while nothing else is to be seen.
+    readonly property int focusAir: 32
     readonly property int bannerTop: 56
     readonly property int titleMargin: 96
     readonly property int capsuleDot: 4

@@ -331,6 +331,31 @@ private Q_SLOTS:
         QCOMPARE(changes.count(), 2);
     }
 
+    void focusModeShowsNothingButThePage()
+    {
+        Program program;
+        program.createDocuments(1);
+        program.appState.setFocusMode(true);
+        QVERIFY(program.main.isFocused());
+        QVERIFY(program.main.leaveFocusMode());
+        QVERIFY(!program.main.isFocused());
+        QVERIFY(!program.appState.focusMode());
+        QVERIFY(!program.main.leaveFocusMode());
+    }
+
+    void withoutAPageFocusModeWaits()
+    {
+        Program program;
+        program.appState.setFocusMode(true);
+        QVERIFY(!program.main.isFocused());
+        program.createDocuments(1);
+        QVERIFY(program.main.isFocused());
+        program.appState.setOpenDocumentID(std::nullopt);
+        QVERIFY(!program.main.isFocused());
+        program.createDocuments(1);
+        QVERIFY(program.main.isFocused());
+    }
+
     void theGreetingIsOneLineForAsLongAsTheWindowIsOpen()
     {
         Program program;

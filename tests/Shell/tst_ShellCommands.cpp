@@ -32,8 +32,8 @@ public:
         for (const auto asked : {&ShellCommands::menuRequested, &ShellCommands::pomodoroRequested,
                                  &ShellCommands::fullScreenToggled, &ShellCommands::quitRequested})
             QObject::connect(&program.commands, asked, &m_context, [this] { ++count; });
-        for (const auto changed :
-             {&AppState::documentsChanged, &AppState::currentSpaceChanged, &AppState::showAboutChanged})
+        for (const auto changed : {&AppState::documentsChanged, &AppState::currentSpaceChanged,
+                                   &AppState::focusModeChanged, &AppState::showAboutChanged})
             QObject::connect(&program.appState, changed, &m_context, [this] { ++count; });
     }
 
@@ -61,8 +61,9 @@ private Q_SLOTS:
         QFETCH(QString, id);
         Program program;
         program.appState.createDocument(Space::work);
-        // The current space is the one command of three that has nothing left to do.
-        program.commands.run(id == u"work"_s ? u"journal"_s : u"work"_s);
+        // Of the three spaces, the current one has nothing left to do.
+        if (id == u"work"_s)
+            program.commands.run(u"journal"_s);
         const Echo echo(program);
         program.commands.run(id);
 
@@ -118,6 +119,29 @@ private Q_SLOTS:
             for (const QString &space : {u"journal"_s, u"ideas"_s, u"work"_s})
                 QCOMPARE(program.isTicked(space), space == current);
         }
+    }
+
+    void focusModeGoesOnAndOff()
+    {
+        Program program;
+        program.appState.createDocument(Space::work);
+        for (const bool on : {true, false}) {
+            program.commands.run(u"focusMode"_s);
+            QCOMPARE(program.appState.focusMode(), on);
+            QCOMPARE(program.isTicked(u"focusMode"_s), on);
+        }
+    }
+
+    void withoutAPageThereIsNothingToFocusOn()
+    {
+        Program program;
+        QVERIFY(!program.isEnabled(u"focusMode"_s));
+        program.commands.run(u"focusMode"_s);
+        QVERIFY(!program.appState.focusMode());
+        program.appState.createDocument(Space::work);
+        QVERIFY(program.isEnabled(u"focusMode"_s));
+        program.appState.setOpenDocumentID(std::nullopt);
+        QVERIFY(!program.isEnabled(u"focusMode"_s));
     }
 
     void aboutShowsTheAlert()

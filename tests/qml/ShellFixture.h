@@ -59,6 +59,19 @@ public:
         m_appState.captureSpark(text);
     }
 
+    /// Opens a new page of empty blocks of these kinds.
+    Q_INVOKABLE void openPage(const QStringList &kinds)
+    {
+        PelkoDocument page =
+            *m_appState.captureSpark(QStringLiteral("not shown before it is as it should be"));
+        page.space = Space::work;
+        page.blocks.clear();
+        for (const QString &kind : kinds)
+            page.blocks.append(Block(blockTypeFromRawValue(kind).value()));
+        m_appState.updateDocument(page);
+        m_appState.setOpenDocumentID(page.id);
+    }
+
     Q_INVOKABLE void failToSave()
     {
         m_file.writeError = QStringLiteral("No space left on device");

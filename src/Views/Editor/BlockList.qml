@@ -9,6 +9,9 @@ FocusScope {
     id: root
 
     required property EditorViewModel editor
+    /// What is added above the page.
+    property real air: 0
+    property alias quiet: context.quiet
 
     readonly property alias atTop: list.atYBeginning
 
@@ -189,7 +192,8 @@ FocusScope {
         interactive: false
         keyNavigationEnabled: false
         model: root.editor.blocks
-        topMargin: root.editor.firstBlockIsBanner ? Metrics.bannerTop : Metrics.pageTop
+        topMargin: root.editor.firstBlockIsBanner ? Metrics.bannerTop : Metrics.pageTop + root.air
+        onTopMarginChanged: scroll.followBeginning()
 
         delegate: DelegateChooser {
             role: "rowEditor"
@@ -243,6 +247,7 @@ FocusScope {
     PelkoScrollBar {
         anchors { bottom: parent.bottom; right: parent.right; top: parent.top }
         flickable: list
+        visible: needed && !root.quiet
     }
 
     BlockMenu {

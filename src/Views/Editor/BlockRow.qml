@@ -28,7 +28,7 @@ FocusScope {
     readonly property alias glide: slide.y
     readonly property BlockDrag drag: page.editor.drag
     readonly property bool lifted: drag.draggingBlockID === blockID
-    readonly property bool pointedAt: hover.hovered && drag.draggingBlockID === ""
+    readonly property bool pointedAt: hover.hovered && drag.draggingBlockID === "" && !page.quiet
 
     function owns(item: Item) : bool {
         return item !== null && (item === root || owns(item.parent))

@@ -11,8 +11,17 @@ FocusScope {
     /// Whether the page was just saved.
     property bool saved: false
     property bool navigationShown: false
+    property FocusFade focusFade: FocusFade {}
 
     signal navigationRequested
+
+    /// In focus mode there is nowhere else to go.
+    function walkOut(forward: bool) {
+        if (focusFade.focused)
+            page.enter(forward)
+        else
+            forward ? bar.enter() : leaveBackwards()
+    }
 
     function leaveBackwards() {
         page.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
@@ -28,7 +37,9 @@ FocusScope {
         id: head
 
         anchors { horizontalCenter: page.horizontalCenter; top: parent.top; topMargin: (Metrics.stripHeight - height) / 2 }
+        opacity: root.focusFade.chrome
         spacing: Metrics.space6
+        visible: opacity > 0
         z: 1
 
         TitleCapsule {
@@ -50,10 +61,12 @@ FocusScope {
     BlockList {
         id: page
 
-        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: bar.top }
+        anchors { fill: parent; bottomMargin: bar.height * (1 - root.focusFade.glide) }
+        air: Metrics.focusAir * root.focusFade.glide
         editor: root.editor
         focus: true
-        onWalkedOut: forward => forward ? bar.enter() : root.leaveBackwards()
+        quiet: root.focusFade.focused
+        onWalkedOut: forward => root.walkOut(forward)
     }
 
     PageVeil {
@@ -73,12 +86,17 @@ FocusScope {
 
     WindowDragArea {
         anchors.fill: bar
+        visible: !root.focusFade.focused
     }
 
     BlockBar {
         id: bar
 
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        opacity: root.focusFade.chrome
+        visible: opacity > 0
+        // The keyboard does not stay behind.
+        onVisibleChanged: if (root.Window.activeFocusItem?.visible === false) page.enter(true)
         onAddRequested: kind => root.editor.addBlock(kind)
         onWalkedBack: page.enter(false)
 

@@ -5,6 +5,8 @@ import Pelko
 QtObject {
     required property EditorViewModel editor
     required property PageCaret caret
+    /// Nothing but the blocks is shown, whatever is pointed at.
+    property bool quiet: false
     /// The width of the text column.
     required property real measure
     /// The decoded pictures of this page.

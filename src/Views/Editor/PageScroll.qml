@@ -7,6 +7,8 @@ Item {
 
     required property ListView list
 
+    property real margin: 0
+
     signal finished
 
     function glide(from: real, to: real) {
@@ -19,6 +21,13 @@ Item {
         animation.stop()
         list.contentY += distance
         list.returnToBounds()
+    }
+
+    /// A page that stands at its beginning goes with it.
+    function followBeginning() {
+        const stood = list.contentY < list.originY - margin + 1
+        margin = list.topMargin
+        list.contentY = stood ? list.originY - margin : Math.max(list.contentY, list.originY - margin)
     }
 
     anchors.fill: list

@@ -17,10 +17,11 @@ FocusScope {
     function showContent(operation: int) {
         main.openDocumentID === ""
             ? content.replace(null, emptyState, {}, operation)
-            : content.replace(null, editor, { editor: main.openEditor(main.openDocumentID), timers, tasks },
+            : content.replace(null, editor, { editor: main.openEditor(main.openDocumentID), timers, tasks, focusFade },
                               operation)
     }
 
+    Keys.onEscapePressed: event => event.accepted = main.leaveFocusMode()
     Component.onCompleted: showContent(T.StackView.Immediate)
 
     Connections {
@@ -32,6 +33,12 @@ FocusScope {
         target: root.main.commands
         function onMenuRequested() { menu.popUpBelow(strip.menuButton) }
         function onPomodoroRequested() { root.timers?.togglePanel(strip.timerPlace()) }
+    }
+
+    FocusFade {
+        id: focusFade
+
+        focused: root.main.isFocused
     }
 
     Rectangle {
@@ -90,6 +97,7 @@ FocusScope {
         id: strip
 
         anchors { left: parent.left; right: parent.right; top: parent.top }
+        focusFade: focusFade
         menuOpen: menu.open
         timers: root.timers
         onFullScreenLeft: root.main.commands.run("fullScreen")

@@ -5,12 +5,14 @@ import QtQuick.Window
 import Pelko
 
 /// The window's own frame: the menu button at the left, the caption buttons at the right. It floats over the content
-/// and takes no clicks between them. On a Mac the system brings its own.
+/// and takes no clicks between them. In focus mode it is not seen before it is pointed at. On a Mac the system brings
+/// its own.
 Item {
     id: strip
 
     property bool menuOpen: false
     property TimersViewModel timers: null
+    property FocusFade focusFade: FocusFade {}
     readonly property alias menuButton: menuButton
     readonly property bool fullScreen: Window.visibility === Window.FullScreen
     readonly property bool filled: fullScreen || Window.visibility === Window.Maximized
@@ -35,54 +37,73 @@ Item {
     implicitHeight: Metrics.stripHeight
     visible: Qt.platform.os !== "osx"
 
-    CaptionButton {
-        id: menuButton
-
-        x: Metrics.captionEdge
-        y: Metrics.captionTop
-        name: "Menu"
-        icon.name: "line.3.horizontal"
-        active: strip.menuOpen
-        onTriggered: strip.menuRequested()
-        Accessible.role: Accessible.ButtonMenu
+    HoverHandler {
+        id: hover
     }
 
-    // A tray shows it where there is one.
-    Repeater {
-        id: timerLabels
+    // In focus mode the buttons come back under the pointer.
+    Item {
+        id: buttons
 
-        model: strip.timers && !strip.timers.isInTray ? [strip.timers] : []
+        property real shown: hover.hovered || strip.menuOpen ? 1 : 0
 
-        MenuBarTimerLabel {
-            required property TimersViewModel modelData
+        anchors.fill: parent
+        opacity: Math.max(shown, strip.focusFade.chrome)
+        visible: opacity > 0
 
-            anchors { left: menuButton.right; leftMargin: Metrics.space8; verticalCenter: menuButton.verticalCenter }
-            timers: modelData
-        }
-    }
-
-    Row {
-        anchors { right: parent.right; rightMargin: Metrics.captionEdge }
-        y: Metrics.captionTop
-        spacing: Metrics.captionSpacing
-
-        CaptionButton {
-            name: "Minimise"
-            icon.name: "window.minimise"
-            onTriggered: strip.Window.window.showMinimized()
+        Behavior on shown {
+            NumberAnimation { duration: Motion.fade }
         }
 
         CaptionButton {
-            name: strip.filled ? "Restore" : "Maximise"
-            icon.name: strip.filled ? "window.restore" : "window.maximise"
-            onTriggered: strip.changeSize()
+            id: menuButton
+
+            x: Metrics.captionEdge
+            y: Metrics.captionTop
+            name: "Menu"
+            icon.name: "line.3.horizontal"
+            active: strip.menuOpen
+            onTriggered: strip.menuRequested()
+            Accessible.role: Accessible.ButtonMenu
         }
 
-        CaptionButton {
-            name: "Close"
-            icon.name: "window.close"
-            closes: true
-            onTriggered: strip.Window.window.close()
+        // A tray shows it where there is one.
+        Repeater {
+            id: timerLabels
+
+            model: strip.timers && !strip.timers.isInTray ? [strip.timers] : []
+
+            MenuBarTimerLabel {
+                required property TimersViewModel modelData
+
+                anchors { left: menuButton.right; leftMargin: Metrics.space8; verticalCenter: menuButton.verticalCenter }
+                timers: modelData
+            }
+        }
+
+        Row {
+            anchors { right: parent.right; rightMargin: Metrics.captionEdge }
+            y: Metrics.captionTop
+            spacing: Metrics.captionSpacing
+
+            CaptionButton {
+                name: "Minimise"
+                icon.name: "window.minimise"
+                onTriggered: strip.Window.window.showMinimized()
+            }
+
+            CaptionButton {
+                name: strip.filled ? "Restore" : "Maximise"
+                icon.name: strip.filled ? "window.restore" : "window.maximise"
+                onTriggered: strip.changeSize()
+            }
+
+            CaptionButton {
+                name: "Close"
+                icon.name: "window.close"
+                closes: true
+                onTriggered: strip.Window.window.close()
+            }
         }
     }
 }
