@@ -13,6 +13,7 @@ const QList<MenuCommand> &menuCommands()
         {u"pomodoro"_s, u"Pomodoro"_s, u"timer"_s, u"Ctrl+P"_s, Group::views},
         {u"focusMode"_s, u"Focus mode"_s, u"text.viewfinder"_s, u"Ctrl+Shift+F"_s, Group::views},
         {u"fullScreen"_s, u"Full screen"_s, u"arrow.up.left.and.arrow.down.right"_s, u"F11"_s, Group::views},
+        {u"shortcuts"_s, u"Keyboard Shortcuts"_s, u"keyboard"_s, u"Ctrl+/"_s, Group::program},
         {u"about"_s, u"About Pelko"_s, u"info.circle"_s, {}, Group::program},
         {u"quit"_s, u"Quit"_s, u"power"_s, u"Ctrl+Q"_s, Group::program},
         {u"appMenu"_s, u"App menu"_s, {}, u"F10"_s, Group::none},

@@ -1,12 +1,14 @@
 #include "Shell/ShellCommands.h"
 
 #include "Store/AppState.h"
+#include "Store/ChangeScope.h"
 
 using namespace Qt::StringLiterals;
 
 ShellCommands::ShellCommands(AppState &appState, QObject *parent) : QObject(parent), m_appState(appState)
 {
     bind(u"newDocument"_s, {.run = [this] { m_appState.createDocument(m_appState.currentSpace()); }});
+    bind(u"shortcuts"_s, {.run = [this] { setShowShortcuts(true); }});
     bind(u"about"_s, {.run = [this] { m_appState.setShowAbout(true); }});
     bind(u"focusMode"_s, {.run = [this] { m_appState.setFocusMode(!m_appState.focusMode()); },
                           .isEnabled = [this] { return m_appState.openDocument().has_value(); },
@@ -42,6 +44,11 @@ void ShellCommands::followStore()
 void ShellCommands::run(const QString &id)
 {
     m_list.run(id);
+}
+
+void ShellCommands::setShowShortcuts(bool shown)
+{
+    ChangeScope(*this).assign(m_showShortcuts, shown, &ShellCommands::showShortcutsChanged);
 }
 
 void ShellCommands::setFullScreen(bool on)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Shell/CommandListModel.h"
+#include "Shell/ShortcutSheet.h"
 
 #include <QObject>
 
@@ -12,6 +13,9 @@ class ShellCommands : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(CommandListModel *list READ list CONSTANT)
+    Q_PROPERTY(bool showShortcuts READ showShortcuts NOTIFY showShortcutsChanged)
+    Q_PROPERTY(QList<ShortcutLine> commandKeys READ commandKeys CONSTANT)
+    Q_PROPERTY(QList<ShortcutLine> writingKeys READ writingKeys CONSTANT)
 
 public:
     explicit ShellCommands(AppState &appState, QObject *parent = nullptr);
@@ -19,12 +23,19 @@ public:
     /// For the menu, for the keys, and for whoever binds a command of his own.
     CommandListModel *list() { return &m_list; }
 
+    /// The sheet that lists all keys is open.
+    bool showShortcuts() const { return m_showShortcuts; }
+    QList<ShortcutLine> commandKeys() const { return ::commandKeys(); }
+    QList<ShortcutLine> writingKeys() const { return ::writingKeys(); }
+
     /// Gives the command of that id. One that is unknown or disabled does nothing.
     Q_INVOKABLE void run(const QString &id);
+    Q_INVOKABLE void dismissShortcuts() { setShowShortcuts(false); }
     /// The window fills the screen, or does so no longer.
     void setFullScreen(bool on);
 
 Q_SIGNALS:
+    void showShortcutsChanged();
     void menuRequested();
     void pomodoroRequested();
     void fullScreenToggled();
@@ -34,9 +45,11 @@ private:
     void followStore();
     void bindSpaces();
     void bindRequests();
+    void setShowShortcuts(bool shown);
     void bind(const QString &id, CommandDeed deed) { m_list.bind(id, std::move(deed)); }
 
     AppState &m_appState;
     CommandListModel m_list{menuCommands()};
+    bool m_showShortcuts = false;
     bool m_isFullScreen = false;
 };

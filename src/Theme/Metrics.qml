@@ -45,6 +45,12 @@ QtObject {
     readonly property int chipSymbol: 14
     readonly property int chipGap: 6
     readonly property int menuRowHeight: 30
+    readonly property int keyCapHeight: 22
+    readonly property int keyCapRadius: 6
+    readonly property int sheetRow: 31
+    readonly property int sheetHeading: 27
+    readonly property int sheetPadding: 28
+    readonly property int sheetWidth: 744
     readonly property int panelWidth: 240
     readonly property int panelPadding: 14
     readonly property int cardPaddingX: 15

@@ -78,6 +78,12 @@ struct ShellCommandsForQml {
     QML_UNCREATABLE("Part of the main window's view model.")
 };
 
+struct ShortcutLineForQml {
+    Q_GADGET
+    QML_FOREIGN(ShortcutLine)
+    QML_VALUE_TYPE(shortcutLine)
+};
+
 struct CommandListModelForQml {
     Q_GADGET
     QML_FOREIGN(CommandListModel)

@@ -30,7 +30,8 @@ public:
     explicit Echo(Program &program)
     {
         for (const auto asked : {&ShellCommands::menuRequested, &ShellCommands::pomodoroRequested,
-                                 &ShellCommands::fullScreenToggled, &ShellCommands::quitRequested})
+                                 &ShellCommands::fullScreenToggled, &ShellCommands::quitRequested,
+                                 &ShellCommands::showShortcutsChanged})
             QObject::connect(&program.commands, asked, &m_context, [this] { ++count; });
         for (const auto changed : {&AppState::documentsChanged, &AppState::currentSpaceChanged,
                                    &AppState::focusModeChanged, &AppState::showAboutChanged})
@@ -142,6 +143,15 @@ private Q_SLOTS:
         QVERIFY(program.isEnabled(u"focusMode"_s));
         program.appState.setOpenDocumentID(std::nullopt);
         QVERIFY(!program.isEnabled(u"focusMode"_s));
+    }
+
+    void theSheetOfKeysIsShownUntilItIsDismissed()
+    {
+        Program program;
+        program.commands.run(u"shortcuts"_s);
+        QVERIFY(program.commands.showShortcuts());
+        program.commands.dismissShortcuts();
+        QVERIFY(!program.commands.showShortcuts());
     }
 
     void aboutShowsTheAlert()

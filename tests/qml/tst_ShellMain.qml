@@ -202,7 +202,7 @@ Item {
             mouseClick(named(root, "Menu"))
             const titles = menuRows().map(row => row.name)
             compare(titles, ["New Document", "Ideas", "Work", "Journal", "Pomodoro", "Focus mode", "Full screen",
-                             "About Pelko",                             "Quit"])
+                             "Keyboard Shortcuts", "About Pelko",                             "Quit"])
             mouseClick(named(root, "About Pelko"))
             verify(app.main.showAbout)
         }

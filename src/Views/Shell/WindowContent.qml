@@ -40,6 +40,12 @@ FocusScope {
         backdrop: launchView
     }
 
+    ShortcutSheet {
+        anchors.fill: parent
+        backdrop: launchView
+        commands: root.main.commands
+    }
+
     WindowEdges {
         anchors.fill: parent
     }

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QMetaType>
+#include <QStringList>
+
+/// One line of the sheet of keys: what they do and the keys one after the other, or the heading of the lines
+/// below it, which has no keys.
+struct ShortcutLine {
+    Q_GADGET
+    Q_PROPERTY(QString title MEMBER title CONSTANT)
+    Q_PROPERTY(QStringList keys MEMBER keys CONSTANT)
+
+public:
+    QString title;
+    QStringList keys = {};
+
+    bool operator==(const ShortcutLine &) const = default;
+};
+
+/// The keys of the commands, from their table.
+QList<ShortcutLine> commandKeys();
+
+/// The keys of the page, and what is typed at the start of an empty line.
+QList<ShortcutLine> writingKeys();

@@ -1,0 +1,54 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Pelko
+
+/// Headings, and under each what can be done and the keys that do it.
+Column {
+    id: column
+
+    required property var lines
+
+    Repeater {
+        model: column.lines
+
+        Item {
+            id: line
+
+            required property var modelData
+            required property int index
+
+            readonly property bool isHeading: modelData.keys.length === 0
+            readonly property real air: isHeading && index > 0 ? Metrics.space12 : 0
+
+            Accessible.name: isHeading ? modelData.title : modelData.title + ", " + modelData.keys.join("+")
+            Accessible.role: isHeading ? Accessible.Heading : Accessible.StaticText
+            height: air + (isHeading ? Metrics.sheetHeading : Metrics.sheetRow)
+            width: column.width
+
+            Text {
+                Accessible.ignored: true
+                color: line.isHeading ? FirePalette.amberSoft : FirePalette.inkBody
+                font: line.isHeading ? Typography.caption : Typography.menuRow
+                text: line.isHeading ? line.modelData.title.toUpperCase() : line.modelData.title
+                textFormat: Text.PlainText
+                y: line.air + Math.round((line.height - line.air - height) / 2)
+            }
+
+            Row {
+                anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+                spacing: Metrics.space4
+
+                Repeater {
+                    model: line.modelData.keys
+
+                    KeyCap {
+                        required property string modelData
+
+                        label: modelData
+                    }
+                }
+            }
+        }
+    }
+}
