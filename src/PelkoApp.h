@@ -5,7 +5,7 @@
 #include "Platform/LocalDocumentFile.h"
 #include "Platform/LocalPictureFiles.h"
 #include "Platform/LocalPictureFolders.h"
-#include "Platform/PortalImageChooser.h"
+#include "Platform/PortalFileChooser.h"
 #include "Platform/QtScheduler.h"
 #include "Platform/SystemClock.h"
 #include "Platform/SystemDataLocation.h"
@@ -56,9 +56,9 @@ private:
     LocalPictureFiles m_pictureFiles;
     LocalPictureFolders m_pictureFolders;
     FolderChooser m_folderChooser{m_pictureFolders};
-    PortalImageChooser m_imageChooser{QDBusConnection::sessionBus(), activeWindowName, m_folderChooser};
+    PortalFileChooser m_fileChooser{QDBusConnection::sessionBus(), activeWindowName, m_folderChooser};
     AppState m_appState{m_scheduler, m_clock, m_documentFile};
-    MainViewModel m_main{m_appState, m_clock, {m_scheduler, m_pasteboard, m_imageChooser, m_pictureFiles}};
+    MainViewModel m_main{m_appState, m_clock, {m_scheduler, m_pasteboard, m_fileChooser, m_pictureFiles}};
     LaunchSequence m_launch{m_scheduler};
     PomodoroTimer m_pomodoroTimer{m_scheduler};
     TimersViewModel m_timers{m_pomodoroTimer, FlowTimer::shared(), m_appState, m_pasteboard, m_scheduler};

@@ -4,7 +4,7 @@
 #include "Store/ChangeScope.h"
 
 ImageImport::ImageImport(const EditorServices &services, Store store)
-    : m_chooser(services.imageChooser)
+    : m_chooser(services.fileChooser)
     , m_files(services.pictureFiles)
     , m_store(std::move(store))
 {
@@ -16,10 +16,11 @@ void ImageImport::addImage(const QString &blockID)
     if (m_showImagePicker)
         return;
     setShowImagePicker(true);
-    m_choosing = m_chooser.choose([this](const ImageChooser::Choice &choice) { take(choice); });
+    m_choosing = m_chooser.choose(FileChooser::Wanted::picture,
+                                  [this](const FileChooser::Choice &choice) { take(choice); });
 }
 
-void ImageImport::take(const ImageChooser::Choice &choice)
+void ImageImport::take(const FileChooser::Choice &choice)
 {
     setShowImagePicker(false);
     if (const auto *failure = std::get_if<FileError>(&choice)) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Services/EditorServices.h"
-#include "Services/ImageChooser.h"
+#include "Services/FileChooser.h"
 
 #include <QObject>
 #include <QUuid>
@@ -43,11 +43,11 @@ Q_SIGNALS:
     void imageImportErrorChanged();
 
 private:
-    void take(const ImageChooser::Choice &choice);
+    void take(const FileChooser::Choice &choice);
     void read(const std::filesystem::path &file);
     void setShowImagePicker(bool shown);
 
-    ImageChooser &m_chooser;
+    FileChooser &m_chooser;
     PictureFiles &m_files;
     const Store m_store;
 

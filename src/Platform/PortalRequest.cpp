@@ -64,17 +64,26 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, Filter &filter)
 
 // NOLINTEND(bugprone-return-const-ref-from-parameter)
 
-QVariantMap optionsFor(const QString &token)
+QString titleFor(FileChooser::Wanted wanted)
 {
+    return wanted == FileChooser::Wanted::folder ? u"Export to a folder"_s : u"Add image"_s;
+}
+
+QVariantMap optionsFor(FileChooser::Wanted wanted, const QString &token)
+{
+    QVariantMap options{{u"handle_token"_s, token}, {u"modal"_s, true}, {u"multiple"_s, false}};
+    if (wanted == FileChooser::Wanted::folder) {
+        options.insert(u"directory"_s, true);
+        options.insert(u"accept_label"_s, u"Export here"_s);
+        return options;
+    }
     qDBusRegisterMetaType<Pattern>();
     qDBusRegisterMetaType<QList<Pattern>>();
     qDBusRegisterMetaType<Filter>();
     qDBusRegisterMetaType<QList<Filter>>();
     const QList<Filter> filters{{.name = u"Images"_s, .patterns = {{.value = u"image/*"_s}}}};
-    return {{u"handle_token"_s, token},
-            {u"modal"_s, true},
-            {u"multiple"_s, false},
-            {u"filters"_s, QVariant::fromValue(filters)}};
+    options.insert(u"filters"_s, QVariant::fromValue(filters));
+    return options;
 }
 
 /// File names are bytes, which an address spells out and text could lose.
@@ -101,9 +110,10 @@ QString requestPath(const QDBusConnection &bus, const QString &token)
 }
 } // namespace
 
-PortalRequest::PortalRequest(QDBusConnection bus, ImageChooser::Completion completion,
-                             ImageChooser &otherwise)
+PortalRequest::PortalRequest(QDBusConnection bus, FileChooser::Wanted wanted,
+                             FileChooser::Completion completion, FileChooser &otherwise)
     : m_bus(std::move(bus))
+    , m_wanted(wanted)
     , m_completion(std::move(completion))
     , m_otherwise(otherwise)
 {
@@ -125,7 +135,7 @@ void PortalRequest::send(const QString &parentWindow)
     listenTo(requestPath(m_bus, token));
     auto question =
         QDBusMessage::createMethodCall(portalService, portalPath, chooserInterface, u"OpenFile"_s);
-    question << parentWindow << u"Add image"_s << optionsFor(token);
+    question << parentWindow << titleFor(m_wanted) << optionsFor(m_wanted, token);
     auto *reply = new QDBusPendingCallWatcher(m_bus.asyncCall(question, patience), this);
     connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply] {
         const QDBusPendingReply<QDBusObjectPath> handle = *reply;
@@ -143,7 +153,8 @@ void PortalRequest::accepted(const QString &handle)
 void PortalRequest::refused()
 {
     m_path.clear();
-    m_otherChooser = m_otherwise.choose([this](const ImageChooser::Choice &choice) { finish(choice); });
+    m_otherChooser =
+        m_otherwise.choose(m_wanted, [this](const FileChooser::Choice &choice) { finish(choice); });
 }
 
 void PortalRequest::listenTo(const QString &path)
@@ -164,9 +175,9 @@ void PortalRequest::answered(uint response, const QVariantMap &results)
         finish(FileError{u"The file chooser came to an unexpected end."_s});
 }
 
-void PortalRequest::finish(const ImageChooser::Choice &choice)
+void PortalRequest::finish(const FileChooser::Choice &choice)
 {
     // Whoever hears of the choice may drop this request, and must itself outlive that.
-    const ImageChooser::Completion completion = m_completion;
+    const FileChooser::Completion completion = m_completion;
     completion(choice);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Services/ImageChooser.h"
+#include "Services/FileChooser.h"
 
 #include <QDBusConnection>
 #include <QObject>
@@ -15,7 +15,8 @@ class PortalRequest : public QObject
     Q_OBJECT
 
 public:
-    PortalRequest(QDBusConnection bus, ImageChooser::Completion completion, ImageChooser &otherwise);
+    PortalRequest(QDBusConnection bus, FileChooser::Wanted wanted, FileChooser::Completion completion,
+                  FileChooser &otherwise);
     ~PortalRequest() override;
 
     void send(const QString &parentWindow);
@@ -30,11 +31,12 @@ private:
     void accepted(const QString &handle);
     void refused();
     void listenTo(const QString &path);
-    void finish(const ImageChooser::Choice &choice);
+    void finish(const FileChooser::Choice &choice);
 
     QDBusConnection m_bus;
-    ImageChooser::Completion m_completion;
-    ImageChooser &m_otherwise;
+    const FileChooser::Wanted m_wanted;
+    FileChooser::Completion m_completion;
+    FileChooser &m_otherwise;
     QString m_path; // of the request on the bus, empty when nothing is under way there
     ScheduledCall m_otherChooser;
 };

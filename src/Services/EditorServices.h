@@ -1,6 +1,6 @@
 #pragma once
 
-class ImageChooser;
+class FileChooser;
 class Pasteboard;
 class PictureFiles;
 class Scheduler;
@@ -9,6 +9,6 @@ class Scheduler;
 struct EditorServices {
     Scheduler &scheduler;
     Pasteboard &pasteboard;
-    ImageChooser &imageChooser;
+    FileChooser &fileChooser;
     PictureFiles &pictureFiles;
 };

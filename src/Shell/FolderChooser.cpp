@@ -4,6 +4,7 @@
 
 #include <QPointer>
 
+using namespace Qt::StringLiterals;
 namespace fs = std::filesystem;
 
 namespace
@@ -23,7 +24,7 @@ FolderChooser::FolderChooser(PictureFolders &folders)
 {
 }
 
-ScheduledCall FolderChooser::choose(Completion completion)
+ScheduledCall FolderChooser::choose(Wanted wanted, Completion completion)
 {
     const auto closes = [chooser = QPointer(this)](const Completion *done) {
         delete done;
@@ -32,7 +33,9 @@ ScheduledCall FolderChooser::choose(Completion completion)
     };
     const std::shared_ptr<Completion> request(new Completion(std::move(completion)), closes);
     m_request = request;
-    ChangeScope(*this).assign(m_isOpen, true, &FolderChooser::isOpenChanged);
+    ChangeScope changes(*this);
+    changes.assign(m_wanted, wanted, &FolderChooser::wantsFolderChanged);
+    changes.assign(m_isOpen, true, &FolderChooser::isOpenChanged);
     list(m_folder);
     return ScheduledCall(request);
 }
@@ -64,6 +67,11 @@ void FolderChooser::take(int row)
         list(entry.path);
     else
         finish(QList{entry.path});
+}
+
+void FolderChooser::takeFolder()
+{
+    finish(QList{m_folder});
 }
 
 void FolderChooser::goUp()
@@ -107,16 +115,20 @@ void FolderChooser::list(const fs::path &folder, const fs::path &cameFrom)
             show(*entries, folder, cameFrom);
         else if (const auto *error = std::get_if<FileError>(&listing))
             setProblem(error->description);
+        else if (wantsFolder())
+            setProblem(u"That is a file, not a folder."_s);
         else
             finish(QList{folder});
     });
 }
 
-void FolderChooser::show(const QList<PictureFolders::Entry> &entries, const fs::path &folder,
+void FolderChooser::show(QList<PictureFolders::Entry> entries, const fs::path &folder,
                          const fs::path &cameFrom)
 {
     setProblem({});
-    m_entries.setEntries(entries);
+    if (wantsFolder())
+        entries.removeIf([](const PictureFolders::Entry &entry) { return !entry.isFolder; });
+    m_entries.setEntries(std::move(entries));
     ChangeScope(*this).assign(m_folder, folder, &FolderChooser::folderChanged);
     Q_EMIT listed(std::max(0, m_entries.rowOf(cameFrom)));
 }

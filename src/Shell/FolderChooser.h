@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Services/ImageChooser.h"
+#include "Services/FileChooser.h"
 #include "Shell/FolderEntryModel.h"
 
 #include <QObject>
@@ -8,10 +8,11 @@
 
 /// A file chooser of the app's own, for desktops that offer none: it walks through the user's folders and
 /// shows the pictures in them. Begins where it was last.
-class FolderChooser : public QObject, public ImageChooser
+class FolderChooser : public QObject, public FileChooser
 {
     Q_OBJECT
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged)
+    Q_PROPERTY(bool wantsFolder READ wantsFolder NOTIFY wantsFolderChanged)
     Q_PROPERTY(QString folder READ folder NOTIFY folderChanged)
     Q_PROPERTY(bool canGoUp READ canGoUp NOTIFY folderChanged)
     Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)
@@ -23,9 +24,11 @@ class FolderChooser : public QObject, public ImageChooser
 public:
     explicit FolderChooser(PictureFolders &folders);
 
-    ScheduledCall choose(Completion completion) override;
+    ScheduledCall choose(Wanted wanted, Completion completion) override;
 
     bool isOpen() const { return m_isOpen; }
+    /// A folder is to be chosen, and not a picture; then no pictures are shown.
+    bool wantsFolder() const { return m_wanted == Wanted::folder; }
     /// The path of the folder that is shown.
     QString folder() const;
     bool canGoUp() const { return m_folder.has_relative_path(); }
@@ -40,6 +43,8 @@ public:
 
     /// Goes into the folder in that row, or chooses the picture.
     Q_INVOKABLE void take(int row);
+    /// Chooses the folder that is shown.
+    Q_INVOKABLE void takeFolder();
     Q_INVOKABLE void goUp();
     Q_INVOKABLE void goToPlace(int place);
     /// Goes to the folder of a typed path, "~" being the home folder, or chooses the file it names.
@@ -49,6 +54,7 @@ public:
 
 Q_SIGNALS:
     void isOpenChanged();
+    void wantsFolderChanged();
     void folderChanged();
     void problemChanged();
     void isListingChanged();
@@ -57,7 +63,7 @@ Q_SIGNALS:
 
 private:
     void list(const std::filesystem::path &folder, const std::filesystem::path &cameFrom = {});
-    void show(const QList<PictureFolders::Entry> &entries, const std::filesystem::path &folder,
+    void show(QList<PictureFolders::Entry> entries, const std::filesystem::path &folder,
               const std::filesystem::path &cameFrom);
     void finish(const Choice &choice);
     void close();
@@ -69,6 +75,7 @@ private:
     const QList<std::filesystem::path> m_places;
     std::filesystem::path m_folder;
     QString m_problem;
+    Wanted m_wanted = Wanted::picture;
     bool m_isOpen = false;
     bool m_isListing = false;
     ScheduledCall m_listing;

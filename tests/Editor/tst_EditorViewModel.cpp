@@ -528,7 +528,7 @@ private Q_SLOTS:
         edit({block('A', heading), block('B', BlockType::image)});
         desktop.pictureFiles.files["/photo"] = "bytes";
         editor->imageImport()->addImage(id('B'));
-        desktop.imageChooser.answer(QList<std::filesystem::path>{"/photo"});
+        desktop.fileChooser.answer(QList<std::filesystem::path>{"/photo"});
         QCOMPARE(stored().blocks[1].imageData, "bytes"_ba);
         editor->undo();
         QCOMPARE(stored().blocks[1].imageData, std::nullopt);
@@ -542,7 +542,7 @@ private Q_SLOTS:
         desktop.pictureFiles.files["/photo"] = "bytes";
         editor->imageImport()->addImage(id('B'));
         editor->deleteBlock(id('B'));
-        desktop.imageChooser.answer(QList<std::filesystem::path>{"/photo"});
+        desktop.fileChooser.answer(QList<std::filesystem::path>{"/photo"});
         QCOMPARE(lines(stored()), QStringList{line(block('A', heading))});
     }
 
@@ -551,7 +551,7 @@ private Q_SLOTS:
         edit({block('B', BlockType::image)});
         editor->imageImport()->addImage(id('B'));
         editor.release()->release();
-        QVERIFY(!desktop.imageChooser.isOpen());
+        QVERIFY(!desktop.fileChooser.isOpen());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 

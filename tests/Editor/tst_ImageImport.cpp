@@ -49,14 +49,14 @@ private Q_SLOTS:
         import->addImage(id('A'));
         QVERIFY(import->showImagePicker());
         QCOMPARE(import->imageBlockID(), idOf('A'));
-        QVERIFY(desktop->imageChooser.isOpen());
+        QVERIFY(desktop->fileChooser.isOpen());
         QCOMPARE(changes.count(), 1);
     }
 
     void theChosenFileFillsTheBlock()
     {
         import->addImage(id('A'));
-        desktop->imageChooser.answer(Files{"/one"});
+        desktop->fileChooser.answer(Files{"/one"});
         QCOMPARE(stored, QStringList{u"A=1"_s});
         QVERIFY(!import->showImagePicker());
         QVERIFY(!import->showImageImportError());
@@ -65,21 +65,21 @@ private Q_SLOTS:
     void theBlockIsRememberedAfterwards()
     {
         import->addImage(id('A'));
-        desktop->imageChooser.answer(Files{"/one"});
+        desktop->fileChooser.answer(Files{"/one"});
         QCOMPARE(import->imageBlockID(), idOf('A'));
     }
 
     void onlyTheFirstFileIsTaken()
     {
         import->addImage(id('A'));
-        desktop->imageChooser.answer(Files{"/two", "/one"});
+        desktop->fileChooser.answer(Files{"/two", "/one"});
         QCOMPARE(stored, QStringList{u"A=2"_s});
     }
 
     void cancellingChangesNothing()
     {
         import->addImage(id('A'));
-        desktop->imageChooser.answer(Files{});
+        desktop->fileChooser.answer(Files{});
         QCOMPARE(stored, QStringList());
         QVERIFY(!import->showImagePicker());
         QVERIFY(!import->showImageImportError());
@@ -88,7 +88,7 @@ private Q_SLOTS:
     void aFileThatCannotBeReadIsGivenUpSilently()
     {
         import->addImage(id('A'));
-        desktop->imageChooser.answer(Files{"/gone"});
+        desktop->fileChooser.answer(Files{"/gone"});
         QCOMPARE(stored, QStringList());
         QVERIFY(!import->showImageImportError());
     }
@@ -96,7 +96,7 @@ private Q_SLOTS:
     void aFailureOfTheChooserIsTold()
     {
         import->addImage(id('A'));
-        desktop->imageChooser.answer(FileError{u"The disk has left."_s});
+        desktop->fileChooser.answer(FileError{u"The disk has left."_s});
         QVERIFY(import->showImageImportError());
         QCOMPARE(import->imageImportError(), u"The disk has left."_s);
         QVERIFY(!import->showImagePicker());
@@ -105,7 +105,7 @@ private Q_SLOTS:
     void theAlertKeepsItsWordsWhileItGoesAway()
     {
         import->addImage(id('A'));
-        desktop->imageChooser.answer(FileError{u"why"_s});
+        desktop->fileChooser.answer(FileError{u"why"_s});
         import->dismissImageImportError();
         QVERIFY(!import->showImageImportError());
         QCOMPARE(import->imageImportError(), u"why"_s);
@@ -114,7 +114,7 @@ private Q_SLOTS:
     void aFailureWithoutWordsIsAFailureAllTheSame()
     {
         import->addImage(id('A'));
-        desktop->imageChooser.answer(FileError{});
+        desktop->fileChooser.answer(FileError{});
         QVERIFY(import->showImageImportError());
     }
 
@@ -122,8 +122,8 @@ private Q_SLOTS:
     {
         import->addImage(id('A'));
         import->addImage(id('B'));
-        QCOMPARE(desktop->imageChooser.asked, 1);
-        desktop->imageChooser.answer(Files{"/one"});
+        QCOMPARE(desktop->fileChooser.asked, 1);
+        desktop->fileChooser.answer(Files{"/one"});
         QCOMPARE(stored, QStringList{u"B=1"_s});
     }
 
@@ -131,9 +131,9 @@ private Q_SLOTS:
     {
         desktop->pictureFiles.isSlow = true;
         import->addImage(id('A'));
-        desktop->imageChooser.answer(Files{"/one"});
+        desktop->fileChooser.answer(Files{"/one"});
         import->addImage(id('B'));
-        desktop->imageChooser.answer(Files{"/two"});
+        desktop->fileChooser.answer(Files{"/two"});
         QCOMPARE(stored, QStringList());
         desktop->pictureFiles.handOver();
         QCOMPARE(stored, (QStringList{u"A=1"_s, u"B=2"_s}));
@@ -143,10 +143,10 @@ private Q_SLOTS:
     {
         desktop->pictureFiles.isSlow = true;
         import->addImage(id('A'));
-        desktop->imageChooser.answer(Files{"/one"});
+        desktop->fileChooser.answer(Files{"/one"});
         import->addImage(id('B'));
         import->cancel();
-        QVERIFY(!desktop->imageChooser.isOpen());
+        QVERIFY(!desktop->fileChooser.isOpen());
         QVERIFY(!import->showImagePicker());
         desktop->pictureFiles.handOver();
         QCOMPARE(stored, QStringList());

@@ -54,7 +54,7 @@ private:
     std::vector<std::pair<fs::path, std::weak_ptr<Completion>>> m_requests;
 };
 
-QString written(const ImageChooser::Choice &choice)
+QString written(const FileChooser::Choice &choice)
 {
     QStringList names;
     for (const fs::path &file : std::get<QList<fs::path>>(choice))
@@ -70,11 +70,13 @@ class TestFolderChooser : public QObject
     std::unique_ptr<ManualPictureFolders> folders;
     std::unique_ptr<FolderChooser> chooser;
     ScheduledCall request;
+    FileChooser::Wanted wanted = FileChooser::Wanted::picture;
     QStringList choices;
 
     void choose()
     {
-        request = chooser->choose([this](const ImageChooser::Choice &choice) { choices << written(choice); });
+        request = chooser->choose(wanted,
+                                  [this](const FileChooser::Choice &choice) { choices << written(choice); });
         folders->answer();
     }
 
@@ -96,6 +98,7 @@ private Q_SLOTS:
         folders = std::make_unique<ManualPictureFolders>();
         chooser = std::make_unique<FolderChooser>(*folders);
         request = {};
+        wanted = FileChooser::Wanted::picture;
         choices.clear();
     }
 
@@ -125,6 +128,32 @@ private Q_SLOTS:
         chooser->take(2);
         QCOMPARE(choices, QStringList{u"/home/me/Pictures/bee.jpg"_s});
         QVERIFY(!chooser->isOpen());
+    }
+
+    void theFolderOnShowIsChosenWhereOneIsWanted()
+    {
+        wanted = FileChooser::Wanted::folder;
+        choose();
+        QVERIFY(chooser->wantsFolder());
+        QCOMPARE(names(), QStringList{u"Pictures/"_s});
+        chooser->take(0);
+        folders->answer();
+        QCOMPARE(names(), QStringList());
+        QCOMPARE(choices, QStringList());
+        chooser->takeFolder();
+        QCOMPARE(choices, QStringList{u"/home/me/Pictures"_s});
+        QVERIFY(!chooser->isOpen());
+    }
+
+    void aFileIsNoFolder()
+    {
+        wanted = FileChooser::Wanted::folder;
+        choose();
+        chooser->goTo(u"cat.png"_s);
+        folders->answer();
+        QCOMPARE(chooser->problem(), u"That is a file, not a folder."_s);
+        QCOMPARE(chooser->folder(), u"/home/me"_s);
+        QCOMPARE(choices, QStringList());
     }
 
     void itOpensAgainWhereItWas()

@@ -146,17 +146,17 @@ bool EditorBench::dropFromElsewhere(QQuickItem *item, QPointF place, const QStri
 void EditorBench::choosePicture(const QString &picture)
 {
     m_desktop.pictureFiles.files["/picture"] = bytesOf(picture);
-    m_desktop.imageChooser.answer(QList<std::filesystem::path>{"/picture"});
+    m_desktop.fileChooser.answer(QList<std::filesystem::path>{"/picture"});
 }
 
 void EditorBench::chooseNothing()
 {
-    m_desktop.imageChooser.answer(QList<std::filesystem::path>{});
+    m_desktop.fileChooser.answer(QList<std::filesystem::path>{});
 }
 
 void EditorBench::failToChoose(const QString &why)
 {
-    m_desktop.imageChooser.answer(FileError{why});
+    m_desktop.fileChooser.answer(FileError{why});
 }
 
 void EditorBench::copyPicture(const QString &picture)

@@ -1,19 +1,20 @@
 #pragma once
 
 #include "Services/EditorServices.h"
-#include "Services/ImageChooser.h"
+#include "Services/FileChooser.h"
 #include "Services/PictureFiles.h"
 #include "support/ManualPasteboard.h"
 
 #include <map>
 
 /// A chooser that waits for the test to choose.
-class ManualImageChooser : public ImageChooser
+class ManualFileChooser : public FileChooser
 {
 public:
-    ScheduledCall choose(Completion completion) override
+    ScheduledCall choose(Wanted what, Completion completion) override
     {
         ++asked;
+        wanted = what;
         const auto request = std::make_shared<Completion>(std::move(completion));
         m_request = request;
         return ScheduledCall(request);
@@ -29,6 +30,7 @@ public:
     }
 
     int asked = 0;
+    Wanted wanted = Wanted::picture;
 
 private:
     std::weak_ptr<Completion> m_request;
@@ -66,11 +68,11 @@ private:
 /// The desktop of a test.
 struct ManualDesktop {
     ManualPasteboard pasteboard;
-    ManualImageChooser imageChooser;
+    ManualFileChooser fileChooser;
     ManualPictureFiles pictureFiles;
 
     EditorServices services(Scheduler &scheduler)
     {
-        return {scheduler, pasteboard, imageChooser, pictureFiles};
+        return {scheduler, pasteboard, fileChooser, pictureFiles};
     }
 };

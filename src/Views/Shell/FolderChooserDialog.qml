@@ -3,8 +3,9 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The app's own file chooser: the user's places at the left, the folder with its pictures at the right. Arrows and
-/// letters walk through the folder, Return opens, Backspace goes up, Ctrl+L types a path.
+/// The app's own file chooser: the user's places at the left, the folder with its pictures at the right, or only with
+/// its folders where one of them is wanted. Arrows and letters walk through the folder, Return opens, Backspace goes up,
+/// Ctrl+L types a path.
 ModalLayer {
     id: dialog
 
@@ -43,7 +44,7 @@ ModalLayer {
             Accessible.ignored: true
             color: FirePalette.inkHeading
             font: Typography.dialogTitle
-            text: qsTr("Add image")
+            text: dialog.chooser.wantsFolder ? qsTr("Export to a folder") : qsTr("Add image")
             x: Metrics.space24
             y: Metrics.space20
         }
@@ -86,8 +87,17 @@ ModalLayer {
             }
 
             WarmButton {
+                enabled: dialog.chooser.problem === "" && !dialog.chooser.isListing
+                name: qsTr("Export here")
+                visible: dialog.chooser.wantsFolder
+                width: 130
+                onTriggered: dialog.chooser.takeFolder()
+            }
+
+            WarmButton {
                 enabled: list.currentRow >= 0
                 name: qsTr("Open")
+                visible: !dialog.chooser.wantsFolder
                 width: 110
                 onTriggered: dialog.chooser.take(list.currentRow)
             }

@@ -84,7 +84,8 @@ FocusScope {
         color: FirePalette.inkMeta
         font: Typography.message
         horizontalAlignment: Text.AlignHCenter
-        text: root.chooser.problem !== "" ? root.chooser.problem : qsTr("No pictures here.")
+        text: root.chooser.problem !== "" ? root.chooser.problem
+            : root.chooser.wantsFolder ? qsTr("No folders in here.") : qsTr("No pictures here.")
         visible: root.chooser.problem !== "" || (list.count === 0 && !root.chooser.isListing)
         width: parent.width - 2 * Metrics.space24
         wrapMode: Text.Wrap

@@ -7,17 +7,23 @@
 
 #include <filesystem>
 
-/// Lets the user choose a picture from their files.
-class ImageChooser
+/// Lets the user choose from their files and folders.
+class FileChooser
 {
 public:
+    enum class Wanted {
+        picture,
+        /// One to write into.
+        folder,
+    };
+
     /// What was chosen: nothing when the user thought better of it, or why nothing could be chosen.
     using Choice = std::variant<QList<std::filesystem::path>, FileError>;
     using Completion = std::function<void(const Choice &)>;
 
-    virtual ~ImageChooser() = default;
+    virtual ~FileChooser() = default;
 
     /// Shows the chooser and tells once, later and on the interface thread, what came of it. Dropping what is
     /// returned closes the chooser.
-    [[nodiscard]] virtual ScheduledCall choose(Completion completion) = 0;
+    [[nodiscard]] virtual ScheduledCall choose(Wanted wanted, Completion completion) = 0;
 };

@@ -1,4 +1,4 @@
-#include "Platform/PortalImageChooser.h"
+#include "Platform/PortalFileChooser.h"
 #include "support/ManualDesktop.h"
 
 #include <QDBusConnection>
@@ -57,7 +57,7 @@ private:
     QDBusConnection m_bus;
 };
 
-QString written(const ImageChooser::Choice &choice)
+QString written(const FileChooser::Choice &choice)
 {
     if (const auto *failure = std::get_if<FileError>(&choice))
         return u"failed: "_s + failure->description;
@@ -68,13 +68,13 @@ QString written(const ImageChooser::Choice &choice)
 }
 } // namespace
 
-class TestPortalImageChooser : public QObject
+class TestPortalFileChooser : public QObject
 {
     Q_OBJECT
 
     QProcess daemon;
     QString address;
-    ManualImageChooser otherwise;
+    ManualFileChooser otherwise;
     std::unique_ptr<Portal> portal;
     QStringList choices;
     ScheduledCall request;
@@ -84,10 +84,11 @@ class TestPortalImageChooser : public QObject
         return QDBusConnection::connectToBus(address, name);
     }
 
-    void choose(const QDBusConnection &bus)
+    void choose(const QDBusConnection &bus, FileChooser::Wanted wanted = FileChooser::Wanted::picture)
     {
-        PortalImageChooser chooser(bus, [] { return u"x11:2a"_s; }, otherwise);
-        request = chooser.choose([this](const ImageChooser::Choice &choice) { choices << written(choice); });
+        PortalFileChooser chooser(bus, [] { return u"x11:2a"_s; }, otherwise);
+        request =
+            chooser.choose(wanted, [this](const FileChooser::Choice &choice) { choices << written(choice); });
     }
 
     void offerPortal()
@@ -131,7 +132,19 @@ private Q_SLOTS:
         QCOMPARE(portal->parent, u"x11:2a"_s);
         QCOMPARE(portal->options[u"multiple"_s].toBool(), false);
         QVERIFY(portal->options.contains(u"filters"_s));
+        QVERIFY(!portal->options.contains(u"directory"_s));
         QCOMPARE(otherwise.asked, 0);
+    }
+
+    void theDesktopIsAskedForAFolder()
+    {
+        offerPortal();
+        choose(connected(u"program"_s), FileChooser::Wanted::folder);
+        QTRY_VERIFY(!portal->handle.isEmpty());
+        QCOMPARE(portal->options[u"directory"_s].toBool(), true);
+        QVERIFY(!portal->options.contains(u"filters"_s));
+        portal->answer(0, {{u"uris"_s, QStringList{u"file:///home/me/my%20notes"_s}}});
+        QTRY_COMPARE(choices, QStringList{u"chosen: /home/me/my notes"_s});
     }
 
     void theChosenFileIsHandedOverByteForByte()
@@ -184,8 +197,9 @@ private Q_SLOTS:
     void withoutAPortalTheOtherChooserIsShown()
     {
         otherwise.asked = 0;
-        choose(connected(u"program"_s));
+        choose(connected(u"program"_s), FileChooser::Wanted::folder);
         QTRY_COMPARE(otherwise.asked, 1);
+        QCOMPARE(otherwise.wanted, FileChooser::Wanted::folder);
         otherwise.answer(Files{"/a.png"});
         QCOMPARE(choices, QStringList{u"chosen: /a.png"_s});
     }
@@ -206,5 +220,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPortalImageChooser)
-#include "tst_PortalImageChooser.moc"
+QTEST_GUILESS_MAIN(TestPortalFileChooser)
+#include "tst_PortalFileChooser.moc"

@@ -1,23 +1,23 @@
 #pragma once
 
-#include "Services/ImageChooser.h"
+#include "Services/FileChooser.h"
 
 #include <QDBusConnection>
 
 /// The file chooser that the desktop itself offers to all programs, asked for over the session bus. Where the
 /// desktop offers none, another chooser is shown in its place.
-class PortalImageChooser : public ImageChooser
+class PortalFileChooser : public FileChooser
 {
 public:
     /// Names the window that the chooser belongs to, in the way the desktop names windows; empty for none.
     using ParentWindow = std::function<QString()>;
 
-    PortalImageChooser(QDBusConnection bus, ParentWindow parentWindow, ImageChooser &otherwise);
+    PortalFileChooser(QDBusConnection bus, ParentWindow parentWindow, FileChooser &otherwise);
 
-    ScheduledCall choose(Completion completion) override;
+    ScheduledCall choose(Wanted wanted, Completion completion) override;
 
 private:
     const QDBusConnection m_bus;
     const ParentWindow m_parentWindow;
-    ImageChooser &m_otherwise;
+    FileChooser &m_otherwise;
 };

@@ -1,0 +1,17 @@
+#include "Platform/PortalFileChooser.h"
+
+#include "Platform/PortalRequest.h"
+
+PortalFileChooser::PortalFileChooser(QDBusConnection bus, ParentWindow parentWindow, FileChooser &otherwise)
+    : m_bus(std::move(bus))
+    , m_parentWindow(std::move(parentWindow))
+    , m_otherwise(otherwise)
+{
+}
+
+ScheduledCall PortalFileChooser::choose(Wanted wanted, Completion completion)
+{
+    const auto request = std::make_shared<PortalRequest>(m_bus, wanted, std::move(completion), m_otherwise);
+    request->send(m_parentWindow());
+    return ScheduledCall(request);
+}
