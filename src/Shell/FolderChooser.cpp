@@ -28,7 +28,8 @@ ScheduledCall FolderChooser::choose(Wanted wanted, Completion completion)
 {
     const auto closes = [chooser = QPointer(this)](const Completion *done) {
         delete done;
-        if (chooser)
+        // The former request often goes when the next one is made already.
+        if (chooser && chooser->m_request.expired())
             chooser->close();
     };
     const std::shared_ptr<Completion> request(new Completion(std::move(completion)), closes);

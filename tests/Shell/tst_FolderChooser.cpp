@@ -156,6 +156,28 @@ private Q_SLOTS:
         QCOMPARE(choices, QStringList());
     }
 
+    void afterAFolderAPictureCanBeWantedAgain()
+    {
+        wanted = FileChooser::Wanted::folder;
+        choose();
+        chooser->cancel();
+        wanted = FileChooser::Wanted::picture;
+        choose();
+        QVERIFY(!chooser->wantsFolder());
+        QCOMPARE(names(), (QStringList{u"Pictures/"_s, u"cat.png"_s}));
+    }
+
+    void aRequestThatIsDroppedWhenTheNextIsMadeLeavesThatOpen()
+    {
+        choose();
+        chooser->cancel();
+        choose(); // and only now the former one goes
+        QVERIFY(chooser->isOpen());
+        QVERIFY(!chooser->isListing());
+        chooser->take(1);
+        QCOMPARE(choices, (QStringList{u"nothing"_s, u"/home/me/cat.png"_s}));
+    }
+
     void itOpensAgainWhereItWas()
     {
         choose();
