@@ -1,0 +1,182 @@
+#include "Shell/ExportViewModel.h"
+
+#include "Export/Export.h"
+#include "Export/PageMarkdown.h"
+#include "Services/Pasteboard.h"
+#include "Services/PictureFolders.h"
+#include "Store/AppState.h"
+#include "Store/ChangeScope.h"
+#include "Theme/PelkoVoice.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using Existing = ExportFolder::Existing;
+
+namespace
+{
+constexpr auto patience = 500ms; // most exports are done by then
+constexpr auto libraryFolder = "Pelko";
+
+QList<ExportedFile> filesOf(const QList<PelkoDocument> &documents, bool isLibrary)
+{
+    return isLibrary ? Export::library(documents) : Export::page(documents.constFirst());
+}
+} // namespace
+
+ExportViewModel::ExportViewModel(const AppState &appState, const Services &services, QObject *parent)
+    : QObject(parent)
+    , m_appState(appState)
+    , m_services(services)
+{
+}
+
+void ExportViewModel::copyAsMarkdown()
+{
+    const std::optional<PelkoDocument> open = m_appState.openDocument();
+    if (!open)
+        return;
+    const QString markdown = pageMarkdown(open->blocks);
+    m_services.pasteboard.put({.text = markdown, .markdown = markdown});
+}
+
+void ExportViewModel::exportDocument()
+{
+    if (const std::optional<PelkoDocument> open = m_appState.openDocument())
+        begin({.documents = {*open}});
+}
+
+void ExportViewModel::exportLibrary()
+{
+    begin({.documents = m_appState.documents(), .isLibrary = true});
+}
+
+void ExportViewModel::begin(Order order)
+{
+    if (m_isBusy)
+        return;
+    m_isBusy = true;
+    m_order = std::move(order);
+    m_choosing = m_services.chooser.choose(FileChooser::Wanted::folder,
+                                           [this](const FileChooser::Choice &choice) { take(choice); });
+}
+
+void ExportViewModel::take(const FileChooser::Choice &choice)
+{
+    if (const auto *error = std::get_if<FileError>(&choice)) {
+        tell(*error);
+        return;
+    }
+    const auto &chosen = std::get<QList<std::filesystem::path>>(choice);
+    if (chosen.isEmpty()) {
+        m_isBusy = false;
+        return;
+    }
+    m_order.folder = chosen.constFirst();
+    // Whoever chooses the folder of the last time means that one.
+    if (m_order.isLibrary && m_order.folder.filename() != libraryFolder)
+        m_order.folder /= libraryFolder;
+    write(Existing::keep);
+}
+
+void ExportViewModel::write(Existing existing)
+{
+    const QString text = u"%1 on the way to “%2”."_s.arg(Export::contents(m_order.documents), folderName());
+    ChangeScope(*this).assign(m_progressText, text, &ExportViewModel::progressTextChanged);
+    m_patience = m_services.scheduler.after(patience, [this] { setProgress(true); });
+    m_writing = m_services.folder.write(
+        m_order.folder,
+        [documents = m_order.documents, isLibrary = m_order.isLibrary] {
+            return filesOf(documents, isLibrary);
+        },
+        existing, [this](const ExportFolder::Outcome &outcome) { finish(outcome); });
+}
+
+void ExportViewModel::finish(const ExportFolder::Outcome &outcome)
+{
+    setProgress(false);
+    if (const auto *taken = std::get_if<ExportFolder::Taken>(&outcome))
+        ask(taken->paths);
+    else if (const auto *error = std::get_if<FileError>(&outcome))
+        tell(*error);
+    else
+        tellSuccess();
+}
+
+void ExportViewModel::ask(const QStringList &taken)
+{
+    const QString name = taken.constFirst().section(u'/', -1);
+    const bool isOne = taken.size() == 1;
+    ChangeScope changes(*this);
+    changes.assign(m_questionTitle,
+                   isOne ? u"Replace “%1”?"_s.arg(name) : u"Replace %1 files?"_s.arg(taken.size()),
+                   &ExportViewModel::questionChanged);
+    changes.assign(m_questionText,
+                   isOne ? u"“%1” has a file of that name."_s.arg(folderName())
+                         : u"“%1” has files of these names, “%2” for one."_s.arg(folderName(), name),
+                   &ExportViewModel::questionChanged);
+    changes.assign(m_asksToReplace, true, &ExportViewModel::asksToReplaceChanged);
+}
+
+void ExportViewModel::replace()
+{
+    if (!m_asksToReplace)
+        return;
+    ChangeScope(*this).assign(m_asksToReplace, false, &ExportViewModel::asksToReplaceChanged);
+    write(Existing::replace);
+}
+
+void ExportViewModel::keep()
+{
+    if (!m_asksToReplace)
+        return;
+    ChangeScope(*this).assign(m_asksToReplace, false, &ExportViewModel::asksToReplaceChanged);
+    m_isBusy = false;
+}
+
+void ExportViewModel::stop()
+{
+    if (!m_showProgress)
+        return;
+    m_writing.cancel();
+    setProgress(false);
+    m_isBusy = false;
+}
+
+void ExportViewModel::tell(const FileError &error)
+{
+    setResult(true, PelkoVoice::pick(PelkoVoice::errorPool(), u"error"_s),
+              u"Export failed: %1. Nothing was left behind."_s.arg(error.description));
+}
+
+void ExportViewModel::tellSuccess()
+{
+    setResult(false, u"Exported."_s,
+              u"%1 in “%2”. Plain Markdown, yours to keep."_s.arg(Export::contents(m_order.documents),
+                                                                  folderName()));
+}
+
+void ExportViewModel::setResult(bool failed, const QString &title, const QString &text)
+{
+    m_isBusy = false;
+    ChangeScope changes(*this);
+    changes.assign(m_hasFailed, failed, &ExportViewModel::resultChanged);
+    changes.assign(m_resultTitle, title, &ExportViewModel::resultChanged);
+    changes.assign(m_resultText, text, &ExportViewModel::resultChanged);
+    changes.assign(m_showResult, true, &ExportViewModel::showResultChanged);
+}
+
+void ExportViewModel::dismissResult()
+{
+    ChangeScope(*this).assign(m_showResult, false, &ExportViewModel::showResultChanged);
+}
+
+void ExportViewModel::setProgress(bool shown)
+{
+    m_patience.cancel();
+    ChangeScope(*this).assign(m_showProgress, shown, &ExportViewModel::showProgressChanged);
+}
+
+QString ExportViewModel::folderName() const
+{
+    return PictureFolders::nameOf(m_order.folder);
+}

@@ -1,0 +1,105 @@
+#pragma once
+
+#include "Models/PelkoDocument.h"
+#include "Services/ExportFolder.h"
+#include "Services/FileChooser.h"
+
+#include <QObject>
+
+class AppState;
+class Pasteboard;
+
+/// Exports from the window: asks for a folder, writes there without holding up the interface, asks before it
+/// replaces anything, and says in the end what came of it. One export at a time.
+class ExportViewModel : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool showProgress READ showProgress NOTIFY showProgressChanged)
+    Q_PROPERTY(QString progressText READ progressText NOTIFY progressTextChanged)
+    Q_PROPERTY(bool asksToReplace READ asksToReplace NOTIFY asksToReplaceChanged)
+    Q_PROPERTY(QString questionTitle READ questionTitle NOTIFY questionChanged)
+    Q_PROPERTY(QString questionText READ questionText NOTIFY questionChanged)
+    Q_PROPERTY(bool showResult READ showResult NOTIFY showResultChanged)
+    Q_PROPERTY(bool hasFailed READ hasFailed NOTIFY resultChanged)
+    Q_PROPERTY(QString resultTitle READ resultTitle NOTIFY resultChanged)
+    Q_PROPERTY(QString resultText READ resultText NOTIFY resultChanged)
+
+public:
+    struct Services {
+        Scheduler &scheduler;
+        FileChooser &chooser;
+        ExportFolder &folder;
+        Pasteboard &pasteboard;
+    };
+
+    ExportViewModel(const AppState &appState, const Services &services, QObject *parent = nullptr);
+
+    /// While an export takes longer than a moment.
+    bool showProgress() const { return m_showProgress; }
+    // The words of an alert stay while it goes away.
+    QString progressText() const { return m_progressText; }
+    bool asksToReplace() const { return m_asksToReplace; }
+    QString questionTitle() const { return m_questionTitle; }
+    QString questionText() const { return m_questionText; }
+    bool showResult() const { return m_showResult; }
+    bool hasFailed() const { return m_hasFailed; }
+    QString resultTitle() const { return m_resultTitle; }
+    QString resultText() const { return m_resultText; }
+
+    /// Puts the open page as Markdown on the pasteboard. None open, nothing happens.
+    Q_INVOKABLE void copyAsMarkdown();
+    /// Into the folder that the user chooses.
+    Q_INVOKABLE void exportDocument();
+    /// Into a folder "Pelko" in the one that the user chooses.
+    Q_INVOKABLE void exportLibrary();
+    // The answers to what is asked. Where nothing is asked any more they do nothing.
+    Q_INVOKABLE void replace();
+    Q_INVOKABLE void keep();
+    /// Gives up the export that is on show.
+    Q_INVOKABLE void stop();
+    Q_INVOKABLE void dismissResult();
+
+Q_SIGNALS:
+    void showProgressChanged();
+    void progressTextChanged();
+    void asksToReplaceChanged();
+    void questionChanged();
+    void showResultChanged();
+    void resultChanged();
+
+private:
+    /// What is to be written, and where.
+    struct Order {
+        QList<PelkoDocument> documents;
+        bool isLibrary = false;
+        std::filesystem::path folder = {};
+    };
+
+    void begin(Order order);
+    void take(const FileChooser::Choice &choice);
+    void write(ExportFolder::Existing existing);
+    void finish(const ExportFolder::Outcome &outcome);
+    void ask(const QStringList &taken);
+    void tell(const FileError &error);
+    void tellSuccess();
+    void setResult(bool failed, const QString &title, const QString &text);
+    void setProgress(bool shown);
+    QString folderName() const;
+
+    const AppState &m_appState;
+    const Services m_services;
+    Order m_order;
+    bool m_isBusy = false;
+    ScheduledCall m_choosing;
+    ScheduledCall m_writing;
+    ScheduledCall m_patience;
+    bool m_showProgress = false;
+    QString m_progressText;
+    bool m_asksToReplace = false;
+    QString m_questionTitle;
+    QString m_questionText;
+    bool m_showResult = false;
+    bool m_hasFailed = false;
+    QString m_resultTitle;
+    QString m_resultText;
+};
