@@ -47,7 +47,7 @@ FocusScope {
                 currentIndex = Math.min(count - 1, currentIndex + 8)
             else if (event.key === Qt.Key_PageUp)
                 currentIndex = Math.max(Math.min(0, count - 1), currentIndex - 8)
-            else if (event.text.trim() !== "" && !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier)))
+            else if (/[^\x00-\x20\x7f]/.test(event.text) && !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier)))
                 root.seek(event.text)
             else
                 event.accepted = false
