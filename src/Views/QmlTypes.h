@@ -2,6 +2,7 @@
 
 #include "Editor/EditorViewModel.h"
 #include "Editor/PictureBytes.h"
+#include "Shell/ExportViewModel.h"
 #include "Shell/FolderChooser.h"
 #include "Shell/LaunchSequence.h"
 #include "Shell/MainViewModel.h"
@@ -61,6 +62,13 @@ struct LaunchSequenceForQml {
     Q_GADGET
     QML_FOREIGN(LaunchSequence)
     QML_NAMED_ELEMENT(LaunchSequence)
+    QML_UNCREATABLE("Handed in by the program.")
+};
+
+struct ExportViewModelForQml {
+    Q_GADGET
+    QML_FOREIGN(ExportViewModel)
+    QML_NAMED_ELEMENT(ExportViewModel)
     QML_UNCREATABLE("Handed in by the program.")
 };
 

@@ -1,4 +1,5 @@
 #include "EditorBench.h"
+#include "ExportBench.h"
 #include "ShellFixture.h"
 #include "TimersBench.h"
 
@@ -21,6 +22,7 @@ public Q_SLOTS:
     {
         engine->addImportPath(u"qrc:/qt/qml"_s);
         qmlRegisterType<EditorBench>("PelkoTest", 1, 0, "EditorBench");
+        qmlRegisterType<ExportBench>("PelkoTest", 1, 0, "ExportBench");
         qmlRegisterType<ShellFixture>("PelkoTest", 1, 0, "ShellFixture");
         qmlRegisterType<TimersBench>("PelkoTest", 1, 0, "TimersBench");
     }

@@ -1,0 +1,44 @@
+import QtQuick
+import Pelko
+
+/// What an export has to say and to ask, each shown exactly while its reason lasts.
+Item {
+    id: root
+
+    required property ExportViewModel exports
+    property Item backdrop: null
+
+    AlertDialog {
+        open: root.exports.showProgress
+        backdrop: root.backdrop
+        symbol: "square.and.arrow.up"
+        symbolColor: FirePalette.amberSoft
+        title: "Exporting…"
+        message: root.exports.progressText
+        actions: DialogAction { name: "Stop"; cancels: true; onTriggered: root.exports.stop() }
+    }
+
+    AlertDialog {
+        open: root.exports.asksToReplace
+        backdrop: root.backdrop
+        symbol: "doc.on.doc"
+        title: root.exports.questionTitle
+        message: root.exports.questionText
+        actions: [
+            DialogAction { name: "Nah"; cancels: true },
+            DialogAction { name: "Replace"; destroys: true; onTriggered: root.exports.replace() }
+        ]
+        onDismissed: root.exports.keep()
+    }
+
+    AlertDialog {
+        open: root.exports.showResult
+        backdrop: root.backdrop
+        symbol: root.exports.hasFailed ? "exclamationmark.triangle" : "square.and.arrow.up"
+        symbolColor: root.exports.hasFailed ? FirePalette.destructive : FirePalette.amberSoft
+        title: root.exports.resultTitle
+        message: root.exports.resultText
+        actions: DialogAction { name: "Got it"; cancels: true }
+        onDismissed: root.exports.dismissResult()
+    }
+}

@@ -1,0 +1,146 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtTest
+import Pelko
+import PelkoTest
+
+Item {
+    id: stage
+
+    width: 900
+    height: 600
+
+    Component {
+        id: parts
+
+        FocusScope {
+            readonly property alias bench: bench
+
+            anchors.fill: parent
+            focus: true
+
+            FolderChooserDialog { anchors.fill: parent; chooser: bench.chooser }
+            ExportAlerts { anchors.fill: parent; exports: bench.exports }
+
+            // Stands last so that it outlives the views.
+            ExportBench { id: bench }
+        }
+    }
+
+    TestCase {
+        name: "Export"
+        when: windowShown
+
+        property var root
+        property var bench
+
+        function init() {
+            root = createTemporaryObject(parts, stage)
+            root.forceActiveFocus()
+            bench = root.bench
+        }
+
+        // The item on show that screen readers call so.
+        function named(name, item = root) {
+            if (!item.visible)
+                return null
+            if (item.Accessible.name === name && !item.Accessible.ignored)
+                return item
+            for (const child of Array.from(item.children)) {
+                const found = named(name, child)
+                if (found)
+                    return found
+            }
+            return null
+        }
+
+        function shown(name) {
+            tryVerify(() => named(name), 5000, `“${name}” is on show`)
+            return named(name)
+        }
+
+        function gone(name) {
+            tryVerify(() => !named(name), 5000, `“${name}” has gone`)
+        }
+
+        // By keys alone: down to the second folder, into it, and on to the button.
+        function chooseNotes() {
+            bench.exports.exportDocument()
+            shown("Export to a folder")
+            verify(!named("cat.png"))
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Return)
+            tryVerify(() => bench.chooser.folder === "/home/me/Notes")
+            const button = shown("Export here")
+            compare(button.Accessible.role, Accessible.Button)
+            for (let tabs = 0; tabs < 12 && !button.activeFocus; ++tabs)
+                keyClick(Qt.Key_Tab)
+            verify(button.activeFocus)
+            keyClick(Qt.Key_Return)
+            gone("Export to a folder")
+        }
+
+        function test_aFolderIsChosenByKeys() {
+            chooseNotes()
+            compare(bench.folder(), "/home/me/Notes")
+            bench.succeed()
+            const alert = shown("Exported.")
+            compare(alert.Accessible.description, "1 page in “Notes”. Plain Markdown, yours to keep.")
+            keyClick(Qt.Key_Return)
+            gone("Exported.")
+        }
+
+        function test_escapeChoosesNoFolder() {
+            bench.exports.exportDocument()
+            shown("Export to a folder")
+            keyClick(Qt.Key_Escape)
+            gone("Export to a folder")
+            compare(bench.folder(), "")
+        }
+
+        function test_theHarmlessAnswerReplacesNothing() {
+            chooseNotes()
+            bench.findTaken(["Untitled.md"])
+            shown("Replace “Untitled.md”?")
+            tryVerify(() => named("Nah").activeFocus)
+            keyClick(Qt.Key_Return)
+            gone("Replace “Untitled.md”?")
+            verify(!bench.isReplacing())
+            verify(!bench.exports.showResult)
+        }
+
+        function test_replacingHasToBeChosen() {
+            chooseNotes()
+            bench.findTaken(["Untitled.md"])
+            shown("Replace “Untitled.md”?")
+            tryVerify(() => named("Nah").activeFocus)
+            keyClick(Qt.Key_Tab)
+            verify(named("Replace").activeFocus)
+            keyClick(Qt.Key_Return)
+            gone("Replace “Untitled.md”?")
+            verify(bench.isReplacing())
+            bench.succeed()
+            shown("Exported.")
+        }
+
+        function test_aLongExportCanBeStopped() {
+            chooseNotes()
+            bench.takeLong()
+            shown("Exporting…")
+            mouseClick(named("Stop"))
+            gone("Exporting…")
+            verify(!bench.isWaitedFor())
+        }
+
+        function test_aFailureSaysWhy() {
+            chooseNotes()
+            bench.fail("No space left on device")
+            tryVerify(() => named(bench.exports.resultTitle))
+            compare(named(bench.exports.resultTitle).Accessible.description,
+                    "Export failed: No space left on device. Nothing was left behind.")
+            mouseClick(shown("Got it"))
+            gone("Got it")
+        }
+    }
+}
