@@ -18,7 +18,7 @@ QString heading(const QString &text)
     if (marked.contains(u'\n'))
         return MarkdownText::escaped(text, Place::line) + "\n==="_L1;
     // Number signs at the end would be taken for a closing mark.
-    return marked.endsWith(u'#') ? "# "_L1 + marked.chopped(1) + "\\#"_L1 : "# "_L1 + marked;
+    return marked.endsWith(u'#') ? "# "_L1 + marked.chopped(1) + R"(\#)"_L1 : "# "_L1 + marked;
 }
 
 QString quote(const QString &text)
