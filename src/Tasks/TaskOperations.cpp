@@ -1,0 +1,49 @@
+#include "Tasks/TaskOperations.h"
+
+#include <algorithm>
+
+namespace
+{
+Block *find(PelkoDocument &doc, const QUuid &blockID)
+{
+    const auto found = std::ranges::find(doc.blocks, blockID, &Block::id);
+    return found == doc.blocks.end() ? nullptr : &*found;
+}
+} // namespace
+
+std::optional<PelkoDocument> TaskOperations::toggleTodo(PelkoDocument doc, const QUuid &blockID,
+                                                        const QUuid &todoID)
+{
+    Block *block = find(doc, blockID);
+    if (!block || !block->todos)
+        return std::nullopt;
+    const auto todo = std::ranges::find(*block->todos, todoID, &TodoItem::id);
+    if (todo == block->todos->end())
+        return std::nullopt;
+    todo->done = !todo->done;
+    return doc;
+}
+
+std::optional<PelkoDocument> TaskOperations::deleteTodo(PelkoDocument doc, const QUuid &blockID,
+                                                        const QUuid &todoID)
+{
+    Block *block = find(doc, blockID);
+    if (!block)
+        return std::nullopt;
+    if (block->todos)
+        block->todos->removeIf([&todoID](const TodoItem &todo) { return todo.id == todoID; });
+    return doc;
+}
+
+PelkoDocument TaskOperations::addQuickTask(PelkoDocument doc, const QString &text)
+{
+    auto sticky = std::ranges::find(doc.blocks, BlockType::sticky, &Block::type);
+    if (sticky == doc.blocks.end()) {
+        doc.blocks.emplaceBack(BlockType::sticky);
+        sticky = doc.blocks.end() - 1;
+    }
+    if (!sticky->todos)
+        sticky->todos.emplace();
+    sticky->todos->append(TodoItem{.text = text});
+    return doc;
+}

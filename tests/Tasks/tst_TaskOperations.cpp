@@ -1,0 +1,163 @@
+#include "Tasks/TaskOperations.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+/// A heading, a checklist of these, and a line of text.
+PelkoDocument page(const QStringList &texts)
+{
+    PelkoDocument document(Space::work, 800'000'000);
+    document.blocks = {Block(BlockType::textLarge, u"Packing list"_s), Block(BlockType::sticky),
+                       Block(BlockType::textSmall)};
+    document.blocks[1].todos.emplace();
+    for (const QString &text : texts)
+        document.blocks[1].todos->append({.text = text});
+    return document;
+}
+
+const QList<TodoItem> &todos(const PelkoDocument &document, qsizetype block = 1)
+{
+    return *document.blocks[block].todos;
+}
+} // namespace
+
+class tst_TaskOperations : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void toggleFlipsOneEntry();
+    void toggleTwiceIsAsBefore();
+    void toggleOfWhatIsNotThereIsNothing();
+    void deleteTakesOneEntryAndKeepsTheOthersInOrder();
+    void deleteTakesEveryEntryOfThatId();
+    void deleteOfTheLastEntryLeavesAnEmptyChecklist();
+    void deleteInABlockWithoutAChecklistGivesThePageBack();
+    void deleteInABlockThatIsNotThereIsNothing();
+    void addAppendsToTheFirstChecklist();
+    void addFillsAChecklistThatIsAbsent();
+    void addMakesAChecklistAtTheEnd();
+};
+
+void tst_TaskOperations::toggleFlipsOneEntry()
+{
+    const PelkoDocument before = page({u"socks"_s, u"pens"_s});
+
+    const auto after =
+        TaskOperations::toggleTodo(before, before.blocks[1].id, todos(before)[1].id);
+    PelkoDocument expected = before;
+    (*expected.blocks[1].todos)[1].done = true;
+    QCOMPARE(after, expected);
+}
+
+void tst_TaskOperations::toggleTwiceIsAsBefore()
+{
+    const PelkoDocument before = page({u"socks"_s});
+    const QUuid block = before.blocks[1].id;
+    const QUuid todo = todos(before)[0].id;
+
+    QCOMPARE(TaskOperations::toggleTodo(*TaskOperations::toggleTodo(before, block, todo), block, todo),
+             before);
+}
+
+void tst_TaskOperations::toggleOfWhatIsNotThereIsNothing()
+{
+    const PelkoDocument before = page({u"socks"_s});
+    const QUuid unknown = QUuid::createUuid();
+
+    QVERIFY(!TaskOperations::toggleTodo(before, unknown, todos(before)[0].id));
+    QVERIFY(!TaskOperations::toggleTodo(before, before.blocks[1].id, unknown));
+    QVERIFY(!TaskOperations::toggleTodo(before, before.blocks[0].id, todos(before)[0].id));
+}
+
+void tst_TaskOperations::deleteTakesOneEntryAndKeepsTheOthersInOrder()
+{
+    const PelkoDocument before = page({u"socks"_s, u"pens"_s, u"tea"_s});
+
+    const auto after =
+        TaskOperations::deleteTodo(before, before.blocks[1].id, todos(before)[1].id);
+    PelkoDocument expected = before;
+    expected.blocks[1].todos->removeAt(1);
+    QCOMPARE(after, expected);
+}
+
+void tst_TaskOperations::deleteTakesEveryEntryOfThatId()
+{
+    PelkoDocument before = page({u"socks"_s, u"pens"_s, u"tea"_s});
+    (*before.blocks[1].todos)[2].id = todos(before)[0].id;
+
+    const auto after =
+        TaskOperations::deleteTodo(before, before.blocks[1].id, todos(before)[0].id);
+    QCOMPARE(todos(*after), QList<TodoItem>{todos(before)[1]});
+}
+
+void tst_TaskOperations::deleteOfTheLastEntryLeavesAnEmptyChecklist()
+{
+    const PelkoDocument before = page({u"socks"_s});
+
+    const auto after =
+        TaskOperations::deleteTodo(before, before.blocks[1].id, todos(before)[0].id);
+    QCOMPARE(after->blocks.size(), 3);
+    QCOMPARE(after->blocks[1].todos, QList<TodoItem>{});
+}
+
+void tst_TaskOperations::deleteInABlockWithoutAChecklistGivesThePageBack()
+{
+    const PelkoDocument before = page({});
+
+    QCOMPARE(TaskOperations::deleteTodo(before, before.blocks[0].id, QUuid::createUuid()), before);
+}
+
+void tst_TaskOperations::deleteInABlockThatIsNotThereIsNothing()
+{
+    PelkoDocument before = page({u"socks"_s});
+    QVERIFY(!TaskOperations::deleteTodo(before, QUuid::createUuid(), todos(before)[0].id));
+
+    before.blocks.clear();
+    QVERIFY(!TaskOperations::deleteTodo(before, QUuid::createUuid(), QUuid::createUuid()));
+}
+
+void tst_TaskOperations::addAppendsToTheFirstChecklist()
+{
+    PelkoDocument before = page({u"socks"_s});
+    before.blocks.append(page({u"later"_s}).blocks);
+
+    const PelkoDocument after = TaskOperations::addQuickTask(before, u"  pens "_s);
+    PelkoDocument expected = before;
+    expected.blocks[1].todos->append({.id = todos(after).last().id, .text = u"  pens "_s});
+    QCOMPARE(after, expected);
+    QVERIFY(todos(after)[1].id != todos(after)[0].id);
+}
+
+void tst_TaskOperations::addFillsAChecklistThatIsAbsent()
+{
+    PelkoDocument before = page({});
+    before.blocks[1].todos.reset();
+
+    const PelkoDocument after = TaskOperations::addQuickTask(before, u"pens"_s);
+    QCOMPARE(todos(after).size(), 1);
+    QCOMPARE(todos(after)[0].text, u"pens"_s);
+}
+
+void tst_TaskOperations::addMakesAChecklistAtTheEnd()
+{
+    PelkoDocument before = page({});
+    before.blocks.removeAt(1);
+
+    const PelkoDocument once = TaskOperations::addQuickTask(before, u"pens"_s);
+    Block expected(BlockType::sticky);
+    expected.id = once.blocks.last().id;
+    expected.todos = {{.id = todos(once, 2)[0].id, .text = u"pens"_s}};
+    QCOMPARE(once.blocks, before.blocks + QList<Block>{expected});
+
+    const PelkoDocument twice = TaskOperations::addQuickTask(once, u"tea"_s);
+    QCOMPARE(twice.blocks.size(), 3);
+    QCOMPARE(todos(twice, 2).size(), 2);
+    QCOMPARE(todos(twice, 2)[1].text, u"tea"_s);
+}
+
+QTEST_GUILESS_MAIN(tst_TaskOperations)
+#include "tst_TaskOperations.moc"
