@@ -13,6 +13,19 @@ bool isSameText(const QString &one, const QString &other)
 
 } // namespace
 
+// QChar::isSpace is Unicode's White_Space: every separator, tab to carriage return, and U+0085.
+qint64 Block::wordCount() const
+{
+    qint64 words = 0;
+    bool inWord = false;
+    for (const QChar character : content) {
+        const bool space = character.isSpace();
+        words += !space && !inWord;
+        inWord = !space;
+    }
+    return words;
+}
+
 bool Block::operator==(const Block &other) const
 {
     const auto others = std::tie(other.id, other.type, other.todos, other.isFullWidth, other.bannerTitle);

@@ -33,6 +33,9 @@ struct Block {
     {
     }
 
+    /// Runs of characters between white space in the text.
+    qint64 wordCount() const;
+
     bool operator==(const Block &other) const;
 };
 

@@ -8,22 +8,9 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-// QChar::isSpace is Unicode's White_Space: every separator, tab to carriage return, and U+0085.
 bool isBlank(QStringView text)
 {
     return std::ranges::all_of(text, [](QChar character) { return character.isSpace(); });
-}
-
-qint64 wordsIn(QStringView text)
-{
-    qint64 words = 0;
-    bool inWord = false;
-    for (const QChar character : text) {
-        const bool space = character.isSpace();
-        words += !space && !inWord;
-        inWord = !space;
-    }
-    return words;
 }
 
 bool isTitledBanner(const Block &block)
@@ -61,7 +48,7 @@ qint64 PelkoDocument::wordCount() const
 {
     qint64 words = 0;
     for (const Block &block : blocks)
-        words += wordsIn(block.content);
+        words += block.wordCount();
     return words;
 }
 
@@ -82,4 +69,13 @@ QString PelkoDocument::relativeDate(Timestamp now, const QTimeZone &zone, const 
     if (elapsed < 7 * day)
         return whole(day) + u"d ago"_s;
     return monthAndDay(time, zone, locale);
+}
+
+bool isUnchanged(const PelkoDocument &document, const PelkoDocument &kept)
+{
+    return document.blocks.constData() == kept.blocks.constData() &&
+           document.blocks.size() == kept.blocks.size() && document.id == kept.id &&
+           document.space == kept.space && document.createdAt == kept.createdAt &&
+           document.updatedAt == kept.updatedAt && document.isPinned == kept.isPinned &&
+           document.isArchived == kept.isArchived;
 }

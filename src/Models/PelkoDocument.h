@@ -33,3 +33,8 @@ struct PelkoDocument {
 
     bool operator==(const PelkoDocument &) const = default;
 };
+
+/// Whether the page is still as it was when the other was copied from it, told without reading the blocks:
+/// whoever changes one of two lists that share their elements gets elements of his own. So as long as a copy
+/// is kept, sharing with it means that nothing has changed.
+bool isUnchanged(const PelkoDocument &document, const PelkoDocument &kept);

@@ -99,17 +99,6 @@ bool holdsPictures(std::span<const PelkoDocument> documents)
                                    [](const Block &block) { return block.imageData.has_value(); });
     });
 }
-
-/// Whoever changes one of two lists that share their elements gets elements of his own. So as long as the
-/// written one is kept, sharing with it means that nothing has changed.
-bool isUnchanged(const PelkoDocument &document, const PelkoDocument &written)
-{
-    return document.blocks.constData() == written.blocks.constData() &&
-           document.blocks.size() == written.blocks.size() && document.id == written.id &&
-           document.space == written.space && document.createdAt == written.createdAt &&
-           document.updatedAt == written.updatedAt && document.isPinned == written.isPinned &&
-           document.isArchived == written.isArchived;
-}
 } // namespace
 
 std::optional<FileError> DocumentWriter::write(const QList<PelkoDocument> &documents, ByteSink &sink)
