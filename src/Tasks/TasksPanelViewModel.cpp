@@ -4,12 +4,26 @@
 #include "Store/AppState.h"
 #include "Store/ChangeScope.h"
 #include "Tasks/ClockFace.h"
+#include "Tasks/TaskOperations.h"
+#include "Tasks/WordGoal.h"
+#include "Tasks/WritingStreak.h"
 
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace
 {
 constexpr auto tickInterval = 60s;
+
+/// Line breaks are no blanks here.
+bool isBlank(const QString &text)
+{
+    return std::ranges::all_of(text, [](QChar character) {
+        return character == u'\t' || character.category() == QChar::Separator_Space;
+    });
+}
 } // namespace
 
 TasksPanelViewModel::TasksPanelViewModel(AppState &appState, const TasksServices &services, QObject *parent)
@@ -19,6 +33,9 @@ TasksPanelViewModel::TasksPanelViewModel(AppState &appState, const TasksServices
     , m_currentTime(services.clock.now())
     , m_timeTimer(services.scheduler.every(tickInterval, [this] { tick(); }))
 {
+    connect(&m_appState, &AppState::documentsChanged, this, &TasksPanelViewModel::followStore);
+    connect(&m_appState, &AppState::openDocumentIDChanged, this, &TasksPanelViewModel::followOpenDocument);
+    followStore();
 }
 
 QString TasksPanelViewModel::time() const
@@ -36,8 +53,112 @@ QString TasksPanelViewModel::dateString() const
     return ClockFace::date(m_currentTime, m_services.clock.timeZone(), m_services.locale);
 }
 
+qint64 TasksPanelViewModel::wordGoal() const
+{
+    return WordGoal::words;
+}
+
+double TasksPanelViewModel::wordProgress() const
+{
+    return WordGoal::progress(m_wordTotal);
+}
+
+QString TasksPanelViewModel::streakUnit() const
+{
+    return m_currentStreak == 1 ? u"day"_s : u"days"_s;
+}
+
+void TasksPanelViewModel::typed(const QString &text)
+{
+    ChangeScope(*this).assign(m_newTaskText, text, &TasksPanelViewModel::newTaskTextChanged);
+}
+
+void TasksPanelViewModel::submitNewTask()
+{
+    if (isBlank(m_newTaskText))
+        return;
+    addQuickTask(m_newTaskText);
+    typed({});
+}
+
+void TasksPanelViewModel::addQuickTask(const QString &text)
+{
+    // Read again before each step: the task is for the document that was open when it was asked for.
+    const std::optional<PelkoDocument> open = m_appState.openDocument();
+    if (!open)
+        return;
+    const auto stillOpen = [this, &open]() -> std::optional<PelkoDocument> {
+        std::optional<PelkoDocument> now = m_appState.openDocument();
+        return now && now->id == open->id ? now : std::nullopt;
+    };
+    const std::optional<PelkoDocument> working = stillOpen();
+    if (!working)
+        return;
+    PelkoDocument changed = TaskOperations::addQuickTask(*working, text);
+    if (stillOpen())
+        m_appState.updateDocument(std::move(changed));
+}
+
+void TasksPanelViewModel::toggleTodo(const QString &docID, const QString &blockID, const QString &todoID)
+{
+    const LibrarySummary::Page *page = m_library.page(QUuid(docID));
+    if (!page)
+        return;
+    if (auto changed = TaskOperations::toggleTodo(page->doc, QUuid(blockID), QUuid(todoID)))
+        m_appState.updateDocument(*std::move(changed));
+}
+
+void TasksPanelViewModel::deleteTodo(const QString &docID, const QString &blockID, const QString &todoID)
+{
+    const LibrarySummary::Page *page = m_library.page(QUuid(docID));
+    if (!page)
+        return;
+    if (auto changed = TaskOperations::deleteTodo(page->doc, QUuid(blockID), QUuid(todoID)))
+        m_appState.updateDocument(*std::move(changed));
+}
+
+int TasksPanelViewModel::taskNear(int row) const
+{
+    const int below = m_tasks.taskFrom(std::max(row, 0), 1);
+    return below >= 0 ? below : m_tasks.taskFrom(std::min(row, m_tasks.rowCount() - 1), -1);
+}
+
 void TasksPanelViewModel::tick()
 {
     m_currentTime = m_services.clock.now();
     Q_EMIT currentTimeChanged();
+    followOpenDocument();
+    followStreak();
+}
+
+void TasksPanelViewModel::followStore()
+{
+    if (m_library.read(m_appState.documents())) {
+        const QList<TaskGroup> groups = m_library.todosByDoc();
+        m_tasks.publish(taskRows(groups));
+        ChangeScope(*this).assign(m_pendingCount, ::pendingCount(groups),
+                                  &TasksPanelViewModel::pendingCountChanged);
+    }
+    ChangeScope(*this).assign(m_wordTotal, m_library.wordCount(), &TasksPanelViewModel::wordTotalChanged);
+    followOpenDocument();
+    followStreak();
+}
+
+void TasksPanelViewModel::followOpenDocument()
+{
+    const std::optional<QUuid> openID = m_appState.openDocumentID();
+    QString text;
+    if (const LibrarySummary::Page *open = openID ? m_library.page(*openID) : nullptr) {
+        const QString date =
+            open->doc.relativeDate(m_services.clock.now(), m_services.clock.timeZone(), m_services.locale);
+        text = u"%1 words · %2"_s.arg(open->words).arg(date);
+    }
+    ChangeScope(*this).assign(m_openDocumentText, text, &TasksPanelViewModel::openDocumentChanged);
+}
+
+void TasksPanelViewModel::followStreak()
+{
+    const qint64 streak = WritingStreak::currentStreak(m_services.preferences, m_services.clock.now(),
+                                                       m_services.clock.timeZone());
+    ChangeScope(*this).assign(m_currentStreak, streak, &TasksPanelViewModel::currentStreakChanged);
 }

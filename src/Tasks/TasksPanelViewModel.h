@@ -1,39 +1,95 @@
 #pragma once
 
-#include "Models/Timestamp.h"
 #include "Services/Scheduler.h"
+#include "Tasks/LibrarySummary.h"
+#include "Tasks/TaskListModel.h"
 #include "Tasks/TasksServices.h"
-
-#include <QObject>
 
 class AppState;
 
 /// What the tasks panel shows and can do, from its opening to its closing. It follows the store and, once a
-/// minute counted from its opening, the clock; so the minute it shows may be up to 59 seconds old.
+/// minute counted from its opening, the clock; so the minute it shows may be up to 59 seconds old. Whatever
+/// it changes is changed in the page as it was shown. Ids cross into QML as strings.
 class TasksPanelViewModel : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(bool hasOpenDocument READ hasOpenDocument NOTIFY openDocumentChanged)
+    Q_PROPERTY(QString openDocumentText READ openDocumentText NOTIFY openDocumentChanged)
     Q_PROPERTY(QString time READ time NOTIFY currentTimeChanged)
     Q_PROPERTY(QString timeMarker READ timeMarker NOTIFY currentTimeChanged)
     Q_PROPERTY(QString dateString READ dateString NOTIFY currentTimeChanged)
+    Q_PROPERTY(QObject *tasks READ tasks CONSTANT)
+    Q_PROPERTY(qint64 pendingCount READ pendingCount NOTIFY pendingCountChanged)
+    Q_PROPERTY(QString newTaskText READ newTaskText NOTIFY newTaskTextChanged)
+    Q_PROPERTY(qint64 wordTotal READ wordTotal NOTIFY wordTotalChanged)
+    Q_PROPERTY(qint64 wordGoal READ wordGoal CONSTANT)
+    Q_PROPERTY(double wordProgress READ wordProgress NOTIFY wordTotalChanged)
+    Q_PROPERTY(qint64 currentStreak READ currentStreak NOTIFY currentStreakChanged)
+    Q_PROPERTY(QString streakUnit READ streakUnit NOTIFY currentStreakChanged)
 
 public:
     TasksPanelViewModel(AppState &appState, const TasksServices &services, QObject *parent = nullptr);
 
+    bool hasOpenDocument() const { return !m_openDocumentText.isEmpty(); }
+    /// How much is written there and how long ago, like "107 words · 5m ago".
+    const QString &openDocumentText() const { return m_openDocumentText; }
     /// Like "7:42", and beside it "AM".
     QString time() const;
     QString timeMarker() const;
     /// Like "Thursday, Oct 16".
     QString dateString() const;
+    /// A TaskListModel.
+    QObject *tasks() { return &m_tasks; }
+    qint64 pendingCount() const { return m_pendingCount; }
+    /// What stands in the field for a new task.
+    const QString &newTaskText() const { return m_newTaskText; }
+    /// The words of the whole library.
+    qint64 wordTotal() const { return m_wordTotal; }
+    qint64 wordGoal() const;
+    /// From 0 to 1.
+    double wordProgress() const;
+    /// In days.
+    qint64 currentStreak() const { return m_currentStreak; }
+    /// "day" or "days".
+    QString streakUnit() const;
+
+    /// The field holds `text` now.
+    Q_INVOKABLE void typed(const QString &text);
+    /// Adds what stands in the field and empties it, unless there are only blanks in it.
+    Q_INVOKABLE void submitNewTask();
+    /// Adds an entry to the open document; does nothing when none is open.
+    Q_INVOKABLE void addQuickTask(const QString &text);
+    Q_INVOKABLE void toggleTodo(const QString &docID, const QString &blockID, const QString &todoID);
+    Q_INVOKABLE void deleteTodo(const QString &docID, const QString &blockID, const QString &todoID);
+
+    /// The rows of tasks around one of the list; -1 where there is none. A heading lies near the task below.
+    Q_INVOKABLE int taskAfter(int row) const { return m_tasks.taskFrom(row + 1, 1); }
+    Q_INVOKABLE int taskBefore(int row) const { return m_tasks.taskFrom(row - 1, -1); }
+    Q_INVOKABLE int taskNear(int row) const;
 
 Q_SIGNALS:
+    void openDocumentChanged();
     void currentTimeChanged();
+    void pendingCountChanged();
+    void newTaskTextChanged();
+    void wordTotalChanged();
+    void currentStreakChanged();
 
 private:
     void tick();
+    void followStore();
+    void followOpenDocument();
+    void followStreak();
 
     AppState &m_appState;
     const TasksServices m_services;
+    LibrarySummary m_library;
+    TaskListModel m_tasks;
+    qint64 m_pendingCount = 0;
+    QString m_openDocumentText;
+    QString m_newTaskText;
+    qint64 m_wordTotal = 0;
+    qint64 m_currentStreak = 0;
     Timestamp m_currentTime;
     ScheduledCall m_timeTimer;
 };

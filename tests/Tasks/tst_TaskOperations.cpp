@@ -46,8 +46,7 @@ void tst_TaskOperations::toggleFlipsOneEntry()
 {
     const PelkoDocument before = page({u"socks"_s, u"pens"_s});
 
-    const auto after =
-        TaskOperations::toggleTodo(before, before.blocks[1].id, todos(before)[1].id);
+    const auto after = TaskOperations::toggleTodo(before, before.blocks[1].id, todos(before)[1].id);
     PelkoDocument expected = before;
     (*expected.blocks[1].todos)[1].done = true;
     QCOMPARE(after, expected);
@@ -77,8 +76,7 @@ void tst_TaskOperations::deleteTakesOneEntryAndKeepsTheOthersInOrder()
 {
     const PelkoDocument before = page({u"socks"_s, u"pens"_s, u"tea"_s});
 
-    const auto after =
-        TaskOperations::deleteTodo(before, before.blocks[1].id, todos(before)[1].id);
+    const auto after = TaskOperations::deleteTodo(before, before.blocks[1].id, todos(before)[1].id);
     PelkoDocument expected = before;
     expected.blocks[1].todos->removeAt(1);
     QCOMPARE(after, expected);
@@ -89,8 +87,7 @@ void tst_TaskOperations::deleteTakesEveryEntryOfThatId()
     PelkoDocument before = page({u"socks"_s, u"pens"_s, u"tea"_s});
     (*before.blocks[1].todos)[2].id = todos(before)[0].id;
 
-    const auto after =
-        TaskOperations::deleteTodo(before, before.blocks[1].id, todos(before)[0].id);
+    const auto after = TaskOperations::deleteTodo(before, before.blocks[1].id, todos(before)[0].id);
     QCOMPARE(todos(*after), QList<TodoItem>{todos(before)[1]});
 }
 
@@ -98,8 +95,7 @@ void tst_TaskOperations::deleteOfTheLastEntryLeavesAnEmptyChecklist()
 {
     const PelkoDocument before = page({u"socks"_s});
 
-    const auto after =
-        TaskOperations::deleteTodo(before, before.blocks[1].id, todos(before)[0].id);
+    const auto after = TaskOperations::deleteTodo(before, before.blocks[1].id, todos(before)[0].id);
     QCOMPARE(after->blocks.size(), 3);
     QCOMPARE(after->blocks[1].todos, QList<TodoItem>{});
 }

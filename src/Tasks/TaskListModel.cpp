@@ -1,0 +1,83 @@
+#include "Tasks/TaskListModel.h"
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+QString text(const QUuid &id)
+{
+    return id.toString(QUuid::WithoutBraces);
+}
+} // namespace
+
+QList<TaskRow> taskRows(const QList<TaskGroup> &groups)
+{
+    QList<TaskRow> rows;
+    for (const TaskGroup &group : groups) {
+        rows.append({.docID = group.doc.id, .text = group.doc.title().toUpper()});
+        for (const Task &task : group.todos) {
+            rows.append({.kind = TaskRow::Kind::task,
+                         .docID = group.doc.id,
+                         .blockID = task.block.id,
+                         .todoID = task.todo.id,
+                         .text = task.todo.text,
+                         .done = task.todo.done});
+        }
+    }
+    return rows;
+}
+
+int TaskListModel::taskFrom(int row, int step) const
+{
+    while (row >= 0 && row < rowCount()) {
+        if (rows().at(row).kind == TaskRow::Kind::task)
+            return row;
+        row += step;
+    }
+    return -1;
+}
+
+QVariant TaskListModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const TaskRow &row = rows().at(index.row());
+    switch (role) {
+    case RowKindRole:
+        return row.kind == TaskRow::Kind::heading ? u"heading"_s : u"task"_s;
+    case DocIDRole:
+        return text(row.docID);
+    case BlockIDRole:
+        return text(row.blockID);
+    case TodoIDRole:
+        return text(row.todoID);
+    case TextRole:
+        return row.text;
+    case DoneRole:
+        return row.done;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> TaskListModel::roleNames() const
+{
+    return {{RowKindRole, "rowKind"}, {DocIDRole, "docID"}, {BlockIDRole, "blockID"},
+            {TodoIDRole, "todoID"},   {TextRole, "text"},   {DoneRole, "done"}};
+}
+
+QList<int> TaskListModel::changedRoles(const TaskRow &before, const TaskRow &after) const
+{
+    QList<int> roles;
+    if (before.kind != after.kind)
+        roles.append(RowKindRole);
+    if (before.docID != after.docID)
+        roles.append(DocIDRole);
+    if (before.blockID != after.blockID)
+        roles.append(BlockIDRole);
+    if (before.text != after.text)
+        roles.append(TextRole);
+    if (before.done != after.done)
+        roles.append(DoneRole);
+    return roles;
+}
