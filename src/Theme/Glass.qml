@@ -26,6 +26,15 @@ QtObject {
         rimMiddle: FirePalette.white(0.08)
         rimFoot: FirePalette.white(0.06)
     }
+    readonly property GlassKind clear: GlassKind {
+        tint: Qt.rgba(1, 1, 1, 0.05)
+        plain: FirePalette.white(0.08)
+        blur: 24
+        saturation: 1.4
+        shadowDrop: 6
+        shadowBlur: 18
+        shadowStrength: 0.24
+    }
     readonly property GlassKind capsule: GlassKind {
         tint: Qt.rgba(24 / 255, 20 / 255, 18 / 255, 0.46)
         plain: "#2B2724"

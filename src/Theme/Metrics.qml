@@ -56,9 +56,11 @@ QtObject {
     readonly property int cardPaddingX: 15
     readonly property int cardPaddingY: 14
     readonly property int badgeHeight: 16
+    readonly property int pillHeight: 24
     readonly property int taskListHeight: 160
     readonly property int taskToggleSize: 22
     readonly property int taskToggleGlyph: 13
+    readonly property int taskTextIndent: 23
     readonly property int taskDeleteSize: 16
     readonly property int taskDeleteGlyph: 7
     readonly property int goalBarHeight: 5

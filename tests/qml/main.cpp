@@ -1,6 +1,7 @@
 #include "EditorBench.h"
 #include "ExportBench.h"
 #include "ShellFixture.h"
+#include "TasksBench.h"
 #include "TimersBench.h"
 
 #include <QQmlEngine>
@@ -24,6 +25,7 @@ public Q_SLOTS:
         qmlRegisterType<EditorBench>("PelkoTest", 1, 0, "EditorBench");
         qmlRegisterType<ExportBench>("PelkoTest", 1, 0, "ExportBench");
         qmlRegisterType<ShellFixture>("PelkoTest", 1, 0, "ShellFixture");
+        qmlRegisterType<TasksBench>("PelkoTest", 1, 0, "TasksBench");
         qmlRegisterType<TimersBench>("PelkoTest", 1, 0, "TimersBench");
     }
 };

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// A time whose digits stand in cells of one width each, so that nothing shifts while it counts. Where it `rolls`,
+/// A time, or a number, whose digits stand in cells of one width each, so that nothing shifts while it counts. Where it `rolls`,
 /// a digit that changes rolls upwards to the next. What is read out is up to whoever shows it.
 Row {
     id: time
@@ -11,6 +11,7 @@ Row {
     required property string text
     required property font font
     required property color color
+    property color footColor: color
     property bool rolls: false
     /// By how much the colon's cell is narrower than a digit's, and how far it is lifted.
     property real colonInset: digitWidth - Math.ceil(metrics.advanceWidth(":"))
@@ -18,6 +19,8 @@ Row {
 
     readonly property real digitWidth: Math.ceil(Array.from("0123456789").reduce(
         (widest, digit) => Math.max(widest, metrics.advanceWidth(digit)), 0))
+
+    baselineOffset: metrics.ascent
 
     FontMetrics {
         id: metrics
@@ -36,6 +39,7 @@ Row {
             value: time.text.charAt(index)
             font: time.font
             color: time.color
+            footColor: time.footColor
             rolls: time.rolls
             width: time.digitWidth - (isColon ? time.colonInset : 0)
             height: Math.ceil(metrics.height)

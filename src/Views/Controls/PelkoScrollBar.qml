@@ -8,6 +8,7 @@ Item {
     id: bar
 
     required property Flickable flickable
+    property int thickness: 4
 
     readonly property real ratio: Math.min(1, flickable.visibleArea.heightRatio)
     readonly property real handleHeight: Math.max(32, height * ratio)
@@ -33,7 +34,7 @@ Item {
 
         x: bar.width - width - 3
         y: Math.max(0, Math.min(bar.room, bar.room * bar.position))
-        width: area.containsMouse || area.pressed ? 6 : 4
+        width: area.containsMouse || area.pressed ? 6 : bar.thickness
         height: bar.handleHeight
         radius: width / 2
         color: FirePalette.scrollBar

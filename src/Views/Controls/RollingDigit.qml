@@ -11,6 +11,8 @@ Item {
     required property string value
     required property font font
     required property color color
+    /// Where it differs, the digit is shaded from its colour at the top to this one.
+    property color footColor: color
     required property bool rolls
     property real rise: 0
 
@@ -53,12 +55,33 @@ Item {
         y: -cell.rise + cell.travel * (1 - cell.roll)
     }
 
-    component Face: Text {
+    component Face: Item {
+        id: face
+
+        required property string text
+        readonly property bool shaded: !Qt.colorEqual(cell.color, cell.footColor)
+
         width: cell.width
-        horizontalAlignment: Text.AlignHCenter
-        textFormat: Text.PlainText
-        font: cell.font
-        color: cell.color
-        Accessible.ignored: true
+        height: cell.height
+
+        Text {
+            visible: !face.shaded
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            text: face.text
+            textFormat: Text.PlainText
+            font: cell.font
+            color: cell.color
+            Accessible.ignored: true
+        }
+
+        ShadedText {
+            anchors.fill: parent
+            visible: face.shaded
+            text: face.shaded ? face.text : ""
+            font: cell.font
+            topColor: cell.color
+            footColor: cell.footColor
+        }
     }
 }

@@ -83,7 +83,7 @@ FocusScope {
 
         anchors { bottom: parent.bottom; right: parent.right; top: parent.top }
         tasks: root.tasks
-        onClosed: if (activeFocus) content.forceActiveFocus(Qt.OtherFocusReason)
+        onReleased: if (activeFocus) content.forceActiveFocus(Qt.OtherFocusReason)
     }
 
     NavigationOverlay {

@@ -7,28 +7,28 @@ PanelCard {
 
     required property TasksPanelViewModel panel
 
-    // Half the height of a digit: both stand on one line.
-    readonly property int halfDigit: 12
-
     spacing: Metrics.space6
 
-    Row {
+    Item {
         Accessible.name: card.panel.time + " " + card.panel.timeMarker
         Accessible.role: Accessible.StaticText
         height: Typography.clockLine
-        spacing: Metrics.space6
+        width: parent.width
 
         DigitalTime {
+            id: time
+
             anchors.verticalCenter: parent.verticalCenter
             color: FirePalette.white(0.95)
             font: Typography.clock
+            footColor: FirePalette.white(0.75)
             rolls: true
             text: card.panel.time
         }
 
         Text {
             Accessible.ignored: true
-            anchors { baseline: parent.verticalCenter; baselineOffset: card.halfDigit }
+            anchors { baseline: time.baseline; left: time.right; leftMargin: Metrics.space6 }
             color: FirePalette.white(0.7)
             font: Typography.clockMarker
             text: card.panel.timeMarker

@@ -3,7 +3,7 @@ import Pelko
 
 /// The place of the tasks panel at the right edge of the window. The panel comes in from that edge with a fade and
 /// goes there twice as fast; meanwhile `room` tells how much of the width it takes from what stands beside it.
-Item {
+FocusScope {
     id: place
 
     required property TasksViewModel tasks
@@ -13,9 +13,11 @@ Item {
     // Whoever asked for little motion sees a fade: the panel is where it belongs from the first.
     readonly property real room: width * (Motion.reduced ? entrance.goal : part)
 
-    signal closed
+    /// The keyboard belongs to what stands beside the panel again.
+    signal released
 
-    onOpenChanged: if (!open) closed()
+    Keys.onEscapePressed: released()
+    onOpenChanged: if (!open) released()
     width: Metrics.panelWidth
 
     SpringFollower {

@@ -7,6 +7,7 @@ PressableControl {
 
     required property TasksViewModel tasks
 
+    Accessible.checked: tasks.isShown
     Accessible.description: qsTr("Tasks panel")
     // Qt 6.4 tells whether it is checked only of what is checkable.
     checkable: true

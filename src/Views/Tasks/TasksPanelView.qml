@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Window
 import Pelko
 
 /// The column of cards at the right of the editor. It scrolls where the window is too low for it.
@@ -7,9 +8,20 @@ FocusScope {
 
     required property TasksPanelViewModel panel
 
+    readonly property Item focused: Window.activeFocusItem
+
+    /// Scrolls just as far as it takes to see what has the keyboard.
+    function reveal() {
+        const place = cards.mapFromItem(focused, 0, 0, focused.width, focused.height)
+        const above = Math.min(place.y - Metrics.panelPadding - scroll.contentY, 0)
+        const below = Math.max(place.y + place.height + Metrics.panelPadding - scroll.contentY - scroll.height, 0)
+        scroll.contentY = Math.max(0, scroll.contentY + (above || below))
+    }
+
     Accessible.name: qsTr("Tasks panel")
     Accessible.role: Accessible.Pane
     implicitWidth: Metrics.panelWidth
+    onFocusedChanged: if (activeFocus) reveal()
 
     Item {
         id: ground
@@ -46,8 +58,33 @@ FocusScope {
             width: parent.width - 2 * Metrics.panelPadding
             x: Metrics.panelPadding
 
+            DocumentPill {
+                backdrop: ground
+                text: root.panel.openDocumentText
+                visible: root.panel.hasOpenDocument
+            }
+
             ClockCard {
                 backdrop: ground
+                panel: root.panel
+                width: parent.width
+            }
+
+            TasksCard {
+                backdrop: ground
+                panel: root.panel
+                width: parent.width
+            }
+
+            WordGoalCard {
+                backdrop: ground
+                panel: root.panel
+                width: parent.width
+            }
+
+            StreakCard {
+                backdrop: ground
+                inSight: y + height > scroll.contentY && y < scroll.contentY + scroll.height
                 panel: root.panel
                 width: parent.width
             }

@@ -1,0 +1,43 @@
+import QtQuick
+import Pelko
+
+/// Lets a row of a list grow when it comes and shrink when it goes: `presence` is how much of it is there.
+QtObject {
+    id: arrival
+
+    required property Item row
+    property real presence: 1
+
+    readonly property int duration: Motion.reduced ? 0 : PelkoAnimation.smooth.duration
+
+    function come() {
+        coming.start()
+    }
+
+    function go() {
+        coming.stop()
+        going.start()
+    }
+
+    readonly property Animation coming: NumberAnimation {
+        duration: arrival.duration
+        easing: PelkoAnimation.smooth.curve
+        from: 0
+        property: "presence"
+        target: arrival
+        to: 1
+    }
+
+    // The list keeps the row until it has gone.
+    readonly property Animation going: SequentialAnimation {
+        PropertyAction { property: "ListView.delayRemove"; target: arrival.row; value: true }
+        NumberAnimation {
+            duration: arrival.duration
+            easing: PelkoAnimation.smooth.curve
+            property: "presence"
+            target: arrival
+            to: 0
+        }
+        PropertyAction { property: "ListView.delayRemove"; target: arrival.row; value: false }
+    }
+}

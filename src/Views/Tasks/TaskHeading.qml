@@ -1,0 +1,39 @@
+import QtQuick
+import Pelko
+
+/// The title of the document whose tasks follow.
+Item {
+    id: heading
+
+    required property string text
+    required property int index
+
+    readonly property int line: 12
+
+    ListView.onAdd: arrival.come()
+    ListView.onRemove: arrival.go()
+    clip: arrival.presence < 1
+    height: Math.max(0, arrival.presence) * (index === 0 ? line : line + Metrics.space6)
+    opacity: Math.max(0, Math.min(1, arrival.presence))
+
+    Arrival {
+        id: arrival
+
+        row: heading
+    }
+
+    Text {
+        Accessible.name: text
+        Accessible.role: Accessible.Heading
+        anchors { bottom: parent.bottom; left: parent.left; leftMargin: Metrics.space6 }
+        color: FirePalette.white(0.4)
+        elide: Text.ElideRight
+        font: Typography.taskGroup
+        height: heading.line
+        maximumLineCount: 1
+        text: heading.text.replace(/\s+/g, " ")
+        textFormat: Text.PlainText
+        verticalAlignment: Text.AlignVCenter
+        width: parent.width - 2 * Metrics.space6
+    }
+}

@@ -1,0 +1,76 @@
+import QtQuick
+import Pelko
+
+/// One task: its tick, what there is to do, and a cross that deletes it.
+FocusScope {
+    id: row
+
+    required property string docID
+    required property string blockID
+    required property string todoID
+    required property string text
+    required property bool done
+    required property int index
+    /// Room at both sides.
+    required property int air
+    /// Whether the keyboard comes here with the Tab key.
+    required property bool onTabWay
+
+    signal toggled
+    signal deleted
+
+    Keys.onDeletePressed: deleted()
+    ListView.onAdd: arrival.come()
+    ListView.onRemove: arrival.go()
+    clip: arrival.presence < 1
+    height: Math.max(0, arrival.presence) * Math.max(Metrics.taskToggleSize, words.height + Metrics.space2)
+    opacity: Math.max(0, Math.min(1, arrival.presence))
+
+    Arrival {
+        id: arrival
+
+        row: row
+    }
+
+    TaskToggle {
+        id: toggle
+
+        anchors.verticalCenter: parent.verticalCenter
+        done: row.done
+        focus: true
+        focusPolicy: row.onTabWay ? Qt.TabFocus : Qt.NoFocus
+        label: row.text
+        // The glyph, not the area that can be hit, stands in the column of the card.
+        x: row.air - (width - Metrics.taskToggleGlyph) / 2 + 0.5
+        onTriggered: row.toggled()
+    }
+
+    Text {
+        id: words
+
+        Accessible.ignored: true
+        anchors.verticalCenter: parent.verticalCenter
+        color: FirePalette.white(row.done ? 0.3 : 0.8)
+        elide: Text.ElideRight
+        font { family: Typography.taskText.family; pointSize: Typography.taskText.pointSize; strikeout: row.done }
+        lineHeight: Typography.taskLine
+        lineHeightMode: Text.FixedHeight
+        maximumLineCount: 2
+        text: row.text
+        textFormat: Text.PlainText
+        width: cross.x - Metrics.space4 - x
+        wrapMode: Text.Wrap
+        x: row.air + Metrics.taskTextIndent
+
+        Behavior on color { ColorAnimation { duration: Motion.fade } }
+    }
+
+    DeleteTaskButton {
+        id: cross
+
+        anchors { right: parent.right; rightMargin: row.air; verticalCenter: parent.verticalCenter }
+        focusPolicy: row.onTabWay ? Qt.TabFocus : Qt.NoFocus
+        label: row.text
+        onTriggered: row.deleted()
+    }
+}

@@ -1,0 +1,56 @@
+import QtQuick
+import Pelko
+
+/// The tick of a task. It shows what the store says; a click only asks.
+PressableControl {
+    id: toggle
+
+    required property bool done
+    required property string label
+
+    Accessible.checked: done
+    Accessible.role: Accessible.CheckBox
+    Accessible.onToggleAction: clicked()
+    // Qt 6.4 gives a button that is not checkable the role of a button, whatever stands above.
+    checkable: true
+    checked: done
+    implicitHeight: Metrics.taskToggleSize
+    implicitWidth: Metrics.taskToggleSize
+    name: label === "" ? qsTr("To do...") : label
+    pressScale: 0.9
+
+    SpringFollower {
+        id: tick
+
+        dampingFraction: 0.6
+        goal: toggle.done ? 1 : 0
+        instant: Motion.reduced
+        response: 0.3
+    }
+
+    HoverHandler {
+        cursorShape: Qt.PointingHandCursor
+    }
+
+    Item {
+        anchors.centerIn: parent
+        height: Metrics.taskToggleGlyph
+        scale: 1 + 0.1 * tick.value
+        width: Metrics.taskToggleGlyph
+
+        SoftShadow {
+            anchors.fill: parent
+            blur: 2 * 4
+            color: FirePalette.white(0.35)
+            opacity: Math.max(0, Math.min(1, tick.value))
+            radius: width / 2
+            visible: opacity > 0
+        }
+
+        SymbolIcon {
+            anchors.fill: parent
+            color: FirePalette.white(toggle.done ? 0.85 : 0.4 + 0.25 * Math.min(1, toggle.hoverAmount))
+            name: toggle.done ? "checkmark.circle.fill" : "circle"
+        }
+    }
+}

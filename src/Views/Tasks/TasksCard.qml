@@ -1,0 +1,54 @@
+import QtQuick
+import Pelko
+
+/// The tasks of the whole library by document, how many are open, and the field that adds one to the open page.
+PanelCard {
+    id: card
+
+    required property TasksPanelViewModel panel
+
+    spacing: Metrics.space10
+
+    CardHeader {
+        caption: qsTr("TASKS")
+        count: card.panel.pendingCount
+        font: Typography.caption
+        glow: 0.9
+        ink: 0.7
+        symbol: "flame.fill"
+    }
+
+    QuickAddField {
+        id: field
+
+        panel: card.panel
+        width: parent.width
+    }
+
+    Item {
+        height: list.empty ? none.height : list.height - 2 * list.air
+        width: parent.width
+
+        Text {
+            id: none
+
+            Accessible.name: text
+            Accessible.role: Accessible.StaticText
+            color: FirePalette.white(0.4)
+            font: Typography.noTasks
+            text: qsTr("No tasks yet.")
+            textFormat: Text.PlainText
+            visible: list.empty
+        }
+
+        TaskList {
+            id: list
+
+            panel: card.panel
+            width: parent.width + 2 * air
+            x: -air
+            y: -air
+            onEmptied: field.takeFocus()
+        }
+    }
+}

@@ -1,0 +1,53 @@
+import QtQuick
+import Pelko
+
+/// The words written so far against the goal.
+PanelCard {
+    id: card
+
+    required property TasksPanelViewModel panel
+
+    spacing: Metrics.space6
+
+    CardHeader {
+        caption: qsTr("DAILY GOAL")
+        symbol: "scroll.fill"
+    }
+
+    Item {
+        Accessible.name: qsTr("%1 of %2 words").arg(card.panel.wordTotal).arg(card.panel.wordGoal)
+        Accessible.role: Accessible.StaticText
+        height: Typography.goalLine
+        width: parent.width
+
+        DigitalTime {
+            id: figure
+
+            anchors.verticalCenter: parent.verticalCenter
+            color: FirePalette.white(0.95)
+            font: Typography.goalFigure
+            rolls: true
+            text: String(card.panel.wordTotal)
+        }
+
+        Text {
+            Accessible.ignored: true
+            anchors { baseline: figure.baseline; left: figure.right; leftMargin: Metrics.space6 }
+            color: FirePalette.white(0.4)
+            font: Typography.capsule
+            text: "/ " + card.panel.wordGoal
+            textFormat: Text.PlainText
+        }
+    }
+
+    Item {
+        height: Metrics.goalBarHeight + Metrics.space4
+        width: parent.width
+
+        GoalBar {
+            anchors.bottom: parent.bottom
+            progress: card.panel.wordProgress
+            width: parent.width
+        }
+    }
+}

@@ -1,0 +1,331 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtTest
+import Pelko
+import PelkoTest
+
+Item {
+    id: stage
+
+    width: 400
+    height: 750
+
+    Component {
+        id: stand
+
+        FocusScope {
+            readonly property alias bench: bench
+            property var view: null
+
+            function openPanel() {
+                bench.tasks.toggle()
+                view = panel.createObject(this, { panel: bench.tasks.panel })
+            }
+
+            width: Metrics.panelWidth
+            height: stage.height
+            focus: true
+
+            Component {
+                id: panel
+
+                TasksPanelView {
+                    width: parent.width
+                    height: parent.height
+                    focus: true
+                }
+            }
+
+            // Stands last so that it outlives the views.
+            TasksBench { id: bench }
+        }
+    }
+
+    TestCase {
+        name: "TasksPanelView"
+        when: windowShown
+
+        property var bench
+        property var view
+
+        function find(item, fits) {
+            if (fits(item))
+                return item
+            for (const child of Array.from(item.children)) {
+                const found = child.visible ? find(child, fits) : null
+                if (found)
+                    return found
+            }
+            return null
+        }
+
+        function count(item, fits) {
+            return Array.from(item.children).reduce((sum, child) => sum + count(child, fits), fits(item) ? 1 : 0)
+        }
+
+        function text(words) {
+            return find(view, item => item instanceof Text && item.text === words)
+        }
+
+        function called(name) {
+            return find(view, item => item instanceof PressableControl && item.name === name)
+        }
+
+        function kind(type) {
+            return find(view, item => item instanceof type)
+        }
+
+        function list() {
+            return find(view, item => item instanceof ListView)
+        }
+
+        function digits(item) {
+            return find(item, child => child instanceof DigitalTime).text
+        }
+
+        function open(pages: var) {
+            const made = createTemporaryObject(stand, stage)
+            bench = made.bench
+            bench.setTime(7, 42)
+            for (const page of pages)
+                bench.add(page[0], page.slice(1))
+            made.openPanel()
+            view = made.view
+            view.forceActiveFocus()
+            wait(0)
+        }
+
+        function field() {
+            return find(view, item => item instanceof LineField)
+        }
+
+        function type(words: string) {
+            field().forceActiveFocus()
+            for (const letter of words)
+                keyClick(letter)
+        }
+
+        function cleanup() {
+            Motion.reduced = false
+        }
+
+        function test_without_an_open_document_the_clock_comes_first() {
+            open([["Closed"]])
+            const pill = kind(DocumentPill)
+            verify(pill.y < kind(ClockCard).y)
+            bench.closeDocument()
+            tryVerify(() => kind(DocumentPill) === null)
+            tryCompare(kind(ClockCard), "y", 0)
+        }
+
+        function test_the_pill_has_no_singular() {
+            open([["One"]])
+            compare(kind(DocumentPill).text, "1 words · Just now")
+            bench.passMinutes(5)
+            compare(kind(DocumentPill).text, "1 words · 5m ago")
+        }
+
+        function test_the_cards_stand_in_their_order() {
+            open([["Page", "-do"]])
+            const order = [DocumentPill, ClockCard, TasksCard, WordGoalCard, StreakCard]
+            for (let i = 1; i < order.length; ++i) {
+                const above = kind(order[i - 1])
+                tryVerify(() => kind(order[i]).y === above.y + above.height + Metrics.panelPadding)
+            }
+        }
+
+        function test_the_clock_rolls_with_the_minute() {
+            open([])
+            const clock = kind(ClockCard)
+            compare(digits(clock), "7:42")
+            verify(text("AM"))
+            verify(text("Thursday, Oct 16"))
+            bench.passMinutes(1)
+            compare(digits(clock), "7:43")
+            bench.setTime(12, 59)
+            bench.passMinutes(1)
+            compare(digits(clock), "1:00")
+            verify(text("PM"))
+        }
+
+        function test_no_tasks_are_told_in_words() {
+            open([["Page"], ["Other"]])
+            verify(text("No tasks yet."))
+            verify(!kind(CountBadge))
+        }
+
+        function test_tasks_stand_under_the_title_of_their_page() {
+            open([["Packing list", "-wool socks", "xpens"], ["Spring issue", "-cover"]])
+            verify(!text("No tasks yet."))
+            verify(text("PACKING LIST").mapToItem(view, 0, 0).y < text("wool socks").mapToItem(view, 0, 0).y)
+            verify(text("pens").mapToItem(view, 0, 0).y < text("SPRING ISSUE").mapToItem(view, 0, 0).y)
+            compare(kind(CountBadge).count, 2)
+            verify(text("pens").font.strikeout)
+            verify(!text("cover").font.strikeout)
+        }
+
+        function test_the_badge_goes_with_the_last_open_task() {
+            open([["Packing list", "-socks", "xpens"]])
+            mouseClick(called("socks"))
+            compare(bench.tasksOf(0), ["xsocks", "xpens"])
+            tryVerify(() => kind(CountBadge) === null)
+            tryVerify(() => String(text("socks").color) === String(FirePalette.white(0.3)))
+            mouseClick(called("socks"))
+            compare(bench.tasksOf(0), ["-socks", "xpens"])
+            compare(kind(CountBadge).count, 1)
+        }
+
+        function test_a_tick_is_what_the_store_says() {
+            open([["Packing list", "-socks"]])
+            const toggle = called("socks")
+            compare(toggle.Accessible.checked, false)
+            bench.tasks.panel.toggleTodo(toggle.parent.docID, toggle.parent.blockID, toggle.parent.todoID)
+            compare(toggle.Accessible.checked, true)
+            compare(toggle.Accessible.role, Accessible.CheckBox)
+        }
+
+        function test_a_task_is_deleted_and_shrinks_away() {
+            open([["Packing list", "-socks", "-pens"]])
+            const height = list().contentHeight
+            mouseClick(called("Delete socks"))
+            compare(bench.tasksOf(0), ["-pens"])
+            verify(list().contentHeight > height - 22)
+            tryCompare(list(), "contentHeight", height - 22)
+            mouseClick(called("Delete pens"))
+            tryVerify(() => text("No tasks yet."))
+            compare(bench.tasksOf(0), [])
+        }
+
+        function test_a_new_task_goes_to_the_open_page() {
+            open([["Packing list"]])
+            type("  socks ")
+            keyClick(Qt.Key_Return)
+            compare(bench.tasksOf(0), ["-  socks "])
+            compare(field().text, "")
+            tryVerify(() => called("  socks "))
+        }
+
+        function test_blanks_stay_in_the_field() {
+            open([["Packing list"]])
+            type("   ")
+            keyClick(Qt.Key_Return)
+            compare(bench.tasksOf(0), [])
+            compare(field().text, "   ")
+        }
+
+        function test_a_new_task_without_an_open_page_is_dropped() {
+            open([["Packing list"]])
+            bench.closeDocument()
+            type("socks")
+            keyClick(Qt.Key_Return)
+            compare(bench.tasksOf(0), [])
+            compare(field().text, "")
+        }
+
+        function test_the_keyboard_ticks_walks_and_deletes() {
+            open([["Packing list", "-socks", "-pens"], ["Spring issue", "-cover"]])
+            field().forceActiveFocus()
+            keyClick(Qt.Key_Tab)
+            verify(called("socks").activeFocus)
+            keyClick(Qt.Key_Space)
+            compare(bench.tasksOf(0), ["xsocks", "-pens"])
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Down)
+            verify(called("cover").activeFocus)
+            keyClick(Qt.Key_Down)
+            verify(called("cover").activeFocus)
+            keyClick(Qt.Key_Up)
+            verify(called("pens").activeFocus)
+            keyClick(Qt.Key_Tab)
+            verify(called("Delete pens").activeFocus)
+            keyClick(Qt.Key_Return)
+            compare(bench.tasksOf(0), ["xsocks"])
+            verify(called("cover").activeFocus)
+            keyClick(Qt.Key_Delete)
+            compare(bench.tasksOf(1), [])
+            verify(called("socks").activeFocus)
+            keyClick(Qt.Key_Delete)
+            tryVerify(() => field().activeFocus)
+        }
+
+        function test_the_list_ends_at_its_height_and_makes_only_rows_in_sight() {
+            const tasks = []
+            for (let i = 0; i < 10000; ++i)
+                tasks.push("-task " + i)
+            open([["Long list", ...tasks]])
+            compare(list().height - 2 * Metrics.space6, Metrics.taskListHeight)
+            verify(list().interactive)
+            verify(count(list(), item => item instanceof TaskRow) < 40)
+            compare(kind(CountBadge).count, 10000)
+            list().positionViewAtEnd()
+            tryVerify(() => text("task 9999"))
+        }
+
+        function test_long_tasks_take_two_lines_and_no_more() {
+            open([["Page", "-" + "a long errand ".repeat(20)]])
+            const words = find(list(), item => item instanceof Text && item.text.startsWith("a long"))
+            compare(words.lineCount, 2)
+            verify(words.truncated)
+        }
+
+        function test_the_goal_fills_and_stays_full_data() {
+            return [
+                { words: 0, part: 0 },
+                { words: 250, part: 0.5 },
+                { words: 500, part: 1 },
+                { words: 1000, part: 1 },
+            ]
+        }
+
+        function test_the_goal_fills_and_stays_full(row: var) {
+            open([["word ".repeat(row.words)]])
+            compare(digits(kind(WordGoalCard)), String(row.words))
+            verify(text("/ 500"))
+            compare(kind(GoalBar).part, row.part)
+        }
+
+        function test_the_bar_eases_to_a_new_length() {
+            open([["word ".repeat(100)]])
+            compare(kind(GoalBar).part, 0.2)
+            bench.add("word ".repeat(300))
+            verify(kind(GoalBar).part < 0.5)
+            tryCompare(kind(GoalBar), "part", 0.8)
+        }
+
+        function test_a_streak_of_one_is_a_day() {
+            open([])
+            compare(digits(kind(StreakCard)), "1")
+            verify(text("day"))
+            bench.setTime(23, 59)
+            bench.passMinutes(1)
+            compare(digits(kind(StreakCard)), "2")
+            verify(text("days"))
+        }
+
+        function test_a_low_window_scrolls_to_what_has_the_keyboard() {
+            open([["Page", "-one", "-two", "-three"]])
+            view.height = 260
+            const scroll = find(view, item => item instanceof Flickable)
+            compare(scroll.contentY, 0)
+            field().forceActiveFocus()
+            keyClick(Qt.Key_Tab)
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Down)
+            verify(called("three").activeFocus)
+            verify(called("three").mapToItem(view, 0, 22).y <= 260)
+            verify(scroll.contentY > 0)
+        }
+
+        function test_the_flame_stands_still_where_it_is_not_seen() {
+            open([["Page", "-one", "-two", "-three"]])
+            const flame = kind(AnimatedFlame)
+            verify(flame.seen)
+            view.height = 260
+            tryVerify(() => !flame.seen)
+            view.visible = false
+            view.height = 750
+            verify(!flame.seen)
+        }
+    }
+}
