@@ -10,6 +10,7 @@ class CalendarContents
 {
 public:
     explicit CalendarContents(const CalendarWindow &window);
+    Q_DISABLE_COPY_MOVE(CalendarContents)
 
     void read(QByteArrayView text);
 

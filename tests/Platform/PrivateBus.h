@@ -7,11 +7,10 @@
 class PrivateBus
 {
 public:
-    PrivateBus()
+    explicit PrivateBus(const QString &configuration = QStringLiteral("--session"))
     {
-        m_daemon.start(
-            QStringLiteral("dbus-daemon"),
-            {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address")});
+        m_daemon.start(QStringLiteral("dbus-daemon"),
+                       {configuration, QStringLiteral("--nofork"), QStringLiteral("--print-address")});
         m_daemon.waitForReadyRead();
         m_address = QString::fromUtf8(m_daemon.readLine()).trimmed();
     }

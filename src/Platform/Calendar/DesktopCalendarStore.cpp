@@ -1,0 +1,55 @@
+#include "Platform/Calendar/DesktopCalendarStore.h"
+
+#include "Platform/Calendar/EvolutionCalendars.h"
+
+#include <QCoreApplication>
+
+using namespace std::chrono_literals;
+
+namespace
+{
+constexpr auto longestFarewell = 2s;
+} // namespace
+
+DesktopCalendarStore::DesktopCalendarStore(QDBusConnection bus, UserFolders folders,
+                                           std::chrono::milliseconds longestFetch)
+    : m_bus(std::move(bus))
+    , m_folders(std::move(folders))
+    , m_longestFetch(longestFetch)
+    , m_life(std::make_shared<int>())
+    , m_thread(std::make_unique<QThreadPool>())
+{
+    m_thread->setMaxThreadCount(1);
+}
+
+DesktopCalendarStore::~DesktopCalendarStore()
+{
+    m_life.reset();
+    // A disk far away may hold up a thread for as long as it likes, but not the end of the program: then the
+    // thread is left to the system.
+    if (!m_thread->waitForDone(int(std::chrono::milliseconds(longestFarewell).count())))
+        static_cast<void>(m_thread.release());
+}
+
+ScheduledCall DesktopCalendarStore::fetch(const CalendarWindow &window, Completion completion)
+{
+    const auto request = std::make_shared<Completion>(std::move(completion));
+    const FetchLimit limit(m_longestFetch, request, m_life);
+    m_thread->start([waiting = std::weak_ptr(request), limit, window, bus = m_bus, folders = m_folders] {
+        if (!limit.isWanted())
+            return;
+        Answer answer = evolutionEvents(bus, window, limit);
+        if (!answer)
+            answer = CalendarFolders::events(folders, window, limit);
+        if (!limit.isWanted())
+            return;
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(),
+            [waiting, answer] {
+                if (const auto tell = waiting.lock())
+                    (*tell)(answer);
+            },
+            Qt::QueuedConnection);
+    });
+    return ScheduledCall(request);
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Platform/Calendar/CalendarFolders.h"
+
+#include <QDBusConnection>
+#include <QThreadPool>
+
+/// The calendars of this desktop, looked through on a thread of their own: those of Evolution Data Server, or
+/// where there are none in use the folders that other programs keep. Never both, which may mirror the same
+/// account. When the time is up the answer is what is known by then.
+class DesktopCalendarStore : public CalendarStore
+{
+public:
+    DesktopCalendarStore(QDBusConnection bus, UserFolders folders,
+                         std::chrono::milliseconds longestFetch = std::chrono::seconds(5));
+    ~DesktopCalendarStore() override;
+    Q_DISABLE_COPY_MOVE(DesktopCalendarStore)
+
+    ScheduledCall fetch(const CalendarWindow &window, Completion completion) override;
+
+private:
+    QDBusConnection m_bus;
+    UserFolders m_folders;
+    std::chrono::milliseconds m_longestFetch;
+    std::shared_ptr<void> m_life;
+    std::unique_ptr<QThreadPool> m_thread;
+};

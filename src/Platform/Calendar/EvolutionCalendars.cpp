@@ -1,0 +1,82 @@
+#include "Platform/Calendar/EvolutionCalendars.h"
+
+#include "Calendar/CalendarContents.h"
+#include "Platform/Calendar/EvolutionCalendar.h"
+#include "Platform/Calendar/EvolutionSources.h"
+
+#include <QDBusPendingCallWatcher>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace
+{
+/// How long it may take to see that nobody waits any more.
+constexpr auto glance = 20ms;
+
+/// Lets what is under way go on until it is done, or until there is no use in it.
+template <typename IsDone>
+void wait(QEventLoop &loop, const FetchLimit &limit, IsDone isDone)
+{
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &loop, [&] {
+        if (limit.isOver())
+            loop.quit();
+    });
+    timer.start(glance);
+    if (!isDone() && !limit.isOver())
+        loop.exec();
+}
+
+QDBusMessage askForSources(QDBusConnection bus, const FetchLimit &limit)
+{
+    const auto message = QDBusMessage::createMethodCall(
+        u"org.gnome.evolution.dataserver.Sources5"_s, u"/org/gnome/evolution/dataserver/SourceManager"_s,
+        u"org.freedesktop.DBus.ObjectManager"_s, u"GetManagedObjects"_s);
+    const QDBusPendingCallWatcher call(bus.asyncCall(message, int(limit.left().count())));
+    QEventLoop loop;
+    QObject::connect(&call, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
+    wait(loop, limit, [&call] { return call.isFinished(); });
+    return call.isFinished() ? call.reply() : QDBusMessage();
+}
+
+std::vector<std::unique_ptr<EvolutionCalendar>> askAll(const QDBusConnection &bus, const QStringList &uids,
+                                                       const CalendarWindow &window, const FetchLimit &limit)
+{
+    std::vector<std::unique_ptr<EvolutionCalendar>> calendars;
+    const auto areDone = [&calendars] { return std::ranges::all_of(calendars, &EvolutionCalendar::isDone); };
+    QEventLoop loop;
+    for (const QString &uid : uids) {
+        const auto &calendar =
+            calendars.emplace_back(std::make_unique<EvolutionCalendar>(bus, uid, window, limit));
+        QObject::connect(calendar.get(), &EvolutionCalendar::done, &loop, [&loop, &areDone] {
+            if (areDone())
+                loop.quit();
+        });
+        calendar->ask();
+    }
+    wait(loop, limit, areDone);
+    return calendars;
+}
+} // namespace
+
+CalendarStore::Answer evolutionEvents(const QDBusConnection &bus, const CalendarWindow &window,
+                                      const FetchLimit &limit)
+{
+    if (!bus.isConnected())
+        return std::nullopt;
+    const QStringList uids = enabledCalendars(evolutionSources(askForSources(bus, limit)));
+    if (uids.isEmpty())
+        return std::nullopt;
+    QList<CalendarEvent> events;
+    for (const auto &calendar : askAll(bus, uids, window, limit)) {
+        CalendarContents contents(window);
+        contents.read(calendar->text());
+        events += contents.events([&limit] { return limit.isOver(); });
+    }
+    return events;
+}

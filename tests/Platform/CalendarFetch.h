@@ -1,0 +1,60 @@
+#pragma once
+
+#include "Calendar/CalendarDesk.h"
+#include "Platform/Calendar/DesktopCalendarStore.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QTest>
+
+/// The folders of somebody who keeps calendars, on the real disk.
+class CalendarHome
+{
+public:
+    UserFolders folders() const
+    {
+        return {
+            .home = path("home"), .configuration = path("home/.config"), .data = path("home/.local/share")};
+    }
+
+    std::filesystem::path path(const char *name) const
+    {
+        return std::filesystem::path(m_folder.path().toStdString()) / name;
+    }
+
+    /// Puts a file below the home, with whatever folders it takes.
+    void put(const char *name, const QByteArray &bytes) const
+    {
+        const auto file = path("home") / name;
+        std::filesystem::create_directories(file.parent_path());
+        QFile target(file);
+        QVERIFY(target.open(QIODevice::WriteOnly));
+        QCOMPARE(target.write(bytes), bytes.size());
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+/// What a store answers: "-" for nothing at all, else the titles in its order.
+inline QString titles(const std::optional<CalendarStore::Answer> &answer)
+{
+    if (!answer)
+        return QStringLiteral("no answer");
+    if (!*answer)
+        return QStringLiteral("-");
+    QStringList titles;
+    for (const CalendarEvent &event : **answer)
+        titles << event.title.value_or(QStringLiteral("?"));
+    return titles.join(u' ');
+}
+
+inline QString fetched(CalendarStore &store, const CalendarWindow &window = CalendarDesk().window())
+{
+    std::optional<CalendarStore::Answer> answer;
+    const ScheduledCall request =
+        store.fetch(window, [&answer](const CalendarStore::Answer &told) { answer = told; });
+    [&answer] { QTRY_VERIFY_WITH_TIMEOUT(answer, 20'000); }();
+    return titles(answer);
+}
