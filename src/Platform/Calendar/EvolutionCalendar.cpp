@@ -4,6 +4,7 @@
 
 #include <QDBusPendingCallWatcher>
 #include <QDateTime>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -11,14 +12,21 @@ namespace
 {
 const QString interfaceName = u"org.gnome.evolution.dataserver.Calendar"_s;
 
-/// A day more on either side: the server has a mind of its own about zones and days, and we look again.
+/// What happens in the window and, because the server does not see what was moved there from elsewhere, all
+/// that repeats. A day more on either side: it has a mind of its own about zones and days, and we look again.
 QString query(const CalendarWindow &window)
 {
     const auto moment = [](Timestamp time, int days) {
         return localTime(time, QTimeZone::utc()).addDays(days).toString(u"yyyyMMdd'T'HHmmss'Z'"_s);
     };
-    return uR"((occur-in-time-range? (make-time "%1") (make-time "%2")))"_s.arg(moment(window.from, -1),
-                                                                                moment(window.to, 1));
+    return uR"((or (occur-in-time-range? (make-time "%1") (make-time "%2")) (has-recurrences?)))"_s.arg(
+        moment(window.from, -1), moment(window.to, 1));
+}
+bool isAddress(const QString &service, const QString &path)
+{
+    static const QRegularExpression serviceForm(uR"(^:?[\w-]+(\.[\w-]+)+$)"_s);
+    static const QRegularExpression pathForm(uR"(^(/\w+)+$)"_s);
+    return serviceForm.match(service).hasMatch() && pathForm.match(path).hasMatch();
 }
 } // namespace
 
@@ -69,7 +77,8 @@ void EvolutionCalendar::open(const QDBusMessage &answer)
         return;
     m_path = answer.arguments().at(0).toString();
     m_service = answer.arguments().at(1).toString();
-    call(toCalendar(u"Open"_s), [this](const QDBusMessage &) { list(); });
+    if (isAddress(m_service, m_path))
+        call(toCalendar(u"Open"_s), [this](const QDBusMessage &) { list(); });
 }
 
 void EvolutionCalendar::list()

@@ -69,11 +69,12 @@ CalendarStore::Answer evolutionEvents(const QDBusConnection &bus, const Calendar
 {
     if (!bus.isConnected())
         return std::nullopt;
-    const QStringList uids = enabledCalendars(evolutionSources(askForSources(bus, limit)));
+    const FetchLimit asking = limit.sooner();
+    const QStringList uids = enabledCalendars(evolutionSources(askForSources(bus, asking)));
     if (uids.isEmpty())
         return std::nullopt;
     QList<CalendarEvent> events;
-    for (const auto &calendar : askAll(bus, uids, window, limit)) {
+    for (const auto &calendar : askAll(bus, uids, window, asking)) {
         CalendarContents contents(window);
         contents.read(calendar->text());
         events += contents.events([&limit] { return limit.isOver(); });

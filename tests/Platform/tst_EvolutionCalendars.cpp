@@ -1,0 +1,287 @@
+#include "Platform/CalendarFetch.h"
+#include "Platform/FakeEvolution.h"
+#include "Platform/PrivateBus.h"
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace
+{
+QString at(const char *title, const char *lines = "")
+{
+    return QString::fromUtf8(
+        eventText("UID:"_ba + title + "\r\nSUMMARY:" + title + "\r\nDTSTART:20261121T100000Z\r\n" + lines));
+}
+
+/// A bus on which nothing but what a test puts there can be started.
+QByteArray busConfiguration(const QByteArray &folder, const QByteArray &policy)
+{
+    return "<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen><servicedir>" + folder +
+           "</servicedir><policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
+           "<allow eavesdrop=\"true\"/>"
+           "<allow own=\"*\"/>" +
+           policy + "</policy></busconfig>";
+}
+} // namespace
+
+/// The server of the desktop's calendars as it may behave, played by the test.
+class TestEvolutionCalendars : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<CalendarHome> home;
+    std::unique_ptr<PrivateBus> bus;
+    std::unique_ptr<FakeEvolution> server;
+
+    void startBus(const QByteArray &policy = "")
+    {
+        server.reset();
+        home->put("services/bus.conf",
+                  busConfiguration(QByteArray::fromStdString(home->path("home/services").string()), policy));
+        bus = std::make_unique<PrivateBus>(
+            u"--config-file="_s + QString::fromStdString(home->path("home/services/bus.conf").string()));
+    }
+    void startServer() { server = std::make_unique<FakeEvolution>(bus->connection(u"server"_s)); }
+
+    DesktopCalendarStore store(std::chrono::milliseconds longestFetch = 5s)
+    {
+        return {bus->connection(u"client"_s), home->folders(), longestFetch};
+    }
+    QString fetch(std::chrono::milliseconds longestFetch = 5s)
+    {
+        auto calendars = store(longestFetch);
+        return fetched(calendars);
+    }
+
+private Q_SLOTS:
+    void init()
+    {
+        home = std::make_unique<CalendarHome>();
+        home->put(".calendars/a.ics", at("Folder").toUtf8());
+        startBus();
+    }
+    void cleanup()
+    {
+        server.reset();
+        bus.reset();
+    }
+
+    void allCalendarsInUseAreAsked()
+    {
+        startServer();
+        server->addCalendar(u"one"_s, {at("Tea"), at("Milk")});
+        server->addCalendar(u"two"_s, {at("Bread"), at("Past").replace(u"2026"_s, u"2025"_s)});
+        server->addSource(u"local"_s, u"[Data Source]\nEnabled=true\n"_s);
+        QCOMPARE(fetch(), u"Tea Milk Bread"_s);
+    }
+
+    void whatIsNotInUseIsNotAsked_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::newRow("off") << u"[Data Source]\nEnabled=false\n[Calendar]\n"_s;
+        QTest::newRow("of an account that is off")
+            << u"[Data Source]\nEnabled=true\nParent=account\n[Calendar]\n"_s;
+        QTest::newRow("deep in an account that is off")
+            << u"[Data Source]\nEnabled=true\nParent=middle\n[Calendar]\n"_s;
+        QTest::newRow("no calendar") << u"[Data Source]\nEnabled=true\n[Task List]\n"_s;
+        QTest::newRow("nothing") << u""_s;
+    }
+    void whatIsNotInUseIsNotAsked()
+    {
+        QFETCH(QString, source);
+        startServer();
+        server->addSource(u"x"_s, source);
+        server->addSource(u"middle"_s, u"[Data Source]\nEnabled=true\nParent=account\n"_s);
+        server->addSource(u"account"_s, u"[Data Source]\nEnabled=false\n"_s);
+        QCOMPARE(fetch(), u"Folder"_s);
+        QCOMPARE(server->asked, QStringList{u"GetManagedObjects"_s});
+    }
+
+    void anAccountMayBelongToItself()
+    {
+        startServer();
+        server->addSource(u"x"_s, u"[Data Source]\nEnabled=true\nParent=x\n[Calendar]\n"_s);
+        QCOMPARE(fetch(), u""_s);
+    }
+
+    void whatRepeatsIsAskedForAgain()
+    {
+        startServer();
+        server->addCalendar(u"one"_s, {at("Tea", "RRULE:FREQ=DAILY\r\n"), at("Milk")});
+        server->answers[u"GetObject"_s] = [](const QDBusMessage &message) {
+            return message.createReply(
+                at("Tea", "RRULE:FREQ=DAILY\r\n") +
+                at("Tea", "RECURRENCE-ID:20261121T100000Z\r\n").replace(u"MARY:Tea"_s, u"MARY:Late"_s));
+        };
+        QCOMPARE(fetch(), u"Milk Late"_s);
+        QCOMPARE(server->asked.count(u"GetObject"_s), 1);
+    }
+
+    void zonesThatNobodyKnowsAreAskedFor()
+    {
+        startServer();
+        server->addCalendar(u"one"_s,
+                            {at("Tea").replace(u":20261121T100000Z"_s, u";TZID=Our Town:20261122T100000"_s)});
+        server->answers[u"GetTimezone"_s] = [](const QDBusMessage &message) {
+            return message.createReply(
+                u"BEGIN:VTIMEZONE\nTZID:Our Town\nBEGIN:STANDARD\nDTSTART:19700101T000000\n"
+                "TZOFFSETFROM:+0300\nTZOFFSETTO:+0300\nEND:STANDARD\nEND:VTIMEZONE\n"_s);
+        };
+        QCOMPARE(fetch(), u"Tea"_s); // at ten it would be too late
+    }
+
+    void withoutABusFoldersAreRead()
+    {
+        bus->kill();
+        QCOMPARE(fetch(), u"Folder"_s);
+    }
+
+    void withoutAServerFoldersAreRead() { QCOMPARE(fetch(), u"Folder"_s); }
+
+    void aServerThatMayNotBeAskedCountsAsNone()
+    {
+        startBus("<deny send_destination=\"org.gnome.evolution.dataserver.Sources5\"/>");
+        startServer();
+        server->addCalendar(u"one"_s, {at("Tea")});
+        QCOMPARE(fetch(), u"Folder"_s);
+    }
+
+    void aServerThatEndsAtItsStartCountsAsNone()
+    {
+        home->put("services/sources.service",
+                  "[D-BUS Service]\nName=org.gnome.evolution.dataserver.Sources5\nExec=/bin/false\n");
+        startBus();
+        QCOMPARE(fetch(), u"Folder"_s);
+    }
+
+    void aFrozenServerIsNotWaitedForLongerThanItMayTake()
+    {
+        startServer();
+        server->answers[u"GetManagedObjects"_s] = [](const QDBusMessage &) { return std::nullopt; };
+        std::filesystem::remove_all(home->path("home/.calendars"));
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(fetch(300ms), u"-"_s);
+        QVERIFY2(timer.elapsed() < 2000, qPrintable(QString::number(timer.elapsed())));
+    }
+
+    void foldersAreReadInThePlaceOfAFrozenServer()
+    {
+        startServer();
+        server->answers[u"GetManagedObjects"_s] = [](const QDBusMessage &) { return std::nullopt; };
+        QCOMPARE(fetch(500ms), u"Folder"_s);
+    }
+
+    void aFrozenCalendarDoesNotHideTheOthers_data()
+    {
+        QTest::addColumn<QString>("method");
+        for (const auto &method : {u"OpenCalendar"_s, u"Open"_s, u"GetObjectList"_s, u"GetObject"_s})
+            QTest::newRow(qPrintable(method)) << method;
+    }
+    void aFrozenCalendarDoesNotHideTheOthers()
+    {
+        QFETCH(QString, method);
+        startServer();
+        server->addCalendar(u"cold"_s, {at("Ice", "RRULE:FREQ=DAILY\r\n")});
+        server->addCalendar(u"warm"_s, {at("Tea"), at("Milk", "RRULE:FREQ=DAILY\r\n")});
+        server->answers[method] = [this](const QDBusMessage &message) -> std::optional<QDBusMessage> {
+            if (message.path().endsWith(u"cold"_s) || message.arguments().value(0) == u"cold"_s)
+                return std::nullopt;
+            return server->ordinaryAnswer(message);
+        };
+        QCOMPARE(fetch(500ms), u"Tea Milk"_s);
+    }
+
+    void anErrorLeavesOutOnlyWhatItIsAbout_data() { aFrozenCalendarDoesNotHideTheOthers_data(); }
+    void anErrorLeavesOutOnlyWhatItIsAbout()
+    {
+        QFETCH(QString, method);
+        startServer();
+        server->addCalendar(u"gone"_s, {at("Ice", "RRULE:FREQ=DAILY\r\n")});
+        server->addCalendar(u"here"_s, {at("Tea")});
+        server->answers[method] = [this](const QDBusMessage &message) -> std::optional<QDBusMessage> {
+            if (message.path().endsWith(u"gone"_s) || message.arguments().value(0) == u"gone"_s)
+                return message.createErrorReply(u"org.example.Gone"_s, u"removed"_s);
+            return server->ordinaryAnswer(message);
+        };
+        QCOMPARE(fetch(), u"Tea"_s);
+    }
+
+    void garbageIsNoAnswer_data()
+    {
+        QTest::addColumn<QString>("method");
+        QTest::addColumn<QVariantList>("garbage");
+        QTest::addColumn<QString>("told");
+        const QVariantList nothing;
+        const QVariantList number{42};
+        const QVariantList text{u"\u0001\uFFFDBEGIN:VEVENT\nDTSTART:"_s};
+        const QVariantList list{
+            QStringList{u"BEGIN:VEVENT\n"_s, u""_s, u"END:VEVENT"_s, QString(100'000, u'\\')}};
+        for (const QVariantList &garbage : {nothing, number, text, list}) {
+            for (const auto &[method, told] :
+                 {std::pair(u"GetManagedObjects"_s, u"Folder"_s), std::pair(u"OpenCalendar"_s, u""_s),
+                  std::pair(u"Open"_s, u"Tea Milk"_s), std::pair(u"GetObjectList"_s, u""_s),
+                  std::pair(u"GetObject"_s, u"Tea"_s)})
+                QTest::addRow("%s %d", qPrintable(method), int(garbage.value(0).typeId()))
+                    << method << garbage << told;
+        }
+        QTest::newRow("a path that is none")
+            << u"OpenCalendar"_s << QVariantList{u"not a path"_s, u"?"_s} << u""_s;
+    }
+    void garbageIsNoAnswer()
+    {
+        QFETCH(QString, method);
+        QFETCH(QVariantList, garbage);
+        QFETCH(QString, told);
+        startServer();
+        server->addCalendar(u"one"_s, {at("Tea"), at("Milk", "RRULE:FREQ=DAILY\r\n")});
+        server->answers[method] = [&garbage](const QDBusMessage &message) {
+            return message.createReply(garbage);
+        };
+        QCOMPARE(fetch(), told);
+    }
+
+    void tenThousandEventsAreRead()
+    {
+        startServer();
+        QStringList events;
+        for (int index = 0; index < 10'000; ++index)
+            events << at("Tea").replace(u"UID:"_s, u"UID:%1"_s.arg(index));
+        server->addCalendar(u"one"_s, events);
+        QCOMPARE(fetch().count(u"Tea"_s), 10'000);
+    }
+
+    void whoeverLeavesIsNotHeldUpByAFrozenServer()
+    {
+        startServer();
+        server->addCalendar(u"one"_s, {});
+        server->answers[u"GetObjectList"_s] = [](const QDBusMessage &) { return std::nullopt; };
+        QElapsedTimer timer;
+        bool isAnswered = false;
+        {
+            auto calendars = store();
+            const auto request = calendars.fetch({}, [&isAnswered](const auto &) { isAnswered = true; });
+            QTRY_VERIFY(server->asked.contains(u"GetObjectList"_s));
+            timer.start();
+        }
+        QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY(!isAnswered);
+    }
+
+    void aBusThatEndsMeanwhileEndsTheFetch()
+    {
+        startServer();
+        server->addCalendar(u"one"_s, {});
+        server->answers[u"GetObjectList"_s] = [this](const QDBusMessage &) {
+            bus->kill();
+            return std::nullopt;
+        };
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(fetch(), u""_s);
+        QVERIFY2(timer.elapsed() < 4000, qPrintable(QString::number(timer.elapsed())));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestEvolutionCalendars)
+#include "tst_EvolutionCalendars.moc"
