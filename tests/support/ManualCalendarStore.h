@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Services/CalendarStore.h"
+
+/// Calendars that answer when a test says so.
+class ManualCalendarStore : public CalendarStore
+{
+public:
+    ScheduledCall fetch(const CalendarWindow &window, Completion completion) override
+    {
+        windows.append(window);
+        const auto request = std::make_shared<Completion>(std::move(completion));
+        m_requests.push_back(request);
+        return ScheduledCall(request);
+    }
+
+    /// Answers all that were asked; nothing happens where nobody waits any more.
+    void answer(const Answer &answer)
+    {
+        for (const auto &waiting : std::exchange(m_requests, {})) {
+            if (const auto request = waiting.lock())
+                (*request)(answer);
+        }
+    }
+
+    QList<CalendarWindow> windows;
+
+private:
+    std::vector<std::weak_ptr<Completion>> m_requests;
+};
