@@ -32,7 +32,7 @@ void UserPreferences::setInteger(const QString &key, qint64 value)
 
 void UserPreferences::setDate(const QString &key, Timestamp value)
 {
-    set(key, localTime(value, QTimeZone::utc()).toString(Qt::ISODateWithMs));
+    set(key, localTime(value, QTimeZone::utc()).toUTC().toString(Qt::ISODateWithMs));
 }
 
 QString UserPreferences::text(const QString &key) const

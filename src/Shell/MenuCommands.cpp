@@ -7,9 +7,11 @@ const QList<MenuCommand> &menuCommands()
     using Group = CommandGroup;
     static const QList<MenuCommand> commands{
         {u"newDocument"_s, u"New Document"_s, u"plus"_s, u"Ctrl+N"_s, Group::documents},
+        {u"goTo"_s, u"Go to…"_s, u"rectangle.stack"_s, u"Ctrl+K"_s, Group::documents},
         {u"ideas"_s, u"Ideas"_s, u"lightbulb"_s, u"Ctrl+1"_s, Group::spaces},
         {u"work"_s, u"Work"_s, u"briefcase"_s, u"Ctrl+2"_s, Group::spaces},
         {u"journal"_s, u"Journal"_s, u"book.closed"_s, u"Ctrl+3"_s, Group::spaces},
+        {u"tasks"_s, u"Tasks"_s, u"sidebar.right"_s, u"Ctrl+T"_s, Group::views},
         {u"pomodoro"_s, u"Pomodoro"_s, u"timer"_s, u"Ctrl+P"_s, Group::views},
         {u"focusMode"_s, u"Focus mode"_s, u"text.viewfinder"_s, u"Ctrl+Shift+F"_s, Group::views},
         {u"fullScreen"_s, u"Full screen"_s, u"arrow.up.left.and.arrow.down.right"_s, u"F11"_s, Group::views},

@@ -10,6 +10,10 @@ ShellCommands::ShellCommands(AppState &appState, QObject *parent) : QObject(pare
     bind(u"newDocument"_s, {.run = [this] { m_appState.createDocument(m_appState.currentSpace()); }});
     bind(u"shortcuts"_s, {.run = [this] { setShowShortcuts(true); }});
     bind(u"about"_s, {.run = [this] { m_appState.setShowAbout(true); }});
+    bind(u"goTo"_s, {.run = [this] { m_appState.setShowNav(!m_appState.showNav()); }});
+    bind(u"tasks"_s, {.run = [this] { m_appState.setShowTasksPanel(!m_appState.showTasksPanel()); },
+                      .isEnabled = [this] { return m_appState.currentSpace() == Space::work; },
+                      .isTicked = [this] { return m_appState.showTasksPanel(); }});
     bind(u"focusMode"_s, {.run = [this] { m_appState.setFocusMode(!m_appState.focusMode()); },
                           .isEnabled = [this] { return m_appState.openDocument().has_value(); },
                           .isTicked = [this] { return m_appState.focusMode(); }});
@@ -36,8 +40,8 @@ void ShellCommands::bindRequests()
 
 void ShellCommands::followStore()
 {
-    for (const auto changed :
-         {&AppState::currentSpaceChanged, &AppState::openDocumentIDChanged, &AppState::focusModeChanged})
+    for (const auto changed : {&AppState::currentSpaceChanged, &AppState::openDocumentIDChanged,
+                               &AppState::showTasksPanelChanged, &AppState::focusModeChanged})
         connect(&m_appState, changed, &m_list, &CommandListModel::refresh);
 }
 

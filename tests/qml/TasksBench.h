@@ -71,7 +71,7 @@ private:
     ManualDesktop m_desktop;
     ManualPreferences m_preferences;
     AppState m_appState{m_scheduler, m_clock, m_file};
-    MainViewModel m_main{m_appState, m_desktop.services(m_scheduler)};
+    MainViewModel m_main{m_appState, m_clock, m_desktop.services(m_scheduler)};
     TasksViewModel m_tasks{m_appState,
                            {m_scheduler, m_clock, m_preferences, QLocale(QStringLiteral("en_US"))}};
 };

@@ -29,7 +29,7 @@ Item {
 
     /// Where on the screen the pomodoro panel belongs.
     function timerPlace() : rect {
-        const opener = timerLabels.itemAt(0) ?? menuButton
+        const opener = (timerLabels.itemAt(0) ?? menuButton) as Item
         const corner = opener.mapToGlobal(0, 0)
         return Qt.rect(corner.x, corner.y, opener.width, opener.height)
     }

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Pelko
 
@@ -8,7 +10,9 @@ FocusScope {
 
     required property TasksViewModel tasks
 
-    readonly property bool open: tasks?.isOpen ?? false
+    /// Nothing but the page is to be seen; the panel waits out of sight.
+    property bool quiet: false
+    readonly property bool open: (tasks?.isOpen ?? false) && !quiet
     readonly property real part: Math.max(0, Math.min(1, entrance.value))
     // Whoever asked for little motion sees a fade: the panel is where it belongs from the first.
     readonly property real room: width * (Motion.reduced ? entrance.goal : part)
@@ -39,6 +43,7 @@ FocusScope {
             height: place.height
             opacity: place.part
             panel: modelData
+            visible: opacity > 0
             width: place.width
             x: Motion.reduced ? 0 : place.width - place.room
         }
