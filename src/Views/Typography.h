@@ -56,6 +56,7 @@ class Typography : public QObject
     Q_PROPERTY(int checklistRow READ checklistRow CONSTANT)
     Q_PROPERTY(int dialogTitleLine READ dialogTitleLine CONSTANT)
     Q_PROPERTY(int messageLine READ messageLine CONSTANT)
+    Q_PROPERTY(int listTitleLine READ listTitleLine CONSTANT)
     Q_PROPERTY(int metaLine READ metaLine CONSTANT)
     Q_PROPERTY(int pomodoroTimeLine READ pomodoroTimeLine CONSTANT)
     Q_PROPERTY(int sparkLine READ sparkLine CONSTANT)
@@ -118,6 +119,7 @@ public:
     int checklistRow() const { return 30; }
     int dialogTitleLine() const { return 23; }
     int messageLine() const { return 19; }
+    int listTitleLine() const { return 19; }
     int metaLine() const { return 16; }
     int pomodoroTimeLine() const { return 46; }
     int sparkLine() const { return 17; }

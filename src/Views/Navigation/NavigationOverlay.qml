@@ -65,9 +65,7 @@ ModalLayer {
         Item {
             id: content
 
-            readonly property int rowHeight: overlay.navigation.isSearching ? Metrics.hitRowHeight
-                                                                            : Metrics.pageRowHeight
-            readonly property int pageStep: Math.max(1, Math.floor(list.height / rowHeight) - 1)
+            readonly property int pageStep: Math.max(1, Math.floor(list.height / list.rowHeight) - 1)
 
             clip: card.height !== height
             height: foot.y + foot.height
@@ -119,24 +117,21 @@ ModalLayer {
                 renderType: Text.NativeRendering
                 text: overlay.navigation.summary
                 textFormat: Text.PlainText
-                visible: text !== ""
+                visible: overlay.navigation.isSearching
                 x: Metrics.overlayPadding + Metrics.space12
-                y: overlay.navigation.isSearching ? field.y + field.height + Metrics.space12
-                                                  : spaces.y + spaces.height + Metrics.space20
+                y: field.y + field.height + Metrics.space12
             }
 
             PageList {
                 id: list
 
-                readonly property real begins: overlay.navigation.isSearching
-                    ? summary.y + summary.height + Metrics.space8 : spaces.y + spaces.height + Metrics.space8
-                readonly property real below: newPage.height + Metrics.space8 + foot.height
+                readonly property Item above: overlay.navigation.isSearching ? summary : spaces
 
-                height: Math.min(overlay.navigation.pageCount * content.rowHeight, overlay.highest - begins - below)
                 navigation: overlay.navigation
+                room: overlay.highest - y - Metrics.space8 - newPage.height - Metrics.space8 - foot.height
                 width: field.width
                 x: Metrics.overlayPadding
-                y: begins
+                y: above.y + above.height + Metrics.space8
                 onDeleteRequested: pageID => overlay.requestDelete(pageID)
             }
 
@@ -149,7 +144,7 @@ ModalLayer {
                 visible: !overlay.navigation.isSearching
                 width: field.width
                 x: Metrics.overlayPadding
-                y: Math.max(list.y + list.height, summary.visible ? summary.y + summary.height + Metrics.space12 : 0)
+                y: list.y + list.height + (list.cut ? Metrics.space8 : 0)
                 onTriggered: overlay.main.createDocument()
             }
 

@@ -3,13 +3,36 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The pages of a space or of a search. It follows the choice and never has the keyboard.
+/// The pages of a space or of a search. It follows the choice and never has the keyboard. Where they do not all fit, it
+/// ends in the middle of a row, to say that more follow.
 Item {
     id: root
 
     required property NavigationViewModel navigation
+    required property real room
+    readonly property int rowHeight: navigation.isSearching ? Metrics.hitRowHeight : Metrics.pageRowHeight
+    readonly property int rowCount: Math.max(navigation.pageCount, note.visible ? 1 : 0)
+    readonly property bool cut: rowCount * rowHeight > room
+    readonly property real fittingRows: Math.floor(room / rowHeight - 0.5) + 0.5
 
     signal deleteRequested(string pageID)
+
+    implicitHeight: (cut ? fittingRows : rowCount) * rowHeight
+
+    Text {
+        id: note
+
+        Accessible.name: text
+        Accessible.role: Accessible.StaticText
+        anchors.verticalCenter: parent.verticalCenter
+        color: FirePalette.inkMeta
+        font: Typography.listTitle
+        renderType: Text.NativeRendering
+        text: root.navigation.summary
+        textFormat: Text.PlainText
+        visible: text !== "" && !root.navigation.isSearching
+        x: Metrics.pageRowIndent
+    }
 
     ListView {
         id: list
@@ -28,8 +51,22 @@ Item {
             onDeleteRequested: root.deleteRequested(pageID)
             onTriggered: root.navigation.open(pageID)
         }
+    }
 
-        onCountChanged: Qt.callLater(ReadingOrder.arrange, contentItem)
+    // For assistive technology, when all rows stand where they belong.
+    Timer {
+        id: readingOrder
+
+        interval: 0
+        onTriggered: ReadingOrder.arrange(list.contentItem)
+    }
+
+    Connections {
+        function onChildrenChanged() {
+            readingOrder.start()
+        }
+
+        target: list.contentItem
     }
 
     PelkoScrollBar {

@@ -46,6 +46,7 @@ PressableControl {
         MarkedText {
             color: FirePalette.inkHeading
             font: Typography.listTitle
+            height: Typography.listTitleLine
             line: root.titleLine
             markColor: FirePalette.hitInk
             markGround: FirePalette.hitGround
@@ -55,6 +56,7 @@ PressableControl {
         MarkedText {
             color: FirePalette.inkMeta
             font: Typography.meta
+            height: Typography.metaLine
             line: root.detailLine
             markColor: FirePalette.hitInk
             markGround: FirePalette.hitGround
