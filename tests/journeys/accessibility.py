@@ -61,6 +61,23 @@ def press_actions_do_the_work(pelko):
     pelko.wait_saved(lambda saved: library.outline(saved[0])[-1] == ("textLarge", ""), "a heading was added")
 
 
+def the_way_around_is_worked_by_press_actions(pelko):
+    eyes = screen_reader()
+    eyes.press(pelko.button("Go to"))
+    pelko.wait_focus_on("Find")
+    everything_has_name_and_role(pelko)
+    buttons_can_be_pressed(pelko)
+    tabs = {eyes.Role.RADIO_BUTTON, eyes.Role.CHECK_BOX}  # the latter is what Qt 6.4 makes of the former
+    eyes.press(pelko.wait_for("Ideas", tabs))
+    pelko.wait_for("No pages in Ideas yet")
+    eyes.press(pelko.wait_for("Work", tabs))
+    row = until(lambda: pelko.find(roles={eyes.Role.LIST_ITEM}), "the page is in the list")
+    assert row.get_name().startswith("Untitled, "), row.get_name()
+    assert pelko.focused().get_description() == row.get_name(), "the field reads out what is chosen"
+    eyes.press(row)
+    pelko.wait_gone("Find")
+
+
 PAGE = [
     {
         "id": "44444444-0000-4000-8000-000000000000",
@@ -99,6 +116,7 @@ def accessibility(pelko):
     buttons_can_be_pressed(pelko)
     tab_reaches_all(pelko)
     press_actions_do_the_work(pelko)
+    the_way_around_is_worked_by_press_actions(pelko)
     pelko.close()
 
 

@@ -173,7 +173,7 @@ Item {
             open()
             const row = rows()[0]
             compare(row.Accessible.role, Accessible.ListItem)
-            compare(row.Accessible.name, row.name)
+            compare(row.Accessible.name, "Second, Just now · 3 words")
             verify(rows().some(row => row.Accessible.selected))
         }
 

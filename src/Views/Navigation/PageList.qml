@@ -49,7 +49,7 @@ Item {
             chosen: index === root.navigation.chosenRow
             width: ListView.view?.width ?? 0
             onDeleteRequested: root.deleteRequested(pageID)
-            onTriggered: root.navigation.open(pageID)
+            onOpened: root.navigation.open(pageID)
         }
     }
 

@@ -3,11 +3,13 @@ import Pelko
 
 /// One page in the list: what it is, its name, a line about it, its marks, and where it is chosen or pointed at the
 /// button that deletes it. What the keys do is known by the search field, which keeps the keyboard.
-PressableControl {
+Item {
     id: root
 
     required property int index
     required property string pageID
+    /// All that the row says, to be read out.
+    required property string name
     required property markedLine titleLine
     required property markedLine detailLine
     required property bool isOpen
@@ -17,19 +19,31 @@ PressableControl {
     required property string space
     required property bool chosen
 
+    signal opened
     signal deleteRequested
 
+    Accessible.name: name
     Accessible.role: Accessible.ListItem
     Accessible.selectable: true
     Accessible.selected: chosen
-    controlRadius: Metrics.listRowRadius
-    focusPolicy: Qt.NoFocus
+    Accessible.onPressAction: opened()
     implicitHeight: space === "" ? Metrics.pageRowHeight : Metrics.hitRowHeight
-    pressScale: 1
 
-    background: ChosenGround {
-        chosen: root.chosen
-        pointedAt: root.hovered
+    // Is not the row itself: Qt 6.4 takes every button for one, whatever its role.
+    PressableControl {
+        id: face
+
+        Accessible.ignored: true
+        anchors.fill: parent
+        focusPolicy: Qt.NoFocus
+        name: root.name
+        pressScale: 1
+        onTriggered: root.opened()
+
+        background: ChosenGround {
+            chosen: root.chosen
+            pointedAt: face.hovered
+        }
     }
 
     SpotSymbol {
@@ -83,7 +97,7 @@ PressableControl {
         RowDeleteButton {
             anchors.verticalCenter: parent.verticalCenter
             name: qsTr("Delete %1").arg(root.titleLine.text)
-            visible: root.chosen || root.hovered || hovered
+            visible: root.chosen || face.hovered || hovered
             onTriggered: root.deleteRequested()
         }
 

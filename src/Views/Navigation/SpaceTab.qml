@@ -16,6 +16,10 @@ PressableControl {
     Accessible.checked: isCurrent
     Accessible.description: qsTr("%n page(s), five places", "", pages)
     Accessible.role: Accessible.RadioButton
+    // Qt 6.4 takes what is checkable for a check box, and what is not for a button, whatever role stands above.
+    autoExclusive: true
+    checkable: true
+    checked: isCurrent
     controlRadius: Metrics.menuRowRadius
     implicitHeight: Metrics.spaceTabHeight
     name: title
