@@ -20,6 +20,7 @@ Item {
             anchors.fill: parent
             focus: true
 
+            TextInput { objectName: "below"; activeFocusOnTab: true; width: 100; height: 20 }
             FolderChooserDialog { anchors.fill: parent; chooser: bench.chooser }
             ExportAlerts { anchors.fill: parent; exports: bench.exports }
 
@@ -89,6 +90,23 @@ Item {
             compare(alert.Accessible.description, "1 page in “Notes”. Plain Markdown, yours to keep.")
             keyClick(Qt.Key_Return)
             gone("Exported.")
+        }
+
+        function test_tabWalksRoundTheChooser_data() {
+            return [{ tag: "forwards", key: Qt.Key_Tab }, { tag: "backwards", key: Qt.Key_Backtab }]
+        }
+
+        function test_tabWalksRoundTheChooser(row) {
+            bench.exports.exportDocument()
+            tryVerify(() => named("Files")?.activeFocus)
+            const visited = []
+            do {
+                keyClick(row.key)
+                visited.push(stage.Window.activeFocusItem.Accessible.name)
+            } while (visited.length < 20 && !named("Files").activeFocus)
+            for (const name of ["Cancel", "Export here", "Path", "me"])
+                verify(visited.includes(name), `${name} in ${visited}`)
+            verify(visited.length < 10, visited)
         }
 
         function test_escapeChoosesNoFolder() {

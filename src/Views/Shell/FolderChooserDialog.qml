@@ -24,6 +24,13 @@ ModalLayer {
     onEscaped: chooser.cancel()
     onOpened: list.takeFocus()
 
+    FocusTurn {
+        id: start
+
+        isLast: false
+        other: end
+    }
+
     GlassSurface {
         id: card
 
@@ -102,5 +109,12 @@ ModalLayer {
                 onTriggered: dialog.chooser.take(list.currentRow)
             }
         }
+    }
+
+    FocusTurn {
+        id: end
+
+        isLast: true
+        other: start
     }
 }
