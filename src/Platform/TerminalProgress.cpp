@@ -10,9 +10,9 @@ constexpr qint64 patience = 400;     // milliseconds in which most work is done
 constexpr qint64 betweenLooks = 100; // as often as anybody can read
 } // namespace
 
-TerminalProgress::TerminalProgress(const QString &verb, const QString &noun, std::FILE *stream)
-    : m_verb(verb)
-    , m_noun(noun)
+TerminalProgress::TerminalProgress(QString verb, QString noun, std::FILE *stream)
+    : m_verb(std::move(verb))
+    , m_noun(std::move(noun))
     , m_stream(stream)
     , m_isTerminal(::isatty(::fileno(stream)) == 1)
 {

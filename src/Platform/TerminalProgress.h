@@ -11,7 +11,7 @@ class TerminalProgress
 {
 public:
     /// As in "Exporting 12 of 100 files".
-    TerminalProgress(const QString &verb, const QString &noun, std::FILE *stream = stderr);
+    TerminalProgress(QString verb, QString noun, std::FILE *stream = stderr);
     ~TerminalProgress();
     Q_DISABLE_COPY_MOVE(TerminalProgress)
 

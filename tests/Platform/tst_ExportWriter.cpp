@@ -30,8 +30,12 @@ bool knowsFreePlaces = true;
 
 bool failsNow()
 {
-    if (callsUntilFailure == never || callsUntilFailure-- > 0)
+    if (callsUntilFailure == never)
         return false;
+    if (callsUntilFailure > 0) {
+        --callsUntilFailure;
+        return false;
+    }
     callsUntilFailure = never; // what is undone must succeed
     errno = EIO;
     return true;
