@@ -20,6 +20,7 @@ constexpr auto trayRestartTime = 5s;
 
 PelkoApp::PelkoApp()
 {
+    m_exports.bindTo(*m_main.commands()->list());
     followRequests();
     followTimer();
     followTray();
@@ -34,6 +35,7 @@ PelkoApp::PelkoApp()
                                    {u"launch"_s, QVariant::fromValue(&m_launch)},
                                    {u"timers"_s, QVariant::fromValue(&m_timers)},
                                    {u"tasks"_s, QVariant::fromValue(&m_tasks)},
+                                   {u"exports"_s, QVariant::fromValue(&m_exports)},
                                    {u"folderChooser"_s, QVariant::fromValue(&m_folderChooser)}});
     m_engine.load(QUrl(u"qrc:/qt/qml/Pelko/Views/Shell/PelkoWindow.qml"_s));
     followWindow();

@@ -3,6 +3,7 @@
 #include "Platform/ApplicationOnBus.h"
 #include "Platform/InstanceServer.h"
 #include "Platform/LocalDocumentFile.h"
+#include "Platform/LocalExportFolder.h"
 #include "Platform/LocalPictureFiles.h"
 #include "Platform/LocalPictureFolders.h"
 #include "Platform/PortalFileChooser.h"
@@ -12,6 +13,7 @@
 #include "Platform/SystemPasteboard.h"
 #include "Platform/Tray/Tray.h"
 #include "Platform/UserPreferences.h"
+#include "Shell/ExportViewModel.h"
 #include "Shell/FolderChooser.h"
 #include "Shell/LaunchSequence.h"
 #include "Shell/MainViewModel.h"
@@ -54,11 +56,13 @@ private:
     UserPreferences m_preferences;
     LocalDocumentFile m_documentFile{m_dataLocation};
     LocalPictureFiles m_pictureFiles;
+    LocalExportFolder m_exportFolder;
     LocalPictureFolders m_pictureFolders;
     FolderChooser m_folderChooser{m_pictureFolders};
     PortalFileChooser m_fileChooser{QDBusConnection::sessionBus(), activeWindowName, m_folderChooser};
     AppState m_appState{m_scheduler, m_clock, m_documentFile};
     MainViewModel m_main{m_appState, m_clock, {m_scheduler, m_pasteboard, m_fileChooser, m_pictureFiles}};
+    ExportViewModel m_exports{m_appState, {m_scheduler, m_fileChooser, m_exportFolder, m_pasteboard}};
     LaunchSequence m_launch{m_scheduler};
     PomodoroTimer m_pomodoroTimer{m_scheduler};
     TimersViewModel m_timers{m_pomodoroTimer, FlowTimer::shared(), m_appState, m_pasteboard, m_scheduler};

@@ -4,6 +4,7 @@
 #include "Export/PageMarkdown.h"
 #include "Services/Pasteboard.h"
 #include "Services/PictureFolders.h"
+#include "Shell/CommandListModel.h"
 #include "Store/AppState.h"
 #include "Store/ChangeScope.h"
 #include "Theme/PelkoVoice.h"
@@ -28,6 +29,16 @@ ExportViewModel::ExportViewModel(const AppState &appState, const Services &servi
     , m_appState(appState)
     , m_services(services)
 {
+}
+
+void ExportViewModel::bindTo(CommandListModel &commands)
+{
+    const auto isPageOpen = [this] { return m_appState.openDocumentID().has_value(); };
+    const auto isAnyPage = [this] { return !m_appState.documents().isEmpty(); };
+    commands.bind(u"exportDocument"_s, {.run = [this] { exportDocument(); }, .isEnabled = isPageOpen});
+    commands.bind(u"exportLibrary"_s, {.run = [this] { exportLibrary(); }, .isEnabled = isAnyPage});
+    commands.bind(u"copyAsMarkdown"_s, {.run = [this] { copyAsMarkdown(); }, .isEnabled = isPageOpen});
+    connect(&m_appState, &AppState::documentsChanged, &commands, &CommandListModel::refresh);
 }
 
 void ExportViewModel::copyAsMarkdown()

@@ -7,6 +7,7 @@
 #include <QObject>
 
 class AppState;
+class CommandListModel;
 class Pasteboard;
 
 /// Exports from the window: asks for a folder, writes there without holding up the interface, asks before it
@@ -33,6 +34,9 @@ public:
     };
 
     ExportViewModel(const AppState &appState, const Services &services, QObject *parent = nullptr);
+
+    /// Carries out the commands that are about exports.
+    void bindTo(CommandListModel &commands);
 
     /// While an export takes longer than a moment.
     bool showProgress() const { return m_showProgress; }

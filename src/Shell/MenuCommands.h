@@ -5,7 +5,7 @@
 
 /// The groups of the app menu, in its order, with a hairline between any two. What belongs to none is given
 /// by its key alone.
-enum class CommandGroup { documents, spaces, views, program, none };
+enum class CommandGroup { documents, spaces, views, exports, program, none };
 
 /// One command of the program: what it is called wherever it is offered, and its key when it has one.
 struct MenuCommand {

@@ -8,7 +8,8 @@ namespace
 {
 QString heading(CommandGroup group)
 {
-    return group == CommandGroup::program ? u"Keeping"_s : u"Getting around"_s;
+    const bool isAboutKeeping = group == CommandGroup::exports || group == CommandGroup::program;
+    return isAboutKeeping ? u"Keeping"_s : u"Getting around"_s;
 }
 
 QList<ShortcutLine> linesUnder(const QString &wanted)

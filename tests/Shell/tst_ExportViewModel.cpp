@@ -1,3 +1,4 @@
+#include "Shell/CommandListModel.h"
 #include "Shell/ExportViewModel.h"
 #include "Store/AppState.h"
 #include "Theme/PelkoVoice.h"
@@ -245,6 +246,38 @@ private Q_SLOTS:
         chooseFolder("/a");
         answer(ExportFolder::Written{});
         QCOMPARE(paths(), (QStringList{u"Ridge.md"_s, u"Ridge 1.bin"_s}));
+    }
+
+    void theCommandsAreThereForWhatThereIs()
+    {
+        CommandListModel commands(menuCommands());
+        exports().bindTo(commands);
+        commands.run(u"exportDocument"_s);
+        QCOMPARE(m_program->desktop.fileChooser.asked, 1);
+        m_program->desktop.fileChooser.answer(Folders{});
+        commands.run(u"exportLibrary"_s);
+        QCOMPARE(m_program->desktop.fileChooser.asked, 2);
+        commands.run(u"copyAsMarkdown"_s);
+        QVERIFY(!m_program->desktop.pasteboard.item.text.isEmpty());
+
+        m_program->appState.setOpenDocumentID(std::nullopt);
+        commands.refresh();
+        QVERIFY(!commands.isEnabled(u"exportDocument"_s));
+        QVERIFY(!commands.isEnabled(u"copyAsMarkdown"_s));
+        QVERIFY(commands.isEnabled(u"exportLibrary"_s));
+    }
+
+    void withoutPagesThereIsNothingToExport()
+    {
+        ManualDocumentFile empty;
+        AppState appState(m_program->scheduler, m_program->clock, empty);
+        ExportViewModel none(appState, {m_program->scheduler, m_program->desktop.fileChooser,
+                                        m_program->folder, m_program->desktop.pasteboard});
+        CommandListModel commands(menuCommands());
+        none.bindTo(commands);
+        QVERIFY(!commands.isEnabled(u"exportLibrary"_s));
+        appState.captureSpark(u"a thought"_s);
+        QVERIFY(commands.isEnabled(u"exportLibrary"_s));
     }
 
     void thePageIsCopiedAsMarkdown()

@@ -54,9 +54,11 @@ private Q_SLOTS:
         QCOMPARE(shown, wanted);
     }
 
-    void theProgramsOwnCommandsStandApart()
+    void whatIsAboutKeepingStandsApart()
     {
-        QCOMPARE(titles(linesUnder(u"Keeping"_s)), (QStringList{u"Keyboard Shortcuts"_s, u"Quit"_s}));
+        QCOMPARE(titles(linesUnder(u"Keeping"_s)),
+                 (QStringList{u"Export…"_s, u"Export everything…"_s, u"Copy page as Markdown"_s,
+                              u"Keyboard Shortcuts"_s, u"Quit"_s}));
     }
 
     void noKeyOfThePageIsTakenByACommand()

@@ -1,4 +1,4 @@
-"""Exports by command, with and without a running Pelko, and where it cannot be done."""
+"""Exports by command, with and without a running Pelko and where it cannot be done, then from the window by keys."""
 
 import contextlib
 import os
@@ -8,7 +8,7 @@ import subprocess
 import journey
 import library
 import markdown
-from desktop import until
+from desktop import shown, until
 
 SIZE = 256 * 1024
 
@@ -111,6 +111,86 @@ def beside_a_window(pelko, home):
     assert ("textSmall", "Words of the last moment") in page.blocks()
 
 
+def choose_folder(pelko, name):
+    """The chooser begins where it was last; letters walk to the folder, Return goes in."""
+    pelko.wait_for("Export to a folder")
+    pelko.wait_for("Files")
+    pelko.keys("ctrl+l")
+    pelko.type(name)
+    pelko.keys("Return")
+    pelko.stand_still()
+    for _ in range(12):
+        if pelko.focused().get_name() == "Export here":
+            break
+        pelko.keys("Tab")
+    pelko.wait_focus_on("Export here")
+    pelko.keys("Return")
+    pelko.wait_gone("Export to a folder")
+
+
+def wait_result(pelko, title, message):
+    alert = pelko.wait_alert(message)
+    assert title is None or alert.get_name() == title, alert.get_name()
+    pelko.keys("Return")
+    pelko.wait_no_alert()
+
+
+def from_the_window(pelko, home):
+    shelf = home / "Shelf"
+    shelf.mkdir()
+    pelko.keys("ctrl+e")
+    pelko.wait_for("Export to a folder")
+    pelko.keys("Escape")
+    pelko.wait_gone("Export to a folder")
+
+    pelko.keys("ctrl+e")
+    choose_folder(pelko, str(shelf))
+    wait_result(pelko, "Exported.", "1 page in “Shelf”.")
+    assert [path.name for path in shelf.iterdir()] == ["The first page.md"]
+    written = markdown.Page(shelf / "The first page.md")
+    assert written.blocks() == markdown.shown(library.page(pelko.saved())["blocks"])
+
+    (shelf / "The first page.md").write_text("mine")
+    pelko.keys("ctrl+e")
+    choose_folder(pelko, str(shelf))
+    assert pelko.wait_alert("“Shelf” has a file of that name.").get_name() == "Replace “The first page.md”?"
+    pelko.wait_focus_on("Nah")
+    pelko.keys("Return")
+    pelko.wait_no_alert()
+    assert (shelf / "The first page.md").read_text() == "mine"
+
+    pelko.keys("ctrl+e")
+    choose_folder(pelko, str(shelf))
+    pelko.wait_alert("“Shelf” has a file of that name.")
+    pelko.keys("Tab")
+    pelko.wait_focus_on("Replace")
+    pelko.keys("Return")
+    wait_result(pelko, "Exported.", "1 page in “Shelf”.")
+    assert markdown.Page(shelf / "The first page.md").blocks() == written.blocks()
+
+
+def everything_by_menu(pelko, home):
+    pelko.keys("F10")
+    pelko.click(pelko.wait_for("Export everything…"))
+    choose_folder(pelko, str(home / "Shelf"))
+    wait_result(pelko, "Exported.", "3 pages and 1 picture in “Pelko”.")
+    compare(pelko.saved(), home / "Shelf" / "Pelko")
+
+    pelko.keys("F10")
+    pelko.click(pelko.wait_for("Export everything…"))
+    choose_folder(pelko, "/proc")
+    wait_result(pelko, None, "Export failed: ")
+
+
+def copied(pelko):
+    pelko.keys("ctrl+shift+c")
+    page = library.page(pelko.saved())
+    until(
+        lambda: markdown.parse(shown("xclip", "-selection", "clipboard", "-out")) == markdown.shown(page["blocks"]),
+        "the page is on the pasteboard, as Markdown",
+    )
+
+
 def export(pelko):
     home = pathlib.Path(pelko.errors).parent
     pelko.write_library(library.as_text())
@@ -118,6 +198,9 @@ def export(pelko):
     where_it_cannot_be_done(pelko, home)
     pelko.start()
     beside_a_window(pelko, home)
+    from_the_window(pelko, home)
+    everything_by_menu(pelko, home)
+    copied(pelko)
     pelko.close()
 
 

@@ -10,6 +10,7 @@ Window {
     required property LaunchSequence launch
     required property TimersViewModel timers
     required property TasksViewModel tasks
+    required property ExportViewModel exports
     required property FolderChooser folderChooser
 
     width: 1100
@@ -35,6 +36,7 @@ Window {
             Qt.createComponent("WindowContent.qml").createObject(window.contentItem,
                                                                  { main: window.main, launch: window.launch,
                                                                    timers: window.timers, tasks: window.tasks,
+                                                                   exports: window.exports,
                                                                    folderChooser: window.folderChooser })
         }
     }

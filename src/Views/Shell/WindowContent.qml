@@ -12,6 +12,7 @@ FocusScope {
     required property LaunchSequence launch
     property TimersViewModel timers: null
     property TasksViewModel tasks: null
+    required property ExportViewModel exports
     required property FolderChooser folderChooser
 
     anchors.fill: parent
@@ -37,6 +38,12 @@ FocusScope {
     Alerts {
         anchors.fill: parent
         main: root.main
+        backdrop: launchView
+    }
+
+    ExportAlerts {
+        anchors.fill: parent
+        exports: root.exports
         backdrop: launchView
     }
 
