@@ -13,18 +13,19 @@ class AppState;
 class TasksPanelViewModel : public QObject
 {
     Q_OBJECT
+    // QML has no 64-bit integers: it is given the numbers of the kind it has.
     Q_PROPERTY(bool hasOpenDocument READ hasOpenDocument NOTIFY openDocumentChanged)
     Q_PROPERTY(QString openDocumentText READ openDocumentText NOTIFY openDocumentChanged)
     Q_PROPERTY(QString time READ time NOTIFY currentTimeChanged)
     Q_PROPERTY(QString timeMarker READ timeMarker NOTIFY currentTimeChanged)
     Q_PROPERTY(QString dateString READ dateString NOTIFY currentTimeChanged)
     Q_PROPERTY(QObject *tasks READ tasks CONSTANT)
-    Q_PROPERTY(qint64 pendingCount READ pendingCount NOTIFY pendingCountChanged)
+    Q_PROPERTY(int pendingCount READ pendingCount NOTIFY pendingCountChanged)
     Q_PROPERTY(QString newTaskText READ newTaskText NOTIFY newTaskTextChanged)
-    Q_PROPERTY(qint64 wordTotal READ wordTotal NOTIFY wordTotalChanged)
-    Q_PROPERTY(qint64 wordGoal READ wordGoal CONSTANT)
+    Q_PROPERTY(double wordTotal READ wordTotal NOTIFY wordTotalChanged)
+    Q_PROPERTY(double wordGoal READ wordGoal CONSTANT)
     Q_PROPERTY(double wordProgress READ wordProgress NOTIFY wordTotalChanged)
-    Q_PROPERTY(qint64 currentStreak READ currentStreak NOTIFY currentStreakChanged)
+    Q_PROPERTY(double currentStreak READ currentStreak NOTIFY currentStreakChanged)
     Q_PROPERTY(QString streakUnit READ streakUnit NOTIFY currentStreakChanged)
 
 public:

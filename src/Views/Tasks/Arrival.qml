@@ -1,12 +1,22 @@
 import QtQuick
 import Pelko
 
-/// Lets a row of a list grow when it comes and shrink when it goes: `presence` is how much of it is there.
+/// Lets a row of a list grow when it comes and shrink when it goes: `presence` is how much of it is there. At the edges
+/// of the list the row fades with the part of it that is still in sight.
 QtObject {
     id: arrival
 
     required property Item row
     property real presence: 1
+
+    readonly property Flickable list: row.ListView.view
+    readonly property real above: list ? list.contentY + list.height - row.y : row.height
+    readonly property real below: list ? row.y + row.height - list.contentY : row.height
+    readonly property real opacity: part(presence) * part(Math.min(above, below) / Math.max(1, row.height))
+
+    function part(share: real) : real {
+        return Math.max(0, Math.min(1, share))
+    }
 
     readonly property int duration: Motion.reduced ? 0 : PelkoAnimation.smooth.duration
 

@@ -14,7 +14,7 @@ Item {
     ListView.onRemove: arrival.go()
     clip: arrival.presence < 1
     height: Math.max(0, arrival.presence) * (index === 0 ? line : line + Metrics.space6)
-    opacity: Math.max(0, Math.min(1, arrival.presence))
+    opacity: arrival.opacity
 
     Arrival {
         id: arrival

@@ -71,7 +71,7 @@ Item {
                     Keys.onUpPressed: root.goTo(root.panel.taskBefore(index))
                     air: root.air
                     // What has the focus must not cease to be a stop.
-                    onTabWay: activeFocus || root.row === index
+                    isTabStop: activeFocus || root.row === index
                     width: list.width
                     onActiveFocusChanged: if (activeFocus && index >= 0) list.currentIndex = index
                     onDeleted: {

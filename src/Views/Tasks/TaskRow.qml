@@ -14,7 +14,7 @@ FocusScope {
     /// Room at both sides.
     required property int air
     /// Whether the keyboard comes here with the Tab key.
-    required property bool onTabWay
+    required property bool isTabStop
 
     signal toggled
     signal deleted
@@ -24,7 +24,7 @@ FocusScope {
     ListView.onRemove: arrival.go()
     clip: arrival.presence < 1
     height: Math.max(0, arrival.presence) * Math.max(Metrics.taskToggleSize, words.height + Metrics.space2)
-    opacity: Math.max(0, Math.min(1, arrival.presence))
+    opacity: arrival.opacity
 
     Arrival {
         id: arrival
@@ -38,7 +38,7 @@ FocusScope {
         anchors.verticalCenter: parent.verticalCenter
         done: row.done
         focus: true
-        focusPolicy: row.onTabWay ? Qt.TabFocus : Qt.NoFocus
+        focusPolicy: row.isTabStop ? Qt.TabFocus : Qt.NoFocus
         label: row.text
         // The glyph, not the area that can be hit, stands in the column of the card.
         x: row.air - (width - Metrics.taskToggleGlyph) / 2 + 0.5
@@ -69,7 +69,7 @@ FocusScope {
         id: cross
 
         anchors { right: parent.right; rightMargin: row.air; verticalCenter: parent.verticalCenter }
-        focusPolicy: row.onTabWay ? Qt.TabFocus : Qt.NoFocus
+        focusPolicy: row.isTabStop ? Qt.TabFocus : Qt.NoFocus
         label: row.text
         onTriggered: row.deleted()
     }
