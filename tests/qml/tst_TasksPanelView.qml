@@ -262,6 +262,20 @@ Item {
             tryVerify(() => text("task 9999"))
         }
 
+        function test_a_row_fades_with_the_part_that_is_in_sight() {
+            const tasks = []
+            for (let i = 0; i < 20; ++i)
+                tasks.push("-task " + i)
+            open([["Long list", ...tasks]])
+            const opacityOf = name => called(name).parent.opacity
+            compare(opacityOf("task 0"), 1)
+            list().contentY = called("task 0").parent.y + 11
+            compare(opacityOf("task 0"), 0.5)
+            compare(opacityOf("task 1"), 1)
+            list().positionViewAtEnd()
+            tryVerify(() => opacityOf("task 19") === 1)
+        }
+
         function test_long_tasks_take_two_lines_and_no_more() {
             open([["Page", "-" + "a long errand ".repeat(20)]])
             const words = find(list(), item => item instanceof Text && item.text.startsWith("a long"))

@@ -10,17 +10,15 @@ GlassPlate {
     Accessible.name: figure.text
     Accessible.role: Accessible.StaticText
     implicitHeight: Metrics.badgeHeight
-    implicitWidth: Math.max(18, Math.ceil(figure.implicitWidth) + 10)
+    implicitWidth: Math.max(18, figure.width + 10)
     kind: Glass.badge
 
-    Text {
+    DigitalTime {
         id: figure
 
-        Accessible.ignored: true
         anchors.centerIn: parent
         color: FirePalette.white(0.95)
         font: Typography.badge
-        text: badge.count
-        textFormat: Text.PlainText
+        text: String(badge.count)
     }
 }
