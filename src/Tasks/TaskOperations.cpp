@@ -4,6 +4,18 @@
 
 namespace
 {
+Block &firstChecklist(PelkoDocument &doc)
+{
+    const auto found = std::ranges::find(doc.blocks, BlockType::sticky, &Block::type);
+    if (found != doc.blocks.end())
+        return *found;
+    doc.blocks.resize(doc.blocks.size() + 1);
+    Block &added = doc.blocks.last();
+    added.id = QUuid::createUuid();
+    added.type = BlockType::sticky;
+    return added;
+}
+
 Block *find(PelkoDocument &doc, const QUuid &blockID)
 {
     const auto found = std::ranges::find(doc.blocks, blockID, &Block::id);
@@ -37,13 +49,9 @@ std::optional<PelkoDocument> TaskOperations::deleteTodo(PelkoDocument doc, const
 
 PelkoDocument TaskOperations::addQuickTask(PelkoDocument doc, const QString &text)
 {
-    auto sticky = std::ranges::find(doc.blocks, BlockType::sticky, &Block::type);
-    if (sticky == doc.blocks.end()) {
-        doc.blocks.emplaceBack(BlockType::sticky);
-        sticky = doc.blocks.end() - 1;
-    }
-    if (!sticky->todos)
-        sticky->todos.emplace();
-    sticky->todos->append(TodoItem{.text = text});
+    Block &checklist = firstChecklist(doc);
+    if (!checklist.todos)
+        checklist.todos.emplace();
+    checklist.todos->append(TodoItem{.text = text});
     return doc;
 }

@@ -254,7 +254,7 @@ Item {
             for (let i = 0; i < 10000; ++i)
                 tasks.push("-task " + i)
             open([["Long list", ...tasks]])
-            compare(list().height - 2 * Metrics.space6, Metrics.taskListHeight)
+            compare(list().height - 2 * Metrics.space10, Metrics.taskListHeight)
             verify(list().interactive)
             verify(count(list(), item => item instanceof TaskRow) < 40)
             compare(kind(CountBadge).count, 10000)

@@ -12,7 +12,7 @@ Item {
     required property TasksPanelViewModel panel
 
     /// Room around the rows for focus rings and glows.
-    readonly property int air: Metrics.space6
+    readonly property int air: Metrics.space10
     readonly property bool empty: list.count === 0
     /// The row that the keyboard comes to.
     readonly property int row: list.count > 0 ? panel.taskNear(list.currentIndex) : -1
@@ -87,7 +87,7 @@ Item {
     }
 
     PelkoScrollBar {
-        anchors { bottom: parent.bottom; right: parent.right; rightMargin: -Metrics.space8; top: parent.top }
+        anchors { bottom: parent.bottom; right: parent.right; rightMargin: root.air - Metrics.cardPaddingX; top: parent.top }
         flickable: list
         thickness: 3
     }
