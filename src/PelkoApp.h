@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Platform/ApplicationOnBus.h"
+#include "Platform/Calendar/DesktopCalendarStore.h"
 #include "Platform/InstanceServer.h"
 #include "Platform/LocalDocumentFile.h"
 #include "Platform/LocalExportFolder.h"
@@ -54,6 +55,7 @@ private:
     SystemDataLocation m_dataLocation;
     SystemPasteboard m_pasteboard;
     UserPreferences m_preferences;
+    DesktopCalendarStore m_calendars{QDBusConnection::sessionBus(), UserFolders::ofThisUser()};
     LocalDocumentFile m_documentFile{m_dataLocation};
     LocalPictureFiles m_pictureFiles;
     LocalExportFolder m_exportFolder;
@@ -66,7 +68,7 @@ private:
     LaunchSequence m_launch{m_scheduler};
     PomodoroTimer m_pomodoroTimer{m_scheduler};
     TimersViewModel m_timers{m_pomodoroTimer, FlowTimer::shared(), m_appState, m_pasteboard, m_scheduler};
-    TasksViewModel m_tasks{m_appState, {m_scheduler, m_clock, m_preferences}};
+    TasksViewModel m_tasks{m_appState, {m_scheduler, m_clock, m_preferences, m_calendars}};
     QQmlApplicationEngine m_engine;
     PomodoroPanel m_panel{m_engine, m_timers, m_scheduler};
     Tray m_tray;

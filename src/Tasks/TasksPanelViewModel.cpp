@@ -31,11 +31,13 @@ TasksPanelViewModel::TasksPanelViewModel(AppState &appState, const TasksServices
     , m_appState(appState)
     , m_services(services)
     , m_currentTime(services.clock.now())
+    , m_upcomingEvents(services.eventStore, services.clock, services.locale)
     , m_timeTimer(services.scheduler.every(tickInterval, [this] { tick(); }))
 {
     connect(&m_appState, &AppState::documentsChanged, this, &TasksPanelViewModel::followStore);
     connect(&m_appState, &AppState::openDocumentIDChanged, this, &TasksPanelViewModel::followOpenDocument);
     followStore();
+    m_upcomingEvents.fetchEvents();
 }
 
 QString TasksPanelViewModel::time() const

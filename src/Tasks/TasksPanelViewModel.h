@@ -4,6 +4,7 @@
 #include "Tasks/LibrarySummary.h"
 #include "Tasks/TaskListModel.h"
 #include "Tasks/TasksServices.h"
+#include "Tasks/UpcomingEvents.h"
 
 class AppState;
 
@@ -27,6 +28,7 @@ class TasksPanelViewModel : public QObject
     Q_PROPERTY(double wordProgress READ wordProgress NOTIFY wordTotalChanged)
     Q_PROPERTY(double currentStreak READ currentStreak NOTIFY currentStreakChanged)
     Q_PROPERTY(QString streakUnit READ streakUnit NOTIFY currentStreakChanged)
+    Q_PROPERTY(UpcomingEvents *upcomingEvents READ upcomingEvents CONSTANT)
 
 public:
     TasksPanelViewModel(AppState &appState, const TasksServices &services, QObject *parent = nullptr);
@@ -53,6 +55,8 @@ public:
     qint64 currentStreak() const { return m_currentStreak; }
     /// "day" or "days".
     QString streakUnit() const;
+    /// Asked for once, when the panel opens.
+    UpcomingEvents *upcomingEvents() { return &m_upcomingEvents; }
 
     /// The field holds `text` now.
     Q_INVOKABLE void typed(const QString &text);
@@ -92,5 +96,6 @@ private:
     qint64 m_wordTotal = 0;
     qint64 m_currentStreak = 0;
     Timestamp m_currentTime;
+    UpcomingEvents m_upcomingEvents;
     ScheduledCall m_timeTimer;
 };

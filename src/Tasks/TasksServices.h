@@ -2,6 +2,7 @@
 
 #include <QLocale>
 
+class CalendarStore;
 class Clock;
 class Preferences;
 class Scheduler;
@@ -11,5 +12,6 @@ struct TasksServices {
     Scheduler &scheduler;
     const Clock &clock;
     Preferences &preferences;
+    CalendarStore &eventStore;
     QLocale locale = {};
 };

@@ -66,6 +66,9 @@ QtObject {
     readonly property int goalBarHeight: 5
     readonly property int streakCoin: 38
     readonly property int streakFlame: 16
+    readonly property int eventBarWidth: 2
+    readonly property int eventBarHeight: 22
+    readonly property int eventTextIndent: 11
 
     readonly property int overlayWidth: measure + 64
     readonly property int overlayTop: 62

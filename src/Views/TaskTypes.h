@@ -2,6 +2,7 @@
 
 #include "Tasks/TasksPanelViewModel.h"
 #include "Tasks/TasksViewModel.h"
+#include "Tasks/UpcomingEvents.h"
 
 #include <QtQml/qqml.h>
 
@@ -17,5 +18,12 @@ struct TasksPanelViewModelForQml {
     Q_GADGET
     QML_FOREIGN(TasksPanelViewModel)
     QML_NAMED_ELEMENT(TasksPanelViewModel)
+    QML_UNCREATABLE("Handed in by the program.")
+};
+
+struct UpcomingEventsForQml {
+    Q_GADGET
+    QML_FOREIGN(UpcomingEvents)
+    QML_NAMED_ELEMENT(UpcomingEvents)
     QML_UNCREATABLE("Handed in by the program.")
 };

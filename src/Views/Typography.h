@@ -47,6 +47,7 @@ class Typography : public QObject
     Q_PROPERTY(QFont taskGroup READ taskGroup CONSTANT)
     Q_PROPERTY(QFont taskText READ taskText CONSTANT)
     Q_PROPERTY(QFont noTasks READ noTasks CONSTANT)
+    Q_PROPERTY(QFont eventTime READ eventTime CONSTANT)
     Q_PROPERTY(QFont badge READ badge CONSTANT)
     Q_PROPERTY(int bannerTitleLine READ bannerTitleLine CONSTANT)
     Q_PROPERTY(int headingLine READ headingLine CONSTANT)
@@ -64,6 +65,7 @@ class Typography : public QObject
     Q_PROPERTY(int goalLine READ goalLine CONSTANT)
     Q_PROPERTY(int streakLine READ streakLine CONSTANT)
     Q_PROPERTY(int taskLine READ taskLine CONSTANT)
+    Q_PROPERTY(int eventTimeLine READ eventTimeLine CONSTANT)
     QML_ELEMENT
     QML_SINGLETON
 
@@ -109,6 +111,7 @@ public:
     QFont taskGroup() const { return face(m_textFamily, 8, QFont::Bold, 0.5); }
     QFont taskText() const { return face(m_textFamily, 11, QFont::Normal); }
     QFont noTasks() const { return face(m_textFamily, 10, QFont::Normal); }
+    QFont eventTime() const { return face(m_textFamily, 9, QFont::Medium); }
     QFont badge() const { return face(m_textFamily, 9, QFont::ExtraBold); }
 
     int bannerTitleLine() const { return 44; }
@@ -127,6 +130,7 @@ public:
     int goalLine() const { return 27; }
     int streakLine() const { return 25; }
     int taskLine() const { return 14; }
+    int eventTimeLine() const { return 12; }
 
     /// A face of the given height in pixels, with `tracking` pixels added after each letter.
     Q_INVOKABLE QFont face(const QString &family, qreal pixels, int weight, qreal tracking = 0) const;

@@ -1,6 +1,7 @@
 #include "Models/LocalTime.h"
 #include "Store/AppState.h"
 #include "Tasks/TasksPanelViewModel.h"
+#include "support/ManualCalendarStore.h"
 #include "support/ManualClock.h"
 #include "support/ManualDocumentFile.h"
 #include "support/ManualPreferences.h"
@@ -22,6 +23,7 @@ struct Desk {
     ManualClock clock;
     ManualDocumentFile file;
     ManualPreferences preferences;
+    ManualCalendarStore calendars;
     AppState appState{scheduler, clock, file};
     std::unique_ptr<TasksPanelViewModel> panel;
 
@@ -30,7 +32,7 @@ struct Desk {
     void openPanel()
     {
         panel = std::make_unique<TasksPanelViewModel>(
-            appState, TasksServices{scheduler, clock, preferences, QLocale(u"en_US"_s)});
+            appState, TasksServices{scheduler, clock, preferences, calendars, QLocale(u"en_US"_s)});
     }
 
     /// Adds a page with that title and a checklist of these, "x" before those that are ticked, and opens it.

@@ -1,6 +1,7 @@
 #include "Models/LocalTime.h"
 #include "Store/AppState.h"
 #include "Tasks/TasksViewModel.h"
+#include "support/ManualCalendarStore.h"
 #include "support/ManualClock.h"
 #include "support/ManualDocumentFile.h"
 #include "support/ManualPreferences.h"
@@ -20,8 +21,9 @@ struct Window {
     ManualClock clock;
     ManualDocumentFile file;
     ManualPreferences preferences;
+    ManualCalendarStore calendars;
     AppState appState{scheduler, clock, file};
-    TasksViewModel tasks{appState, {scheduler, clock, preferences, QLocale(u"en_US"_s)}};
+    TasksViewModel tasks{appState, {scheduler, clock, preferences, calendars, QLocale(u"en_US"_s)}};
 };
 } // namespace
 
@@ -36,6 +38,7 @@ private Q_SLOTS:
     void aClosedPanelStaysUntilItHasLeft();
     void aPanelThatIsOpenedAgainIsNotTakenAway();
     void thePanelShowsTheTimeOfItsOpeningAndTicksEachMinute();
+    void eachOpeningAsksForTheEventsAnew();
 };
 
 void tst_TasksViewModel::theToggleFollowsTheStore()
@@ -122,6 +125,23 @@ void tst_TasksViewModel::thePanelShowsTheTimeOfItsOpeningAndTicksEachMinute()
     window.scheduler.advance(1s);
     QCOMPARE(panel.time(), u"7:42"_s);
     QCOMPARE(changed.count(), 1);
+}
+
+void tst_TasksViewModel::eachOpeningAsksForTheEventsAnew()
+{
+    Window window;
+    QCOMPARE(window.calendars.windows.size(), 0);
+    window.tasks.toggle();
+    QCOMPARE(window.calendars.windows.size(), 1);
+    window.calendars.answer(QList{CalendarEvent{.title = u"Tea"_s}});
+    QCOMPARE(window.tasks.panel()->upcomingEvents()->total(), 1);
+    window.scheduler.advance(60s);
+    QCOMPARE(window.calendars.windows.size(), 1); // not with the clock
+
+    window.tasks.toggle();
+    window.tasks.toggle();
+    QCOMPARE(window.calendars.windows.size(), 2);
+    QCOMPARE(window.tasks.panel()->upcomingEvents()->total(), 0);
 }
 
 QTEST_GUILESS_MAIN(tst_TasksViewModel)

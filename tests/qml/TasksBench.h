@@ -4,6 +4,7 @@
 #include "Shell/MainViewModel.h"
 #include "Store/AppState.h"
 #include "Tasks/TasksViewModel.h"
+#include "support/ManualCalendarStore.h"
 #include "support/ManualClock.h"
 #include "support/ManualDesktop.h"
 #include "support/ManualDocumentFile.h"
@@ -56,6 +57,19 @@ public:
         m_clock.time = timestampOf(QDateTime(QDate(2025, 10, 16), QTime(hour, minute), QTimeZone::utc()));
     }
 
+    /// The calendars tell of events, like "20 Tea" for one in twenty minutes.
+    Q_INVOKABLE void tellEvents(const QStringList &events)
+    {
+        QList<CalendarEvent> told;
+        for (const QString &event : events) {
+            const QString title = event.section(u' ', 1);
+            told.append({.title = title.isEmpty() ? std::nullopt : std::optional(title),
+                         .start = m_clock.time + event.section(u' ', 0, 0).toInt() * 60,
+                         .identifier = event});
+        }
+        m_calendars.answer(told);
+    }
+
     Q_INVOKABLE void passMinutes(int minutes)
     {
         for (int minute = 0; minute < minutes; ++minute) {
@@ -70,8 +84,9 @@ private:
     ManualDocumentFile m_file;
     ManualDesktop m_desktop;
     ManualPreferences m_preferences;
+    ManualCalendarStore m_calendars;
     AppState m_appState{m_scheduler, m_clock, m_file};
     MainViewModel m_main{m_appState, m_clock, m_desktop.services(m_scheduler)};
-    TasksViewModel m_tasks{m_appState,
-                           {m_scheduler, m_clock, m_preferences, QLocale(QStringLiteral("en_US"))}};
+    TasksViewModel m_tasks{
+        m_appState, {m_scheduler, m_clock, m_preferences, m_calendars, QLocale(QStringLiteral("en_US"))}};
 };

@@ -128,7 +128,7 @@ Item {
 
         function test_the_cards_stand_in_their_order() {
             open([["Page", "-do"]])
-            const order = [DocumentPill, ClockCard, TasksCard, WordGoalCard, StreakCard]
+            const order = [DocumentPill, ClockCard, TasksCard, WordGoalCard, StreakCard, CalendarCard]
             for (let i = 1; i < order.length; ++i) {
                 const above = kind(order[i - 1])
                 tryVerify(() => kind(order[i]).y === above.y + above.height + Metrics.panelPadding)
@@ -147,6 +147,49 @@ Item {
             bench.passMinutes(1)
             compare(digits(clock), "1:00")
             verify(text("PM"))
+        }
+
+        function rows() {
+            const told = []
+            const collect = item => {
+                if (item instanceof EventRow)
+                    told.push(item.Accessible.name)
+                Array.from(item.children).forEach(collect)
+            }
+            collect(kind(CalendarCard))
+            return told
+        }
+
+        function badge(card) {
+            return find(card, item => item instanceof CountBadge)
+        }
+
+        function test_nothing_scheduled_is_told_in_words() {
+            open([])
+            verify(text("UP NEXT"))
+            verify(text("Nothing scheduled"))
+            compare(badge(kind(CalendarCard)), null)
+            bench.tellEvents([])
+            verify(text("Nothing scheduled"))
+        }
+
+        function test_three_of_five_events_are_shown() {
+            open([])
+            bench.tellEvents(["200 Dentist", "-10 Walk", "20 ", "300 Train", "100 Tea with everybody there is at the table by the window"])
+            compare(rows(), ["Walk, 7:32 AM", "Untitled, 8:02 AM", "Tea with everybody there is at the table by the window, 9:22 AM"])
+            verify(!text("Nothing scheduled"))
+            compare(badge(kind(CalendarCard)).count, 5)
+            const title = text("Tea with everybody there is at the table by the window")
+            verify(title.truncated)
+            verify(title.mapToItem(kind(CalendarCard), 0, 0).x + title.width <= kind(CalendarCard).width)
+        }
+
+        function test_the_card_grows_with_its_events() {
+            open([])
+            const card = kind(CalendarCard)
+            const height = card.height
+            bench.tellEvents(["20 Tea", "40 Milk", "60 Bread"])
+            tryVerify(() => card.height > height + Metrics.eventBarHeight)
         }
 
         function test_no_tasks_are_told_in_words() {

@@ -88,6 +88,12 @@ FocusScope {
                 panel: root.panel
                 width: parent.width
             }
+
+            CalendarCard {
+                backdrop: ground
+                panel: root.panel
+                width: parent.width
+            }
         }
     }
 
