@@ -19,3 +19,4 @@ fuzz() {
 
 fuzz DocumentReader reader -dict=tests/fuzz/reader.dict
 fuzz Base64 base64
+fuzz CalendarReader calendar -dict=tests/fuzz/calendar.dict
