@@ -13,7 +13,7 @@ class Clock;
 class UpcomingEvents : public QAbstractListModel
 {
     Q_OBJECT
-    Q_PROPERTY(qint64 total READ total NOTIFY totalChanged)
+    Q_PROPERTY(int total READ total NOTIFY totalChanged)
 
 public:
     enum Role { EventIdentifierRole = Qt::UserRole, TitleRole, TimeRole };
@@ -22,7 +22,7 @@ public:
 
     /// By their start; of the same start, as the store has them.
     const QList<CalendarEvent> &upcomingEvents() const { return m_upcomingEvents; }
-    qint64 total() const { return m_upcomingEvents.size(); }
+    int total() const { return int(m_upcomingEvents.size()); }
 
     /// Asks for access and, with it, for the events of the coming day. The list is replaced as a whole,
     /// later.

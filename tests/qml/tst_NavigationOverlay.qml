@@ -23,6 +23,7 @@ Item {
 
             MainView { anchors.fill: parent; focus: true; main: program.main }
             Alerts { id: alerts; anchors.fill: parent; main: program.main }
+            CommandKeys { commands: program.main.commands }
 
             // Stands last so that it outlives the views.
             ShellFixture { id: program }

@@ -201,8 +201,8 @@ Item {
         function test_theMenuListsTheCommands() {
             mouseClick(named(root, "Menu"))
             const titles = menuRows().map(row => row.name)
-            compare(titles, ["New Document", "Ideas", "Work", "Journal", "Pomodoro", "Focus mode", "Full screen",
-                             "Keyboard Shortcuts", "About Pelko",                             "Quit"])
+            compare(titles, ["New Document", "Go to…", "Ideas", "Work", "Journal", "Tasks", "Pomodoro", "Focus mode", "Full screen",
+                             "Export…", "Export everything…", "Copy page as Markdown", "Keyboard Shortcuts", "About Pelko", "Quit"])
             mouseClick(named(root, "About Pelko"))
             verify(app.main.showAbout)
         }
@@ -218,7 +218,7 @@ Item {
             keyClick(Qt.Key_F10)
             compare(ticks(), ["Work"])
             compare(menuRows().filter(row => row.Accessible.checkable).map(row => row.name),
-                    ["Ideas", "Work", "Journal", "Focus mode", "Full screen"])
+                    ["Ideas", "Work", "Journal", "Tasks", "Focus mode", "Full screen"])
             mouseClick(named(root, "Journal"))
             keyClick(Qt.Key_F10)
             compare(ticks(), ["Journal"])

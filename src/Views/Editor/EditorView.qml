@@ -121,15 +121,15 @@ FocusScope {
         }
     }
 
-    // What lies over the page, and another editor that takes its place, have the say while they have the keyboard.
+    // While the navigation lies over it, or another editor takes its place, this one has no say.
     Shortcut {
-        enabled: root.activeFocus
+        enabled: root.focus && !root.navigationShown
         sequences: ["Ctrl+Z"]
         onActivated: root.editor.undo()
     }
 
     Shortcut {
-        enabled: root.activeFocus
+        enabled: root.focus && !root.navigationShown
         sequences: ["Ctrl+Shift+Z", "Ctrl+Y"]
         onActivated: root.editor.redo()
     }

@@ -43,7 +43,7 @@ FocusScope {
             height: place.height
             opacity: place.part
             panel: modelData
-            visible: opacity > 0
+            visible: place.open || opacity > 0
             width: place.width
             x: Motion.reduced ? 0 : place.width - place.room
         }
