@@ -147,8 +147,10 @@ QList<PageRow> NavigationViewModel::rows()
 {
     if (isSearching())
         return foundRows();
+    QList<PelkoDocument> pages = m_appState.currentSpaceDocuments();
     QList<PageRow> rows;
-    for (PelkoDocument &page : m_appState.currentSpaceDocuments()) {
+    rows.reserve(pages.size());
+    for (PelkoDocument &page : pages) {
         PageRow &row = rows.emplaceBack();
         row.isOpen = page.id == m_appState.openDocumentID();
         row.page = std::move(page);
