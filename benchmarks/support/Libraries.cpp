@@ -61,10 +61,10 @@ PelkoDocument makePage(Space space, int number)
     return document;
 }
 
-PelkoDocument makeSpark(int number)
+PelkoDocument makeSpark(int number, int words)
 {
     PelkoDocument document = makePage(Space::ideas, number);
-    document.blocks = {makeBlock(BlockType::textSmall, 38)};
+    document.blocks = {makeBlock(BlockType::textSmall, words)};
     return document;
 }
 } // namespace
@@ -75,9 +75,9 @@ QList<PelkoDocument> makeLibrary(LibrarySize size)
     QList<PelkoDocument> documents;
     for (int page = 0; page < pageCount; ++page)
         documents.append(makePage(allSpaces[page % allSpaces.size()], page));
-    if (size == LibrarySize::sparks) {
+    if (size == LibrarySize::sparks || size == LibrarySize::words) {
         for (int spark = 0; spark < sparkCount; ++spark)
-            documents.append(makeSpark(spark));
+            documents.append(makeSpark(spark, size == LibrarySize::words ? 100 : 38));
     }
     if (size == LibrarySize::pictures) {
         for (int picture = 0; picture < pictureCount; ++picture)

@@ -6,6 +6,7 @@
 enum class LibrarySize {
     pages,    ///< fifteen pages: 48 KB
     sparks,   ///< and ten thousand sparks: 4.9 MB
+    words,    ///< and ten thousand sparks of a hundred words: a million words
     pictures, ///< and sixty photos: 244 MB
 };
 
