@@ -78,7 +78,7 @@ void FoldedText::fold(QStringView text, QString &folded)
 {
     const Alphabet &letters = alphabet();
     folded.resize(2 * text.size());
-    char16_t *const start = reinterpret_cast<char16_t *>(folded.data());
+    auto *const start = reinterpret_cast<char16_t *>(folded.data());
     char16_t *end = start;
     for (const QChar unit : text) {
         const Letters become = letters[unit.unicode()];
