@@ -33,7 +33,9 @@ Error writeFile(const fs::path &path, const QByteArray &bytes)
 class Attempt
 {
 public:
-    Attempt(const fs::path &folder, ExportFolder::Existing existing) : m_folder(folder), m_existing(existing)
+    Attempt(fs::path folder, ExportFolder::Existing existing)
+        : m_folder(std::move(folder))
+        , m_existing(existing)
     {
     }
 
