@@ -14,6 +14,7 @@ class FolderChooser : public QObject, public FileChooser
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged)
     Q_PROPERTY(bool wantsFolder READ wantsFolder NOTIFY wantsFolderChanged)
     Q_PROPERTY(QString folder READ folder NOTIFY folderChanged)
+    Q_PROPERTY(QString folderName READ folderName NOTIFY folderChanged)
     Q_PROPERTY(bool canGoUp READ canGoUp NOTIFY folderChanged)
     Q_PROPERTY(QString problem READ problem NOTIFY problemChanged)
     Q_PROPERTY(bool isListing READ isListing NOTIFY isListingChanged)
@@ -31,6 +32,8 @@ public:
     bool wantsFolder() const { return m_wanted == Wanted::folder; }
     /// The path of the folder that is shown.
     QString folder() const;
+    /// The last part of it.
+    QString folderName() const { return PictureFolders::nameOf(m_folder); }
     bool canGoUp() const { return m_folder.has_relative_path(); }
     /// Why the folder cannot be shown; empty when it can.
     QString problem() const { return m_problem; }

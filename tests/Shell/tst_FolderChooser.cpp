@@ -139,6 +139,7 @@ private Q_SLOTS:
         chooser->take(0);
         folders->answer();
         QCOMPARE(names(), QStringList());
+        QCOMPARE(chooser->folderName(), u"Pictures"_s);
         QCOMPARE(choices, QStringList());
         chooser->takeFolder();
         QCOMPARE(choices, QStringList{u"/home/me/Pictures"_s});

@@ -81,6 +81,18 @@ ModalLayer {
             chooser: dialog.chooser
         }
 
+        // A row may be chosen to walk on; this says where "here" is.
+        Text {
+            anchors { left: parent.left; leftMargin: Metrics.space24; right: buttons.left; rightMargin: Metrics.space16 }
+            anchors.verticalCenter: buttons.verticalCenter
+            color: FirePalette.inkMeta
+            elide: Text.ElideMiddle
+            font: Typography.message
+            text: qsTr("Into “%1”").arg(dialog.chooser.folderName)
+            textFormat: Text.PlainText
+            visible: dialog.chooser.wantsFolder
+        }
+
         Row {
             id: buttons
 
