@@ -46,7 +46,7 @@ Item {
         function named(name, item = root) {
             if (!item.visible)
                 return null
-            if (item.Accessible.name === name && !item.Accessible.ignored)
+            if ((item.Accessible.name === name && !item.Accessible.ignored) || item.text === name)
                 return item
             for (const child of Array.from(item.children)) {
                 const found = named(name, child)
@@ -73,6 +73,7 @@ Item {
             keyClick(Qt.Key_Down)
             keyClick(Qt.Key_Return)
             tryVerify(() => bench.chooser.folder === "/home/me/Notes")
+            verify(named("Into “Notes”"))
             const button = shown("Export here")
             compare(button.Accessible.role, Accessible.Button)
             for (let tabs = 0; tabs < 12 && !button.activeFocus; ++tabs)
