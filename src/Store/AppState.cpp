@@ -49,6 +49,8 @@ AppState::AppState(Scheduler &scheduler, const Clock &clock, DocumentFile &file)
     , m_clock(clock)
     , m_file(file)
 {
+    // The first to hear of a change, so that everybody else finds it counted.
+    connect(this, &AppState::documentsChanged, this, [this] { ++m_changeCount; });
     load();
     const auto first = std::ranges::find(m_documents, m_currentSpace, &PelkoDocument::space);
     if (first != m_documents.cend())
@@ -67,6 +69,12 @@ std::optional<PelkoDocument> AppState::openDocument() const
 {
     const PelkoDocument *open = m_openDocumentID ? document(*m_openDocumentID) : nullptr;
     return open ? std::optional(*open) : std::nullopt;
+}
+
+std::optional<qsizetype> AppState::replacedRow() const
+{
+    const bool isLatest = m_changeCount > 0 && m_lastReplacement.change == m_changeCount;
+    return isLatest ? std::optional(m_lastReplacement.row) : std::nullopt;
 }
 
 QList<PelkoDocument> AppState::currentSpaceDocuments() const
@@ -152,13 +160,13 @@ void AppState::updateDocument(PelkoDocument document)
     if (stored == m_documents.cend())
         return;
     document.updatedAt = m_clock.now();
-    ChangeScope scope(*this);
-    // Time is compared first: it nearly always differs, and a page with pictures is costly to compare.
-    if (stored->updatedAt != document.updatedAt || *stored != document) {
-        m_documents[stored - m_documents.cbegin()] = std::move(document);
-        scope.announce(&AppState::documentsChanged);
-    }
     debounceSave();
+    // Time is compared first: it nearly always differs, and a page with pictures is costly to compare.
+    if (stored->updatedAt == document.updatedAt && *stored == document)
+        return;
+    const qsizetype row = stored - m_documents.cbegin();
+    m_documents[row] = std::move(document);
+    announceReplaced(row);
 }
 
 void AppState::permanentlyDeleteDocument(const PelkoDocument &document)
@@ -201,9 +209,9 @@ void AppState::moveBlock(const QUuid &documentID, qsizetype from, qsizetype to)
     };
     if (from == to || !isInside(from) || !isInside(to))
         return;
-    ChangeScope scope(*this);
-    m_documents[stored - m_documents.cbegin()].blocks.move(from, to);
-    scope.announce(&AppState::documentsChanged);
+    const qsizetype row = stored - m_documents.cbegin();
+    m_documents[row].blocks.move(from, to);
+    announceReplaced(row);
 }
 
 void AppState::save()
@@ -253,6 +261,12 @@ void AppState::debounceSave()
 {
     m_hasUnsavedChanges = true;
     m_saveTimer = m_scheduler.after(saveDelay, [this] { save(); });
+}
+
+void AppState::announceReplaced(qsizetype row)
+{
+    m_lastReplacement = {.row = row, .change = m_changeCount + 1};
+    Q_EMIT documentsChanged();
 }
 
 void AppState::setShowSavedIndicator(bool shown)

@@ -43,6 +43,10 @@ public:
     const PelkoDocument *document(const QUuid &id) const;
     /// The document that `openDocumentID` names, whatever its space.
     std::optional<PelkoDocument> openDocument() const;
+    /// How often the documents have changed. With `documentsChanged` this has grown already.
+    quint64 changeCount() const { return m_changeCount; }
+    /// The row whose document alone differs since the change before the last; nothing when more may differ.
+    std::optional<qsizetype> replacedRow() const;
     /// The documents of the current space, newest first.
     QList<PelkoDocument> currentSpaceDocuments() const;
     /// The documents of the ideas space, newest first.
@@ -93,9 +97,15 @@ Q_SIGNALS:
     void lastErrorChanged();
 
 private:
+    struct Replacement {
+        qsizetype row = 0;
+        quint64 change = 0;
+    };
+
     void load();
     void show(Space space, std::optional<QUuid> id);
     void debounceSave();
+    void announceReplaced(qsizetype row);
     void setShowSavedIndicator(bool shown);
     void setLastError(std::optional<QString> error);
 
@@ -113,6 +123,8 @@ private:
     bool m_showNav = false;
     bool m_showTasksPanel = false;
     bool m_showAbout = false;
+    quint64 m_changeCount = 0;
+    Replacement m_lastReplacement;
     std::optional<QString> m_lastError;
     std::optional<QString> m_lastSaveError;
     bool m_hasUnsavedChanges = false;

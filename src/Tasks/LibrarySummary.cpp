@@ -66,8 +66,13 @@ std::vector<Page> readPages(std::span<const PelkoDocument> documents, const Page
 }
 } // namespace
 
-bool LibrarySummary::read(const QList<PelkoDocument> &documents)
+bool LibrarySummary::read(const QList<PelkoDocument> &documents, std::optional<qsizetype> replacedRow)
 {
+    const bool sameSize = std::ssize(m_pages) == documents.size();
+    if (replacedRow && sameSize) {
+        const auto page = m_pages.begin() + *replacedRow;
+        return readStretch(page, page + 1, Documents(documents).subspan(std::size_t(*replacedRow), 1));
+    }
     const auto [firstPage, firstDoc] = std::ranges::mismatch(m_pages, documents, isStillSo);
     auto lastPage = m_pages.end();
     auto lastDoc = documents.end();
@@ -75,10 +80,16 @@ bool LibrarySummary::read(const QList<PelkoDocument> &documents)
         --lastPage;
         --lastDoc;
     }
-    const bool isOnePage = lastPage - firstPage == 1 && lastDoc - firstDoc == 1;
-    Pages pages = readPages(std::span(firstDoc, lastDoc), isOnePage ? &*firstPage : nullptr);
+    return readStretch(firstPage, lastPage, Documents(firstDoc, lastDoc));
+}
+
+bool LibrarySummary::readStretch(Pages::iterator firstPage, Pages::iterator lastPage, Documents documents)
+{
+    const bool isOnePage = lastPage - firstPage == 1 && documents.size() == 1;
+    Pages pages = readPages(documents, isOnePage ? &*firstPage : nullptr);
     const bool tasksDiffer = isOnePage ? !readsTheSame(*firstPage, pages.front())
                                        : hasTasks(pages) || hasTasks(std::span(firstPage, lastPage));
+    m_lastRow = std::size_t(firstPage - m_pages.begin());
     replace(firstPage, lastPage, std::move(pages));
     return tasksDiffer;
 }
@@ -113,6 +124,8 @@ qint64 LibrarySummary::pendingCount() const
 
 const LibrarySummary::Page *LibrarySummary::page(const QUuid &docID) const
 {
+    if (m_lastRow < m_pages.size() && m_pages[m_lastRow].doc.id == docID)
+        return &m_pages[m_lastRow];
     const auto found = std::ranges::find(m_pages, docID, [](const Page &page) { return page.doc.id; });
     return found == m_pages.end() ? nullptr : &*found;
 }

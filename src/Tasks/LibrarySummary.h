@@ -2,6 +2,7 @@
 
 #include "Tasks/TaskList.h"
 
+#include <span>
 #include <vector>
 
 /// What the panel tells of the whole library, always the same as if it were gathered afresh: the tasks by
@@ -17,8 +18,9 @@ public:
         qint64 words = 0;
     };
 
-    /// Brings the summary up to date. Tells whether a list of the tasks reads differently now.
-    bool read(const QList<PelkoDocument> &documents);
+    /// Brings the summary up to date. Tells whether a list of the tasks reads differently now. Where it is
+    /// known that the document of one row alone differs since the last reading, nothing else is looked at.
+    bool read(const QList<PelkoDocument> &documents, std::optional<qsizetype> replacedRow = {});
 
     /// As the function of that name gives it, each document as it was at the last reading.
     QList<TaskGroup> todosByDoc() const;
@@ -30,9 +32,13 @@ public:
 
 private:
     using Pages = std::vector<Page>;
+    using Documents = std::span<const PelkoDocument>;
 
+    bool readStretch(Pages::iterator firstPage, Pages::iterator lastPage, Documents documents);
     void replace(Pages::iterator first, Pages::iterator last, Pages pages);
 
     Pages m_pages;
     qint64 m_words = 0;
+    /// Where to look for a page first.
+    std::size_t m_lastRow = 0;
 };

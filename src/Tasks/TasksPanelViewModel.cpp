@@ -32,6 +32,7 @@ TasksPanelViewModel::TasksPanelViewModel(AppState &appState, const TasksServices
     , m_services(services)
     , m_currentTime(services.clock.now())
     , m_upcomingEvents(services.eventStore, services.clock, services.locale)
+    , m_zone(services.clock.timeZone())
     , m_timeTimer(services.scheduler.every(tickInterval, [this] { tick(); }))
 {
     connect(&m_appState, &AppState::documentsChanged, this, &TasksPanelViewModel::followStore);
@@ -42,17 +43,17 @@ TasksPanelViewModel::TasksPanelViewModel(AppState &appState, const TasksServices
 
 QString TasksPanelViewModel::time() const
 {
-    return ClockFace::time(m_currentTime, m_services.clock.timeZone(), m_services.locale);
+    return ClockFace::time(m_currentTime, m_zone, m_services.locale);
 }
 
 QString TasksPanelViewModel::timeMarker() const
 {
-    return ClockFace::marker(m_currentTime, m_services.clock.timeZone(), m_services.locale);
+    return ClockFace::marker(m_currentTime, m_zone, m_services.locale);
 }
 
 QString TasksPanelViewModel::dateString() const
 {
-    return ClockFace::date(m_currentTime, m_services.clock.timeZone(), m_services.locale);
+    return ClockFace::date(m_currentTime, m_zone, m_services.locale);
 }
 
 qint64 TasksPanelViewModel::wordGoal() const
@@ -128,6 +129,7 @@ int TasksPanelViewModel::taskNear(int row) const
 void TasksPanelViewModel::tick()
 {
     m_currentTime = m_services.clock.now();
+    m_zone = m_services.clock.timeZone();
     Q_EMIT currentTimeChanged();
     followOpenDocument();
     followStreak();
@@ -135,7 +137,10 @@ void TasksPanelViewModel::tick()
 
 void TasksPanelViewModel::followStore()
 {
-    if (m_library.read(m_appState.documents())) {
+    // A row that was replaced is all there is to see only for who has seen every change before.
+    const bool missedNone = m_appState.changeCount() == m_lastChange + 1;
+    m_lastChange = m_appState.changeCount();
+    if (m_library.read(m_appState.documents(), missedNone ? m_appState.replacedRow() : std::nullopt)) {
         const QList<TaskGroup> groups = m_library.todosByDoc();
         m_tasks.publish(taskRows(groups));
         ChangeScope(*this).assign(m_pendingCount, ::pendingCount(groups),
@@ -151,8 +156,7 @@ void TasksPanelViewModel::followOpenDocument()
     const std::optional<QUuid> openID = m_appState.openDocumentID();
     QString text;
     if (const LibrarySummary::Page *open = openID ? m_library.page(*openID) : nullptr) {
-        const QString date =
-            open->doc.relativeDate(m_services.clock.now(), m_services.clock.timeZone(), m_services.locale);
+        const QString date = open->doc.relativeDate(m_services.clock.now(), m_zone, m_services.locale);
         text = u"%1 words · %2"_s.arg(open->words).arg(date);
     }
     ChangeScope(*this).assign(m_openDocumentText, text, &TasksPanelViewModel::openDocumentChanged);
@@ -160,7 +164,7 @@ void TasksPanelViewModel::followOpenDocument()
 
 void TasksPanelViewModel::followStreak()
 {
-    const qint64 streak = WritingStreak::currentStreak(m_services.preferences, m_services.clock.now(),
-                                                       m_services.clock.timeZone());
+    const qint64 streak =
+        WritingStreak::currentStreak(m_services.preferences, m_services.clock.now(), m_zone);
     ChangeScope(*this).assign(m_currentStreak, streak, &TasksPanelViewModel::currentStreakChanged);
 }

@@ -89,6 +89,7 @@ private:
     AppState &m_appState;
     const TasksServices m_services;
     LibrarySummary m_library;
+    quint64 m_lastChange = 0;
     TaskListModel m_tasks;
     qint64 m_pendingCount = 0;
     QString m_openDocumentText;
@@ -97,5 +98,6 @@ private:
     qint64 m_currentStreak = 0;
     Timestamp m_currentTime;
     UpcomingEvents m_upcomingEvents;
+    QTimeZone m_zone;
     ScheduledCall m_timeTimer;
 };

@@ -56,6 +56,46 @@ private Q_SLOTS:
         file = {};
     }
 
+    // Which row differs
+
+    void aReplacedDocumentIsToldByItsRow()
+    {
+        const auto state = start({page(Space::work, 1), page(Space::work, 2), page(Space::work, 3)});
+        QVERIFY(!state->replacedRow());
+        std::optional<qsizetype> told;
+        quint64 count = state->changeCount();
+        connect(state.get(), &AppState::documentsChanged, state.get(), [&] {
+            told = state->replacedRow();
+            QCOMPARE(state->changeCount(), ++count);
+        });
+
+        state->updateDocument(state->documents()[1]);
+        QCOMPARE(told, 1);
+        state->moveBlock(state->documents()[2].id, 0, 1);
+        QCOMPARE(told, 2);
+        state->createDocument(Space::ideas);
+        QVERIFY(!told);
+        state->updateDocument(state->documents()[3]);
+        QCOMPARE(told, 3);
+        state->permanentlyDeleteDocument(state->documents()[0]);
+        QVERIFY(!told);
+    }
+
+    void aChangeInsideAChangeHidesWhichRowDiffers()
+    {
+        const auto state = start({page(Space::work, 1), page(Space::work, 2)});
+        connect(state.get(), &AppState::documentsChanged, state.get(), [&] {
+            if (state->documents().size() == 2)
+                state->createDocument(Space::ideas);
+        });
+        QList<bool> told;
+        connect(state.get(), &AppState::documentsChanged, state.get(),
+                [&] { told.append(state->replacedRow().has_value()); });
+
+        state->updateDocument(state->documents()[1]);
+        QCOMPARE(told, QList<bool>({false, false}));
+    }
+
     // Announcing
 
     void itIsSaidBeforeAnotherDocumentIsOpened()
