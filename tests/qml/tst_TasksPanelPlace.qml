@@ -167,6 +167,7 @@ Item {
             return [
                 { tag: "closed", leave: () => bench.tasks.toggle() },
                 { tag: "Escape", leave: () => keyClick(Qt.Key_Escape) },
+                { tag: "hidden", leave: () => { find(view, item => item instanceof TasksPanelPlace).visible = false } },
             ]
         }
 

@@ -22,6 +22,7 @@ FocusScope {
 
     Keys.onEscapePressed: released()
     onOpenChanged: if (!open) released()
+    onVisibleChanged: if (!visible) released()
     width: Metrics.panelWidth
 
     SpringFollower {
