@@ -1,5 +1,7 @@
 #include "Calendar/CalendarContents.h"
 
+#include <algorithm>
+
 namespace
 {
 constexpr Timestamp referenceDate = 978'307'200; // of timestamps, as seconds since 1970
@@ -43,8 +45,8 @@ bool CalendarContents::isNear(const CalendarEntry &entry) const
     constexpr qint64 slack = 2 * 86400;
     if (entry.repeats() || entry.recurrenceId)
         return true;
-    return entry.start.wall < m_span.to + slack &&
-           entry.start.wall + entry.span.roughSeconds() > m_span.from - slack;
+    const qint64 end = entry.end ? entry.end->wall : entry.start.wall + entry.span.roughSeconds();
+    return entry.start.wall < m_span.to + slack && std::max(entry.start.wall, end) > m_span.from - slack;
 }
 
 QList<CalendarEvent> CalendarContents::events(const IsGivenUp &isGivenUp) const

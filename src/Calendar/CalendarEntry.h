@@ -18,7 +18,9 @@ struct CalendarEntry {
     QByteArray uid = {};
     std::optional<QString> title = std::nullopt;
     CalendarTime start = {};
+    /// How long it takes where no end is told.
     CalendarSpan span = {};
+    std::optional<CalendarTime> end = std::nullopt;
     bool isCancelled = false;
 
     QList<RecurrenceRule> rules = {};
@@ -30,5 +32,6 @@ struct CalendarEntry {
     bool isForFuture = false;
 
     bool repeats() const { return !rules.isEmpty() || !extraDates.isEmpty(); }
-    qint64 endUtc(qint64 wall) const { return span.endUtc(wall, *start.zone); }
+    /// Between start and end. Not to be asked for before the whole text was read: its zones may come last.
+    CalendarSpan length() const { return end ? spanBetween(start, *end) : span; }
 };

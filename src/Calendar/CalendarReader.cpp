@@ -2,7 +2,7 @@
 
 #include "Calendar/CalendarText.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -12,13 +12,6 @@ constexpr qsizetype mostRules = 8;
 bool isNamed(QByteArrayView component, QByteArrayView name)
 {
     return component.trimmed().compare(name, Qt::CaseInsensitive) == 0;
-}
-
-CalendarSpan spanBetween(const CalendarTime &start, const CalendarTime &end)
-{
-    if (start.isDay)
-        return {.days = std::max<qint64>(1, (end.wall - start.wall) / 86400)};
-    return {.seconds = std::max<qint64>(0, end.utc() - start.utc())};
 }
 } // namespace
 
@@ -88,9 +81,11 @@ void CalendarReader::readEventLine(const ContentLine &line)
         m_event->hasStart = start.has_value();
         entry.start = start.value_or(CalendarTime{});
     } else if (line.is("DTEND")) {
-        m_event->end = m_zones.time(line, line.value);
+        entry.end = m_zones.time(line, line.value);
     } else if (line.is("DURATION")) {
-        m_event->span = parseSpan(line.value);
+        const auto span = parseSpan(line.value);
+        m_event->hasSpan = span.has_value();
+        entry.span = span.value_or(CalendarSpan{});
     } else if (line.is("STATUS")) {
         entry.isCancelled = isNamed(line.value, "CANCELLED");
     } else {
@@ -148,11 +143,7 @@ void CalendarReader::finishEvent()
     if (!draft.hasStart)
         return;
     CalendarEntry &entry = draft.entry;
-    if (draft.end)
-        entry.span = spanBetween(entry.start, *draft.end);
-    else if (draft.span)
-        entry.span = *draft.span;
-    else if (entry.start.isDay)
+    if (entry.start.isDay && !draft.hasSpan)
         entry.span = {.days = 1};
     m_take(std::move(entry));
 }

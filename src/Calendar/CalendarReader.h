@@ -21,8 +21,7 @@ private:
     struct EventDraft {
         CalendarEntry entry = {};
         bool hasStart = false;
-        std::optional<CalendarTime> end = std::nullopt;
-        std::optional<CalendarSpan> span = std::nullopt;
+        bool hasSpan = false;
     };
     struct ZoneDraft {
         QByteArray name = {};

@@ -69,6 +69,13 @@ qint64 CalendarSpan::endUtc(qint64 wall, const WallZone &zone) const
     return std::max(zone.utc(wall), zone.utc(wall + days * secondsOfDay) + seconds);
 }
 
+CalendarSpan spanBetween(const CalendarTime &start, const CalendarTime &end)
+{
+    if (start.isDay)
+        return {.days = std::max<qint64>(1, (end.wall - start.wall) / 86400)};
+    return {.seconds = std::max<qint64>(0, end.utc() - start.utc())};
+}
+
 std::optional<WrittenTime> WrittenTime::parse(QByteArrayView text)
 {
     text = text.trimmed();

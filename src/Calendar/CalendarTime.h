@@ -30,6 +30,9 @@ struct CalendarSpan {
     qint64 endUtc(qint64 wall, const WallZone &zone) const;
 };
 
+/// From one time to another, which is not before it; of days, at least one.
+CalendarSpan spanBetween(const CalendarTime &start, const CalendarTime &end);
+
 /// "20261121" or "20261121T093000", with or without a "Z", as seconds.
 struct WrittenTime {
     qint64 wall = 0;

@@ -35,7 +35,7 @@ QList<Occurrence> EventSeries::occurrences(const Span &span, const IsGivenUp &is
         const qint64 start = change.start.utc();
         if (!change.isCancelled)
             addIfOverlapping(found, span, {start, change.title, identifierAt(change, start)},
-                             change.endUtc(change.start.wall));
+                             change.length().endUtc(change.start.wall, *change.start.zone));
     }
     std::ranges::stable_sort(found, {}, &Occurrence::start);
     const auto copies = std::ranges::unique(found);
@@ -53,7 +53,7 @@ void EventSeries::addRepeated(QList<Occurrence> &found, const CalendarEntry &ent
         if (change && change->isCancelled)
             continue;
         const qint64 wall = instance.key() + (change ? later.shiftOf(*change) : 0);
-        const CalendarSpan length = change ? change->span : instance.value();
+        const CalendarSpan length = change ? change->length() : instance.value();
         const qint64 start = entry.start.zone->utc(wall);
         addIfOverlapping(found, span,
                          {start, change ? change->title : entry.title, identifierAt(entry, start)},
@@ -66,20 +66,21 @@ EventSeries::Instances EventSeries::instances(const CalendarEntry &entry, const 
                                               const IsGivenUp &isGivenUp) const
 {
     const WallZone &zone = *entry.start.zone;
-    qint64 longest = entry.span.roughSeconds();
+    const CalendarSpan length = entry.length();
+    qint64 longest = length.roughSeconds();
     for (const ExtraDate &extra : entry.extraDates)
-        longest = std::max(longest, extra.span.value_or(entry.span).roughSeconds());
+        longest = std::max(longest, extra.span.value_or(length).roughSeconds());
     const qint64 reach = std::max<qint64>(longest, 0) + LaterChanges(entry, m_changes).reach() + day;
     const RecurrenceRule::Range range{.from = zone.wall(qint64(std::floor(span.from))) - reach,
                                       .to = zone.wall(qint64(std::ceil(span.to))) + reach};
-    Instances all{{entry.start.wall, entry.span}};
+    Instances all{{entry.start.wall, length}};
     for (const RecurrenceRule &rule : entry.rules) {
         for (const qint64 wall : rule.times(entry.start, range, isGivenUp))
-            all.insert(wall, entry.span);
+            all.insert(wall, length);
     }
     for (const ExtraDate &extra : entry.extraDates)
         all.insert(extra.start.isDay ? extra.start.wall : zone.wall(extra.start.utc()),
-                   extra.span.value_or(entry.span));
+                   extra.span.value_or(length));
 
     TimeSet elsewhere(entry.start);
     for (const CalendarTime &time : entry.exceptions)

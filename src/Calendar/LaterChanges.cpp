@@ -35,6 +35,6 @@ qint64 LaterChanges::reach() const
 {
     qint64 reach = 0;
     for (const auto &[wall, change] : m_changes)
-        reach = std::max(reach, std::abs(shiftOf(*change)) + change->span.roughSeconds());
+        reach = std::max(reach, std::abs(shiftOf(*change)) + change->length().roughSeconds());
     return reach;
 }

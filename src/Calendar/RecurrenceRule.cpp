@@ -87,8 +87,8 @@ bool isSearchedAtOnce(const icalrecurrencetype &rule)
 
 std::optional<RecurrenceRule> RecurrenceRule::parse(QByteArrayView text)
 {
-    // It is for programs that want to stop at the first wrong letter.
-    icalerror_set_errors_are_fatal(false);
+    // Otherwise the library may end the program at the first wrong letter.
+    [[maybe_unused]] static const bool isLenient = (icalerror_set_errors_are_fatal(false), true);
     icalrecurrencetype rule = icalrecurrencetype_from_string(text.toByteArray().constData());
     if (rule.freq >= ICAL_NO_RECURRENCE || rule.interval < 1 || !isOfCommonCalendar(rule) ||
         takesForever(rule))

@@ -36,7 +36,7 @@ void UpcomingEvents::fetchEvents()
 void UpcomingEvents::assign(QList<CalendarEvent> events)
 {
     std::ranges::stable_sort(events, {}, &CalendarEvent::start);
-    const qint64 before = total();
+    const int before = total();
     beginResetModel();
     m_upcomingEvents = std::move(events);
     endResetModel();

@@ -22,7 +22,7 @@ public:
 
     /// By their start; of the same start, as the store has them.
     const QList<CalendarEvent> &upcomingEvents() const { return m_upcomingEvents; }
-    int total() const { return int(m_upcomingEvents.size()); }
+    int total() const { return static_cast<int>(m_upcomingEvents.size()); }
 
     /// Asks for access and, with it, for the events of the coming day. The list is replaced as a whole,
     /// later.

@@ -190,6 +190,16 @@ private Q_SLOTS:
         QCOMPARE(desk.told(flight), QStringList());
     }
 
+    void anEventMayEndInAZoneThatIsDescribedLater()
+    {
+        const QByteArray trip = eventText("SUMMARY:Trip\r\nDTSTART:20261120T220000Z\r\n"
+                                          "DTEND;TZID=Our Town:20261121T070000");
+        desk.from = QDateTime(QDate(2026, 11, 21), QTime(5, 59), Qt::UTC);
+        QCOMPARE(desk.told(trip + described), QStringList{u"20 22:00 Trip"_s});
+        desk.from = desk.from.addSecs(60);
+        QCOMPARE(desk.told(trip + described), QStringList());
+    }
+
     void aThousandUnknownZonesAreEnough()
     {
         QByteArray text;
