@@ -67,10 +67,14 @@ void NavigationViewModel::search(const QString &query)
 {
     if (m_query == query)
         return;
+    const bool wasSearching = isSearching();
     m_query = query;
     m_chosenRow = -1;
     Q_EMIT queryChanged();
-    m_pages.publish(rows());
+    if (isSearching() == wasSearching)
+        m_pages.publish(rows());
+    else
+        m_pages.replace(rows());
     Q_EMIT pagesChanged();
     choose(isSearching() ? 0 : rowOf(m_appState.openDocumentID()));
 }

@@ -8,7 +8,9 @@ void PageListModel::begin(QList<PageRow> rows, Timestamp now, const QTimeZone &z
 {
     m_now = now;
     m_zone = zone;
-    reset(std::move(rows));
+    publish(std::move(rows));
+    if (!this->rows().isEmpty())
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {DetailRole, DescriptionRole});
 }
 
 QString PageListModel::ageAndLength(const PelkoDocument &page) const

@@ -23,8 +23,12 @@ public:
 
     using IdListModel::IdListModel;
 
-    /// Begins anew at that time, from which on the ages of the pages are told.
+    /// Publishes the rows at that time, from which on the ages of the pages are told. Rows that stay keep
+    /// their delegates: to make them anew would take longer than all else.
     void begin(QList<PageRow> rows, Timestamp now, const QTimeZone &zone);
+
+    /// For rows that have hardly any in common with those before: ten thousand are not put in one by one.
+    void replace(QList<PageRow> rows) { reset(std::move(rows)); }
 
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Pelko
 
@@ -18,6 +20,7 @@ Item {
     required property bool isArchived
     required property string space
     required property bool chosen
+    readonly property bool pointedAt: pointer.hovered
 
     signal opened
     signal deleteRequested
@@ -42,8 +45,12 @@ Item {
 
         background: ChosenGround {
             chosen: root.chosen
-            pointedAt: face.hovered
+            pointedAt: root.pointedAt
         }
+    }
+
+    HoverHandler {
+        id: pointer
     }
 
     SpotSymbol {
@@ -84,27 +91,34 @@ Item {
         anchors { right: parent.right; rightMargin: Metrics.space12; verticalCenter: parent.verticalCenter }
         spacing: Metrics.space12
 
-        RowMark {
-            symbol: "pin.fill"
-            visible: root.isPinned
+        // Most rows have none of these, and the list is opened with all its rows in one frame.
+        Repeater {
+            model: [...(root.isPinned ? ["pin.fill"] : []), ...(root.isArchived ? ["archivebox"] : [])]
+
+            RowMark {
+                required property string modelData
+
+                symbol: modelData
+            }
         }
 
-        RowMark {
-            symbol: "archivebox"
-            visible: root.isArchived
+        Repeater {
+            model: root.chosen || root.pointedAt ? 1 : 0
+
+            RowDeleteButton {
+                anchors.verticalCenter: parent?.verticalCenter
+                name: qsTr("Delete %1").arg(root.titleLine.text)
+                onTriggered: root.deleteRequested()
+            }
         }
 
-        RowDeleteButton {
-            anchors.verticalCenter: parent.verticalCenter
-            name: qsTr("Delete %1").arg(root.titleLine.text)
-            visible: root.chosen || face.hovered || hovered
-            onTriggered: root.deleteRequested()
-        }
+        Repeater {
+            model: root.space === "" ? 0 : 1
 
-        SpaceCapsule {
-            anchors.verticalCenter: parent.verticalCenter
-            space: root.space
-            visible: root.space !== ""
+            SpaceCapsule {
+                anchors.verticalCenter: parent?.verticalCenter
+                space: root.space
+            }
         }
     }
 }
