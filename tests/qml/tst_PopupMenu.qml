@@ -35,6 +35,7 @@ Item {
         when: windowShown
 
         function init() {
+            stage.height = 400
             Motion.reduced = true
             mouseMove(stage, 595, 395)
             writing.forceActiveFocus()
@@ -65,6 +66,24 @@ Item {
             const menu = popUp(590, 390)
             compare(menu.card.x + menu.card.width, 592)
             compare(menu.card.y + menu.card.height, 392)
+        }
+
+        function test_oneThatIsTooHighScrollsToTheChoice() {
+            stage.height = 120
+            const menu = popUp(40, 50)
+            const place = () => stage.Window.activeFocusItem.mapToItem(menu.card, 0, 0).y
+            compare(menu.card.y, 8)
+            compare(menu.card.height, 104)
+            keyClick(Qt.Key_End)
+            compare(focusedName(), "Delete")
+            compare(place() + 30, 98)
+            keyClick(Qt.Key_Home)
+            compare(place(), 6)
+            keyClick(Qt.Key_End)
+            keyClick(Qt.Key_Escape)
+            menu.popUp(40, 50)
+            keyClick(Qt.Key_Down)
+            compare(place(), 6)
         }
 
         function test_arrowsWalkTheRowsThatCanBeChosenAndRound() {

@@ -4,7 +4,7 @@ import QtQuick
 import Pelko
 
 /// A menu of glass over its whole parent, which is the area it may not leave. Rows are its children. It opens with
-/// `popUp` at a point of its parent, or below an item, and closes by itself.
+/// `popUp` at a point of its parent, or below an item, and closes by itself. One that is higher than that area scrolls.
 ModalLayer {
     id: menu
 
@@ -41,7 +41,12 @@ ModalLayer {
     function choose(index: int) : void {
         const rows = choices()
         if (rows.length > 0)
-            rows[(index + rows.length) % rows.length].forceActiveFocus(Qt.TabFocusReason)
+            take(rows[(index + rows.length) % rows.length])
+    }
+
+    function take(row: Item) : void {
+        row.forceActiveFocus(Qt.TabFocusReason)
+        view.contentY = Math.max(row.y + row.height - view.height, Math.min(view.contentY, row.y))
     }
 
     function chosen() : int {
@@ -50,7 +55,10 @@ ModalLayer {
 
     motion: PelkoAnimation.micro
     // A menu begins without a choice, whatever was chosen when it was last open.
-    onOpened: card.forceActiveFocus(Qt.PopupFocusReason)
+    onOpened: {
+        view.contentY = 0
+        card.forceActiveFocus(Qt.PopupFocusReason)
+    }
     onEscaped: close()
     onClickedBeside: close()
     Keys.onDownPressed: choose(chosen() + 1)
@@ -69,7 +77,7 @@ ModalLayer {
         x: Math.round(Math.max(menu.edge, Math.min(menu.anchor.x, menu.width - width - menu.edge)))
         y: Math.round(Math.max(menu.edge, Math.min(menu.anchor.y, menu.height - height - menu.edge)))
         width: menu.widestRow + 12
-        height: column.height + 12
+        height: Math.min(column.height + 12, menu.height - 2 * menu.edge)
         radius: Metrics.menuRadius
         kind: Glass.menu
         backdrop: menu.backdrop
@@ -82,12 +90,27 @@ ModalLayer {
 
         MouseArea { anchors.fill: parent }
 
-        Column {
-            id: column
+        Flickable {
+            id: view
 
             x: 6
             y: 6
             width: menu.widestRow
+            height: card.height - 12
+            boundsBehavior: Flickable.StopAtBounds
+            clip: contentHeight > height
+            contentHeight: column.height
+
+            Column {
+                id: column
+
+                width: menu.widestRow
+            }
+        }
+
+        PelkoScrollBar {
+            anchors { right: parent.right; top: view.top; bottom: view.bottom }
+            flickable: view
         }
     }
 }
