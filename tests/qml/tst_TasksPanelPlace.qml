@@ -180,6 +180,31 @@ Item {
             verify(editor().activeFocus)
         }
 
+        function test_focus_mode_sends_it_away_and_brings_it_back() {
+            bench.tasks.toggle()
+            const first = panel()
+            tryCompare(first, "opacity", 1)
+            find(first, item => item instanceof LineField).forceActiveFocus()
+            bench.main.commands.run("focusMode")
+            verify(stage.Window.activeFocusItem instanceof TextEdit)
+            compare(bench.main.editor.rowOf(bench.main.editor.focusedBlockID), 0)
+            tryVerify(() => panel() === null)
+            tryVerify(() => editor().width === 1100)
+            verify(bench.tasks.isShown)
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => panel() === first)
+            tryVerify(() => editor().width === 860)
+        }
+
+        function test_focus_mode_sends_a_panel_away_that_opens() {
+            bench.main.commands.run("focusMode")
+            bench.tasks.toggle()
+            wait(100)
+            compare(panel(), null)
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => panel())
+        }
+
         function test_little_motion_is_a_fade_in_place() {
             Motion.reduced = true
             bench.tasks.toggle()

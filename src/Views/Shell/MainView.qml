@@ -82,6 +82,7 @@ FocusScope {
         id: panel
 
         anchors { bottom: parent.bottom; right: parent.right; top: parent.top }
+        quiet: root.main.isFocused
         tasks: root.tasks
         onReleased: if (activeFocus) content.forceActiveFocus(Qt.OtherFocusReason)
     }

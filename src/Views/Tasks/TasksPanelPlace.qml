@@ -21,7 +21,9 @@ FocusScope {
     signal released
 
     Keys.onEscapePressed: released()
-    onOpenChanged: if (!open) released()
+    // What made it quiet has a say first in where the keyboard goes.
+    onOpenChanged: if (!open && !quiet) released()
+    onPartChanged: if (part === 0) released()
     onVisibleChanged: if (!visible) released()
     width: Metrics.panelWidth
 
@@ -31,7 +33,7 @@ FocusScope {
         dampingFraction: Motion.reduced ? 1 : 0.82
         goal: place.open ? 1 : 0
         response: Motion.reduced ? 0.08 : place.open ? 0.35 : 0.175
-        onValueChanged: if (value <= 0) place.tasks.panelLeft()
+        onValueChanged: if (value <= 0) place.tasks?.panelLeft()
     }
 
     Repeater {
