@@ -19,8 +19,6 @@ MainViewModel::MainViewModel(AppState &appState, const Clock &clock, const Edito
     followStore();
     followOpenDocument();
     followError();
-    // Closes the navigation as well, which the store knows nothing of.
-    m_commands.list()->bind(u"newDocument"_s, {.run = [this] { createDocument(); }});
 }
 
 void MainViewModel::followStore()

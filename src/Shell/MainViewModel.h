@@ -109,7 +109,7 @@ private:
     AppState &m_appState;
     const EditorServices m_services;
     NavigationViewModel m_navigation;
-    ShellCommands m_commands{m_appState};
+    ShellCommands m_commands{m_appState, m_navigation};
     QPointer<EditorViewModel> m_editor;
     QString m_openDocumentID;
     QString m_windowTitle;

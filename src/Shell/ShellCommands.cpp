@@ -1,25 +1,39 @@
 #include "Shell/ShellCommands.h"
 
+#include "Navigation/NavigationViewModel.h"
 #include "Store/AppState.h"
 #include "Store/ChangeScope.h"
 
 using namespace Qt::StringLiterals;
 
-ShellCommands::ShellCommands(AppState &appState, QObject *parent) : QObject(parent), m_appState(appState)
+ShellCommands::ShellCommands(AppState &appState, NavigationViewModel &navigation, QObject *parent)
+    : QObject(parent)
+    , m_appState(appState)
+    , m_navigation(navigation)
 {
-    bind(u"newDocument"_s, {.run = [this] { m_appState.createDocument(m_appState.currentSpace()); }});
+    bind(u"newDocument"_s, {.run = [this] { m_navigation.createDocument(); }});
     bind(u"shortcuts"_s, {.run = [this] { setShowShortcuts(true); }});
     bind(u"about"_s, {.run = [this] { m_appState.setShowAbout(true); }});
     bind(u"goTo"_s, {.run = [this] { m_appState.setShowNav(!m_appState.showNav()); }});
-    bind(u"tasks"_s, {.run = [this] { m_appState.setShowTasksPanel(!m_appState.showTasksPanel()); },
-                      .isEnabled = [this] { return m_appState.currentSpace() == Space::work; },
-                      .isTicked = [this] { return m_appState.showTasksPanel(); }});
-    bind(u"focusMode"_s, {.run = [this] { m_appState.setFocusMode(!m_appState.focusMode()); },
-                          .isEnabled = [this] { return m_appState.openDocument().has_value(); },
-                          .isTicked = [this] { return m_appState.focusMode(); }});
+    bindViews();
     bindSpaces();
     bindRequests();
     followStore();
+}
+
+void ShellCommands::bindViews()
+{
+    const auto toggleFocusMode = [this] {
+        // The navigation is none of the page. It gives the focus back before focus mode looks for it.
+        m_appState.setShowNav(false);
+        m_appState.setFocusMode(!m_appState.focusMode());
+    };
+    bind(u"focusMode"_s, {.run = toggleFocusMode,
+                          .isEnabled = [this] { return m_appState.openDocument().has_value(); },
+                          .isTicked = [this] { return m_appState.focusMode(); }});
+    bind(u"tasks"_s, {.run = [this] { m_appState.setShowTasksPanel(!m_appState.showTasksPanel()); },
+                      .isEnabled = [this] { return m_appState.currentSpace() == Space::work; },
+                      .isTicked = [this] { return m_appState.showTasksPanel(); }});
 }
 
 void ShellCommands::bindSpaces()

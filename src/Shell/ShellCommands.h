@@ -6,6 +6,7 @@
 #include <QObject>
 
 class AppState;
+class NavigationViewModel;
 
 /// What the program can be told by menu and key. Commands that only change the store are carried out here;
 /// what needs the window, the timers or the end of the program is asked for.
@@ -18,7 +19,7 @@ class ShellCommands : public QObject
     Q_PROPERTY(QList<ShortcutLine> writingKeys READ writingKeys CONSTANT)
 
 public:
-    explicit ShellCommands(AppState &appState, QObject *parent = nullptr);
+    ShellCommands(AppState &appState, NavigationViewModel &navigation, QObject *parent = nullptr);
 
     /// For the menu, for the keys, and for whoever binds a command of his own.
     CommandListModel *list() { return &m_list; }
@@ -43,12 +44,14 @@ Q_SIGNALS:
 
 private:
     void followStore();
+    void bindViews();
     void bindSpaces();
     void bindRequests();
     void setShowShortcuts(bool shown);
     void bind(const QString &id, CommandDeed deed) { m_list.bind(id, std::move(deed)); }
 
     AppState &m_appState;
+    NavigationViewModel &m_navigation;
     CommandListModel m_list{menuCommands()};
     bool m_showShortcuts = false;
     bool m_isFullScreen = false;

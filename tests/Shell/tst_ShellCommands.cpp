@@ -1,5 +1,6 @@
 #include "Shell/ShellCommands.h"
 
+#include "Navigation/NavigationViewModel.h"
 #include "Store/AppState.h"
 #include "support/ManualClock.h"
 #include "support/ManualDocumentFile.h"
@@ -17,7 +18,8 @@ struct Program {
     ManualClock clock;
     ManualDocumentFile file;
     AppState appState{scheduler, clock, file};
-    ShellCommands commands{appState};
+    NavigationViewModel navigation{appState, clock};
+    ShellCommands commands{appState, navigation};
 
     bool isTicked(const QString &id) { return commands.list()->isTicked(id); }
     bool isEnabled(const QString &id) { return commands.list()->isEnabled(id); }
@@ -122,6 +124,29 @@ private Q_SLOTS:
 
         QCOMPARE(program.appState.documents().size(), 5);
         QVERIFY(program.appState.showDocLimitNudge());
+    }
+
+    void aNewDocumentEndsTheNavigationUnlessThereIsNoPlace()
+    {
+        Program program;
+        for (int i = 0; i < 5; ++i) {
+            program.appState.setShowNav(true);
+            program.commands.run(u"newDocument"_s);
+            QVERIFY(!program.appState.showNav());
+        }
+        program.appState.setShowNav(true);
+        program.commands.run(u"newDocument"_s);
+        QVERIFY(program.appState.showNav());
+    }
+
+    void focusModeEndsTheNavigation()
+    {
+        Program program;
+        program.appState.createDocument(Space::work);
+        program.appState.setShowNav(true);
+        program.commands.run(u"focusMode"_s);
+        QVERIFY(program.appState.focusMode());
+        QVERIFY(!program.appState.showNav());
     }
 
     void aSpaceOpensItsNewestPage()

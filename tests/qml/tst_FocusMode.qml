@@ -181,6 +181,19 @@ Item {
             verify(holder() instanceof TextEdit)
         }
 
+        function test_theNavigationGivesTheFocusBackFirst() {
+            openPage(["textSmall", "textSmall"])
+            keyClick(Qt.Key_Down)
+            const field = holder()
+            keyClick(Qt.Key_K, Qt.ControlModifier)
+            verify(app.main.showNav)
+            verify(holder() !== field)
+            toggle()
+            verify(app.main.isFocused)
+            verify(!app.main.showNav)
+            compare(holder(), field)
+        }
+
         function test_hoverBringsNothingUp() {
             openPage(["textSmall", "textSmall"])
             const field = holder()
