@@ -31,9 +31,10 @@ void ShellCommands::bindViews()
     bind(u"focusMode"_s, {.run = toggleFocusMode,
                           .isEnabled = [this] { return m_appState.openDocument().has_value(); },
                           .isTicked = [this] { return m_appState.focusMode(); }});
+    const auto isInWork = [this] { return m_appState.currentSpace() == Space::work; };
     bind(u"tasks"_s, {.run = [this] { m_appState.setShowTasksPanel(!m_appState.showTasksPanel()); },
-                      .isEnabled = [this] { return m_appState.currentSpace() == Space::work; },
-                      .isTicked = [this] { return m_appState.showTasksPanel(); }});
+                      .isEnabled = isInWork,
+                      .isTicked = [this, isInWork] { return isInWork() && m_appState.showTasksPanel(); }});
 }
 
 void ShellCommands::bindSpaces()

@@ -92,7 +92,7 @@ private Q_SLOTS:
         program.commands.run(u"tasks"_s);
         QVERIFY(program.appState.showTasksPanel() && program.isTicked(u"tasks"_s));
         program.commands.run(u"journal"_s);
-        QVERIFY(!program.isEnabled(u"tasks"_s));
+        QVERIFY(!program.isEnabled(u"tasks"_s) && !program.isTicked(u"tasks"_s));
         program.commands.run(u"tasks"_s);
         QVERIFY(program.appState.showTasksPanel());
     }
