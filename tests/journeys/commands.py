@@ -33,15 +33,21 @@ def identity_of_the_window(pelko):
     assert "not found" not in shown("xprop", "-id", pelko.window(), "_NET_WM_ICON")
 
 
+def walk_down_to(pelko, name):
+    for _ in range(20):
+        pelko.keys("Down")
+        pelko.stand_still()
+        if pelko.focused().get_name() == name:
+            return
+    raise AssertionError(f"the arrow keys do not lead to “{name}”")
+
+
 def spaces_by_menu_and_key(pelko):
     pelko.keys("ctrl+3", "ctrl+n")
     pelko.wait_saved(lambda saved: [page["space"] for page in saved] == ["journal"], "a page in journal")
     pelko.keys("F10")
     pelko.wait_for("Journal")
-    pelko.keys("Down", "Down")
-    pelko.wait_focus_on("Ideas")
-    pelko.keys("Down")
-    pelko.wait_focus_on("Work")
+    walk_down_to(pelko, "Work")
     pelko.keys("Return")
     pelko.wait_for("Start Writing")
     pelko.keys("ctrl+n")
@@ -58,8 +64,11 @@ def focus_mode(pelko):
     pelko.stand_still()
     before = shown_pixels()
 
+    pelko.keys("ctrl+t")
+    pelko.wait_for("Add task")
     pelko.keys("ctrl+shift+f")
     until(lambda: not furniture(pelko), "everything but the page is gone")
+    pelko.wait_gone("Add task")
     pelko.stand_still()
     during = shown_pixels()
     assert sum(a != b for a, b in zip(before, during)) > len(before) // 200, "it looks different"
@@ -76,12 +85,23 @@ def focus_mode(pelko):
     assert "Divider" not in furniture(pelko), "full screen leaves focus mode alone"
     pelko.keys("Escape")
     until(lambda: len(furniture(pelko)) == 3, "everything is back")
+    pelko.wait_for("Add task")
+    pelko.keys("ctrl+t")
+    pelko.wait_gone("Add task")
     assert size(pelko) == [1400, 1000], "focus mode leaves full screen alone"
     pelko.keys("F11")
     until(lambda: size(pelko) == [1100, 750], "the window has its size again")
     pelko.wait_focus_on("Heading")
     pelko.type("y")
     pelko.wait_saved(lambda saved: library.outline(saved[1])[0][1] == "A quiet hoxyur", "the caret where it was")
+
+
+def way_around(pelko):
+    pelko.keys("ctrl+k")
+    pelko.wait_for("Go to", {screen_reader().Role.DIALOG})
+    pelko.keys("ctrl+k")
+    pelko.wait_gone("Go to", {screen_reader().Role.DIALOG})
+    pelko.wait_focus_on("Heading")
 
 
 def sheet_of_keys(pelko):
@@ -119,6 +139,7 @@ def commands(pelko):
         identity_of_the_window(pelko)
         spaces_by_menu_and_key(pelko)
         focus_mode(pelko)
+        way_around(pelko)
         sheet_of_keys(pelko)
         pomodoro(pelko)
         reopened_window(pelko)
