@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QCoreApplication>
+#include <benchmark/benchmark.h>
+
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QQmlComponent>
@@ -103,3 +105,17 @@ private:
     std::unique_ptr<QQuickWindow> m_window;
     bool m_draws = false;
 };
+
+/// A letter and its removal in turn, each with the frame that shows it.
+inline void writeKeys(benchmark::State &state, Stage &stage)
+{
+    bool written = false;
+    for (auto _ : state) {
+        const Milliseconds start = worked();
+        written ? stage.type(Qt::Key_Backspace, QStringLiteral("\b"))
+                : stage.type(Qt::Key_X, QStringLiteral("x"));
+        stage.draw();
+        state.SetIterationTime((worked() - start).count() / 1000);
+        written = !written;
+    }
+}
