@@ -5,6 +5,20 @@
 
 #include <functional>
 
+/// An event of which the end was not read yet.
+struct EventDraft {
+    CalendarEntry entry = {};
+    bool hasStart = false;
+    bool hasSpan = false;
+};
+
+/// A zone of which the end was not read yet.
+struct ZoneDraft {
+    QByteArray name = {};
+    std::vector<Observance> observances = {};
+    bool isInObservance = false;
+};
+
 /// Reads the events of a calendar's text, one after the other: whole calendars and single events alike. An
 /// event that does not end, or that does not say when it begins, is left out, and so is everything else there
 /// may be in a text; nothing in it makes the reading fail, or take longer than its length.
@@ -18,17 +32,6 @@ public:
     void read(QByteArrayView text);
 
 private:
-    struct EventDraft {
-        CalendarEntry entry = {};
-        bool hasStart = false;
-        bool hasSpan = false;
-    };
-    struct ZoneDraft {
-        QByteArray name = {};
-        std::vector<Observance> observances = {};
-        bool isInObservance = false;
-    };
-
     void begin(QByteArrayView component);
     void end(QByteArrayView component);
     void readEventLine(const ContentLine &line);

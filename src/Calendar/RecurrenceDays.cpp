@@ -45,6 +45,12 @@ public:
     {
     }
 
+    /// Days are left out by nothing but the rhythm: the first time is one of them.
+    bool isPlain() const
+    {
+        return !hasDays() && m_months.empty() && m_weeks.empty() && values(m_rule.by_set_pos).empty();
+    }
+
     bool isOn(QDate day) const
     {
         return names(m_months, day.month(), 0) && names(m_monthDays, day.day(), day.daysInMonth()) &&
@@ -120,6 +126,8 @@ private:
 bool comesTrue(const icalrecurrencetype &rule, QDate start)
 {
     const RuleDays days(rule, start);
+    if (days.isPlain())
+        return true;
     const bool isMonthly = rule.freq == ICAL_MONTHLY_RECURRENCE;
     const QDate end = start.addYears(yearsUntilDatesRepeat);
     QDate first(start.year(), isMonthly ? start.month() : 1, 1);
