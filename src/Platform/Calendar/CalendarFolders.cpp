@@ -53,8 +53,8 @@ Listing listing(const fs::path &folder)
         else if (entry->is_directory(unreachable))
             result.folders.push_back(entry->path());
     }
-    std::ranges::sort(result.calendarFiles);
-    std::ranges::sort(result.folders);
+    std::ranges::sort(result.calendarFiles, {}, &fs::path::native);
+    std::ranges::sort(result.folders, {}, &fs::path::native);
     return result;
 }
 
