@@ -46,7 +46,8 @@ bool CalendarContents::isNear(const CalendarEntry &entry) const
     if (entry.repeats() || entry.recurrenceId)
         return true;
     const qint64 end = entry.end ? entry.end->wall : entry.start.wall + entry.span.roughSeconds();
-    return entry.start.wall < m_span.to + slack && std::max(entry.start.wall, end) > m_span.from - slack;
+    return double(entry.start.wall - slack)<m_span.to &&double(std::max(entry.start.wall, end) + slack)>
+        m_span.from;
 }
 
 QList<CalendarEvent> CalendarContents::events(const IsGivenUp &isGivenUp) const

@@ -67,12 +67,13 @@ EventSeries::Instances EventSeries::instances(const CalendarEntry &entry, const 
 {
     const WallZone &zone = *entry.start.zone;
     const CalendarSpan length = entry.length();
-    qint64 longest = length.roughSeconds();
+    const LaterChanges later(entry, m_changes);
+    qint64 longest = std::max(length.roughSeconds(), later.longest());
     for (const ExtraDate &extra : entry.extraDates)
         longest = std::max(longest, extra.span.value_or(length).roughSeconds());
-    const qint64 reach = std::max<qint64>(longest, 0) + LaterChanges(entry, m_changes).reach() + day;
-    const RecurrenceRule::Range range{.from = zone.wall(qint64(std::floor(span.from))) - reach,
-                                      .to = zone.wall(qint64(std::ceil(span.to))) + reach};
+    const qint64 slack = later.farthestShift() + day;
+    const RecurrenceRule::Range range{.from = zone.wall(qint64(std::floor(span.from))) - longest - slack,
+                                      .to = zone.wall(qint64(std::ceil(span.to))) + slack};
     Instances all{{entry.start.wall, length}};
     for (const RecurrenceRule &rule : entry.rules) {
         for (const qint64 wall : rule.times(entry.start, range, isGivenUp))

@@ -10,7 +10,10 @@ struct Span {
     double to = 0;
 
     /// What takes no time at all overlaps where it is.
-    bool overlaps(qint64 start, qint64 end) const { return start < to && (end > from || start >= from); }
+    bool overlaps(qint64 start, qint64 end) const
+    {
+        return double(start) < to && (double(end) > from || double(start) >= from);
+    }
 };
 
 /// One time at which something takes place.

@@ -5,6 +5,9 @@
 
 namespace
 {
+/// Nobody moves a series by more than a year; who looked for it would look through all of that time.
+constexpr qint64 farthestMove = qint64(86400) * 366;
+
 /// What a clock of the entry's zone shows at a time of another.
 qint64 wallOf(const CalendarTime &time, const CalendarEntry &entry)
 {
@@ -31,10 +34,18 @@ qint64 LaterChanges::shiftOf(const CalendarEntry &change) const
     return wallOf(change.start, m_entry) - wallOf(*change.recurrenceId, m_entry);
 }
 
-qint64 LaterChanges::reach() const
+qint64 LaterChanges::farthestShift() const
 {
-    qint64 reach = 0;
+    qint64 farthest = 0;
     for (const auto &[wall, change] : m_changes)
-        reach = std::max(reach, std::abs(shiftOf(*change)) + change->length().roughSeconds());
-    return reach;
+        farthest = std::max(farthest, std::abs(shiftOf(*change)));
+    return std::min(farthest, farthestMove);
+}
+
+qint64 LaterChanges::longest() const
+{
+    qint64 longest = 0;
+    for (const auto &[wall, change] : m_changes)
+        longest = std::max(longest, change->length().roughSeconds());
+    return longest;
 }

@@ -14,8 +14,10 @@ public:
     const CalendarEntry *at(qint64 wall) const;
     /// By how much such a change moves what it holds for.
     qint64 shiftOf(const CalendarEntry &change) const;
-    /// By how much the entry can be moved at most, or take longer than it did.
-    qint64 reach() const;
+    /// By how much a change moves the entry at most, up to a year.
+    qint64 farthestShift() const;
+    /// How long the entry takes at most after a change.
+    qint64 longest() const;
 
 private:
     const CalendarEntry &m_entry;

@@ -9,7 +9,7 @@
 class TimeSet
 {
 public:
-    explicit TimeSet(const CalendarTime &start) : m_start(start) {}
+    explicit TimeSet(CalendarTime start) : m_start(std::move(start)) {}
 
     void add(const CalendarTime &time);
 

@@ -1,5 +1,6 @@
 #include "Calendar/CalendarDesk.h"
 
+#include <QElapsedTimer>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -134,6 +135,17 @@ private Q_SLOTS:
         QFETCH(QByteArray, changes);
         QFETCH(QStringList, told);
         QCOMPARE(desk.told(calendarText(eventText(breakfast) + changes)), told);
+    }
+
+    void aSeriesThatWasMovedByAThousandYearsIsNotLookedFor()
+    {
+        const QByteArray text =
+            eventText(breakfast) + changed("RECURRENCE-ID;RANGE=THISANDFUTURE:30261122T080000Z\r\n"
+                                           "DTSTART:20261122T090000Z");
+        QElapsedTimer timer;
+        timer.start();
+        QCOMPARE(desk.told(text).size(), 3);
+        QVERIFY2(timer.elapsed() < 200, qPrintable(QString::number(timer.elapsed())));
     }
 
     void furtherDatesAreAdded_data()

@@ -32,7 +32,7 @@ void wait(QEventLoop &loop, const FetchLimit &limit, IsDone isDone)
         loop.exec();
 }
 
-QDBusMessage askForSources(QDBusConnection bus, const FetchLimit &limit)
+QDBusMessage askForSources(const QDBusConnection &bus, const FetchLimit &limit)
 {
     const auto message = QDBusMessage::createMethodCall(
         u"org.gnome.evolution.dataserver.Sources5"_s, u"/org/gnome/evolution/dataserver/SourceManager"_s,
