@@ -101,6 +101,19 @@ Item {
             tryVerify(() => !overlay())
         }
 
+        function test_itLiesOverThePage_data() {
+            return [{ tag: "alone", pageWidth: 1100, middle: 550 }, { tag: "beside a panel", pageWidth: 860, middle: 430 },
+                { tag: "too narrow", pageWidth: 560, middle: 550 }]
+        }
+
+        function test_itLiesOverThePage(row) {
+            library()
+            open()
+            overlay().pageWidth = row.pageWidth
+            const field = focused()
+            tryVerify(() => Math.abs(field.mapToItem(stage, field.width / 2, 0).x - row.middle) < 40)
+        }
+
         function test_itShowsTheGreeting() {
             open()
             verify(all(overlay(), item => item.text === app.main.topMessage && item instanceof Text)[0])

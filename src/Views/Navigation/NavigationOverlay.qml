@@ -8,6 +8,9 @@ ModalLayer {
 
     required property MainViewModel main
     property Item backdrop: null
+    /// From the left edge; the overlay lies over its middle where that is wide enough.
+    property real pageWidth: width
+    readonly property real room: pageWidth < Metrics.overlayWidth + 2 * Metrics.space24 ? width : pageWidth
     readonly property NavigationViewModel navigation: main.navigation
     readonly property real highest: height - card.y - Metrics.space24
 
@@ -44,7 +47,6 @@ ModalLayer {
     GlassSurface {
         id: card
 
-        anchors.horizontalCenter: parent.horizontalCenter
         backdrop: overlay.backdrop
         height: content.height
         kind: Glass.overlay
@@ -53,6 +55,7 @@ ModalLayer {
         scale: Motion.reduced ? 1 : 0.98 + 0.02 * overlay.shown
         transformOrigin: Item.Top
         width: Math.min(Metrics.overlayWidth, overlay.width - 2 * Metrics.space24)
+        x: Math.round((overlay.room - width) / 2)
         y: Metrics.overlayTop
 
         Behavior on height {

@@ -92,6 +92,7 @@ FocusScope {
 
         backdrop: content
         main: root.main
+        pageWidth: content.width
     }
 
     TopStrip {
