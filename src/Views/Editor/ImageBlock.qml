@@ -33,9 +33,9 @@ BlockEditor {
     Accessible.role: Accessible.Graphic
     Keys.forwardTo: [keys]
     activeFocusOnTab: hasImage && !isBanner
-    caretRectangle: isBanner ? mapFromItem(title, title.cursorRectangle) : Qt.rect(0, 0, 0, 0)
     control: hasImage ? null : add
     implicitHeight: inColumn + (Metrics.bannerHeight - inColumn) * spread
+    onIsBannerChanged: if (!isBanner) caretRectangle = Qt.rect(0, 0, 0, 0)
 
     BlockPicture {
         id: picture
@@ -69,6 +69,7 @@ BlockEditor {
         keys: root.keys
         opacity: Math.min(1, root.spread)
         visible: root.isBanner
+        onCursorRectangleChanged: if (activeFocus) root.caretRectangle = mapToItem(root, cursorRectangle)
         onEdited: (value, caret) => root.titleEdited(value, caret)
         onFinished: root.titleFinished()
     }

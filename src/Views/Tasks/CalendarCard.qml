@@ -38,7 +38,7 @@ PanelCard {
             model: card.events
 
             EventRow {
-                width: parent.width
+                width: parent?.width ?? 0
             }
         }
     }
