@@ -3,10 +3,10 @@
 #include "Store/AppState.h"
 #include "Store/ChangeScope.h"
 
-TasksViewModel::TasksViewModel(AppState &appState, const TasksServices &services, QObject *parent)
+TasksViewModel::TasksViewModel(AppState &appState, TasksServices services, QObject *parent)
     : QObject(parent)
     , m_appState(appState)
-    , m_services(services)
+    , m_services(std::move(services))
 {
     connect(&m_appState, &AppState::showTasksPanelChanged, this, &TasksViewModel::isShownChanged);
     connect(&m_appState, &AppState::currentSpaceChanged, this, &TasksViewModel::isOfferedChanged);

@@ -13,7 +13,7 @@ class TasksViewModel : public QObject
     Q_PROPERTY(TasksPanelViewModel *panel READ panel NOTIFY panelChanged)
 
 public:
-    TasksViewModel(AppState &appState, const TasksServices &services, QObject *parent = nullptr);
+    TasksViewModel(AppState &appState, TasksServices services, QObject *parent = nullptr);
 
     /// The panel belongs to the work space.
     bool isOffered() const;
