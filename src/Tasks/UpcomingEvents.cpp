@@ -13,11 +13,12 @@ namespace
 constexpr qsizetype mostRows = 3;
 }
 
-UpcomingEvents::UpcomingEvents(CalendarStore &eventStore, const Clock &clock, QLocale locale, QObject *parent)
+UpcomingEvents::UpcomingEvents(CalendarStore &eventStore, const Clock &clock, const QLocale &locale,
+                               QObject *parent)
     : QAbstractListModel(parent)
     , m_eventStore(eventStore)
     , m_clock(clock)
-    , m_locale(std::move(locale))
+    , m_locale(locale)
 {
 }
 

@@ -18,7 +18,8 @@ class UpcomingEvents : public QAbstractListModel
 public:
     enum Role { EventIdentifierRole = Qt::UserRole, TitleRole, TimeRole };
 
-    UpcomingEvents(CalendarStore &eventStore, const Clock &clock, QLocale locale, QObject *parent = nullptr);
+    UpcomingEvents(CalendarStore &eventStore, const Clock &clock, const QLocale &locale,
+                   QObject *parent = nullptr);
 
     /// By their start; of the same start, as the store has them.
     const QList<CalendarEvent> &upcomingEvents() const { return m_upcomingEvents; }

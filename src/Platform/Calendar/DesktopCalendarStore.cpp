@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+#include <tuple>
+
 using namespace std::chrono_literals;
 
 namespace
@@ -28,7 +30,7 @@ DesktopCalendarStore::~DesktopCalendarStore()
     // A disk far away may hold up a thread for as long as it likes, but not the end of the program: then the
     // thread is left to the system.
     if (!m_thread->waitForDone(int(std::chrono::milliseconds(longestFarewell).count())))
-        static_cast<void>(m_thread.release());
+        std::ignore = m_thread.release();
 }
 
 ScheduledCall DesktopCalendarStore::fetch(const CalendarWindow &window, Completion completion)
