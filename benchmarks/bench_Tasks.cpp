@@ -4,6 +4,7 @@
 
 #include "Editor/EditorViewModel.h"
 #include "Platform/SystemClock.h"
+#include "Services/CalendarStore.h"
 #include "Services/Preferences.h"
 #include "Shell/MainViewModel.h"
 #include "Store/AppState.h"
@@ -46,6 +47,13 @@ private:
     QHash<QString, Timestamp> m_dates;
 };
 
+/// A desktop on which nobody keeps a calendar.
+class NoCalendars : public CalendarStore
+{
+public:
+    ScheduledCall fetch(const CalendarWindow &, Completion) override { return {}; }
+};
+
 /// The library with a page of fifty blocks open, one of them a checklist.
 class Desk
 {
@@ -68,7 +76,8 @@ public:
 
     AppState &state() { return m_state; }
     const EditorServices &editorServices() const { return m_services.forEditor; }
-    TasksServices tasksServices() { return {m_services.scheduler, m_clock, m_preferences}; }
+    const Clock &clock() const { return m_clock; }
+    TasksServices tasksServices() { return {m_services.scheduler, m_clock, m_preferences, m_calendars}; }
     /// A block in the middle of the page.
     QString blockID() const { return m_state.openDocument()->blocks.at(5).id.toString(QUuid::WithoutBraces); }
 
@@ -77,13 +86,14 @@ private:
     SystemClock m_clock;
     NoFile m_file;
     Forgetful m_preferences;
+    NoCalendars m_calendars;
     AppState m_state;
 };
 
 void keyToAnnouncement(benchmark::State &state, bool isOpen)
 {
     Desk desk;
-    MainViewModel main(desk.state(), desk.editorServices());
+    MainViewModel main(desk.state(), desk.clock(), desk.editorServices());
     TasksViewModel tasks(desk.state(), desk.tasksServices());
     EditorViewModel &editor = *main.openEditor(main.openDocumentID());
     if (isOpen)
@@ -118,7 +128,7 @@ public:
 
 private:
     Desk m_desk;
-    MainViewModel m_main{m_desk.state(), m_desk.editorServices()};
+    MainViewModel m_main{m_desk.state(), m_desk.clock(), m_desk.editorServices()};
     TasksViewModel m_tasks{m_desk.state(), m_desk.tasksServices()};
     Stage m_stage;
 };

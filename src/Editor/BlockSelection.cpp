@@ -31,7 +31,7 @@ std::optional<QString> SelectedPart::text() const
 SelectedParts::SelectedParts(const Passages &passages, const BlockSelection &selection)
 {
     const auto [from, to] =
-        std::minmax(placeOf(selection.anchor, passages), placeOf(selection.head, passages));
+        std::minmax({placeOf(selection.anchor, passages), placeOf(selection.head, passages)});
     if (from.index < 0)
         return;
     for (qsizetype index = from.index; index <= to.index; ++index) {

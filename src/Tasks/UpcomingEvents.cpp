@@ -34,12 +34,17 @@ void UpcomingEvents::fetchEvents()
     });
 }
 
-void UpcomingEvents::assign(QList<CalendarEvent> events)
+void UpcomingEvents::assign(const QList<CalendarEvent> &events)
 {
-    std::ranges::stable_sort(events, {}, &CalendarEvent::start);
+    QList<const CalendarEvent *> sorted;
+    for (const CalendarEvent &event : events)
+        sorted.append(&event);
+    std::ranges::stable_sort(sorted, {}, &CalendarEvent::start);
     const int before = total();
     beginResetModel();
-    m_upcomingEvents = std::move(events);
+    m_upcomingEvents.clear();
+    for (const CalendarEvent *event : std::as_const(sorted))
+        m_upcomingEvents.append(*event);
     endResetModel();
     if (total() != before)
         Q_EMIT totalChanged();

@@ -40,7 +40,7 @@ Q_SIGNALS:
     void totalChanged();
 
 private:
-    void assign(QList<CalendarEvent> events);
+    void assign(const QList<CalendarEvent> &events);
 
     CalendarStore &m_eventStore;
     const Clock &m_clock;
