@@ -25,7 +25,8 @@ struct Terminal {
     }
     ~Terminal()
     {
-        std::fclose(stream);
+        if (stream)
+            std::fclose(stream);
         ::close(master);
     }
     Q_DISABLE_COPY_MOVE(Terminal)
@@ -104,6 +105,7 @@ private Q_SLOTS:
     void aShortWorkShowsNoProgress()
     {
         const Terminal terminal;
+        QVERIFY2(terminal.stream, "no pseudo terminal: is /dev/pts mounted?");
         {
             TerminalProgress progress(u"Exporting"_s, u"files"_s, terminal.stream);
             progress.show(1, 2);
@@ -114,6 +116,7 @@ private Q_SLOTS:
     void aLongWorkShowsItsProgressAndTakesItAway()
     {
         const Terminal terminal;
+        QVERIFY2(terminal.stream, "no pseudo terminal: is /dev/pts mounted?");
         {
             TerminalProgress progress(u"Exporting"_s, u"files"_s, terminal.stream);
             QTest::qSleep(450); // the patience of whoever waits
