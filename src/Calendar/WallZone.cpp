@@ -16,5 +16,5 @@ SystemZone::SystemZone(const QTimeZone &zone) : m_zone(zone), m_isUtc(zone == QT
 
 qint64 SystemZone::offsetAt(qint64 utc) const
 {
-    return m_isUtc ? 0 : m_zone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(utc, Qt::UTC));
+    return m_isUtc ? 0 : m_zone.offsetFromUtc(QDateTime::fromSecsSinceEpoch(utc, QTimeZone::utc()));
 }

@@ -3,11 +3,12 @@
 #include "Calendar/CalendarContents.h"
 
 #include <QDateTime>
+#include <QTimeZone>
 
 /// A calendar to be looked at through a window, with what is found told in few letters.
 struct CalendarDesk {
     QTimeZone zone = QTimeZone::utc();
-    QDateTime from = QDateTime(QDate(2026, 11, 21), QTime(9, 0), Qt::UTC);
+    QDateTime from = QDateTime(QDate(2026, 11, 21), QTime(9, 0), QTimeZone::utc());
     QDateTime to = from.addDays(1);
 
     CalendarWindow window() const { return {.from = timestamp(from), .to = timestamp(to), .zone = zone}; }

@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QElapsedTimer>
 #include <QTest>
+#include <QTimeZone>
 
 #include <map>
 
@@ -46,7 +47,7 @@ QString written(const std::vector<qint64> &times)
     std::map<int, std::map<int, QList<int>>> years;
     std::map<QDate, QStringList> hours;
     for (const qint64 time : times) {
-        const QDateTime moment = QDateTime::fromSecsSinceEpoch(time, Qt::UTC);
+        const QDateTime moment = QDateTime::fromSecsSinceEpoch(time, QTimeZone::utc());
         const QDate day = moment.date();
         hours[day] << moment.toString(u"HH:mm"_s);
         if (hours[day].size() == 1)

@@ -165,15 +165,15 @@ private Q_SLOTS:
     {
         desk.zone = QTimeZone("Europe/Berlin");
         const QByteArray day = eventText("SUMMARY:Fair\r\nDTSTART;VALUE=DATE:20261025");
-        desk.from = QDateTime(QDate(2026, 10, 25), QTime(22, 30), Qt::UTC);
+        desk.from = QDateTime(QDate(2026, 10, 25), QTime(22, 30), QTimeZone::utc());
         desk.to = desk.from.addSecs(60);
         QCOMPARE(desk.told(day), QStringList{u"25 00:00 Fair"_s});
-        desk.from = desk.to = QDateTime(QDate(2026, 10, 25), QTime(23, 0), Qt::UTC);
+        desk.from = desk.to = QDateTime(QDate(2026, 10, 25), QTime(23, 0), QTimeZone::utc());
         desk.to = desk.from.addSecs(60);
         QCOMPARE(desk.told(day), QStringList());
         const QByteArray night = eventText("SUMMARY:Night\r\nDTSTART;TZID=Europe/Berlin:20261024T220000\r\n"
                                            "DURATION:P1D");
-        desk.from = QDateTime(QDate(2026, 10, 25), QTime(20, 59), Qt::UTC); // 21:59 in Berlin
+        desk.from = QDateTime(QDate(2026, 10, 25), QTime(20, 59), QTimeZone::utc()); // 21:59 in Berlin
         desk.to = desk.from.addSecs(600);
         QCOMPARE(desk.told(night), QStringList{u"24 22:00 Night"_s});
         desk.from = desk.from.addSecs(60);
@@ -184,7 +184,7 @@ private Q_SLOTS:
     {
         const QByteArray flight = eventText("SUMMARY:Flight\r\nDTSTART;TZID=Europe/Berlin:20261120T230000\r\n"
                                             "DTEND;TZID=America/New_York:20261121T010000");
-        desk.from = QDateTime(QDate(2026, 11, 21), QTime(5, 59), Qt::UTC);
+        desk.from = QDateTime(QDate(2026, 11, 21), QTime(5, 59), QTimeZone::utc());
         QCOMPARE(desk.told(flight), QStringList{u"20 22:00 Flight"_s});
         desk.from = desk.from.addSecs(60);
         QCOMPARE(desk.told(flight), QStringList());
@@ -194,7 +194,7 @@ private Q_SLOTS:
     {
         const QByteArray trip = eventText("SUMMARY:Trip\r\nDTSTART:20261120T220000Z\r\n"
                                           "DTEND;TZID=Our Town:20261121T070000");
-        desk.from = QDateTime(QDate(2026, 11, 21), QTime(5, 59), Qt::UTC);
+        desk.from = QDateTime(QDate(2026, 11, 21), QTime(5, 59), QTimeZone::utc());
         QCOMPARE(desk.told(trip + described), QStringList{u"20 22:00 Trip"_s});
         desk.from = desk.from.addSecs(60);
         QCOMPARE(desk.told(trip + described), QStringList());

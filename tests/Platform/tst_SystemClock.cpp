@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QTest>
+#include <QTimeZone>
 
 class TestSystemClock : public QObject
 {
@@ -9,7 +10,7 @@ class TestSystemClock : public QObject
 
     static double secondsSinceReferenceDate()
     {
-        const QDateTime referenceDate(QDate(2001, 1, 1), QTime(0, 0), Qt::UTC);
+        const QDateTime referenceDate(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
         return double(referenceDate.msecsTo(QDateTime::currentDateTimeUtc())) / 1000;
     }
 
