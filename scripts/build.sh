@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Configures a preset where that is needed, then builds it. Usage: scripts/build.sh dev|release|asan
+# Configures a preset where that is needed, then builds it. Usage: scripts/build.sh dev|release|benchmarks|threads|fuzz
 set -euo pipefail
 
 cd "$(dirname "$0")/.."

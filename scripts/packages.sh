@@ -17,7 +17,7 @@ run=(
 display=(xvfb xauth imagemagick)
 benchmark=(libbenchmark-dev dbus)
 test=(
-    clang-format-19 clang-tidy-19 clang-19 libclang-rt-19-dev shellcheck git
+    clang-format-19 clang-tidy-19 clang-19 libclang-rt-19-dev llvm-19 lld shellcheck git
     desktop-file-utils appstream mandoc
     qml6-module-qttest
     python3 python3-pyatspi at-spi2-core dbus cmark evolution-data-server

@@ -2,7 +2,8 @@
 
 namespace
 {
-qint64 dayOf(qint64 wall)
+/// Counted from the first day of 1970.
+qint64 dayNumber(qint64 wall)
 {
     constexpr qint64 day = 86400;
     return wall / day - (wall % day < 0 ? 1 : 0);
@@ -12,16 +13,16 @@ qint64 dayOf(qint64 wall)
 void TimeSet::add(const CalendarTime &time)
 {
     if (time.isDay)
-        m_days.insert(dayOf(time.wall));
+        m_days.insert(dayNumber(time.wall));
     else if (m_start.isDay)
-        m_days.insert(dayOf(m_start.zone->wall(time.utc())));
+        m_days.insert(dayNumber(m_start.zone->wall(time.utc())));
     else
         m_moments.insert(time.utc());
 }
 
 bool TimeSet::contains(qint64 wall) const
 {
-    if (!m_days.empty() && m_days.contains(dayOf(wall)))
+    if (!m_days.empty() && m_days.contains(dayNumber(wall)))
         return true;
     return !m_moments.empty() && m_moments.contains(m_start.zone->utc(wall));
 }

@@ -15,7 +15,7 @@ using namespace std::chrono_literals;
 
 namespace
 {
-constexpr auto patience = 10s;
+constexpr auto longestWait = 10s;
 constexpr auto betweenTries = 20ms;
 static_assert(CommandLineAnswer::yours == InstanceAnswer::yours);
 
@@ -35,7 +35,7 @@ OnlyInstance::OnlyInstance(std::filesystem::path dataFolder) : m_folder(std::mov
 
 std::optional<CommandLineAnswer> OnlyInstance::yieldTo(const QStringList &arguments)
 {
-    const auto deadline = std::chrono::steady_clock::now() + patience;
+    const auto deadline = std::chrono::steady_clock::now() + longestWait;
     do {
         if (tryToLock() != Attempt::taken)
             return std::nullopt;

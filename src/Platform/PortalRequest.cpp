@@ -15,7 +15,7 @@ const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
 const QString chooserInterface = u"org.freedesktop.portal.FileChooser"_s;
 const QString requestInterface = u"org.freedesktop.portal.Request"_s;
 // Long enough to start the service; the question itself is answered at once.
-constexpr int patience = 10'000;
+constexpr int longestAnswer = 10'000;
 
 /// One way to tell which files are wanted, as the bus has it: 1 stands for a media type.
 struct Pattern {
@@ -136,7 +136,7 @@ void PortalRequest::send(const QString &parentWindow)
     auto question =
         QDBusMessage::createMethodCall(portalService, portalPath, chooserInterface, u"OpenFile"_s);
     question << parentWindow << titleFor(m_wanted) << optionsFor(m_wanted, token);
-    auto *reply = new QDBusPendingCallWatcher(m_bus.asyncCall(question, patience), this);
+    auto *reply = new QDBusPendingCallWatcher(m_bus.asyncCall(question, longestAnswer), this);
     connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply] {
         const QDBusPendingReply<QDBusObjectPath> handle = *reply;
         reply->deleteLater();

@@ -1,6 +1,5 @@
 #include "Calendar/CalendarDesk.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -98,7 +97,8 @@ private Q_SLOTS:
         const QByteArray text = calendarText(eventText("SUMMARY:Late\r\nDTSTART:20261121T200000Z") +
                                              eventText("SUMMARY:One\r\nUID:1\r\nDTSTART:20261121T100000Z") +
                                              eventText("SUMMARY:Other\r\nUID:2\r\nDTSTART:20261121T100000Z"));
-        const Timestamp ten = CalendarDesk::timestamp(QDateTime(QDate(2026, 11, 21), QTime(10, 0), QTimeZone::utc()));
+        const Timestamp ten =
+            CalendarDesk::timestamp(QDateTime(QDate(2026, 11, 21), QTime(10, 0), QTimeZone::utc()));
         const QList<CalendarEvent> expected{{.title = u"Late"_s, .start = ten + 36000},
                                             {.title = u"One"_s, .start = ten, .identifier = u"1"_s},
                                             {.title = u"Other"_s, .start = ten, .identifier = u"2"_s}};
@@ -185,5 +185,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestCalendarReader)
+PELKO_TEST(TestCalendarReader)
 #include "tst_CalendarReader.moc"

@@ -1,7 +1,7 @@
 #include "Calendar/CalendarDesk.h"
+#include "support/TestProgram.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -230,5 +230,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestEventSeries)
+PELKO_TEST(TestEventSeries)
 #include "tst_EventSeries.moc"

@@ -1,8 +1,8 @@
 #include "Calendar/RecurrenceRule.h"
+#include "support/TestProgram.h"
 
 #include <QDateTime>
 #include <QElapsedTimer>
-#include <QTest>
 #include <QTimeZone>
 
 #include <map>
@@ -361,5 +361,5 @@ void TestRecurrenceRule::addOwnRules()
         u"2026 Nov 2 at 09:00,17:00"_s);
 }
 
-QTEST_APPLESS_MAIN(TestRecurrenceRule)
+PELKO_TEST(TestRecurrenceRule)
 #include "tst_RecurrenceRule.moc"

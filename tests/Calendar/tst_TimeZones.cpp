@@ -1,6 +1,5 @@
 #include "Calendar/CalendarDesk.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -210,5 +209,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestTimeZones)
+PELKO_TEST(TestTimeZones)
 #include "tst_TimeZones.moc"

@@ -4,9 +4,9 @@
 #include "support/ManualDocumentFile.h"
 #include "support/ManualScheduler.h"
 #include "support/PageText.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -167,5 +167,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestBlockDrag)
+PELKO_TEST(TestBlockDrag)
 #include "tst_BlockDrag.moc"

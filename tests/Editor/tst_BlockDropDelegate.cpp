@@ -4,9 +4,9 @@
 #include "support/ManualDocumentFile.h"
 #include "support/ManualScheduler.h"
 #include "support/PageText.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -152,5 +152,5 @@ private Q_SLOTS:
     void thePointerShowsAMove() { QCOMPARE(over('B').dropUpdated(), DropProposal{DropOperation::move}); }
 };
 
-QTEST_GUILESS_MAIN(TestBlockDropDelegate)
+PELKO_TEST(TestBlockDropDelegate)
 #include "tst_BlockDropDelegate.moc"

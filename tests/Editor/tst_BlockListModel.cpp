@@ -2,13 +2,13 @@
 #include "Editor/PictureBytes.h"
 #include "support/ModelLog.h"
 #include "support/PageText.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
 #include <QCoreApplication>
 #include <QPointer>
 #include <QRandomGenerator>
 #include <QRegularExpression>
-#include <QTest>
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -375,5 +375,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestBlockListModel)
+PELKO_TEST(TestBlockListModel)
 #include "tst_BlockListModel.moc"

@@ -1,7 +1,6 @@
 #include "Editor/BlockOperations.h"
 #include "support/PageText.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -289,5 +288,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestBlockOperations)
+PELKO_TEST(TestBlockOperations)
 #include "tst_BlockOperations.moc"

@@ -1,7 +1,6 @@
 #include "Editor/EditHistory.h"
 #include "support/PageText.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -315,5 +314,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestEditHistory)
+PELKO_TEST(TestEditHistory)
 #include "tst_EditHistory.moc"

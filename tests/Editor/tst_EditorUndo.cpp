@@ -1,6 +1,5 @@
 #include "support/EditorDesk.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 #include <functional>
 
@@ -277,5 +276,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestEditorUndo)
+PELKO_TEST(TestEditorUndo)
 #include "tst_EditorUndo.moc"

@@ -7,11 +7,11 @@
 #include "support/ManualScheduler.h"
 #include "support/ModelLog.h"
 #include "support/PageText.h"
+#include "support/TestProgram.h"
 
 #include <QCoreApplication>
 #include <QPointer>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -746,5 +746,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestEditorViewModel)
+PELKO_TEST(TestEditorViewModel)
 #include "tst_EditorViewModel.moc"

@@ -1,8 +1,7 @@
 #include "Editor/BlockForms.h"
 #include "Editor/Excerpt.h"
 #include "support/PageText.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -101,5 +100,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestExcerpt)
+PELKO_TEST(TestExcerpt)
 #include "tst_Excerpt.moc"

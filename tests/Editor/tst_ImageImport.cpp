@@ -2,9 +2,9 @@
 #include "support/ManualDesktop.h"
 #include "support/ManualScheduler.h"
 #include "support/PageText.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -153,5 +153,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestImageImport)
+PELKO_TEST(TestImageImport)
 #include "tst_ImageImport.moc"

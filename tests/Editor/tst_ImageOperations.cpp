@@ -1,7 +1,6 @@
 #include "Editor/ImageOperations.h"
 #include "support/PageText.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -71,5 +70,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestImageOperations)
+PELKO_TEST(TestImageOperations)
 #include "tst_ImageOperations.moc"

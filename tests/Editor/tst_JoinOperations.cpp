@@ -1,7 +1,6 @@
 #include "Editor/JoinOperations.h"
 #include "support/PageText.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -283,5 +282,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestJoinOperations)
+PELKO_TEST(TestJoinOperations)
 #include "tst_JoinOperations.moc"

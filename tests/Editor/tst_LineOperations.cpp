@@ -1,7 +1,6 @@
 #include "Editor/LineOperations.h"
 #include "support/PageText.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -127,5 +126,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLineOperations)
+PELKO_TEST(TestLineOperations)
 #include "tst_LineOperations.moc"

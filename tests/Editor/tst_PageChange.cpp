@@ -1,7 +1,6 @@
 #include "Editor/PageChange.h"
 #include "support/PageText.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -134,5 +133,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPageChange)
+PELKO_TEST(TestPageChange)
 #include "tst_PageChange.moc"

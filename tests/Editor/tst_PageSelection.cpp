@@ -1,9 +1,9 @@
 #include "Editor/PageSelection.h"
 #include "support/ManualPasteboard.h"
 #include "support/PageText.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -149,5 +149,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestPageSelection)
+PELKO_TEST(TestPageSelection)
 #include "tst_PageSelection.moc"

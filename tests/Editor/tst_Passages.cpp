@@ -1,7 +1,6 @@
 #include "Editor/Passages.h"
 #include "support/PageText.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -80,5 +79,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestPassages)
+PELKO_TEST(TestPassages)
 #include "tst_Passages.moc"

@@ -1,7 +1,7 @@
 #include "Editor/RowDiff.h"
+#include "support/TestProgram.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -200,5 +200,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestRowDiff)
+PELKO_TEST(TestRowDiff)
 #include "tst_RowDiff.moc"

@@ -1,7 +1,6 @@
 #include "Editor/SelectionOperations.h"
 #include "support/PageText.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -215,5 +214,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestSelectionOperations)
+PELKO_TEST(TestSelectionOperations)
 #include "tst_SelectionOperations.moc"

@@ -1,6 +1,5 @@
 #include "Editor/TextChange.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -60,5 +59,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTextChange)
+PELKO_TEST(TestTextChange)
 #include "tst_TextChange.moc"

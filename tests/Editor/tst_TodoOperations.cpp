@@ -1,7 +1,6 @@
 #include "Editor/TodoOperations.h"
 #include "support/PageText.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -164,5 +163,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTodoOperations)
+PELKO_TEST(TestTodoOperations)
 #include "tst_TodoOperations.moc"

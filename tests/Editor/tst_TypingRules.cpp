@@ -1,8 +1,8 @@
 #include "Editor/TypingRules.h"
 #include "support/PageText.h"
+#include "support/TestProgram.h"
 
 #include <QSet>
-#include <QTest>
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -316,5 +316,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTypingRules)
+PELKO_TEST(TestTypingRules)
 #include "tst_TypingRules.moc"

@@ -1,8 +1,7 @@
 #include "Export/Export.h"
 #include "Export/PictureSuffix.h"
 #include "support/PageText.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -162,5 +161,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestExport)
+PELKO_TEST(TestExport)
 #include "tst_Export.moc"

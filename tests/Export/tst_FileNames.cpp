@@ -1,6 +1,5 @@
 #include "Export/FileNames.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -128,5 +127,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestFileNames)
+PELKO_TEST(TestFileNames)
 #include "tst_FileNames.moc"

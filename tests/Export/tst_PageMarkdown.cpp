@@ -1,7 +1,6 @@
 #include "Export/PageMarkdown.h"
 #include "support/PageText.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -170,5 +169,5 @@ a<b
     }
 };
 
-QTEST_APPLESS_MAIN(TestPageMarkdown)
+PELKO_TEST(TestPageMarkdown)
 #include "tst_PageMarkdown.moc"

@@ -1,6 +1,5 @@
 #include "Models/PelkoDocument.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -173,5 +172,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPelkoDocument)
+PELKO_TEST(TestPelkoDocument)
 #include "tst_PelkoDocument.moc"

@@ -1,7 +1,6 @@
 #include "Models/BlockType.h"
 #include "Models/Space.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -40,5 +39,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestRawValues)
+PELKO_TEST(TestRawValues)
 #include "tst_RawValues.moc"

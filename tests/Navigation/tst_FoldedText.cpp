@@ -1,6 +1,5 @@
 #include "Navigation/FoldedText.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -63,5 +62,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestFoldedText)
+PELKO_TEST(TestFoldedText)
 #include "tst_FoldedText.moc"

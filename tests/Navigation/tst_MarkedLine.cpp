@@ -1,8 +1,7 @@
 #include "Navigation/MarkedLine.h"
 #include "Navigation/PageTexts.h"
 #include "Navigation/SearchWords.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -131,5 +130,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMarkedLine)
+PELKO_TEST(TestMarkedLine)
 #include "tst_MarkedLine.moc"

@@ -1,4 +1,5 @@
 #include "Navigation/NavigationViewModel.h"
+#include "support/TestProgram.h"
 
 #include "Store/AppState.h"
 #include "support/DataFileText.h"
@@ -7,7 +8,6 @@
 #include "support/ManualScheduler.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -387,5 +387,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestNavigationViewModel)
+PELKO_TEST(TestNavigationViewModel)
 #include "tst_NavigationViewModel.moc"

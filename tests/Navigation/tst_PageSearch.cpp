@@ -1,7 +1,6 @@
 #include "Navigation/PageRow.h"
 #include "Navigation/PageSearch.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -172,5 +171,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPageSearch)
+PELKO_TEST(TestPageSearch)
 #include "tst_PageSearch.moc"

@@ -1,10 +1,10 @@
 #include "Platform/ApplicationOnBus.h"
 #include "Platform/PrivateBus.h"
+#include "support/TestProgram.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -60,5 +60,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestApplicationOnBus)
+PELKO_TEST(TestApplicationOnBus)
 #include "tst_ApplicationOnBus.moc"

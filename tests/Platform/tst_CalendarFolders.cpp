@@ -1,5 +1,6 @@
 #include "Platform/Calendar/KhalConfiguration.h"
 #include "Platform/CalendarFetch.h"
+#include "support/TestProgram.h"
 
 #include <sys/stat.h>
 
@@ -73,7 +74,7 @@ private Q_SLOTS:
         QTest::newRow("another section") << "[calendars]\n[default]\npath=/a"_ba << u""_s;
         QTest::newRow("home") << "[calendars]\npath=~/a\npath=$HOME/b\npath=${HOME}/c"_ba
                               << u"/h/a|/h/b|/h/c"_s;
-        QTest::newRow("bytes") << QByteArray("[calendars]\npath\0=/a\n\xff=", 25) << u""_s;
+        QTest::newRow("bytes") << QByteArray("[calendars]\npath\0=/a\n\xff=", 23) << u""_s;
     }
     void aConfigurationSaysWhereCalendarsAre()
     {
@@ -176,5 +177,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCalendarFolders)
+PELKO_TEST(TestCalendarFolders)
 #include "tst_CalendarFolders.moc"

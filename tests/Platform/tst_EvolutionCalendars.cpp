@@ -1,6 +1,7 @@
 #include "Platform/CalendarFetch.h"
 #include "Platform/FakeEvolution.h"
 #include "Platform/PrivateBus.h"
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -283,5 +284,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestEvolutionCalendars)
+PELKO_TEST(TestEvolutionCalendars)
 #include "tst_EvolutionCalendars.moc"

@@ -1,5 +1,6 @@
 #include "Platform/CalendarFetch.h"
 #include "Platform/PrivateBus.h"
+#include "support/TestProgram.h"
 
 #include <QDBusInterface>
 #include <QDBusReply>
@@ -138,5 +139,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestEvolutionDataServer)
+PELKO_TEST(TestEvolutionDataServer)
 #include "tst_EvolutionDataServer.moc"

@@ -1,9 +1,9 @@
 #include "Platform/ExportWriter.h"
 #include "Platform/LocalExportFolder.h"
+#include "support/TestProgram.h"
 
 #include <QSemaphore>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QThread>
 
 #include <fcntl.h>
@@ -355,5 +355,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestExportWriter)
+PELKO_TEST(TestExportWriter)
 #include "tst_ExportWriter.moc"

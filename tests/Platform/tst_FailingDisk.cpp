@@ -1,4 +1,5 @@
 #include "DataFolder.h"
+#include "support/TestProgram.h"
 
 #include <csignal>
 #include <fcntl.h>
@@ -203,5 +204,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestFailingDisk)
+PELKO_TEST(TestFailingDisk)
 #include "tst_FailingDisk.moc"

@@ -3,6 +3,7 @@
 #include "Platform/TerminalProgress.h"
 #include "support/DataFileText.h"
 #include "support/PageText.h"
+#include "support/TestProgram.h"
 
 #include <QTemporaryFile>
 
@@ -153,5 +154,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLibraryExport)
+PELKO_TEST(TestLibraryExport)
 #include "tst_LibraryExport.moc"

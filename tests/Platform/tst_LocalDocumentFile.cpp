@@ -1,5 +1,6 @@
 #include "DataFolder.h"
 #include "Unprivileged.h"
+#include "support/TestProgram.h"
 
 #include <sys/stat.h>
 
@@ -238,5 +239,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLocalDocumentFile)
+PELKO_TEST(TestLocalDocumentFile)
 #include "tst_LocalDocumentFile.moc"

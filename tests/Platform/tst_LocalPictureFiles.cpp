@@ -1,10 +1,10 @@
 #include "Platform/LocalPictureFiles.h"
 #include "Platform/Unprivileged.h"
+#include "support/TestProgram.h"
 
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <filesystem>
 #include <sys/socket.h>
@@ -152,5 +152,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLocalPictureFiles)
+PELKO_TEST(TestLocalPictureFiles)
 #include "tst_LocalPictureFiles.moc"

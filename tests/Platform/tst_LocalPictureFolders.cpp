@@ -1,9 +1,9 @@
 #include "Platform/LocalPictureFolders.h"
+#include "support/TestProgram.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <sys/stat.h>
 
@@ -67,5 +67,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestLocalPictureFolders)
+PELKO_TEST(TestLocalPictureFolders)
 #include "tst_LocalPictureFolders.moc"

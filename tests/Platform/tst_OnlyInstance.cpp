@@ -3,8 +3,7 @@
 #include "Platform/InstanceServer.h"
 #include "Platform/OnlyInstance.h"
 #include "Platform/Unprivileged.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 #include <csignal>
 #include <future>
@@ -294,5 +293,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestOnlyInstance)
+PELKO_TEST(TestOnlyInstance)
 #include "tst_OnlyInstance.moc"

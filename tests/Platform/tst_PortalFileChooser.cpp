@@ -1,12 +1,12 @@
 #include "Platform/PortalFileChooser.h"
 #include "support/ManualDesktop.h"
+#include "support/TestProgram.h"
 
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QProcess>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -220,5 +220,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPortalFileChooser)
+PELKO_TEST(TestPortalFileChooser)
 #include "tst_PortalFileChooser.moc"

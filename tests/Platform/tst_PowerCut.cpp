@@ -1,6 +1,7 @@
 #include "DataFolder.h"
 #include "Platform/LocalDocumentFile.h"
-#include "support/RecordedDisk.h"
+#include "Platform/RecordedDisk.h"
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -91,5 +92,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPowerCut)
+PELKO_TEST(TestPowerCut)
 #include "tst_PowerCut.moc"

@@ -1,6 +1,6 @@
 #include "Platform/QtScheduler.h"
+#include "support/TestProgram.h"
 
-#include <QTest>
 #include <QThread>
 
 using namespace std::chrono_literals;
@@ -91,5 +91,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestQtScheduler)
+PELKO_TEST(TestQtScheduler)
 #include "tst_QtScheduler.moc"

@@ -1,7 +1,7 @@
 #include "Platform/SceneGraphChoice.h"
+#include "support/TestProgram.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -75,5 +75,5 @@ private:
     QProcessEnvironment m_environment;
 };
 
-QTEST_GUILESS_MAIN(TestSceneGraphChoice)
+PELKO_TEST(TestSceneGraphChoice)
 #include "tst_SceneGraphChoice.moc"

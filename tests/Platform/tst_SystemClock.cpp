@@ -1,7 +1,7 @@
 #include "Platform/SystemClock.h"
+#include "support/TestProgram.h"
 
 #include <QDateTime>
-#include <QTest>
 #include <QTimeZone>
 
 class TestSystemClock : public QObject
@@ -26,5 +26,5 @@ private Q_SLOTS:
     void theTimeZoneIsTheUsers() { QCOMPARE(SystemClock().timeZone(), QTimeZone::systemTimeZone()); }
 };
 
-QTEST_GUILESS_MAIN(TestSystemClock)
+PELKO_TEST(TestSystemClock)
 #include "tst_SystemClock.moc"

@@ -1,6 +1,5 @@
 #include "Platform/SystemDataLocation.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using Directory = std::optional<std::filesystem::path>;
 
@@ -57,5 +56,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestSystemDataLocation)
+PELKO_TEST(TestSystemDataLocation)
 #include "tst_SystemDataLocation.moc"

@@ -1,10 +1,10 @@
 #include "Platform/SystemPasteboard.h"
+#include "support/TestProgram.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMimeData>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -94,5 +94,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestSystemPasteboard)
+PELKO_TEST(TestSystemPasteboard)
 #include "tst_SystemPasteboard.moc"

@@ -3,12 +3,12 @@
 #include "Platform/Tray/Tray.h"
 #include "Platform/Tray/TrayTypes.h"
 #include "Timers/TrayFace.h"
+#include "support/TestProgram.h"
 
 #include <QDBusContext>
 #include <QDBusInterface>
 #include <QDBusPendingReply>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 
@@ -308,5 +308,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestTray)
+PELKO_TEST(TestTray)
 #include "tst_Tray.moc"

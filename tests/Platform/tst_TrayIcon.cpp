@@ -1,8 +1,7 @@
 #include "Platform/Tray/TrayIcon.h"
 #include "Platform/Tray/TrayTypes.h"
 #include "Timers/TrayFace.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 namespace
 {
@@ -87,5 +86,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestTrayIcon)
+PELKO_TEST(TestTrayIcon)
 #include "tst_TrayIcon.moc"

@@ -1,9 +1,9 @@
 #include "Models/LocalTime.h"
 #include "Platform/UserPreferences.h"
+#include "support/TestProgram.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -120,5 +120,5 @@ void tst_UserPreferences::theFileLiesInTheFolderForConfiguration()
     QCOMPARE(kept.integer(u"pelko.currentStreak"_s), 7);
 }
 
-QTEST_GUILESS_MAIN(tst_UserPreferences)
+PELKO_TEST(tst_UserPreferences)
 #include "tst_UserPreferences.moc"

@@ -1,6 +1,6 @@
 #include "Platform/WindowStates.h"
+#include "support/TestProgram.h"
 
-#include <QTest>
 #include <QWindow>
 
 class TestWindowStates : public QObject
@@ -51,5 +51,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestWindowStates)
+PELKO_TEST(TestWindowStates)
 #include "tst_WindowStates.moc"

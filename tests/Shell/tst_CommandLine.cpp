@@ -1,6 +1,5 @@
 #include "Shell/CommandLine.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -133,5 +132,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestCommandLine)
+PELKO_TEST(TestCommandLine)
 #include "tst_CommandLine.moc"

@@ -1,8 +1,8 @@
 #include "Shell/CommandListModel.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -127,5 +127,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestCommandListModel)
+PELKO_TEST(TestCommandListModel)
 #include "tst_CommandListModel.moc"

@@ -9,9 +9,9 @@
 #include "support/ManualExportFolder.h"
 #include "support/ManualScheduler.h"
 #include "support/PageText.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace PageText;
 using namespace Qt::StringLiterals;
@@ -289,5 +289,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestExportViewModel)
+PELKO_TEST(TestExportViewModel)
 #include "tst_ExportViewModel.moc"

@@ -1,7 +1,7 @@
 #include "Shell/FolderChooser.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <map>
 
@@ -289,5 +289,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestFolderChooser)
+PELKO_TEST(TestFolderChooser)
 #include "tst_FolderChooser.moc"

@@ -1,8 +1,8 @@
 #include "Shell/LaunchSequence.h"
 #include "support/ManualScheduler.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace std::chrono_literals;
 
@@ -99,5 +99,5 @@ private:
     ManualScheduler m_scheduler;
 };
 
-QTEST_GUILESS_MAIN(TestLaunchSequence)
+PELKO_TEST(TestLaunchSequence)
 #include "tst_LaunchSequence.moc"

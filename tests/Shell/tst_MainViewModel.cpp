@@ -1,4 +1,5 @@
 #include "Shell/MainViewModel.h"
+#include "support/TestProgram.h"
 
 #include "Editor/EditorViewModel.h"
 #include "Store/AppState.h"
@@ -9,7 +10,6 @@
 #include "support/ManualScheduler.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -459,5 +459,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestMainViewModel)
+PELKO_TEST(TestMainViewModel)
 #include "tst_MainViewModel.moc"

@@ -1,8 +1,8 @@
 #include "Shell/MenuCommands.h"
+#include "support/TestProgram.h"
 
 #include <QKeySequence>
 #include <QSet>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -77,5 +77,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestMenuCommands)
+PELKO_TEST(TestMenuCommands)
 #include "tst_MenuCommands.moc"

@@ -1,4 +1,5 @@
 #include "Shell/RemoteControl.h"
+#include "support/TestProgram.h"
 
 #include "Store/AppState.h"
 #include "Timers/PomodoroTimer.h"
@@ -7,7 +8,6 @@
 #include "support/ManualScheduler.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 
@@ -132,5 +132,5 @@ private Q_SLOTS:
     void whatIsUnknownIsRefused() { QCOMPARE(m_program->answer({u"--frobnicate"_s}).exitCode, 2); }
 };
 
-QTEST_GUILESS_MAIN(TestRemoteControl)
+PELKO_TEST(TestRemoteControl)
 #include "tst_RemoteControl.moc"

@@ -1,4 +1,5 @@
 #include "Shell/ShellCommands.h"
+#include "support/TestProgram.h"
 
 #include "Navigation/NavigationViewModel.h"
 #include "Store/AppState.h"
@@ -7,7 +8,6 @@
 #include "support/ManualScheduler.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -222,5 +222,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestShellCommands)
+PELKO_TEST(TestShellCommands)
 #include "tst_ShellCommands.moc"

@@ -1,11 +1,11 @@
 #include "Shell/ShortcutSheet.h"
+#include "support/TestProgram.h"
 
 #include "Editor/TypingRules.h"
 #include "Models/PelkoDocument.h"
 #include "Shell/MenuCommands.h"
 
 #include <QKeySequence>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -97,5 +97,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestShortcutSheet)
+PELKO_TEST(TestShortcutSheet)
 #include "tst_ShortcutSheet.moc"

@@ -1,6 +1,5 @@
 #include "Shell/WindowTitle.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -43,5 +42,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestWindowTitle)
+PELKO_TEST(TestWindowTitle)
 #include "tst_WindowTitle.moc"

@@ -3,9 +3,9 @@
 #include "support/ManualClock.h"
 #include "support/ManualDocumentFile.h"
 #include "support/ManualScheduler.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <functional>
 
@@ -265,5 +265,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestAppState)
+PELKO_TEST(TestAppState)
 #include "tst_AppState.moc"

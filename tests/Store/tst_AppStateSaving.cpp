@@ -3,9 +3,9 @@
 #include "support/ManualClock.h"
 #include "support/ManualDocumentFile.h"
 #include "support/ManualScheduler.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -186,5 +186,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestAppStateSaving)
+PELKO_TEST(TestAppStateSaving)
 #include "tst_AppStateSaving.moc"

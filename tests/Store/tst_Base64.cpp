@@ -1,7 +1,7 @@
 #include "Store/Base64.h"
+#include "support/TestProgram.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 namespace
 {
@@ -96,5 +96,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestBase64)
+PELKO_TEST(TestBase64)
 #include "tst_Base64.moc"

@@ -1,7 +1,6 @@
 #include "Store/DocumentReader.h"
 #include "support/HandwrittenFile.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 #include <limits>
 
@@ -145,5 +144,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDocumentReader)
+PELKO_TEST(TestDocumentReader)
 #include "tst_DocumentReader.moc"

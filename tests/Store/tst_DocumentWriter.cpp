@@ -1,12 +1,12 @@
 #include "Store/DocumentWriter.h"
 #include "support/DataFileText.h"
+#include "support/TestProgram.h"
 #include "support/WrittenPages.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <bit>
 #include <cmath>
@@ -198,5 +198,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDocumentWriter)
+PELKO_TEST(TestDocumentWriter)
 #include "tst_DocumentWriter.moc"

@@ -1,7 +1,6 @@
 #include "support/DataFileText.h"
+#include "support/TestProgram.h"
 #include "support/WrittenPages.h"
-
-#include <QTest>
 
 #include <functional>
 
@@ -88,5 +87,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestDocumentWriterMemory)
+PELKO_TEST(TestDocumentWriterMemory)
 #include "tst_DocumentWriterMemory.moc"

@@ -1,7 +1,6 @@
 #include "Store/DocumentReader.h"
 #include "support/HandwrittenFile.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 /// Files that must not be read, not even in part.
 class TestHostileFiles : public QObject
@@ -140,5 +139,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestHostileFiles)
+PELKO_TEST(TestHostileFiles)
 #include "tst_HostileFiles.moc"

@@ -1,6 +1,5 @@
 #include "Store/UuidText.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -47,5 +46,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestUuidText)
+PELKO_TEST(TestUuidText)
 #include "tst_UuidText.moc"

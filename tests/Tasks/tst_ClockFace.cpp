@@ -1,7 +1,6 @@
 #include "Models/LocalTime.h"
 #include "Tasks/ClockFace.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -77,5 +76,5 @@ void tst_ClockFace::speaksTheLanguageOfTheUser()
     QCOMPARE(ClockFace::date(at(u"2026-03-07T07:42:00"_s), QTimeZone::utc(), german), u"Samstag, März 7"_s);
 }
 
-QTEST_GUILESS_MAIN(tst_ClockFace)
+PELKO_TEST(tst_ClockFace)
 #include "tst_ClockFace.moc"

@@ -1,7 +1,7 @@
 #include "Tasks/LibrarySummary.h"
+#include "support/TestProgram.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -180,5 +180,5 @@ void tst_LibrarySummary::isTheSameAsOneMadeAfreshWhateverHappens()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_LibrarySummary)
+PELKO_TEST(tst_LibrarySummary)
 #include "tst_LibrarySummary.moc"

@@ -1,6 +1,5 @@
 #include "Tasks/TaskList.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -110,5 +109,5 @@ void tst_TaskList::aTaskKnowsItsBlockAndItsPage()
     }
 }
 
-QTEST_GUILESS_MAIN(tst_TaskList)
+PELKO_TEST(tst_TaskList)
 #include "tst_TaskList.moc"

@@ -1,6 +1,5 @@
 #include "Tasks/TaskOperations.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -155,5 +154,5 @@ void tst_TaskOperations::addMakesAChecklistAtTheEnd()
     QCOMPARE(todos(twice, 2)[1].text, u"tea"_s);
 }
 
-QTEST_GUILESS_MAIN(tst_TaskOperations)
+PELKO_TEST(tst_TaskOperations)
 #include "tst_TaskOperations.moc"

@@ -6,9 +6,9 @@
 #include "support/ManualDocumentFile.h"
 #include "support/ManualPreferences.h"
 #include "support/ManualScheduler.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 
@@ -381,5 +381,5 @@ void tst_TasksPanelViewModel::aPanelThatIsGoneNoLongerTicks()
     QCOMPARE(desk.preferences.writes, 0);
 }
 
-QTEST_GUILESS_MAIN(tst_TasksPanelViewModel)
+PELKO_TEST(tst_TasksPanelViewModel)
 #include "tst_TasksPanelViewModel.moc"

@@ -6,10 +6,10 @@
 #include "support/ManualDocumentFile.h"
 #include "support/ManualPreferences.h"
 #include "support/ManualScheduler.h"
+#include "support/TestProgram.h"
 
 #include <QPointer>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -144,5 +144,5 @@ void tst_TasksViewModel::eachOpeningAsksForTheEventsAnew()
     QCOMPARE(window.tasks.panel()->upcomingEvents()->total(), 0);
 }
 
-QTEST_GUILESS_MAIN(tst_TasksViewModel)
+PELKO_TEST(tst_TasksViewModel)
 #include "tst_TasksViewModel.moc"

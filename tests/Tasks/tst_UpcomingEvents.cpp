@@ -2,9 +2,9 @@
 #include "Tasks/UpcomingEvents.h"
 #include "support/ManualCalendarStore.h"
 #include "support/ManualClock.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -188,5 +188,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_APPLESS_MAIN(TestUpcomingEvents)
+PELKO_TEST(TestUpcomingEvents)
 #include "tst_UpcomingEvents.moc"

@@ -2,8 +2,7 @@
 #include "Tasks/WordGoal.h"
 #include "Tasks/WritingStreak.h"
 #include "support/ManualPreferences.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 #include <limits>
 
@@ -229,5 +228,5 @@ void tst_WritingStreak::theGoalIsReachedAtFiveHundredAndStaysReached()
     QCOMPARE(WordGoal::progress(1000), 1.0);
 }
 
-QTEST_GUILESS_MAIN(tst_WritingStreak)
+PELKO_TEST(tst_WritingStreak)
 #include "tst_WritingStreak.moc"

@@ -1,6 +1,5 @@
 #include "Theme/PelkoVoice.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 #include <array>
 
@@ -88,5 +87,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPelkoVoice)
+PELKO_TEST(TestPelkoVoice)
 #include "tst_PelkoVoice.moc"

@@ -1,6 +1,5 @@
 #include "Theme/PelkoAnimation.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 #include <cmath>
 
@@ -196,5 +195,5 @@ void tst_Spring::presetsGrowSlowerFromMicroToSettle()
     QVERIFY(PelkoAnimation::bouncySpring.response < PelkoAnimation::settleSpring.response);
 }
 
-QTEST_APPLESS_MAIN(tst_Spring)
+PELKO_TEST(tst_Spring)
 #include "tst_Spring.moc"

@@ -1,8 +1,8 @@
 #include "Timers/FlowTimer.h"
 #include "support/ManualScheduler.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 
@@ -133,5 +133,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestFlowTimer)
+PELKO_TEST(TestFlowTimer)
 #include "tst_FlowTimer.moc"

@@ -1,6 +1,5 @@
 #include "Timers/PanelPlace.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 class TestPanelPlace : public QObject
 {
@@ -42,5 +41,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPanelPlace)
+PELKO_TEST(TestPanelPlace)
 #include "tst_PanelPlace.moc"

@@ -1,8 +1,8 @@
 #include "Timers/PomodoroTimer.h"
 #include "support/ManualScheduler.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 
@@ -202,5 +202,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPomodoroTimer)
+PELKO_TEST(TestPomodoroTimer)
 #include "tst_PomodoroTimer.moc"

@@ -5,9 +5,9 @@
 #include "support/ManualDocumentFile.h"
 #include "support/ManualPasteboard.h"
 #include "support/ManualScheduler.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 
@@ -253,5 +253,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPomodoroViewModel)
+PELKO_TEST(TestPomodoroViewModel)
 #include "tst_PomodoroViewModel.moc"

@@ -3,8 +3,7 @@
 #include "support/ManualClock.h"
 #include "support/ManualDocumentFile.h"
 #include "support/ManualScheduler.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 
@@ -104,5 +103,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestRecentSparks)
+PELKO_TEST(TestRecentSparks)
 #include "tst_RecentSparks.moc"

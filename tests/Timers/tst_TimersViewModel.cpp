@@ -5,9 +5,9 @@
 #include "support/ManualDocumentFile.h"
 #include "support/ManualPasteboard.h"
 #include "support/ManualScheduler.h"
+#include "support/TestProgram.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <memory>
 
@@ -123,5 +123,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTimersViewModel)
+PELKO_TEST(TestTimersViewModel)
 #include "tst_TimersViewModel.moc"

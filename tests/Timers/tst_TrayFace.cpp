@@ -1,8 +1,7 @@
 #include "Timers/PomodoroTimer.h"
 #include "Timers/TrayFace.h"
 #include "support/ManualScheduler.h"
-
-#include <QTest>
+#include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -97,5 +96,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTrayFace)
+PELKO_TEST(TestTrayFace)
 #include "tst_TrayFace.moc"

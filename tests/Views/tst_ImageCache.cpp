@@ -1,9 +1,9 @@
 #include "Views/Editor/ImageCache.h"
+#include "support/TestProgram.h"
 
 #include <QBuffer>
 #include <QColor>
 #include <QSignalSpy>
-#include <QTest>
 
 class TestImageCache : public QObject
 {
@@ -131,5 +131,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestImageCache)
+PELKO_TEST(TestImageCache)
 #include "tst_ImageCache.moc"

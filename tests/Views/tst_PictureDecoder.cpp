@@ -1,4 +1,5 @@
 #include "Views/Editor/PictureDecoder.h"
+#include "support/TestProgram.h"
 
 #include "Views/Editor/DrawingInspector.h"
 
@@ -8,7 +9,6 @@
 #include <QImageReader>
 #include <QImageWriter>
 #include <QPainter>
-#include <QTest>
 #include <QtEndian>
 
 using namespace Qt::StringLiterals;
@@ -214,5 +214,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestPictureDecoder)
+PELKO_TEST(TestPictureDecoder)
 #include "tst_PictureDecoder.moc"

@@ -18,7 +18,7 @@ namespace
 /// A PNG of 400 by 200 pixels in that colour, or the text itself where it names none.
 QByteArray bytesOf(const QString &picture)
 {
-    if (!QColor::isValidColor(picture))
+    if (!QColor::isValidColorName(picture))
         return picture.toUtf8();
     QImage image(400, 200, QImage::Format_RGB32);
     image.fill(QColor(picture));

@@ -1,4 +1,4 @@
-#include "support/RecordedDisk.h"
+#include "Platform/RecordedDisk.h"
 
 #include <sys/syscall.h>
 #include <unistd.h>

@@ -1,0 +1,15 @@
+#include "support/TestProgram.h"
+
+#ifdef QT_GUI_LIB
+#    include <QGuiApplication>
+using Application = QGuiApplication;
+#else
+#    include <QCoreApplication>
+using Application = QCoreApplication;
+#endif
+
+int main(int argc, char **argv)
+{
+    const Application application(argc, argv);
+    return TestProgram::run(argc, argv);
+}
