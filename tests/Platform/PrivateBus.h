@@ -26,6 +26,8 @@ public:
         m_daemon.waitForFinished();
     }
 
+    QString address() const { return m_address; }
+
     QDBusConnection connection(const QString &name)
     {
         m_names.append(name);

@@ -25,6 +25,7 @@ public Q_SLOTS:
         qmlRegisterType<EditorBench>("PelkoTest", 1, 0, "EditorBench");
         qmlRegisterType<ExportBench>("PelkoTest", 1, 0, "ExportBench");
         qmlRegisterType<ShellFixture>("PelkoTest", 1, 0, "ShellFixture");
+        qmlRegisterType<ShellWithMenuBar>("PelkoTest", 1, 0, "ShellWithMenuBar");
         qmlRegisterType<TasksBench>("PelkoTest", 1, 0, "TasksBench");
         qmlRegisterType<TimersBench>("PelkoTest", 1, 0, "TimersBench");
     }

@@ -101,6 +101,7 @@ FocusScope {
         anchors { left: parent.left; right: parent.right; top: parent.top }
         focusFade: focusFade
         menuOpen: menu.open
+        offersMenu: !root.main.commands.hasMenuBar
         timers: root.timers
         onFullScreenLeft: root.main.commands.run("fullScreen")
         onMenuRequested: menu.popUpBelow(strip.menuButton)
