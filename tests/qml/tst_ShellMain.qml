@@ -187,6 +187,27 @@ Item {
             compare(app.documentCount(), 1)
         }
 
+        function test_theKeyOfTheMenuClosesItAgain() {
+            const button = named(root, "Start Writing")
+            for (const walked of [false, true]) {
+                keyClick(Qt.Key_F10)
+                verify(named(root, "About Pelko"))
+                if (walked)
+                    keyClick(Qt.Key_Down)
+                keyClick(Qt.Key_F10)
+                tryVerify(() => !named(root, "About Pelko"))
+                verify(button.activeFocus)
+            }
+        }
+
+        function test_theButtonOfTheMenuClosesItAgain() {
+            const button = named(root, "Menu")
+            button.Accessible.pressAction()
+            verify(named(root, "About Pelko"))
+            button.Accessible.pressAction()
+            tryVerify(() => !named(root, "About Pelko"))
+        }
+
         function menuRows() {
             const rows = []
             const gather = item => {
