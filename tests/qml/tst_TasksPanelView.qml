@@ -219,6 +219,15 @@ Item {
             compare(kind(CountBadge).count, 1)
         }
 
+        function test_the_other_buttons_of_the_pointer_change_no_task() {
+            open([["Packing list", "-socks", "xpens"]])
+            for (const button of [Qt.RightButton, Qt.MiddleButton]) {
+                mouseClick(called("socks"), 5, 5, button)
+                mouseClick(called("Delete socks"), 5, 5, button)
+            }
+            compare(bench.tasksOf(0), ["-socks", "xpens"])
+        }
+
         function test_a_tick_is_what_the_store_says() {
             open([["Packing list", "-socks"]])
             const toggle = called("socks")
