@@ -74,6 +74,9 @@ public:
         m_appState.setOpenDocumentID(page.id);
     }
 
+    /// The chooser of pictures that is open gives up.
+    Q_INVOKABLE void failToChoose(const QString &why) { m_desktop.fileChooser.answer(FileError{why}); }
+
     Q_INVOKABLE void failToSave()
     {
         m_file.writeError = QStringLiteral("No space left on device");
