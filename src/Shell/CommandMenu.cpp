@@ -2,12 +2,13 @@
 
 #include <algorithm>
 #include <ranges>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
-CommandMenu::CommandMenu(CommandListModel &commands, const QString &title, QObject *parent)
+CommandMenu::CommandMenu(CommandListModel &commands, QString title, QObject *parent)
     : QSortFilterProxyModel(parent)
-    , m_title(title)
+    , m_title(std::move(title))
 {
     setSourceModel(&commands);
 }

@@ -12,7 +12,7 @@ class CommandMenu : public QSortFilterProxyModel
     Q_PROPERTY(QString title READ title CONSTANT)
 
 public:
-    CommandMenu(CommandListModel &commands, const QString &title, QObject *parent = nullptr);
+    CommandMenu(CommandListModel &commands, QString title, QObject *parent = nullptr);
 
     QString title() const { return m_title; }
 
