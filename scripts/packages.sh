@@ -19,7 +19,7 @@ benchmark=(libbenchmark-dev dbus)
 test=(
     clang-format-19 clang-tidy-19 clang-19 libclang-rt-19-dev llvm-19 lld shellcheck git
     desktop-file-utils appstream mandoc
-    qml6-module-qttest
+    qml6-module-qttest qml6-module-qt-labs-platform
     python3 python3-pyatspi at-spi2-core dbus cmark evolution-data-server
     xvfb openbox xdotool x11-utils x11-apps xclip imagemagick
 )

@@ -5,6 +5,7 @@
 #include "Views/TakeDown.h"
 
 #include <QGuiApplication>
+#include <QOperatingSystemVersion>
 #include <QQuickWindow>
 #include <QtQml/QQmlExtensionPlugin>
 
@@ -39,6 +40,12 @@ PelkoApp::PelkoApp()
                                    {u"folderChooser"_s, QVariant::fromValue(&m_folderChooser)}});
     m_engine.load(QUrl(u"qrc:/qt/qml/Pelko/Views/Shell/PelkoWindow.qml"_s));
     followWindow();
+}
+
+MenuPlace PelkoApp::menuPlace()
+{
+    const bool isOnMac = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::MacOS;
+    return isOnMac ? MenuPlace::menuBar : MenuPlace::window;
 }
 
 /// The name under which a chooser of the desktop's own knows the window it belongs to.

@@ -38,6 +38,7 @@ public:
     ~PelkoApp();
 
 private:
+    static MenuPlace menuPlace();
     static QString activeWindowName();
     std::filesystem::path dataFolder() const;
     QQuickWindow *window() const;
@@ -63,7 +64,8 @@ private:
     FolderChooser m_folderChooser{m_pictureFolders};
     PortalFileChooser m_fileChooser{QDBusConnection::sessionBus(), activeWindowName, m_folderChooser};
     AppState m_appState{m_scheduler, m_clock, m_documentFile};
-    MainViewModel m_main{m_appState, m_clock, {m_scheduler, m_pasteboard, m_fileChooser, m_pictureFiles}};
+    MainViewModel m_main{
+        m_appState, m_clock, {m_scheduler, m_pasteboard, m_fileChooser, m_pictureFiles}, menuPlace()};
     ExportViewModel m_exports{m_appState, {m_scheduler, m_fileChooser, m_exportFolder, m_pasteboard}};
     LaunchSequence m_launch{m_scheduler};
     PomodoroTimer m_pomodoroTimer{m_scheduler};

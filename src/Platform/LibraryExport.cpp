@@ -3,6 +3,7 @@
 #include "Export/Export.h"
 #include "Platform/ExportWriter.h"
 #include "Platform/LocalDocumentFile.h"
+#include "Platform/SystemClock.h"
 #include "Platform/TerminalProgress.h"
 #include "Store/DocumentReader.h"
 
@@ -44,7 +45,8 @@ QString refusal(const QStringList &taken)
 ExportFolder::Outcome write(const QList<PelkoDocument> &documents, const ExportCommand &command)
 {
     const std::filesystem::path folder = command.folder.toLocal8Bit().toStdString();
-    TerminalProgress line(u"Exporting"_s, u"files"_s);
+    const SystemClock clock;
+    TerminalProgress line(u"Exporting"_s, u"files"_s, clock);
     return ExportWriter(folder, command.existing)
         .write(Export::library(documents), [&line](qsizetype written, qsizetype all) {
             line.show(written, all);

@@ -6,17 +6,18 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr qint64 patience = 400;     // milliseconds in which most work is done
-constexpr qint64 betweenLooks = 100; // as often as anybody can read
+constexpr Timestamp patience = 0.4;     // seconds in which most work is done
+constexpr Timestamp betweenLooks = 0.1; // as often as anybody can read
 } // namespace
 
-TerminalProgress::TerminalProgress(QString verb, QString noun, std::FILE *stream)
+TerminalProgress::TerminalProgress(QString verb, QString noun, const Clock &clock, std::FILE *stream)
     : m_verb(std::move(verb))
     , m_noun(std::move(noun))
+    , m_clock(clock)
     , m_stream(stream)
     , m_isTerminal(::isatty(::fileno(stream)) == 1)
+    , m_lastShown(clock.now())
 {
-    m_sinceShown.start();
 }
 
 TerminalProgress::~TerminalProgress()
@@ -29,10 +30,11 @@ TerminalProgress::~TerminalProgress()
 
 void TerminalProgress::show(qsizetype done, qsizetype all)
 {
-    if (!m_isTerminal || m_sinceShown.elapsed() < (m_isShown ? betweenLooks : patience))
+    const Timestamp now = m_clock.now();
+    if (!m_isTerminal || now - m_lastShown < (m_isShown ? betweenLooks : patience))
         return;
     m_isShown = true;
-    m_sinceShown.restart();
+    m_lastShown = now;
     const QString line =
         u"\r%1 %2 of %3 %4"_s.arg(m_verb, QString::number(done), QString::number(all), m_noun);
     std::fputs(line.toLocal8Bit().constData(), m_stream);

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QElapsedTimer>
+#include "Services/Clock.h"
+
 #include <QString>
 
 #include <cstdio>
@@ -11,7 +12,7 @@ class TerminalProgress
 {
 public:
     /// As in "Exporting 12 of 100 files".
-    TerminalProgress(QString verb, QString noun, std::FILE *stream = stderr);
+    TerminalProgress(QString verb, QString noun, const Clock &clock, std::FILE *stream = stderr);
     ~TerminalProgress();
     Q_DISABLE_COPY_MOVE(TerminalProgress)
 
@@ -20,8 +21,9 @@ public:
 private:
     const QString m_verb;
     const QString m_noun;
+    const Clock &m_clock;
     std::FILE *const m_stream;
     const bool m_isTerminal;
-    QElapsedTimer m_sinceShown;
+    Timestamp m_lastShown;
     bool m_isShown = false;
 };

@@ -4,13 +4,30 @@
 
 using namespace Qt::StringLiterals;
 
+namespace
+{
+QString systemRole(CommandRole role)
+{
+    switch (role) {
+    case CommandRole::about:
+        return u"about"_s;
+    case CommandRole::quit:
+        return u"quit"_s;
+    case CommandRole::ordinary:
+    case CommandRole::windowMenu:
+        break;
+    }
+    return {};
+}
+} // namespace
+
 CommandListModel::CommandListModel(const QList<MenuCommand> &commands, QObject *parent)
     : QAbstractListModel(parent)
 {
     for (const MenuCommand &command : commands) {
         const bool beginsGroup = !m_rows.isEmpty() && command.group != m_rows.last().command.group;
         if (beginsGroup && command.group != CommandGroup::none)
-            m_rows.append(Row{.isSeparator = true});
+            m_rows.append(Row{.command = {.group = command.group}, .isSeparator = true});
         m_rows.append(Row{.command = command});
     }
 }
@@ -34,6 +51,10 @@ QVariant CommandListModel::data(const QModelIndex &index, int role) const
         return row.command.symbol;
     case ShortcutRole:
         return row.command.shortcut;
+    case MenuTitleRole:
+        return menuTitle(row.command.group);
+    case SystemRole:
+        return systemRole(row.command.role);
     case IsInMenuRole:
         return row.command.group != CommandGroup::none;
     case IsEnabledRole:
@@ -49,9 +70,12 @@ QVariant CommandListModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> CommandListModel::roleNames() const
 {
-    return {{KindRole, "kind"},           {CommandIDRole, "commandID"},   {TitleRole, "title"},
-            {SymbolRole, "symbol"},       {ShortcutRole, "shortcut"},     {IsInMenuRole, "isInMenu"},
-            {IsEnabledRole, "isEnabled"}, {IsTickableRole, "isTickable"}, {IsTickedRole, "isTicked"}};
+    return {{KindRole, "kind"},           {CommandIDRole, "commandID"},
+            {TitleRole, "title"},         {SymbolRole, "symbol"},
+            {ShortcutRole, "shortcut"},   {MenuTitleRole, "menuTitle"},
+            {SystemRole, "systemRole"},   {IsInMenuRole, "isInMenu"},
+            {IsEnabledRole, "isEnabled"}, {IsTickableRole, "isTickable"},
+            {IsTickedRole, "isTicked"}};
 }
 
 bool CommandListModel::isEnabled(const QString &id) const

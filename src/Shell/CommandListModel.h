@@ -29,6 +29,10 @@ public:
         TitleRole,
         SymbolRole,
         ShortcutRole,
+        /// Of the menu that it belongs to in a menu bar.
+        MenuTitleRole,
+        /// "about" or "quit" where the system has a place for it.
+        SystemRole,
         /// Whether it has a place in the menu and not only a key.
         IsInMenuRole,
         IsEnabledRole,

@@ -9,11 +9,12 @@
 using namespace Qt::StringLiterals;
 
 MainViewModel::MainViewModel(AppState &appState, const Clock &clock, const EditorServices &services,
-                             QObject *parent)
+                             MenuPlace menuPlace, QObject *parent)
     : QObject(parent)
     , m_appState(appState)
     , m_services(services)
     , m_navigation(appState, clock)
+    , m_commands(appState, m_navigation, menuPlace)
 {
     greet();
     followStore();

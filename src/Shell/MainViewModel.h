@@ -37,7 +37,7 @@ class MainViewModel : public QObject
 
 public:
     MainViewModel(AppState &appState, const Clock &clock, const EditorServices &services,
-                  QObject *parent = nullptr);
+                  MenuPlace menuPlace = MenuPlace::window, QObject *parent = nullptr);
 
     /// Of the document in the editor; empty when the empty state is shown.
     QString openDocumentID() const { return m_openDocumentID; }
@@ -109,7 +109,7 @@ private:
     AppState &m_appState;
     const EditorServices m_services;
     NavigationViewModel m_navigation;
-    ShellCommands m_commands{m_appState, m_navigation};
+    ShellCommands m_commands;
     QPointer<EditorViewModel> m_editor;
     QString m_openDocumentID;
     QString m_windowTitle;

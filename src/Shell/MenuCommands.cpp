@@ -1,10 +1,14 @@
 #include "Shell/MenuCommands.h"
 
+#include <algorithm>
+#include <iterator>
+
 using namespace Qt::StringLiterals;
 
 const QList<MenuCommand> &menuCommands()
 {
     using Group = CommandGroup;
+    using Role = CommandRole;
     static const QList<MenuCommand> commands{
         {u"newDocument"_s, u"New Document"_s, u"plus"_s, u"Ctrl+N"_s, Group::documents},
         {u"goTo"_s, u"Go to…"_s, u"rectangle.stack"_s, u"Ctrl+K"_s, Group::documents},
@@ -20,9 +24,47 @@ const QList<MenuCommand> &menuCommands()
          Group::exports},
         {u"copyAsMarkdown"_s, u"Copy page as Markdown"_s, u"doc.on.doc"_s, u"Ctrl+Shift+C"_s, Group::exports},
         {u"shortcuts"_s, u"Keyboard Shortcuts"_s, u"keyboard"_s, u"Ctrl+/"_s, Group::program},
-        {u"about"_s, u"About Pelko"_s, u"info.circle"_s, {}, Group::program},
-        {u"quit"_s, u"Quit"_s, u"power"_s, u"Ctrl+Q"_s, Group::program},
-        {u"appMenu"_s, u"App menu"_s, {}, u"F10"_s, Group::none},
+        {u"about"_s, u"About Pelko"_s, u"info.circle"_s, {}, Group::program, Role::about},
+        {u"quit"_s, u"Quit"_s, u"power"_s, u"Ctrl+Q"_s, Group::program, Role::quit},
+        {u"appMenu"_s, u"App menu"_s, {}, u"F10"_s, Group::none, Role::windowMenu},
     };
     return commands;
+}
+
+QList<MenuCommand> menuCommands(MenuPlace place)
+{
+    QList<MenuCommand> commands;
+    std::ranges::copy_if(menuCommands(), std::back_inserter(commands), [place](const MenuCommand &command) {
+        return place == MenuPlace::window || command.role != CommandRole::windowMenu;
+    });
+    return commands;
+}
+
+QString menuTitle(CommandGroup group)
+{
+    switch (group) {
+    case CommandGroup::documents:
+    case CommandGroup::exports:
+        return u"File"_s;
+    case CommandGroup::spaces:
+        return u"Spaces"_s;
+    case CommandGroup::views:
+        return u"View"_s;
+    case CommandGroup::program:
+        return u"Help"_s;
+    case CommandGroup::none:
+        break;
+    }
+    return {};
+}
+
+QStringList menuTitles()
+{
+    QStringList titles;
+    for (const MenuCommand &command : menuCommands()) {
+        const QString title = menuTitle(command.group);
+        if (!title.isEmpty() && !titles.contains(title))
+            titles.append(title);
+    }
+    return titles;
 }

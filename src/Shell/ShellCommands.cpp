@@ -6,10 +6,12 @@
 
 using namespace Qt::StringLiterals;
 
-ShellCommands::ShellCommands(AppState &appState, NavigationViewModel &navigation, QObject *parent)
+ShellCommands::ShellCommands(AppState &appState, NavigationViewModel &navigation, MenuPlace place,
+                             QObject *parent)
     : QObject(parent)
     , m_appState(appState)
     , m_navigation(navigation)
+    , m_place(place)
 {
     bind(u"newDocument"_s, {.run = [this] { m_navigation.createDocument(); }});
     bind(u"shortcuts"_s, {.run = [this] { setShowShortcuts(true); }});
@@ -19,6 +21,8 @@ ShellCommands::ShellCommands(AppState &appState, NavigationViewModel &navigation
     bindSpaces();
     bindRequests();
     followStore();
+    if (hasMenuBar())
+        fillMenuBar();
 }
 
 void ShellCommands::bindViews()
@@ -46,11 +50,18 @@ void ShellCommands::bindSpaces()
 
 void ShellCommands::bindRequests()
 {
-    bind(u"appMenu"_s, {.run = [this] { Q_EMIT menuRequested(); }});
+    if (!hasMenuBar())
+        bind(u"appMenu"_s, {.run = [this] { Q_EMIT menuRequested(); }});
     bind(u"pomodoro"_s, {.run = [this] { Q_EMIT pomodoroRequested(); }});
     bind(u"fullScreen"_s,
          {.run = [this] { Q_EMIT fullScreenToggled(); }, .isTicked = [this] { return m_isFullScreen; }});
     bind(u"quit"_s, {.run = [this] { Q_EMIT quitRequested(); }});
+}
+
+void ShellCommands::fillMenuBar()
+{
+    for (const QString &title : menuTitles())
+        m_menus.append(QVariant::fromValue(new CommandMenu(m_list, title, this)));
 }
 
 void ShellCommands::followStore()

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "Shell/CommandListModel.h"
+#include "Shell/CommandMenu.h"
 #include "Shell/ShortcutSheet.h"
 
 #include <QObject>
+#include <QVariantList>
 
 class AppState;
 class NavigationViewModel;
@@ -14,19 +15,27 @@ class ShellCommands : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(CommandListModel *list READ list CONSTANT)
+    Q_PROPERTY(QVariantList menus READ menus CONSTANT)
+    Q_PROPERTY(bool hasMenuBar READ hasMenuBar CONSTANT)
     Q_PROPERTY(bool showShortcuts READ showShortcuts NOTIFY showShortcutsChanged)
     Q_PROPERTY(QList<ShortcutLine> commandKeys READ commandKeys CONSTANT)
     Q_PROPERTY(QList<ShortcutLine> writingKeys READ writingKeys CONSTANT)
 
 public:
-    ShellCommands(AppState &appState, NavigationViewModel &navigation, QObject *parent = nullptr);
+    ShellCommands(AppState &appState, NavigationViewModel &navigation, MenuPlace place = MenuPlace::window,
+                  QObject *parent = nullptr);
 
     /// For the menu, for the keys, and for whoever binds a command of his own.
     CommandListModel *list() { return &m_list; }
 
+    /// The system keeps a menu bar, which offers the commands and gives them their keys.
+    bool hasMenuBar() const { return m_place == MenuPlace::menuBar; }
+    /// The menus of that bar, each a `CommandMenu`.
+    QVariantList menus() const { return m_menus; }
+
     /// The sheet that lists all keys is open.
     bool showShortcuts() const { return m_showShortcuts; }
-    QList<ShortcutLine> commandKeys() const { return ::commandKeys(); }
+    QList<ShortcutLine> commandKeys() const { return ::commandKeys(m_place); }
     QList<ShortcutLine> writingKeys() const { return ::writingKeys(); }
 
     /// Gives the command of that id. One that is unknown or disabled does nothing.
@@ -47,12 +56,15 @@ private:
     void bindViews();
     void bindSpaces();
     void bindRequests();
+    void fillMenuBar();
     void setShowShortcuts(bool shown);
     void bind(const QString &id, CommandDeed deed) { m_list.bind(id, std::move(deed)); }
 
     AppState &m_appState;
     NavigationViewModel &m_navigation;
-    CommandListModel m_list{menuCommands()};
+    MenuPlace m_place;
+    CommandListModel m_list{menuCommands(m_place)};
+    QVariantList m_menus;
     bool m_showShortcuts = false;
     bool m_isFullScreen = false;
 };

@@ -1,7 +1,5 @@
 #include "Shell/ShortcutSheet.h"
 
-#include "Shell/MenuCommands.h"
-
 using namespace Qt::StringLiterals;
 
 namespace
@@ -12,10 +10,10 @@ QString heading(CommandGroup group)
     return isAboutKeeping ? u"Keeping"_s : u"Getting around"_s;
 }
 
-QList<ShortcutLine> linesUnder(const QString &wanted)
+QList<ShortcutLine> linesUnder(const QString &wanted, const QList<MenuCommand> &commands)
 {
     QList<ShortcutLine> lines{{.title = wanted}};
-    for (const MenuCommand &command : menuCommands()) {
+    for (const MenuCommand &command : commands) {
         if (heading(command.group) == wanted && !command.shortcut.isEmpty())
             lines.append({.title = command.title, .keys = command.shortcut.split(u'+')});
     }
@@ -23,9 +21,11 @@ QList<ShortcutLine> linesUnder(const QString &wanted)
 }
 } // namespace
 
-QList<ShortcutLine> commandKeys()
+QList<ShortcutLine> commandKeys(MenuPlace place)
 {
-    return linesUnder(heading(CommandGroup::documents)) + linesUnder(heading(CommandGroup::program));
+    const QList<MenuCommand> commands = menuCommands(place);
+    return linesUnder(heading(CommandGroup::documents), commands) +
+           linesUnder(heading(CommandGroup::program), commands);
 }
 
 QList<ShortcutLine> writingKeys()

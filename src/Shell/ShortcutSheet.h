@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Shell/MenuCommands.h"
+
 #include <QMetaType>
 #include <QStringList>
 
@@ -18,7 +20,7 @@ public:
 };
 
 /// The keys of the commands, from their table.
-QList<ShortcutLine> commandKeys();
+QList<ShortcutLine> commandKeys(MenuPlace place);
 
 /// The keys of the page, and what is typed at the start of an empty line.
 QList<ShortcutLine> writingKeys();

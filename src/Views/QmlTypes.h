@@ -98,3 +98,10 @@ struct CommandListModelForQml {
     QML_NAMED_ELEMENT(CommandListModel)
     QML_UNCREATABLE("Part of the commands.")
 };
+
+struct CommandMenuForQml {
+    Q_GADGET
+    QML_FOREIGN(CommandMenu)
+    QML_NAMED_ELEMENT(CommandMenu)
+    QML_UNCREATABLE("Part of the commands.")
+};

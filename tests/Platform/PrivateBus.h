@@ -34,6 +34,8 @@ public:
         kill();
     }
 
+    QString address() const { return m_address; }
+
     QDBusConnection connection(const QString &name)
     {
         m_names.append(name);

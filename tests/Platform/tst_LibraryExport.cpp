@@ -1,49 +1,14 @@
 #include "DataFolder.h"
 #include "Platform/LibraryExport.h"
-#include "Platform/TerminalProgress.h"
 #include "support/DataFileText.h"
 #include "support/PageText.h"
 #include "support/TestProgram.h"
 
-#include <QTemporaryFile>
+#include <QTest>
 
 #include <csignal>
-#include <cstdlib>
-#include <fcntl.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
-
-namespace
-{
-/// Both ends of a line to a screen.
-struct Terminal {
-    Terminal() : master(::posix_openpt(O_RDWR | O_NOCTTY))
-    {
-        ::grantpt(master);
-        ::unlockpt(master);
-        stream = std::fopen(::ptsname(master), "w");
-    }
-    ~Terminal()
-    {
-        if (stream)
-            std::fclose(stream);
-        ::close(master);
-    }
-    Q_DISABLE_COPY_MOVE(Terminal)
-
-    QByteArray shown() const
-    {
-        char text[256];
-        ::fcntl(master, F_SETFL, O_NONBLOCK);
-        const ssize_t count = ::read(master, text, sizeof text);
-        return {text, std::max<ssize_t>(count, 0)};
-    }
-
-    int master;
-    std::FILE *stream = nullptr;
-};
-} // namespace
 
 class TestLibraryExport : public QObject
 {
@@ -101,45 +66,6 @@ private Q_SLOTS:
     {
         DataFolder::put(data->support / "my notes", "a file");
         QCOMPARE(exportTo(), (CommandLineAnswer{u"pelko: Export failed: Not a directory\n"_s, 1}));
-    }
-
-    void aShortWorkShowsNoProgress()
-    {
-        const Terminal terminal;
-        QVERIFY2(terminal.stream, "no pseudo terminal: is /dev/pts mounted?");
-        {
-            TerminalProgress progress(u"Exporting"_s, u"files"_s, terminal.stream);
-            progress.show(1, 2);
-        }
-        QCOMPARE(terminal.shown(), QByteArray());
-    }
-
-    void aLongWorkShowsItsProgressAndTakesItAway()
-    {
-        const Terminal terminal;
-        QVERIFY2(terminal.stream, "no pseudo terminal: is /dev/pts mounted?");
-        {
-            TerminalProgress progress(u"Exporting"_s, u"files"_s, terminal.stream);
-            QTest::qSleep(450); // the patience of whoever waits
-            progress.show(12, 100);
-            progress.show(13, 100);
-            QCOMPARE(terminal.shown(), "\rExporting 12 of 100 files");
-        }
-        QCOMPARE(terminal.shown(), "\r\033[K");
-    }
-
-    void nobodyReadsProgressInAFile()
-    {
-        QTemporaryFile file;
-        QVERIFY(file.open());
-        std::FILE *stream = std::fopen(qPrintable(file.fileName()), "w");
-        {
-            TerminalProgress progress(u"Exporting"_s, u"files"_s, stream);
-            QTest::qSleep(450);
-            progress.show(12, 100);
-        }
-        std::fclose(stream);
-        QCOMPARE(file.readAll(), QByteArray());
     }
 
     // The last one: the signal is remembered.

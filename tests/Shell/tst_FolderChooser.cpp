@@ -1,58 +1,15 @@
 #include "Shell/FolderChooser.h"
 #include "support/TestProgram.h"
 
-#include <QSignalSpy>
+#include "support/ManualPictureFolders.h"
 
-#include <map>
+#include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
 namespace fs = std::filesystem;
-using Entry = PictureFolders::Entry;
-
-/// Folders in memory. What is no folder is a file, and "locked" cannot be opened.
-class ManualPictureFolders : public PictureFolders
-{
-public:
-    QList<fs::path> places() const override { return {"/home/me", "/home/me/Pictures"}; }
-
-    ScheduledCall list(const fs::path &folder, Completion completion) override
-    {
-        const auto request = std::make_shared<Completion>(std::move(completion));
-        m_requests.emplace_back(folder, request);
-        return ScheduledCall(request);
-    }
-
-    /// The disk has found what it was asked for.
-    void answer()
-    {
-        for (const auto &[folder, waiting] : std::exchange(m_requests, {})) {
-            if (const auto tell = waiting.lock())
-                (*tell)(listing(folder));
-        }
-    }
-
-private:
-    static Listing listing(const fs::path &folder)
-    {
-        static const std::map<fs::path, QList<Entry>> folders{
-            {"/home/me", {{"/home/me/Pictures", true}, {"/home/me/cat.png", false}}},
-            {"/home/me/Pictures",
-             {{"/home/me/Pictures/alp.jpg", false},
-              {"/home/me/Pictures/Ant.jpg", false},
-              {"/home/me/Pictures/bee.jpg", false}}},
-            {"/home", {{"/home/me", true}}},
-            {"/", {{"/home", true}}}};
-        if (folder.filename() == "locked")
-            return FileError{u"Permission denied"_s};
-        const auto found = folders.find(folder);
-        return found == folders.end() ? Listing(File{}) : Listing(found->second);
-    }
-
-    std::vector<std::pair<fs::path, std::weak_ptr<Completion>>> m_requests;
-};
 
 QString written(const FileChooser::Choice &choice)
 {
@@ -96,6 +53,7 @@ private Q_SLOTS:
     void init()
     {
         folders = std::make_unique<ManualPictureFolders>();
+        folders->isSlow = true;
         chooser = std::make_unique<FolderChooser>(*folders);
         request = {};
         wanted = FileChooser::Wanted::picture;

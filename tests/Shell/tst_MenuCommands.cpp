@@ -63,6 +63,26 @@ private Q_SLOTS:
                      qPrintable(command.id));
     }
 
+    void aMenuBarNeedsNoCommandThatOpensTheMenu()
+    {
+        QStringList wanted;
+        for (const MenuCommand &command : menuCommands(MenuPlace::window))
+            wanted << command.id;
+        QCOMPARE(wanted.size(), menuCommands().size());
+        wanted.removeOne(u"appMenu"_s);
+        QStringList offered;
+        for (const MenuCommand &command : menuCommands(MenuPlace::menuBar))
+            offered << command.id;
+
+        QCOMPARE(offered, wanted);
+    }
+
+    void theMenusOfABarHaveTitles()
+    {
+        QCOMPARE(menuTitles(), (QStringList{u"File"_s, u"Spaces"_s, u"View"_s, u"Help"_s}));
+        QCOMPARE(menuTitle(CommandGroup::none), QString());
+    }
+
     void theCommandsOfAGroupStandTogether()
     {
         QList<CommandGroup> groups;

@@ -15,7 +15,7 @@ QList<ShortcutLine> linesUnder(const QString &heading)
 {
     QList<ShortcutLine> found;
     QString current;
-    for (const ShortcutLine &line : commandKeys() + writingKeys()) {
+    for (const ShortcutLine &line : commandKeys(MenuPlace::window) + writingKeys()) {
         if (line.keys.isEmpty())
             current = line.title;
         else if (current == heading)
@@ -52,6 +52,15 @@ private Q_SLOTS:
         std::ranges::sort(shown);
 
         QCOMPARE(shown, wanted);
+    }
+
+    void theKeyOfTheMenuIsListedOnlyWhereItOpensOne()
+    {
+        const ShortcutLine line{u"App menu"_s, {u"F10"_s}};
+
+        QVERIFY(commandKeys(MenuPlace::window).contains(line));
+        QVERIFY(!commandKeys(MenuPlace::menuBar).contains(line));
+        QCOMPARE(commandKeys(MenuPlace::menuBar).size() + 1, commandKeys(MenuPlace::window).size());
     }
 
     void whatIsAboutKeepingStandsApart()

@@ -9,7 +9,8 @@ MOST_STEPS = 80
 
 
 def controls(pelko):
-    roles = screen_reader().BUTTONS | screen_reader().FIELDS | {screen_reader().Role.CHECK_BOX}
+    eyes = screen_reader()
+    roles = eyes.BUTTONS | eyes.FIELDS | {eyes.Role.CHECK_BOX, eyes.Role.PAGE_TAB}
     return pelko.find_all(roles=roles)
 
 
@@ -23,7 +24,7 @@ def everything_has_name_and_role(pelko):
 
 def buttons_can_be_pressed(pelko):
     eyes = screen_reader()
-    for node in pelko.find_all(roles=eyes.BUTTONS | {eyes.Role.CHECK_BOX}):
+    for node in pelko.find_all(roles=eyes.BUTTONS | {eyes.Role.CHECK_BOX, eyes.Role.PAGE_TAB}):
         assert "Press" in eyes.actions_of(node), f"{eyes.describe(node)} has {eyes.actions_of(node)}"
 
 
@@ -67,9 +68,11 @@ def the_way_around_is_worked_by_press_actions(pelko):
     pelko.wait_focus_on("Find")
     everything_has_name_and_role(pelko)
     buttons_can_be_pressed(pelko)
-    tabs = {eyes.Role.RADIO_BUTTON, eyes.Role.CHECK_BOX}  # the latter is what Qt 6.4 makes of the former
+    tabs = {eyes.Role.PAGE_TAB}
+    assert pelko.find("Spaces", {eyes.Role.PAGE_TAB_LIST}), "the spaces are a list of tabs"
     eyes.press(pelko.wait_for("Ideas", tabs))
     pelko.wait_for("No pages in Ideas yet")
+    assert [tab.get_name() for tab in pelko.find_all(roles=tabs) if eyes.is_selected(tab)] == ["Ideas"]
     eyes.press(pelko.wait_for("Work", tabs))
     row = until(lambda: pelko.find(roles={eyes.Role.LIST_ITEM}), "the page is in the list")
     assert row.get_name().startswith("Untitled, "), row.get_name()

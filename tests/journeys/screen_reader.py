@@ -68,6 +68,11 @@ def is_checked(node):
 
 
 @alive
+def is_selected(node):
+    return node.get_state_set().contains(State.SELECTED)
+
+
+@alive
 def is_focused(node):
     return node.get_state_set().contains(State.FOCUSED)
 

@@ -19,6 +19,8 @@ class ShellFixture : public QObject
     Q_PROPERTY(LaunchSequence *launch READ launch CONSTANT)
 
 public:
+    explicit ShellFixture(MenuPlace menuPlace = MenuPlace::window) : m_menuPlace(menuPlace) {}
+
     MainViewModel *mainViewModel() { return &m_main; }
     LaunchSequence *launch() { return &m_launch; }
 
@@ -72,6 +74,9 @@ public:
         m_appState.setOpenDocumentID(page.id);
     }
 
+    /// The chooser of pictures that is open gives up.
+    Q_INVOKABLE void failToChoose(const QString &why) { m_desktop.fileChooser.answer(FileError{why}); }
+
     Q_INVOKABLE void failToSave()
     {
         m_file.writeError = QStringLiteral("No space left on device");
@@ -81,11 +86,21 @@ public:
     Q_INVOKABLE void requestDelete() { m_main.requestDelete(m_main.openDocumentID()); }
 
 private:
+    MenuPlace m_menuPlace;
     ManualScheduler m_scheduler;
     ManualClock m_clock;
     ManualDocumentFile m_file;
     ManualDesktop m_desktop;
     AppState m_appState{m_scheduler, m_clock, m_file};
-    MainViewModel m_main{m_appState, m_clock, m_desktop.services(m_scheduler)};
+    MainViewModel m_main{m_appState, m_clock, m_desktop.services(m_scheduler), m_menuPlace};
     LaunchSequence m_launch{m_scheduler};
+};
+
+/// The same where the system keeps a menu bar.
+class ShellWithMenuBar : public ShellFixture
+{
+    Q_OBJECT
+
+public:
+    ShellWithMenuBar() : ShellFixture(MenuPlace::menuBar) {}
 };

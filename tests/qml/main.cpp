@@ -1,3 +1,4 @@
+#include "ChooserBench.h"
 #include "EditorBench.h"
 #include "ExportBench.h"
 #include "ShellFixture.h"
@@ -22,9 +23,11 @@ public Q_SLOTS:
     void qmlEngineAvailable(QQmlEngine *engine)
     {
         engine->addImportPath(u"qrc:/qt/qml"_s);
+        qmlRegisterType<ChooserBench>("PelkoTest", 1, 0, "ChooserBench");
         qmlRegisterType<EditorBench>("PelkoTest", 1, 0, "EditorBench");
         qmlRegisterType<ExportBench>("PelkoTest", 1, 0, "ExportBench");
         qmlRegisterType<ShellFixture>("PelkoTest", 1, 0, "ShellFixture");
+        qmlRegisterType<ShellWithMenuBar>("PelkoTest", 1, 0, "ShellWithMenuBar");
         qmlRegisterType<TasksBench>("PelkoTest", 1, 0, "TasksBench");
         qmlRegisterType<TimersBench>("PelkoTest", 1, 0, "TimersBench");
     }

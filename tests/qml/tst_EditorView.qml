@@ -238,6 +238,28 @@ Item {
             compare(kinds(), "textSmall")
         }
 
+        function test_the_context_menu_opens_over_the_controls_of_a_checklist_too_data() {
+            return [
+                { tag: "tick", name: "tea", role: Accessible.CheckBox, cursor: Qt.PointingHandCursor },
+                { tag: "cross", name: "Remove", role: Accessible.Button, cursor: Qt.PointingHandCursor },
+                { tag: "words", name: "tea", role: Accessible.EditableText, cursor: Qt.IBeamCursor },
+            ]
+        }
+
+        function test_the_context_menu_opens_over_the_controls_of_a_checklist_too(row) {
+            open([{ type: "textLarge", content: "t" }, { type: "sticky", todos: [{ text: "tea" }] }])
+            const before = bench.blocks()
+            const control = named(row.name).find(item => item.Accessible.role === row.role)
+            mouseMove(control, 4, 4)
+            compare(bench.cursorOf(control), row.cursor)
+            mouseClick(control, 5, 5, Qt.RightButton)
+            tryVerify(() => named("Delete Block").length === 1)
+            compare(bench.blocks(), before)
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Return)
+            compare(kinds(), "textLarge")
+        }
+
         function test_the_menu_key_opens_the_context_menu() {
             open([{ type: "textLarge", content: "" }, { type: "textSmall", content: "b" }])
             keyClick(Qt.Key_Menu)

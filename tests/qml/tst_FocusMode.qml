@@ -207,6 +207,76 @@ Item {
             tryVerify(() => control(root, "Delete"))
         }
 
+        function placeOf(item) {
+            return item.mapToItem(root, item.width / 2, item.height / 2)
+        }
+
+        function pointAt(item) {
+            mouseMove(root, placeOf(item).x - 2, placeOf(item).y)
+            mouseMove(root, placeOf(item).x, placeOf(item).y)
+        }
+
+        // In a new checklist below the page.
+        function addTask(text) {
+            app.main.editor.addBlock("sticky")
+            app.advance(1000)
+            tryVerify(() => control(root, "To do..."))
+            const row = control(root, "To do...").parent
+            row.takeFocus(-1)
+            for (const letter of text)
+                keyClick(letter)
+            mouseMove(row, 100, 10)
+            tryVerify(() => control(root, "Remove"))
+        }
+
+        function test_noCrossComesUpBesideATask() {
+            openPage(["textSmall"])
+            addTask("tea")
+            const cross = control(root, "Remove")
+            toggle()
+            tryVerify(isBare)
+            pointAt(cross)
+            compare(control(root, "Remove"), null)
+            mouseClick(root, placeOf(cross).x, placeOf(cross).y)
+            toggle()
+            tryVerify(isFurnished)
+            pointAt(cross)
+            tryVerify(() => control(root, "Remove"))
+            verify(control(root, "tea"))
+        }
+
+        function test_aClickWhereDeleteWouldBeDeletesNothing() {
+            openPage(["textSmall", "textSmall"])
+            const field = holder()
+            mouseMove(field, 300, 10)
+            tryVerify(() => control(root, "Delete"))
+            const remove = control(root, "Delete")
+            toggle()
+            tryVerify(isBare)
+            tryVerify(() => !remove.visible)
+            pointAt(remove)
+            mouseClick(root, placeOf(remove).x, placeOf(remove).y)
+            compare(app.main.editor.blocks.rowCount(), 2)
+        }
+
+        function test_theKeyboardDoesNotStayOnAHiddenControl_data() {
+            return [{ tag: "Delete" }, { tag: "Remove" }]
+        }
+
+        function test_theKeyboardDoesNotStayOnAHiddenControl(row) {
+            openPage(["textSmall", "textSmall"])
+            if (row.tag === "Remove")
+                addTask("tea")
+            const field = holder()
+            keyClick(Qt.Key_Tab)
+            compare(holder().name, row.tag)
+            toggle()
+            tryVerify(isBare)
+            tryVerify(() => holder() === field)
+            keyClick("x")
+            verify(field.text.includes("x"))
+        }
+
         function test_tabStaysOnThePage() {
             openPage(["textSmall", "textSmall"])
             const first = holder()

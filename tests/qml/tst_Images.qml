@@ -247,6 +247,43 @@ Item {
             verify(everything(block("Banner")).find(item => item.text === "Untitled" && item.visible))
         }
 
+        function test_what_is_typed_into_the_title_is_undone_and_done_again() {
+            open([{ type: "image", picture: "red", isFullWidth: true }, { type: "textSmall", content: "b" }])
+            const before = bench.blocks()
+            const title = named("Banner title")[0]
+            title.forceActiveFocus()
+            type("High up")
+            compare(bench.blocks()[0].bannerTitle, "High up")
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            compare(bench.blocks()[0].bannerTitle, "High ")
+            compare(title.text, "High ")
+            compare(title.cursorPosition, 5)
+            verify(title.activeFocus)
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            compare(bench.blocks(), before)
+            compare(title.text, "")
+            keyClick(Qt.Key_Z, Qt.ControlModifier | Qt.ShiftModifier)
+            keyClick(Qt.Key_Z, Qt.ControlModifier | Qt.ShiftModifier)
+            compare(bench.blocks()[0].bannerTitle, "High up")
+            verify(title.activeFocus)
+            type("!")
+            compare(title.text, "High up!")
+        }
+
+        function test_the_title_is_edited_in_the_middle() {
+            open([{ type: "image", picture: "red", isFullWidth: true, bannerTitle: "Rige" }])
+            const title = named("Banner title")[0]
+            title.forceActiveFocus()
+            keyClick(Qt.Key_End)
+            keyClick(Qt.Key_Left)
+            keyClick(Qt.Key_Left)
+            type("d")
+            compare(bench.blocks()[0].bannerTitle, "Ridge")
+            compare(title.cursorPosition, 3)
+            keyClick(Qt.Key_Backspace)
+            compare(title.text, "Rige")
+        }
+
         function test_return_leaves_the_title_for_the_next_block() {
             open([{ type: "image", picture: "red", isFullWidth: true }, { type: "textSmall", content: "" }])
             named("Banner title")[0].forceActiveFocus()

@@ -218,11 +218,25 @@ Item {
             library()
             open()
             const tabs = all(overlay(), item => item instanceof SpaceTab)
-            compare(tabs.map(tab => [tab.name, tab.pages, tab.Accessible.checked]),
+            compare(tabs.map(tab => [tab.Accessible.name, tab.pages, tab.Accessible.selected]),
                     [["Ideas", 1, false], ["Work", 2, true], ["Journal", 1, false]])
+            verify(tabs.every(tab => tab.Accessible.role === Accessible.PageTab))
             compare(all(tabs[1], item => item instanceof PlaceDots)[0].taken, 2)
             mouseClick(tabs[2])
             compare(titles(), ["Diary"])
+        }
+
+        function test_tabsArePressedByKeysAndByAssistiveTechnology() {
+            library()
+            open()
+            const tabs = all(overlay(), item => item instanceof SpaceTab)
+            tabs[0].forceActiveFocus(Qt.TabFocusReason)
+            keyClick(Qt.Key_Return)
+            compare(titles(), ["a quarter of an hour"])
+            tabs[2].Accessible.pressAction()
+            compare(titles(), ["Diary"])
+            tabs[2].Accessible.pressAction()
+            compare(tabs.map(tab => [tab.Accessible.selected, tab.checked]), [[false, false], [false, false], [true, true]])
         }
 
         function test_anEmptySpaceSaysSo() {
@@ -322,7 +336,7 @@ Item {
             open()
             const names = []
             do {
-                names.push(focused().name)
+                names.push(focused().Accessible.name)
                 keyClick(Qt.Key_Tab)
             } while (focused().name !== "Find" && names.length < 20)
             compare(names, ["Find", "Ideas", "Work", "Journal", "Delete First", "New Document"])

@@ -129,6 +129,30 @@ Item {
             }
         }
 
+        function test_aPictureThatCouldNotBeChosenIsTold() {
+            app.openPage(["textSmall", "image"])
+            app.advance(1000)
+            tryVerify(() => named(root, "Add image"))
+            for (const key of [Qt.Key_Return, Qt.Key_Space, Qt.Key_Escape]) {
+                const add = named(root, "Add image")
+                add.forceActiveFocus(Qt.TabFocusReason)
+                keyClick(Qt.Key_Return)
+                app.failToChoose("The file chooser of the desktop is gone.")
+                const alert = reading(root.alerts, "Couldn't import image.")
+                verify(alert)
+                verify(reading(root.alerts, "The file chooser of the desktop is gone."))
+                verify(named(root.alerts, "OK").activeFocus)
+                keyClick(key)
+                tryVerify(() => !reading(root.alerts, "Couldn't import image."))
+                verify(add.activeFocus)
+            }
+            // It is told anew, and a click ends it.
+            mouseClick(named(root, "Add image"))
+            app.failToChoose("Gone again.")
+            mouseClick(named(root.alerts, "OK"))
+            tryVerify(() => !reading(root.alerts, "Gone again."))
+        }
+
         function test_anAlertGivesTheFocusBack() {
             const button = named(root, "Start Writing")
             app.main.commands.run("about")
@@ -185,6 +209,27 @@ Item {
             verify(named(root, "New Document").activeFocus)
             keyClick(Qt.Key_Return)
             compare(app.documentCount(), 1)
+        }
+
+        function test_theKeyOfTheMenuClosesItAgain() {
+            const button = named(root, "Start Writing")
+            for (const walked of [false, true]) {
+                keyClick(Qt.Key_F10)
+                verify(named(root, "About Pelko"))
+                if (walked)
+                    keyClick(Qt.Key_Down)
+                keyClick(Qt.Key_F10)
+                tryVerify(() => !named(root, "About Pelko"))
+                verify(button.activeFocus)
+            }
+        }
+
+        function test_theButtonOfTheMenuClosesItAgain() {
+            const button = named(root, "Menu")
+            button.Accessible.pressAction()
+            verify(named(root, "About Pelko"))
+            button.Accessible.pressAction()
+            tryVerify(() => !named(root, "About Pelko"))
         }
 
         function menuRows() {

@@ -204,8 +204,29 @@ Item {
             verify(text("PACKING LIST").mapToItem(view, 0, 0).y < text("wool socks").mapToItem(view, 0, 0).y)
             verify(text("pens").mapToItem(view, 0, 0).y < text("SPRING ISSUE").mapToItem(view, 0, 0).y)
             compare(kind(CountBadge).count, 2)
-            verify(text("pens").font.strikeout)
-            verify(!text("cover").font.strikeout)
+        }
+
+        // The lines through a text.
+        function strikes(words) {
+            return Array.from(text(words).children).filter(child => child instanceof Rectangle)
+        }
+
+        function test_a_done_task_is_struck_through_in_a_colour_of_its_own() {
+            const wordy = "write to everybody who has ever asked about the old house by the lake and never got an answer"
+            open([["Packing list", "-socks", "xpens", "x" + wordy]])
+            compare(strikes("socks").length, 0)
+            compare(strikes("pens").length, 1)
+            verify(!text("pens").font.strikeout)
+            const line = strikes("pens")[0]
+            compare(String(line.color), String(FirePalette.white(0.25)))
+            verify(Math.abs(line.width - text("pens").contentWidth) < 1, `${line.width} of ${text("pens").contentWidth}`)
+            verify(line.y > text("pens").height / 3 && line.y < text("pens").height * 3 / 4, line.y)
+            compare(text(wordy).lineCount, 2)
+            compare(strikes(wordy).length, 2)
+            compare(strikes(wordy)[1].y, strikes(wordy)[0].y + Typography.taskLine)
+            verify(strikes(wordy).every(line => line.width > text(wordy).width / 2 && line.width <= text(wordy).width))
+            mouseClick(called("socks"))
+            tryVerify(() => strikes("socks").length === 1)
         }
 
         function test_the_badge_goes_with_the_last_open_task() {
@@ -217,6 +238,15 @@ Item {
             mouseClick(called("socks"))
             compare(bench.tasksOf(0), ["-socks", "xpens"])
             compare(kind(CountBadge).count, 1)
+        }
+
+        function test_the_other_buttons_of_the_pointer_change_no_task() {
+            open([["Packing list", "-socks", "xpens"]])
+            for (const button of [Qt.RightButton, Qt.MiddleButton]) {
+                mouseClick(called("socks"), 5, 5, button)
+                mouseClick(called("Delete socks"), 5, 5, button)
+            }
+            compare(bench.tasksOf(0), ["-socks", "xpens"])
         }
 
         function test_a_tick_is_what_the_store_says() {

@@ -195,10 +195,13 @@ FocusScope {
         offersBanner: root.hasImage
         offersDelete: root.canDelete
         pointedAt: root.pointedAt
+        quiet: root.page.quiet
         reachable: root.activeFocus
         y: body.y + (root.hasImage ? Metrics.space8 : -height / 2)
         onBannerToggled: root.page.editor.toggleFullWidth(root.blockID)
         onDeleteRequested: root.page.editor.deleteBlock(root.blockID)
+        // The keyboard does not stay behind.
+        onVisibleChanged: if (!visible && root.activeFocus && !body.activeFocus) body.forceActiveFocus(Qt.OtherFocusReason)
     }
 
     Connections {

@@ -8,6 +8,8 @@ Row {
     required property bool pointedAt
     /// The keyboard is in the block: out of sight, the buttons can still be walked to.
     required property bool reachable
+    /// None of them is offered, to nobody.
+    required property bool quiet
     required property bool offersBanner
     required property bool isBanner
     required property bool offersDelete
@@ -15,14 +17,14 @@ Row {
     /// What is seen through their glass.
     property Item backdrop: null
 
-    readonly property Item last: offersDelete ? remove : offersBanner ? toggle : null
+    readonly property Item last: quiet ? null : offersDelete ? remove : offersBanner ? toggle : null
 
     signal bannerToggled
     signal deleteRequested
 
-    opacity: pointedAt || toggle.activeFocus || remove.activeFocus ? 1 : 0
+    opacity: pointedAt || (last !== null && (toggle.activeFocus || remove.activeFocus)) ? 1 : 0
     spacing: Metrics.space8
-    visible: last !== null && (opacity > 0 || reachable)
+    visible: opacity > 0 || (last !== null && reachable)
 
     Behavior on opacity {
         NumberAnimation { duration: PelkoAnimation.micro.duration; easing: PelkoAnimation.micro.curve }

@@ -9,9 +9,7 @@ PressableControl {
     implicitWidth: Metrics.todoToggleSize
     name: qsTr("Remove")
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
+    PointingHand {}
 
     SymbolIcon {
         anchors.centerIn: parent

@@ -10,6 +10,8 @@ BlockEditor {
     required property string blockID
     required property EditorViewModel editor
     required property QtObject todos
+    /// Its entries show nothing but themselves, whatever is pointed at.
+    property bool quiet: false
 
     function takeFocus(todoID: string, caret: int) {
         for (let row = 0; row < entries.count; ++row)
@@ -49,6 +51,7 @@ BlockEditor {
 
             TodoRow {
                 keys: root.keys
+                quiet: root.quiet
                 width: column.width
                 onCaretMoved: rectangle => root.caretRectangle = mapToItem(root, rectangle)
                 onEdited: (value, caret) => root.editor.typedTodo(root.blockID, todoID, value, caret)

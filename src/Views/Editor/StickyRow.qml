@@ -17,6 +17,7 @@ BlockRow {
         editor: root.page.editor
         focus: true
         keys: root
+        quiet: root.page.quiet
         todos: root.todos
     }
 }

@@ -1,7 +1,8 @@
 import QtQuick
 import Pelko
 
-/// One entry of a checklist: tick, text, and a cross to remove it while the pointer or the focus is here.
+/// One entry of a checklist: tick, text, and a cross to remove it while the pointer or the focus is here, unless it is
+/// to be `quiet`.
 FocusScope {
     id: root
 
@@ -9,6 +10,7 @@ FocusScope {
     required property string text
     required property bool done
     required property Item keys
+    required property bool quiet
 
     signal toggled
     signal removed
@@ -60,6 +62,9 @@ FocusScope {
         Keys.forwardTo: [root.keys]
         anchors { right: parent.right; verticalCenter: toggle.verticalCenter }
         opacity: hover.hovered || activeFocus ? 1 : 0
+        visible: !root.quiet
+        // The keyboard does not stay behind.
+        onVisibleChanged: if (!visible && activeFocus) field.forceActiveFocus(Qt.OtherFocusReason)
         onTriggered: root.removed()
     }
 }

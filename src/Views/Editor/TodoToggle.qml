@@ -20,9 +20,7 @@ PressableControl {
     name: label === "" ? qsTr("To do...") : label
     pressScale: 0.9
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
+    PointingHand {}
 
     SymbolIcon {
         anchors.fill: parent

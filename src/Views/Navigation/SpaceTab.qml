@@ -1,8 +1,10 @@
 import QtQuick
+import QtQuick.Templates as T
 import Pelko
 
-/// One of the spaces: its symbol, its name over its five places, and its key.
-PressableControl {
+/// One of the spaces: its symbol, its name over its five places, and its key. Qt 6.4 tells assistive technology of a
+/// page tab only where the control is one.
+T.TabButton {
     id: root
 
     required property string space
@@ -12,25 +14,48 @@ PressableControl {
     required property bool isCurrent
     required property string keys
 
-    Accessible.checkable: true
-    Accessible.checked: isCurrent
+    signal triggered
+
     Accessible.description: qsTr("%n page(s), five places", "", pages)
-    Accessible.role: Accessible.RadioButton
-    // Qt 6.4 takes what is checkable for a check box, and what is not for a button, whatever role stands above.
-    autoExclusive: true
-    checkable: true
+    Accessible.name: title
+    Accessible.role: Accessible.PageTab
+    Accessible.selectable: true
+    Accessible.selected: isCurrent
+    Accessible.onPressAction: clicked()
+    Keys.onEnterPressed: clicked()
+    Keys.onReturnPressed: clicked()
     checked: isCurrent
-    controlRadius: Metrics.menuRowRadius
+    focusPolicy: Qt.TabFocus
+    hoverEnabled: true
     implicitHeight: Metrics.spaceTabHeight
-    name: title
-    pressScale: 0.98
+    scale: 1 - 0.02 * press.value
+    text: title
+    onClicked: triggered()
+
+    SpringFollower {
+        id: press
+
+        dampingFraction: 0.55
+        goal: root.down ? 1 : 0
+        instant: Motion.reduced
+        response: 0.18
+    }
+
+    FocusRing {
+        controlRadius: Metrics.menuRowRadius
+        shown: root.visualFocus
+    }
 
     background: Item {
         Rectangle {
             anchors.fill: parent
             color: FirePalette.rowHover
-            opacity: root.isCurrent ? 0 : Math.min(1, root.hoverAmount)
+            opacity: !root.isCurrent && (root.hovered || root.visualFocus) ? 1 : 0
             radius: Metrics.menuRowRadius
+
+            Behavior on opacity {
+                NumberAnimation { duration: Motion.reduced ? Motion.fade : PelkoAnimation.micro.duration }
+            }
         }
 
         Rectangle {

@@ -11,7 +11,7 @@ Rectangle {
     readonly property real tabWidth: (width - 2 * row.x) / 3
 
     Accessible.name: qsTr("Spaces")
-    Accessible.role: Accessible.Grouping
+    Accessible.role: Accessible.PageTabList
     color: FirePalette.well
     implicitHeight: Metrics.spaceTabHeight + 2 * Metrics.space4
     radius: Metrics.fieldRadius + 1

@@ -10,6 +10,11 @@ PopupMenu {
 
     required property ShellCommands commands
 
+    // While it is open no command has its key, not even the one that opened it.
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_F10 && event.modifiers === Qt.NoModifier)
+            close()
+    }
     name: "Pelko"
     minimumWidth: 240
 

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The keys of the commands, made from their table.
+/// The keys of the commands, made from their table. A menu bar has those of its rows.
 Instantiator {
     id: keys
 
@@ -14,9 +14,10 @@ Instantiator {
     delegate: Shortcut {
         required property string commandID
         required property string shortcut
+        required property bool isInMenu
         required property bool isEnabled
 
-        enabled: isEnabled
+        enabled: isEnabled && !(isInMenu && keys.commands.hasMenuBar)
         sequences: shortcut === "" ? [] : [shortcut]
         context: Qt.WindowShortcut
         onActivated: keys.commands.run(commandID)

@@ -54,12 +54,13 @@ FocusScope {
         }
         Keys.onReturnPressed: root.chooser.take(currentIndex)
         activeFocusOnTab: true
-        anchors { fill: parent; margins: Metrics.space6 }
+        anchors { fill: parent; margins: Metrics.space6; bottomMargin: note.overRows ? root.height - note.y : Metrics.space6 }
         boundsBehavior: Flickable.StopAtBounds
         clip: true
         focus: true
         highlightMoveDuration: 0
         model: root.chooser.entries
+        onHeightChanged: positionViewAtIndex(currentIndex, ListView.Contain)
 
         delegate: FolderRowButton {
             id: row
@@ -79,16 +80,24 @@ FocusScope {
         }
     }
 
+    // In the middle of a list without rows, below those of one that has some.
     Text {
-        anchors.centerIn: parent
+        id: note
+
+        readonly property bool overRows: visible && list.count > 0
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        bottomPadding: overRows ? Metrics.space10 : 0
         color: FirePalette.inkMeta
         font: Typography.message
         horizontalAlignment: Text.AlignHCenter
         text: root.chooser.problem !== "" ? root.chooser.problem
             : root.chooser.wantsFolder ? qsTr("No folders in here.") : qsTr("No pictures here.")
         visible: root.chooser.problem !== "" || (list.count === 0 && !root.chooser.isListing)
+        topPadding: bottomPadding
         width: parent.width - 2 * Metrics.space24
         wrapMode: Text.Wrap
+        y: list.count > 0 ? parent.height - height : (parent.height - height) / 2
     }
 
     PelkoScrollBar {

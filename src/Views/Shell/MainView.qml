@@ -21,6 +21,10 @@ FocusScope {
                               operation)
     }
 
+    function toggleMenu() {
+        menu.open ? menu.close() : menu.popUpBelow(strip.menuButton)
+    }
+
     Keys.onEscapePressed: event => event.accepted = main.leaveFocusMode()
     Component.onCompleted: showContent(T.StackView.Immediate)
 
@@ -31,7 +35,7 @@ FocusScope {
 
     Connections {
         target: root.main.commands
-        function onMenuRequested() { menu.popUpBelow(strip.menuButton) }
+        function onMenuRequested() { root.toggleMenu() }
         function onPomodoroRequested() { root.timers?.togglePanel(strip.timerPlace()) }
     }
 
@@ -101,9 +105,10 @@ FocusScope {
         anchors { left: parent.left; right: parent.right; top: parent.top }
         focusFade: focusFade
         menuOpen: menu.open
+        offersMenu: !root.main.commands.hasMenuBar
         timers: root.timers
         onFullScreenLeft: root.main.commands.run("fullScreen")
-        onMenuRequested: menu.popUpBelow(strip.menuButton)
+        onMenuRequested: root.toggleMenu()
     }
 
     AppMenu {

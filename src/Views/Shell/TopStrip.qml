@@ -4,13 +4,14 @@ import QtQuick
 import QtQuick.Window
 import Pelko
 
-/// The window's own frame: the menu button at the left, the caption buttons at the right. It floats over the content
-/// and takes no clicks between them. In focus mode it is not seen before it is pointed at. On a Mac the system brings
-/// its own.
+/// The window's own frame: the menu button at the left unless the system has a menu bar, the caption buttons at the
+/// right. It floats over the content and takes no clicks between them. In focus mode it is not seen before it is
+/// pointed at. On a Mac the system brings its own.
 Item {
     id: strip
 
     property bool menuOpen: false
+    property bool offersMenu: true
     property TimersViewModel timers: null
     property FocusFade focusFade: FocusFade {}
     readonly property alias menuButton: menuButton
@@ -63,6 +64,7 @@ Item {
             name: "Menu"
             icon.name: "line.3.horizontal"
             active: strip.menuOpen
+            visible: strip.offersMenu
             onTriggered: strip.menuRequested()
             Accessible.role: Accessible.ButtonMenu
         }

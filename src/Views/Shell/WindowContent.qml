@@ -3,8 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// What the main window holds: the launch card over the main view, the alerts, the edges to resize by and the
-/// keys of the commands.
+/// What the main window holds: the launch card over the main view, the alerts, the edges to resize by, and the keys of
+/// the commands or the menu bar that has them.
 FocusScope {
     id: root
 
@@ -17,6 +17,11 @@ FocusScope {
 
     anchors.fill: parent
     focus: true
+    // Made where there is one only: elsewhere it would load what nobody uses.
+    Component.onCompleted: {
+        if (main.commands.hasMenuBar)
+            Qt.createComponent("NativeMenuBar.qml").createObject(root, { commands: main.commands })
+    }
 
     LaunchView {
         id: launchView

@@ -11,9 +11,7 @@ PressableControl {
     implicitWidth: Metrics.taskDeleteSize
     name: qsTr("Delete %1").arg(label)
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
+    PointingHand {}
 
     SymbolIcon {
         anchors.centerIn: parent

@@ -45,19 +45,19 @@ FocusScope {
         onTriggered: row.toggled()
     }
 
-    Text {
+    StruckText {
         id: words
 
         Accessible.ignored: true
         anchors.verticalCenter: parent.verticalCenter
         color: FirePalette.white(row.done ? 0.3 : 0.8)
         elide: Text.ElideRight
-        font { family: Typography.taskText.family; pointSize: Typography.taskText.pointSize; strikeout: row.done }
+        font: Typography.taskText
         lineHeight: Typography.taskLine
-        lineHeightMode: Text.FixedHeight
         maximumLineCount: 2
+        strikeColor: FirePalette.white(0.25)
+        struck: row.done
         text: row.text
-        textFormat: Text.PlainText
         width: cross.x - Metrics.space4 - x
         wrapMode: Text.Wrap
         x: row.air + Metrics.taskTextIndent

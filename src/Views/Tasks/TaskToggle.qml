@@ -28,9 +28,7 @@ PressableControl {
         response: 0.3
     }
 
-    HoverHandler {
-        cursorShape: Qt.PointingHandCursor
-    }
+    PointingHand {}
 
     Item {
         anchors.centerIn: parent

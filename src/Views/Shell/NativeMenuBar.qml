@@ -1,0 +1,59 @@
+pragma ComponentBehavior: Bound
+
+import QtQml
+import QtQuick
+import Qt.labs.platform as Platform
+import Pelko
+
+/// The commands in the menu bar that the system keeps, made from their table. What the system has a place of its own
+/// for, it moves there. The menus give the commands their keys as well.
+Platform.MenuBar {
+    id: bar
+
+    required property ShellCommands commands
+
+    readonly property var systemRoles: ({ about: Platform.MenuItem.AboutRole, quit: Platform.MenuItem.QuitRole })
+
+    Instantiator {
+        model: bar.commands.menus
+        onObjectAdded: (index, menu) => bar.insertMenu(index, menu)
+        onObjectRemoved: (index, menu) => bar.removeMenu(menu)
+
+        delegate: Platform.Menu {
+            id: menu
+
+            required property CommandMenu modelData
+
+            title: modelData.title
+
+            Instantiator {
+                model: menu.modelData
+                onObjectAdded: (index, item) => menu.insertItem(index, item)
+                onObjectRemoved: (index, item) => menu.removeItem(item)
+
+                delegate: Platform.MenuItem {
+                    required property string kind
+                    required property string commandID
+                    required property string title
+                    required property string systemRole
+                    required property bool isEnabled
+                    required property bool isTickable
+                    required property bool isTicked
+                    required shortcut
+
+                    separator: kind === "separator"
+                    text: title
+                    role: bar.systemRoles[systemRole] ?? Platform.MenuItem.NoRole
+                    enabled: isEnabled
+                    checkable: isTickable
+                    checked: isTicked
+                    onTriggered: {
+                        bar.commands.run(commandID)
+                        // The menu has turned the tick by itself; the command may not have.
+                        checked = Qt.binding(() => isTicked)
+                    }
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,39 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+/// Text of lines of one height that can be struck through in a colour of its own.
+Text {
+    id: root
+
+    property bool struck: false
+    property color strikeColor: color
+
+    /// How wide the words of each line are.
+    property var lineWidths: []
+
+    lineHeightMode: Text.FixedHeight
+    textFormat: Text.PlainText
+    onLineLaidOut: line => lineWidths = lineWidths.slice(0, line.number).concat([line.implicitWidth])
+
+    FontMetrics {
+        id: metrics
+
+        font: root.font
+    }
+
+    Repeater {
+        model: root.struck ? root.lineWidths : []
+
+        Rectangle {
+            required property int index
+            required property real modelData
+
+            color: root.strikeColor
+            height: Math.max(1, Math.round(metrics.lineWidth))
+            width: Math.min(modelData, root.width)
+            x: root.effectiveHorizontalAlignment === Text.AlignRight ? root.width - width : 0
+            y: Math.round(root.baselineOffset - metrics.strikeOutPosition) + index * root.lineHeight
+        }
+    }
+}

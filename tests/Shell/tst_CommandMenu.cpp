@@ -1,0 +1,95 @@
+#include "Shell/CommandMenu.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+/// The titles of its rows, "-" for a hairline.
+QStringList rows(const CommandMenu &menu)
+{
+    QStringList rows;
+    for (int row = 0; row < menu.rowCount(); ++row) {
+        const QModelIndex index = menu.index(row, 0);
+        const bool isSeparator = index.data(CommandListModel::KindRole) == u"separator"_s;
+        rows << (isSeparator ? u"-"_s : index.data(CommandListModel::TitleRole).toString());
+    }
+    return rows;
+}
+} // namespace
+
+class TestCommandMenu : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void holdsItsGroupsWithAHairlineBetweenThem_data()
+    {
+        QTest::addColumn<QStringList>("wanted");
+        QTest::newRow("File") << QStringList{
+            u"New Document"_s,         u"Go to…"_s, u"-"_s, u"Export…"_s, u"Export everything…"_s,
+            u"Copy page as Markdown"_s};
+        QTest::newRow("Spaces") << QStringList{u"Ideas"_s, u"Work"_s, u"Journal"_s};
+        QTest::newRow("View") << QStringList{u"Tasks"_s, u"Pomodoro"_s, u"Focus mode"_s, u"Full screen"_s};
+        QTest::newRow("Help") << QStringList{u"Keyboard Shortcuts"_s, u"About Pelko"_s, u"Quit"_s};
+        QTest::newRow("Edit") << QStringList{};
+    }
+
+    void holdsItsGroupsWithAHairlineBetweenThem()
+    {
+        QFETCH(QStringList, wanted);
+        CommandListModel commands(menuCommands());
+        CommandMenu menu(commands, QString::fromUtf8(QTest::currentDataTag()));
+        const QAbstractItemModelTester tester(&menu, QAbstractItemModelTester::FailureReportingMode::QtTest);
+
+        QCOMPARE(menu.title(), QString::fromUtf8(QTest::currentDataTag()));
+        QCOMPARE(rows(menu), wanted);
+    }
+
+    void everyCommandOfTheMenuIsInOne()
+    {
+        CommandListModel commands(menuCommands());
+        QStringList found;
+        for (const QString &title : menuTitles())
+            found << rows(CommandMenu(commands, title));
+        found.removeAll(u"-"_s);
+        QStringList wanted;
+        for (const MenuCommand &command : menuCommands()) {
+            if (command.group != CommandGroup::none)
+                wanted << command.title;
+        }
+        std::ranges::sort(found);
+        std::ranges::sort(wanted);
+
+        QCOMPARE(found, wanted);
+    }
+
+    void whatTheSystemHasAPlaceForSaysSo()
+    {
+        CommandListModel commands(menuCommands());
+        const CommandMenu menu(commands, u"Help"_s);
+        QStringList roles;
+        for (int row = 0; row < menu.rowCount(); ++row)
+            roles << menu.index(row, 0).data(CommandListModel::SystemRole).toString();
+
+        QCOMPARE(roles, (QStringList{u""_s, u"about"_s, u"quit"_s}));
+    }
+
+    void followsTheCommands()
+    {
+        CommandListModel commands(menuCommands());
+        const CommandMenu menu(commands, u"Spaces"_s);
+        QSignalSpy changes(&menu, &CommandMenu::dataChanged);
+        commands.bind(u"work"_s, {.run = [] {}, .isTicked = [] { return true; }});
+
+        QCOMPARE(changes.count(), 1);
+        QCOMPARE(changes.first().first().toModelIndex().row(), 1);
+        QVERIFY(menu.index(1, 0).data(CommandListModel::IsTickedRole).toBool());
+    }
+};
+
+QTEST_MAIN(TestCommandMenu)
+#include "tst_CommandMenu.moc"
