@@ -1,9 +1,8 @@
 #include "Platform/TerminalProgress.h"
-
 #include "support/ManualClock.h"
+#include "support/TestProgram.h"
 
 #include <QTemporaryFile>
-#include <QTest>
 
 #include <cstdlib>
 #include <fcntl.h>
@@ -106,5 +105,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(TestTerminalProgress)
+PELKO_TEST(TestTerminalProgress)
 #include "tst_TerminalProgress.moc"

@@ -1,8 +1,8 @@
 #include "Shell/CommandMenu.h"
+#include "support/TestProgram.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -91,5 +91,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(TestCommandMenu)
+PELKO_TEST(TestCommandMenu)
 #include "tst_CommandMenu.moc"
