@@ -1,6 +1,7 @@
 #include "Store/DocumentReader.h"
 
 #include "Store/Base64.h"
+#include "Store/JsonObjects.h"
 #include "Store/UuidText.h"
 
 #include <simdjson.h>
@@ -10,6 +11,11 @@ namespace dom = simdjson::dom;
 namespace
 {
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view shortestDocument =
+    R"({"id":"00000000-0000-0000-0000-000000000000","space":"work","blocks":[],"createdAt":0})";
+constexpr std::size_t deepestNesting = 1024;
+/// The parser may look at so many bytes after a text, without counting them.
+constexpr auto padding = qsizetype(simdjson::SIMDJSON_PADDING);
 
 /// The members of one JSON object, found by name.
 class Members
@@ -184,32 +190,44 @@ bool Members::optional(std::string_view key, std::optional<Value> &value) const
     return read(*json, value.emplace());
 }
 
-/// The parser may look at the bytes after the end, without counting them.
-void pad(QByteArray &json)
+/// Gives back the memory of what is behind, where that is worth the call.
+void cut(QByteArray &json, qsizetype size)
 {
-    json.reserve(json.size() + qsizetype(simdjson::SIMDJSON_PADDING));
+    constexpr qsizetype worthACall = 256 * 1024;
+    if (json.size() - size < worthACall)
+        return;
+    json.truncate(size);
+    json.squeeze();
 }
 
-std::string_view withoutByteOrderMark(std::string_view text)
+/// From the last to the first, so that the text makes room for the documents while they are read.
+bool readBackwards(QByteArray json, const std::vector<ObjectPlace> &places, QList<PelkoDocument> &documents)
 {
-    return text.substr(text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0);
+    dom::parser parser;
+    if (parser.allocate(0, deepestNesting - 1) != simdjson::SUCCESS) // one level is the array around them
+        return false;
+    for (qsizetype index = documents.size(); index-- > 0;) {
+        const ObjectPlace place = places[std::size_t(index)];
+        constexpr bool copyFirst = false;
+        const auto document = parser.parse(json.constData() + place.start, place.size, copyFirst);
+        cut(json, qsizetype(place.start) + padding); // the parser keeps its own copy of every string
+        if (document.error() != simdjson::SUCCESS || !read(document.value_unsafe(), documents[index]))
+            return false;
+    }
+    return true;
 }
 } // namespace
 
 std::optional<QList<PelkoDocument>> readDocuments(QByteArray json)
 {
-    pad(json);
-    const std::string_view text = withoutByteOrderMark({json.constData(), std::size_t(json.size())});
-    if (text.starts_with(byteOrderMark)) // newer parsers would skip this second one
+    json.reserve(json.size() + padding);
+    const std::string_view text(json.constData(), std::size_t(json.size()));
+    const std::size_t start = text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0;
+    const auto places = findObjects(text, start, shortestDocument.size());
+    if (!places)
         return std::nullopt;
-    dom::parser parser;
-    dom::element root;
-    constexpr bool copyFirst = false;
-    if (parser.parse(text.data(), text.size(), copyFirst).get(root) != simdjson::SUCCESS)
-        return std::nullopt;
-    json.clear(); // the parser keeps its own copy of every string: a large file need not be held twice
-    QList<PelkoDocument> documents;
-    if (!read(root, documents))
+    QList<PelkoDocument> documents(qsizetype(places->size()));
+    if (!readBackwards(std::move(json), *places, documents))
         return std::nullopt;
     return documents;
 }
