@@ -13,9 +13,9 @@ namespace
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view shortestDocument =
     R"({"id":"00000000-0000-0000-0000-000000000000","space":"work","blocks":[],"createdAt":0})";
-constexpr std::size_t deepestNesting = 1024;
 /// The parser may look at so many bytes after a text, without counting them.
 constexpr auto padding = qsizetype(simdjson::SIMDJSON_PADDING);
+static_assert(padding < qsizetype(shortestDocument.size()), "a run pads the one before it");
 
 /// The members of one JSON object, found by name.
 class Members
@@ -190,31 +190,44 @@ bool Members::optional(std::string_view key, std::optional<Value> &value) const
     return read(*json, value.emplace());
 }
 
-/// Gives back the memory of what is behind, where that is worth the call.
-void cut(QByteArray &json, qsizetype size)
+/// Reads the last run, the rest of whose text is given back, into as many documents.
+bool takeLast(QByteArray &json, const ObjectRun &run, dom::parser &parser,
+              QList<PelkoDocument>::iterator document)
 {
-    constexpr qsizetype worthACall = 256 * 1024;
-    if (json.size() - size < worthACall)
-        return;
-    json.truncate(size);
+    char *text = json.data() + run.start;
+    text[0] = '[';
+    text[run.size - 1] = ']';
+    constexpr bool copyFirst = false;
+    dom::array array;
+    const bool isArray = parser.parse(text, run.size, copyFirst).get(array) == simdjson::SUCCESS;
+    // The parser keeps its own copy of every string. The first byte may be the last one of the run before.
+    json.truncate(qsizetype(run.start) + 1 + padding);
     json.squeeze();
-}
-
-/// From the last to the first, so that the text makes room for the documents while they are read.
-bool readBackwards(QByteArray json, const std::vector<ObjectPlace> &places, QList<PelkoDocument> &documents)
-{
-    dom::parser parser;
-    if (parser.allocate(0, deepestNesting - 1) != simdjson::SUCCESS) // one level is the array around them
+    if (!isArray)
         return false;
-    for (qsizetype index = documents.size(); index-- > 0;) {
-        const ObjectPlace place = places[std::size_t(index)];
-        constexpr bool copyFirst = false;
-        const auto document = parser.parse(json.constData() + place.start, place.size, copyFirst);
-        cut(json, qsizetype(place.start) + padding); // the parser keeps its own copy of every string
-        if (document.error() != simdjson::SUCCESS || !read(document.value_unsafe(), documents[index]))
+    Q_ASSERT(qsizetype(array.size()) == run.objects); // in valid JSON, braces tell how many there are
+    for (const dom::element element : array) {
+        if (!read(element, *document++))
             return false;
     }
     return true;
+}
+
+/// From the last to the first, so that the text makes room for the documents.
+std::optional<QList<PelkoDocument>> readRuns(QByteArray json, const std::vector<ObjectRun> &runs)
+{
+    qsizetype count = 0;
+    for (const ObjectRun &run : runs)
+        count += run.objects;
+    QList<PelkoDocument> documents(count);
+    auto document = documents.end();
+    dom::parser parser;
+    for (auto run = runs.rbegin(); run != runs.rend(); ++run) {
+        document -= run->objects;
+        if (!takeLast(json, *run, parser, document))
+            return std::nullopt;
+    }
+    return documents;
 }
 } // namespace
 
@@ -223,11 +236,6 @@ std::optional<QList<PelkoDocument>> readDocuments(QByteArray json)
     json.reserve(json.size() + padding);
     const std::string_view text(json.constData(), std::size_t(json.size()));
     const std::size_t start = text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0;
-    const auto places = findObjects(text, start, shortestDocument.size());
-    if (!places)
-        return std::nullopt;
-    QList<PelkoDocument> documents(qsizetype(places->size()));
-    if (!readBackwards(std::move(json), *places, documents))
-        return std::nullopt;
-    return documents;
+    const auto runs = findObjects(text, start, {.shortest = shortestDocument.size(), .run = 64 * 1024});
+    return runs ? readRuns(std::move(json), *runs) : std::nullopt;
 }

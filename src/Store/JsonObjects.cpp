@@ -44,7 +44,8 @@ public:
         return isNext;
     }
 
-    std::optional<ObjectPlace> takeObject()
+    /// How long it was.
+    std::optional<std::size_t> takeObject()
     {
         skipSpace();
         const std::size_t start = m_at;
@@ -54,7 +55,7 @@ public:
         if (last == m_text.size())
             return std::nullopt;
         m_at = last + 1;
-        return ObjectPlace{.start = start, .size = m_at - start};
+        return m_at - start;
     }
 
     bool isEmpty()
@@ -62,6 +63,8 @@ public:
         skipSpace();
         return m_at == m_text.size();
     }
+
+    std::size_t at() const { return m_at; }
 
 private:
     void skipSpace() { m_at = std::min(m_text.find_first_not_of(" \t\r\n", m_at), m_text.size()); }
@@ -71,22 +74,26 @@ private:
 };
 } // namespace
 
-std::optional<std::vector<ObjectPlace>> findObjects(std::string_view text, std::size_t start,
-                                                    std::size_t shortest)
+std::optional<std::vector<ObjectRun>> findObjects(std::string_view text, std::size_t start,
+                                                  const ObjectLengths &lengths)
 {
-    std::vector<ObjectPlace> objects;
+    std::vector<ObjectRun> runs;
     Remaining rest(text, start);
     if (!rest.take('['))
         return std::nullopt;
     bool hasMore = !rest.take(']');
     while (hasMore) {
-        const auto object = rest.takeObject();
-        if (!object || object->size < shortest)
+        if (runs.empty() || runs.back().size >= lengths.run)
+            runs.push_back({.start = rest.at() - 1, .size = 0, .objects = 0});
+        const auto length = rest.takeObject();
+        if (!length || *length < lengths.shortest)
             return std::nullopt;
-        objects.push_back(*object);
+        ObjectRun &run = runs.back();
+        run.size = rest.at() + 1 - run.start;
+        ++run.objects;
         hasMore = rest.take(',');
         if (!hasMore && !rest.take(']'))
             return std::nullopt;
     }
-    return rest.isEmpty() ? std::optional(std::move(objects)) : std::nullopt;
+    return rest.isEmpty() ? std::optional(std::move(runs)) : std::nullopt;
 }

@@ -6,18 +6,18 @@
 
 namespace
 {
-constexpr std::size_t anyLength = 0;
+constexpr ObjectLengths each = {.shortest = 0, .run = 0};
 
-/// The texts of the objects that are found, or "nothing".
-QByteArrayList objectsIn(const QByteArray &text, std::size_t start = 0, std::size_t shortest = anyLength)
+/// The texts of the runs that are found, without the places for their brackets, or "nothing".
+QByteArrayList runsIn(const QByteArray &text, const ObjectLengths &lengths = each, std::size_t start = 0)
 {
-    const auto places = findObjects({text.constData(), std::size_t(text.size())}, start, shortest);
-    if (!places)
+    const auto runs = findObjects({text.constData(), std::size_t(text.size())}, start, lengths);
+    if (!runs)
         return {"nothing"};
-    QByteArrayList objects;
-    for (const ObjectPlace &place : *places)
-        objects += text.sliced(qsizetype(place.start), qsizetype(place.size));
-    return objects;
+    QByteArrayList texts;
+    for (const ObjectRun &run : *runs)
+        texts += text.sliced(qsizetype(run.start) + 1, qsizetype(run.size) - 2).trimmed();
+    return texts;
 }
 } // namespace
 
@@ -52,7 +52,7 @@ private Q_SLOTS:
     void objectsAreFoundWhereTheyLie()
     {
         QFETCH(QByteArray, text);
-        QTEST(objectsIn(text), "objects");
+        QTEST(runsIn(text), "objects");
     }
 
     void whatIsNoArrayOfObjectsIsNothing_data()
@@ -70,20 +70,50 @@ private Q_SLOTS:
     void whatIsNoArrayOfObjectsIsNothing()
     {
         QFETCH(QByteArray, text);
-        QCOMPARE(objectsIn(text), QByteArrayList{"nothing"});
+        QCOMPARE(runsIn(text), QByteArrayList{"nothing"});
     }
 
     void theArrayBeginsWhereItIsSaid()
     {
-        QCOMPARE(objectsIn("xy[{}]", 2), QByteArrayList{"{}"});
-        QCOMPARE(objectsIn("xy[{}]", 1), QByteArrayList{"nothing"});
-        QCOMPARE(objectsIn("[]", 2), QByteArrayList{"nothing"});
+        QCOMPARE(runsIn("xy[{}]", each, 2), QByteArrayList{"{}"});
+        QCOMPARE(runsIn("xy[{}]", each, 1), QByteArrayList{"nothing"});
+        QCOMPARE(runsIn("[]", each, 2), QByteArrayList{"nothing"});
     }
 
     void anObjectThatIsTooShortIsAFault()
     {
-        QCOMPARE(objectsIn("[{ },{ }]", 0, 3), (QByteArrayList{"{ }", "{ }"}));
-        QCOMPARE(objectsIn("[{ },{}]", 0, 3), QByteArrayList{"nothing"});
+        QCOMPARE(runsIn("[{ },{ }]", {.shortest = 3, .run = 0}), (QByteArrayList{"{ }", "{ }"}));
+        QCOMPARE(runsIn("[{ },{}]", {.shortest = 3, .run = 0}), QByteArrayList{"nothing"});
+    }
+
+    void shortObjectsMakeRunsWithTheirNeighbours_data()
+    {
+        QTest::addColumn<std::size_t>("length");
+        QTest::addColumn<QList<std::ptrdiff_t>>("objects");
+        const auto add = [](std::size_t length, const QList<std::ptrdiff_t> &objects) {
+            QTest::addRow("%d bytes", int(length)) << length << objects;
+        };
+        add(4, {1, 1, 1, 1});
+        add(5, {2, 2});
+        add(7, {2, 2});
+        add(8, {3, 1});
+        add(100, {4});
+    }
+
+    void shortObjectsMakeRunsWithTheirNeighbours()
+    {
+        QFETCH(std::size_t, length);
+        QList<std::ptrdiff_t> objects;
+        for (const ObjectRun &run : findObjects("[{},{},{},{}]", 0, {.shortest = 0, .run = length}).value())
+            objects += run.objects;
+        QTEST(objects, "objects");
+    }
+
+    void aRunReachesFromOnePlaceForABracketToTheOther()
+    {
+        const std::vector<ObjectRun> expected{{.start = 1, .size = 5, .objects = 1},
+                                              {.start = 6, .size = 4, .objects = 1}};
+        QCOMPARE(findObjects(" [{ } ,{} ]", 0, each).value(), expected);
     }
 };
 
