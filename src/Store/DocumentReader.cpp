@@ -4,6 +4,8 @@
 #include "Store/JsonObjects.h"
 #include "Store/UuidText.h"
 
+#include <QVarLengthArray>
+
 #include <simdjson.h>
 
 namespace dom = simdjson::dom;
@@ -21,7 +23,14 @@ static_assert(padding < qsizetype(shortestDocument.size()), "a run pads the one 
 class Members
 {
 public:
-    explicit Members(dom::element json) { m_isObject = json.get(m_object) == simdjson::SUCCESS; }
+    explicit Members(dom::element json)
+    {
+        dom::object object;
+        if (json.get(object) != simdjson::SUCCESS)
+            return;
+        for (const dom::key_value_pair member : object)
+            m_members.append({member.key, member.value});
+    }
 
     /// False when the member is missing or is not what `value` can hold.
     template <typename Value>
@@ -34,8 +43,7 @@ public:
 private:
     std::optional<dom::element> last(std::string_view key) const;
 
-    dom::object m_object;
-    bool m_isObject = false;
+    QVarLengthArray<std::pair<std::string_view, dom::element>, 8> m_members;
 };
 
 // What "data.json" may hold, value by value. Each is false when the JSON is of another kind.
@@ -70,6 +78,11 @@ bool read(dom::element json, QString &value)
     return true;
 }
 
+QUtf8StringView inUtf8(std::string_view text)
+{
+    return {text.data(), qsizetype(text.size())};
+}
+
 template <typename Value>
 bool assign(Value &value, std::optional<Value> read)
 {
@@ -92,14 +105,14 @@ bool read(dom::element json, QByteArray &value)
 
 bool read(dom::element json, Space &value)
 {
-    QString raw;
-    return read(json, raw) && assign(value, spaceFromRawValue(raw));
+    std::string_view raw;
+    return read(json, raw) && assign(value, spaceFromRawValue(inUtf8(raw)));
 }
 
 bool read(dom::element json, BlockType &value)
 {
-    QString raw;
-    return read(json, raw) && assign(value, blockTypeFromRawValue(raw));
+    std::string_view raw;
+    return read(json, raw) && assign(value, blockTypeFromRawValue(inUtf8(raw)));
 }
 
 template <typename Value>
@@ -162,14 +175,11 @@ bool read(dom::element json, QList<Value> &values)
 
 std::optional<dom::element> Members::last(std::string_view key) const
 {
-    std::optional<dom::element> found;
-    if (!m_isObject)
-        return found;
-    for (const dom::key_value_pair member : m_object) {
-        if (member.key == key)
-            found = member.value;
+    for (auto member = m_members.rbegin(); member != m_members.rend(); ++member) {
+        if (member->first == key)
+            return member->second;
     }
-    return found;
+    return std::nullopt;
 }
 
 template <typename Value>
