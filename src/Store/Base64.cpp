@@ -89,7 +89,10 @@ std::size_t paddingOf(std::string_view text)
 
 char *encodeEscapedBase64(QByteArrayView bytes, char *out)
 {
-    const auto begun = Base64Vector::encode(bytes.data(), std::size_t(bytes.size()), out);
+    static const std::span<const Base64Vector::Encoder> encoders = Base64Vector::encoders();
+    Base64Vector::Encoded begun{.bytes = 0, .end = out};
+    if (!encoders.empty())
+        begun = encoders.front()(bytes.data(), std::size_t(bytes.size()), out);
     out = begun.end;
     const auto *in = reinterpret_cast<const unsigned char *>(bytes.data()) + begun.bytes;
     const qsizetype rest = bytes.size() % 3;
