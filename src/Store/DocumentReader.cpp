@@ -8,6 +8,8 @@
 
 #include <simdjson.h>
 
+#include <ranges>
+
 namespace dom = simdjson::dom;
 
 namespace
@@ -175,9 +177,9 @@ bool read(dom::element json, QList<Value> &values)
 
 std::optional<dom::element> Members::last(std::string_view key) const
 {
-    for (auto member = m_members.rbegin(); member != m_members.rend(); ++member) {
-        if (member->first == key)
-            return member->second;
+    for (const auto &[name, value] : m_members | std::views::reverse) {
+        if (name == key)
+            return value;
     }
     return std::nullopt;
 }
@@ -232,9 +234,9 @@ std::optional<QList<PelkoDocument>> readRuns(QByteArray json, const std::vector<
     QList<PelkoDocument> documents(count);
     auto document = documents.end();
     dom::parser parser;
-    for (auto run = runs.rbegin(); run != runs.rend(); ++run) {
-        document -= run->objects;
-        if (!takeLast(json, *run, parser, document))
+    for (const ObjectRun &run : runs | std::views::reverse) {
+        document -= run.objects;
+        if (!takeLast(json, run, parser, document))
             return std::nullopt;
     }
     return documents;

@@ -44,7 +44,7 @@ private Q_SLOTS:
         add("nested", "[{'a':{'b':[{}]}},{}]", {"{'a':{'b':[{}]}}", "{}"});
         add("braces in text", "[{'}':'{'},{}]", {"{'}':'{'}", "{}"});
         add("escaped quote", "[{'a':'\\'}'},{}]", {"{'a':'\\'}'}", "{}"});
-        add("escaped backslash", "[{'a':'\\\\'},{'b':'\\\\\\'}'}]", {"{'a':'\\\\'}", "{'b':'\\\\\\'}'}"});
+        add("escaped backslash", R"([{'a':'\\'},{'b':'\\\'}'}])", {R"({'a':'\\'})", R"({'b':'\\\'}'})"});
         add("empty text", "[{'':''}]", {"{'':''}"});
         add("not looked into", "[{x]}]", {"{x]}"});
     }
@@ -104,7 +104,8 @@ private Q_SLOTS:
     {
         QFETCH(std::size_t, length);
         QList<std::ptrdiff_t> objects;
-        for (const ObjectRun &run : findObjects("[{},{},{},{}]", 0, {.shortest = 0, .run = length}).value())
+        const auto runs = findObjects("[{},{},{},{}]", 0, {.shortest = 0, .run = length}).value();
+        for (const ObjectRun &run : runs)
             objects += run.objects;
         QTEST(objects, "objects");
     }
