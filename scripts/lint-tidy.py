@@ -18,6 +18,7 @@ import hashlib
 import json
 import os
 import pathlib
+import re
 import shlex
 import subprocess
 import sys
@@ -66,19 +67,26 @@ def flags_and_object(command):
     return tuple(words[first:last]), words[last + 1]
 
 
+def sources_of(entry):
+    """The files of src/ that a compile command is for: one, or those that a unit of the build includes."""
+    file = pathlib.Path(entry["file"])
+    found = [file]
+    if file.parent.name == "Unity":
+        found = map(pathlib.Path, re.findall(r'#include "(.*\.cpp)"', file.read_text()))
+    return [source for source in found if source.is_relative_to(ROOT / "src")]
+
+
 def changed_files(build, stamps):
     version = subprocess.run([CHECKER, "--version"], capture_output=True, check=True).stdout
     common = version + (ROOT / ".clang-tidy").read_bytes()
     deps = dependencies(build)
     for entry in json.loads((build / "compile_commands.json").read_text()):
-        source = pathlib.Path(entry["file"])
-        if not source.is_relative_to(ROOT / "src"):
-            continue
         flags, object_file = flags_and_object(entry["command"])
-        stamp = stamps / (str(source.relative_to(ROOT / "src")).replace(os.sep, "-") + ".clean")
         mark = fingerprint(entry, deps.get(object_file, []), common)
-        if not stamp.exists() or stamp.read_text() != mark:
-            yield Job(source, flags, stamp, mark)
+        for source in sources_of(entry):
+            stamp = stamps / (str(source.relative_to(ROOT / "src")).replace(os.sep, "-") + ".clean")
+            if not stamp.exists() or stamp.read_text() != mark:
+                yield Job(source, flags, stamp, mark)
 
 
 def units(jobs):

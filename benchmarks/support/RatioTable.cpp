@@ -2,7 +2,11 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <set>
+
+namespace
+{
+constexpr auto floors = {"floor", "durable"};
+}
 
 void RatioTable::ReportRuns(const std::vector<Run> &runs)
 {
@@ -11,34 +15,55 @@ void RatioTable::ReportRuns(const std::vector<Run> &runs)
             std::printf("%s: %s\n", run.benchmark_name().c_str(), run.error_message.c_str());
             continue;
         }
-        if (run.aggregate_name != "median")
-            continue;
-        const std::string name = run.run_name.function_name;
-        const std::size_t end = name.rfind('/');
-        const std::string row = name.substr(0, end);
-        if (std::ranges::find(m_rows, row) == m_rows.end())
-            m_rows.push_back(row);
-        const auto late = run.counters.find("late");
-        m_medians[row][name.substr(end + 1)] = {
-            .milliseconds = run.GetAdjustedRealTime(),
-            .late = late == run.counters.end() ? std::nullopt : std::optional(late->second.value)};
+        if (run.run_type == Run::RT_Iteration) {
+            double &least = timesOf(run).least;
+            least = std::min(least, run.GetAdjustedRealTime());
+        } else if (run.aggregate_name == "median") {
+            const auto late = run.counters.find("late");
+            timesOf(run).median = run.GetAdjustedRealTime();
+            if (late != run.counters.end())
+                timesOf(run).late = late->second.value;
+        }
     }
+}
+
+RatioTable::Times &RatioTable::timesOf(const Run &run)
+{
+    const std::string name = run.run_name.function_name;
+    const std::size_t end = name.rfind('/');
+    const std::string row = name.substr(0, end);
+    if (std::ranges::find(m_names, row) == m_names.end())
+        m_names.push_back(row);
+    return m_rows[row][name.substr(end + 1)];
 }
 
 void RatioTable::Finalize()
 {
-    std::printf("%-26s %-10s %12s %10s\n", "", "", "median, ms", "× floor");
-    for (const std::string &row : m_rows) {
-        const Medians &medians = m_medians[row];
-        const auto floor = medians.find("floor");
-        for (const auto &[way, median] : medians) {
-            std::printf("%-26s %-10s %12.4f", row.c_str(), way.c_str(), median.milliseconds);
-            if (floor != medians.end())
-                std::printf(" %10.2f", median.milliseconds / floor->second.milliseconds);
-            if (median.late)
-                std::printf("   %.0f frames late", *median.late);
+    std::printf("%-26s %-10s", "", "");
+    for (const char *time : {"median, ms", "least, ms"})
+        std::printf(" %12s %9s %9s", time, "× floor", "× durable");
+    std::printf("\n");
+    for (const std::string &name : m_names) {
+        for (const auto &[way, times] : m_rows[name]) {
+            std::printf("%-26s %-10s", name.c_str(), way.c_str());
+            printRatios(m_rows[name], times, &Times::median);
+            printRatios(m_rows[name], times, &Times::least);
+            if (times.late)
+                std::printf("   %.0f frames late", *times.late);
             std::printf("\n");
         }
+    }
+}
+
+void RatioTable::printRatios(const Row &row, const Times &times, double Times::*time)
+{
+    std::printf(" %12.4f", times.*time);
+    for (const char *name : floors) {
+        const auto floor = row.find(name);
+        if (floor == row.end())
+            std::printf(" %8s", "");
+        else
+            std::printf(" %8.2f", times.*time / (floor->second.*time));
     }
 }
 

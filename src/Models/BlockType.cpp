@@ -28,9 +28,9 @@ QString rawValue(BlockType type)
     return names()[static_cast<std::size_t>(type)].second;
 }
 
-std::optional<BlockType> blockTypeFromRawValue(QStringView raw)
+std::optional<BlockType> blockTypeFromRawValue(QAnyStringView raw)
 {
     const auto found =
-        std::ranges::find(names(), raw, [](const auto &name) { return QStringView(name.second); });
+        std::ranges::find(names(), raw, [](const auto &name) { return QAnyStringView(name.second); });
     return found == names().end() ? std::nullopt : std::optional(found->first);
 }

@@ -17,4 +17,4 @@ constexpr bool isTextLike(BlockType type)
 QString rawValue(BlockType type);
 
 /// The kind of that exact name, or nothing.
-std::optional<BlockType> blockTypeFromRawValue(QStringView raw);
+std::optional<BlockType> blockTypeFromRawValue(QAnyStringView raw);

@@ -30,7 +30,7 @@ QString displayName(Space space)
     Q_UNREACHABLE();
 }
 
-std::optional<Space> spaceFromRawValue(QStringView raw)
+std::optional<Space> spaceFromRawValue(QAnyStringView raw)
 {
     const auto found = std::ranges::find_if(allSpaces, [raw](Space space) { return rawValue(space) == raw; });
     return found == allSpaces.end() ? std::nullopt : std::optional(*found);

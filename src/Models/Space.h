@@ -17,4 +17,4 @@ QString rawValue(Space space);
 QString displayName(Space space);
 
 /// The space of that exact name, or nothing.
-std::optional<Space> spaceFromRawValue(QStringView raw);
+std::optional<Space> spaceFromRawValue(QAnyStringView raw);

@@ -9,7 +9,6 @@
 
 namespace
 {
-constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 constexpr std::uint32_t foreign = 0x0100'0000; // above the 24 bits that four characters make
 
 /// Two characters of base64 as JSON text: two to four bytes.
@@ -28,8 +27,8 @@ struct EscapedPair {
 constexpr auto escapedPairs = [] {
     std::array<EscapedPair, 4096> pairs{};
     for (std::size_t bits = 0; bits < pairs.size(); ++bits) {
-        pairs[bits].append(alphabet[bits >> 6]);
-        pairs[bits].append(alphabet[bits & 63]);
+        pairs[bits].append(base64Alphabet[bits >> 6]);
+        pairs[bits].append(base64Alphabet[bits & 63]);
     }
     return pairs;
 }();
@@ -39,8 +38,8 @@ constexpr auto decodedBits = [] {
     std::array<std::array<std::uint32_t, 256>, 4> places{};
     for (std::size_t place = 0; place < places.size(); ++place) {
         places[place].fill(foreign);
-        for (std::uint32_t value = 0; value < alphabet.size(); ++value)
-            places[place][static_cast<unsigned char>(alphabet[value])] = value << (18 - 6 * place);
+        for (std::uint32_t value = 0; value < base64Alphabet.size(); ++value)
+            places[place][static_cast<unsigned char>(base64Alphabet[value])] = value << (18 - 6 * place);
     }
     return places;
 }();
@@ -89,7 +88,10 @@ std::size_t paddingOf(std::string_view text)
 
 char *encodeEscapedBase64(QByteArrayView bytes, char *out)
 {
-    const auto begun = Base64Vector::encode(bytes.data(), std::size_t(bytes.size()), out);
+    static const std::span<const Base64Vector::Encoder> encoders = Base64Vector::encoders();
+    Base64Vector::Encoded begun{.bytes = 0, .end = out};
+    if (!encoders.empty())
+        begun = encoders.front()(bytes.data(), std::size_t(bytes.size()), out);
     out = begun.end;
     const auto *in = reinterpret_cast<const unsigned char *>(bytes.data()) + begun.bytes;
     const qsizetype rest = bytes.size() % 3;

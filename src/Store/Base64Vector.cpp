@@ -1,16 +1,20 @@
 #include "Store/Base64Vector.h"
 
+#include "Store/Base64.h"
+
 #if defined(__x86_64__) && defined(__GNUC__)
 
 #    include <array>
 #    include <bit>
 #    include <cstdint>
+#    ifndef __clang__ // GCC 12 warns of registers that its own header means to leave as they are
+#        pragma GCC diagnostic ignored "-Wmaybe-uninitialized"
+#    endif
 #    include <immintrin.h>
+#    include <vector>
 
 namespace
 {
-constexpr std::size_t stepIn = 12;
-constexpr std::size_t readAhead = 16;  // bytes that a step looks at
 constexpr std::uint8_t nothing = 0x80; // the place stays empty when bytes are shuffled
 
 /// How eight characters move apart to make room for the backslashes, for each set of slashes among them.
@@ -77,36 +81,87 @@ __attribute__((target("ssse3,popcnt"))) char *putEscaped(char *out, __m128i text
     return out + 8 + std::popcount(slashes);
 }
 
-__attribute__((target("ssse3,popcnt"))) Base64Vector::Encoded encodeSteps(const char *bytes,
-                                                                          std::size_t count, char *out)
+__attribute__((target("ssse3,popcnt"))) Base64Vector::Encoded encodeTwelves(const char *bytes,
+                                                                            std::size_t count, char *out)
 {
+    constexpr std::size_t lookedAt = 16;
     std::size_t done = 0;
-    for (; done + readAhead <= count; done += stepIn) {
+    for (; done + lookedAt <= count; done += 12) {
         const __m128i text = letters(sixBits(load(bytes + done)));
+        // With or without slashes: to tell them apart takes the processor longer, as it cannot foresee which
+        // it is.
         const auto slashes = unsigned(_mm_movemask_epi8(_mm_cmpeq_epi8(text, _mm_set1_epi8('/'))));
-        if (slashes == 0) {
-            store(out, text);
-            out += readAhead;
-            continue;
-        }
         out = putEscaped(out, text, slashes & 0xFF);
         out = putEscaped(out, _mm_srli_si128(text, 8), slashes >> 8);
     }
     return {done, out};
 }
+
+/// Each group of three bytes over four: so the six bits of every letter lie in two neighbours, as the shifts
+/// below want them.
+constexpr auto spreadGroups = [] {
+    std::array<std::uint8_t, 64> places{};
+    for (std::size_t group = 0; group < 16; ++group) {
+        const auto byte = static_cast<std::uint8_t>(3 * group);
+        places[4 * group] = byte + 1;
+        places[4 * group + 1] = byte;
+        places[4 * group + 2] = byte + 2;
+        places[4 * group + 3] = byte + 1;
+    }
+    return places;
+}();
+#    define PELKO_WIDE __attribute__((target("avx512f,avx512bw,avx512vbmi,avx512vbmi2,bmi2,popcnt")))
+
+/// Every letter is given a backslash, of which those of slashes are kept.
+PELKO_WIDE char *putEscaped(char *out, __m256i text, std::uint32_t slashes)
+{
+    constexpr std::uint64_t backslashPlaces = 0x5555'5555'5555'5555;
+    const __m512i letters = _mm512_slli_epi16(_mm512_cvtepu8_epi16(text), 8);
+    const __m512i pairs = _mm512_or_si512(letters, _mm512_set1_epi16('\\'));
+    const std::uint64_t kept = _pdep_u64(slashes, backslashPlaces) | ~backslashPlaces;
+    _mm512_storeu_si512(out, _mm512_maskz_compress_epi8(kept, pairs));
+    return out + 32 + std::popcount(slashes);
+}
+
+PELKO_WIDE Base64Vector::Encoded encodeFortyEights(const char *bytes, std::size_t count, char *out)
+{
+    constexpr std::size_t lookedAt = 64;
+    const __m512i places = _mm512_loadu_si512(spreadGroups.data());
+    const __m512i alphabetTable = _mm512_loadu_si512(base64Alphabet.data());
+    const __m512i shifts = _mm512_set1_epi64(0x3036'242A'1016'040A);
+    std::size_t done = 0;
+    for (; done + lookedAt <= count; done += 48) {
+        const __m512i groups = _mm512_permutexvar_epi8(places, _mm512_loadu_si512(bytes + done));
+        const __m512i text =
+            _mm512_permutexvar_epi8(_mm512_multishift_epi64_epi8(shifts, groups), alphabetTable);
+        const std::uint64_t slashes = _mm512_cmpeq_epi8_mask(text, _mm512_set1_epi8('/'));
+        out = putEscaped(out, _mm512_castsi512_si256(text), static_cast<std::uint32_t>(slashes));
+        out = putEscaped(out, _mm512_extracti64x4_epi64(text, 1), static_cast<std::uint32_t>(slashes >> 32));
+    }
+    return {done, out};
+}
 } // namespace
 
-Base64Vector::Encoded Base64Vector::encode(const char *bytes, std::size_t count, char *out)
+std::span<const Base64Vector::Encoder> Base64Vector::encoders()
 {
-    static const bool known = __builtin_cpu_supports("ssse3") && __builtin_cpu_supports("popcnt");
-    return known ? encodeSteps(bytes, count, out) : Encoded{0, out};
+    static const auto known = [] {
+        std::vector<Encoder> found;
+        const bool bits = __builtin_cpu_supports("popcnt");
+        if (bits && __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512vbmi") &&
+            __builtin_cpu_supports("avx512vbmi2") && __builtin_cpu_supports("bmi2"))
+            found.push_back(encodeFortyEights);
+        if (bits && __builtin_cpu_supports("ssse3"))
+            found.push_back(encodeTwelves);
+        return found;
+    }();
+    return known;
 }
 
 #else
 
-Base64Vector::Encoded Base64Vector::encode(const char *, std::size_t, char *out)
+std::span<const Base64Vector::Encoder> Base64Vector::encoders()
 {
-    return {0, out};
+    return {};
 }
 
 #endif

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 
 /// Base64 in the registers of the processor, where it has them and this program knows them.
 namespace Base64Vector
@@ -12,8 +13,11 @@ struct Encoded {
     char *end = nullptr;
 };
 
-/// Encodes as many whole groups of three bytes as it can, with "/" as "\/"; the caller does the rest. There
-/// must be room for the longest text of all bytes.
-Encoded encode(const char *bytes, std::size_t count, char *out);
+/// Encodes whole groups of three bytes, with "/" as "\/", until fewer than 64 bytes are left; the caller does
+/// the rest. There must be room for the longest text of all bytes.
+using Encoder = Encoded (*)(const char *bytes, std::size_t count, char *out);
+
+/// Those that this processor has the instructions for, the fastest first.
+std::span<const Encoder> encoders();
 
 } // namespace Base64Vector

@@ -1,21 +1,38 @@
 #include "Store/DocumentReader.h"
 
 #include "Store/Base64.h"
+#include "Store/JsonObjects.h"
 #include "Store/UuidText.h"
 
+#include <QVarLengthArray>
+
 #include <simdjson.h>
+
+#include <ranges>
 
 namespace dom = simdjson::dom;
 
 namespace
 {
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view shortestDocument =
+    R"({"id":"00000000-0000-0000-0000-000000000000","space":"work","blocks":[],"createdAt":0})";
+/// The parser may look at so many bytes after a text, without counting them.
+constexpr auto padding = qsizetype(simdjson::SIMDJSON_PADDING);
+static_assert(padding < qsizetype(shortestDocument.size()), "a run pads the one before it");
 
 /// The members of one JSON object, found by name.
 class Members
 {
 public:
-    explicit Members(dom::element json) { m_isObject = json.get(m_object) == simdjson::SUCCESS; }
+    explicit Members(dom::element json)
+    {
+        dom::object object;
+        if (json.get(object) != simdjson::SUCCESS)
+            return;
+        for (const dom::key_value_pair member : object)
+            m_members.append({member.key, member.value});
+    }
 
     /// False when the member is missing or is not what `value` can hold.
     template <typename Value>
@@ -28,8 +45,7 @@ public:
 private:
     std::optional<dom::element> last(std::string_view key) const;
 
-    dom::object m_object;
-    bool m_isObject = false;
+    QVarLengthArray<std::pair<std::string_view, dom::element>, 8> m_members;
 };
 
 // What "data.json" may hold, value by value. Each is false when the JSON is of another kind.
@@ -64,6 +80,11 @@ bool read(dom::element json, QString &value)
     return true;
 }
 
+QUtf8StringView inUtf8(std::string_view text)
+{
+    return {text.data(), qsizetype(text.size())};
+}
+
 template <typename Value>
 bool assign(Value &value, std::optional<Value> read)
 {
@@ -86,14 +107,14 @@ bool read(dom::element json, QByteArray &value)
 
 bool read(dom::element json, Space &value)
 {
-    QString raw;
-    return read(json, raw) && assign(value, spaceFromRawValue(raw));
+    std::string_view raw;
+    return read(json, raw) && assign(value, spaceFromRawValue(inUtf8(raw)));
 }
 
 bool read(dom::element json, BlockType &value)
 {
-    QString raw;
-    return read(json, raw) && assign(value, blockTypeFromRawValue(raw));
+    std::string_view raw;
+    return read(json, raw) && assign(value, blockTypeFromRawValue(inUtf8(raw)));
 }
 
 template <typename Value>
@@ -156,14 +177,11 @@ bool read(dom::element json, QList<Value> &values)
 
 std::optional<dom::element> Members::last(std::string_view key) const
 {
-    std::optional<dom::element> found;
-    if (!m_isObject)
-        return found;
-    for (const dom::key_value_pair member : m_object) {
-        if (member.key == key)
-            found = member.value;
+    for (const auto &[name, value] : m_members | std::views::reverse) {
+        if (name == key)
+            return value;
     }
-    return found;
+    return std::nullopt;
 }
 
 template <typename Value>
@@ -184,32 +202,52 @@ bool Members::optional(std::string_view key, std::optional<Value> &value) const
     return read(*json, value.emplace());
 }
 
-/// The parser may look at the bytes after the end, without counting them.
-void pad(QByteArray &json)
+/// Reads the last run, the rest of whose text is given back, into as many documents.
+bool takeLast(QByteArray &json, const ObjectRun &run, dom::parser &parser,
+              QList<PelkoDocument>::iterator document)
 {
-    json.reserve(json.size() + qsizetype(simdjson::SIMDJSON_PADDING));
+    char *text = json.data() + run.start;
+    text[0] = '[';
+    text[run.size - 1] = ']';
+    constexpr bool copyFirst = false;
+    dom::array array;
+    const bool isArray = parser.parse(text, run.size, copyFirst).get(array) == simdjson::SUCCESS;
+    // The parser keeps its own copy of every string. The first byte may be the last one of the run before.
+    json.truncate(qsizetype(run.start) + 1 + padding);
+    json.squeeze();
+    if (!isArray)
+        return false;
+    Q_ASSERT(qsizetype(array.size()) == run.objects); // in valid JSON, braces tell how many there are
+    for (const dom::element element : array) {
+        if (!read(element, *document++))
+            return false;
+    }
+    return true;
 }
 
-std::string_view withoutByteOrderMark(std::string_view text)
+/// From the last to the first, so that the text makes room for the documents.
+std::optional<QList<PelkoDocument>> readRuns(QByteArray json, const std::vector<ObjectRun> &runs)
 {
-    return text.substr(text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0);
+    qsizetype count = 0;
+    for (const ObjectRun &run : runs)
+        count += run.objects;
+    QList<PelkoDocument> documents(count);
+    auto document = documents.end();
+    dom::parser parser;
+    for (const ObjectRun &run : runs | std::views::reverse) {
+        document -= run.objects;
+        if (!takeLast(json, run, parser, document))
+            return std::nullopt;
+    }
+    return documents;
 }
 } // namespace
 
 std::optional<QList<PelkoDocument>> readDocuments(QByteArray json)
 {
-    pad(json);
-    const std::string_view text = withoutByteOrderMark({json.constData(), std::size_t(json.size())});
-    if (text.starts_with(byteOrderMark)) // newer parsers would skip this second one
-        return std::nullopt;
-    dom::parser parser;
-    dom::element root;
-    constexpr bool copyFirst = false;
-    if (parser.parse(text.data(), text.size(), copyFirst).get(root) != simdjson::SUCCESS)
-        return std::nullopt;
-    json.clear(); // the parser keeps its own copy of every string: a large file need not be held twice
-    QList<PelkoDocument> documents;
-    if (!read(root, documents))
-        return std::nullopt;
-    return documents;
+    json.reserve(json.size() + padding);
+    const std::string_view text(json.constData(), std::size_t(json.size()));
+    const std::size_t start = text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0;
+    const auto runs = findObjects(text, start, {.shortest = shortestDocument.size(), .run = 64 * 1024});
+    return runs ? readRuns(std::move(json), *runs) : std::nullopt;
 }

@@ -10,7 +10,8 @@
 class JsonText
 {
 public:
-    static constexpr qsizetype drainAt = 256 * 1024;
+    /// Large, as the system takes a large file in large pieces for less.
+    static constexpr qsizetype drainAt = 1024 * 1024;
 
     JsonText() = default;
     explicit JsonText(ByteSink &sink);

@@ -1,4 +1,5 @@
 #include "Store/Base64.h"
+#include "Store/Base64Vector.h"
 #include "support/TestProgram.h"
 
 #include <QRandomGenerator>
@@ -66,9 +67,26 @@ private Q_SLOTS:
         }
     }
 
+    void everyEncoderOfTheProcessorAgreesWithQts()
+    {
+        QRandomGenerator random(20010102);
+        for (const Base64Vector::Encoder encode : Base64Vector::encoders()) {
+            for (int length = 0; length < 300; ++length) {
+                QByteArray bytes(length, Qt::Uninitialized);
+                for (char &byte : bytes)
+                    byte = random.bounded(4) == 0 ? '\xFF' : char(random.bounded(256));
+                QByteArray text(longestEscapedBase64(length), Qt::Uninitialized);
+                const auto begun = encode(bytes.constData(), std::size_t(length), text.data());
+                QVERIFY(begun.bytes % 3 == 0 && begun.bytes + 64 > std::size_t(length));
+                text.truncate(begun.end - text.constData());
+                QCOMPARE(text, bytes.first(qsizetype(begun.bytes)).toBase64().replace("/", "\\/"));
+            }
+        }
+    }
+
     void nothingIsWrittenBehindTheRoomThatWasAskedFor()
     {
-        for (int length = 0; length < 20; ++length) {
+        for (int length = 0; length < 200; ++length) {
             const qsizetype room = longestEscapedBase64(length);
             QByteArray text(room + 8, '#');
             encodeEscapedBase64(QByteArray(length, '\xFF'), text.data());

@@ -73,6 +73,21 @@ private Q_SLOTS:
         QVERIFY(readDocuments(json));
     }
 
+    /// Longer than what is given back at once while reading.
+    void aLongFileIsReadToItsFirstDocument()
+    {
+        QByteArrayList pages;
+        for (int number = 0; number < 9; ++number) {
+            const QByteArray date = "'createdAt':" + QByteArray::number(number);
+            pages += fileWith(date + ",'x':'" + QByteArray(200'000, '{') + "'").sliced(1).chopped(1);
+        }
+        const QByteArray json = "\xEF\xBB\xBF[" + pages.join(" ,\n") + "]";
+        const auto documents = readDocuments(json).value();
+        QCOMPARE(documents.size(), 9);
+        for (int number = 0; number < 9; ++number)
+            QCOMPARE(documents[number].createdAt, double(number));
+    }
+
     void absentAndNullAreTheSameAndDifferFromEmpty()
     {
         const PelkoDocument absent = onlyDocument(fileWith(""));
