@@ -54,7 +54,7 @@ def environment(home, display):
     }
     for folder in variables.values():
         os.makedirs(folder, mode=0o700)
-    passed_on = ("PATH", "PELKO_TRACES", "QT_QUICK_BACKEND", "QT_SCALE_FACTOR")
+    passed_on = ("PATH", "ASAN_OPTIONS", "PELKO_TRACES", "QT_QUICK_BACKEND", "QT_SCALE_FACTOR")
     kept = {name: os.environ[name] for name in passed_on if name in os.environ}
     return {
         **kept,
