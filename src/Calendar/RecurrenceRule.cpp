@@ -107,6 +107,11 @@ bool RecurrenceRule::isYearly() const
     return m_rule->freq == ICAL_YEARLY_RECURRENCE;
 }
 
+bool RecurrenceRule::comesTrue(qint64 start) const
+{
+    return !isSearchedAtOnce(*m_rule) || ::comesTrue(*m_rule, dayOf(start));
+}
+
 std::optional<qint64> RecurrenceRule::until(const CalendarTime &start) const
 {
     const icaltimetype &until = m_rule->until;
@@ -121,9 +126,7 @@ std::vector<qint64> RecurrenceRule::times(const CalendarTime &start, const Range
                                           const IsGivenUp &isGivenUp) const
 {
     const qint64 last = std::min(range.to - 1, until(start).value_or(range.to));
-    if (last < range.from || last < start.wall)
-        return {};
-    if (isSearchedAtOnce(*m_rule) && !comesTrue(*m_rule, dayOf(start.wall)))
+    if (last < range.from || last < start.wall || !comesTrue(start.wall))
         return {};
     icalrecurrencetype rule = *m_rule;
     rule.until = written(last, start.isDay);

@@ -28,6 +28,9 @@ public:
 
     bool isYearly() const;
 
+    /// Whether any day will ever be as the rule wants it, for what starts at a wall time.
+    bool comesTrue(qint64 start) const;
+
     /// The times in the range, in order, at which something happens that happened at `start` first. That time
     /// itself is among them only where the rule agrees.
     std::vector<qint64> times(const CalendarTime &start, const Range &range,

@@ -42,6 +42,11 @@ std::optional<qint64> Observance::lastBeginning(qint64 utc) const
 void WrittenZone::setObservances(std::vector<Observance> observances)
 {
     m_observances = std::move(observances);
+    // A zone is asked for every event; what never comes true is looked for once.
+    for (Observance &observance : m_observances) {
+        if (observance.rule && !observance.rule->comesTrue(observance.start))
+            observance.rule.reset();
+    }
     std::ranges::stable_sort(m_observances, {}, &Observance::start);
 }
 

@@ -199,6 +199,17 @@ private Q_SLOTS:
         QCOMPARE(desk.told(trip + described), QStringList());
     }
 
+    void aChangeOfClocksThatNeverComesIsLookedForOnce()
+    {
+        QByteArray text =
+            zone("Our Town", "BEGIN:STANDARD\r\nDTSTART:19961027T030000\r\nTZOFFSETFROM:+0200\r\n"
+                             "TZOFFSETTO:+0100\r\nRRULE:FREQ=YEARLY;BYMONTH=10;BYDAY=-9SU\r\n"
+                             "END:STANDARD\r\n");
+        for (int index = 0; index < 10'000; ++index)
+            text += at("Our Town", "20261121T120000");
+        QCOMPARE(desk.told(text), QStringList(10'000, u"21 11:00 Tea"_s));
+    }
+
     void aThousandUnknownZonesAreEnough()
     {
         QByteArray text;
