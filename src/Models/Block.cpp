@@ -1,9 +1,16 @@
 #include "Models/Block.h"
 
-#include <tuple>
+#include <cstring>
 
 namespace
 {
+
+/// Qt compares byte by byte; a page of thousands of blocks is compared with every key.
+bool isSameID(const QUuid &one, const QUuid &other)
+{
+    static_assert(std::has_unique_object_representations_v<QUuid>);
+    return std::memcmp(&one, &other, sizeof(QUuid)) == 0;
+}
 
 /// Versions of a page share the texts that did not change: most are told to be equal without being read.
 bool isSameText(const QString &one, const QString &other)
@@ -28,9 +35,9 @@ qint64 Block::wordCount() const
 
 bool Block::operator==(const Block &other) const
 {
-    const auto others = std::tie(other.id, other.type, other.todos, other.isFullWidth, other.bannerTitle);
-    return std::tie(id, type, todos, isFullWidth, bannerTitle) == others &&
-           isSameText(content, other.content) && isSamePicture(imageData, other.imageData);
+    return isSameID(id, other.id) && type == other.type && isSameText(content, other.content) &&
+           isFullWidth == other.isFullWidth && todos == other.todos && bannerTitle == other.bannerTitle &&
+           isSamePicture(imageData, other.imageData);
 }
 
 bool isSamePicture(const std::optional<QByteArray> &one, const std::optional<QByteArray> &other)
