@@ -40,8 +40,12 @@ RatioTable::Times &RatioTable::timesOf(const Run &run)
 void RatioTable::Finalize()
 {
     std::printf("%-26s %-10s", "", "");
-    for (const char *time : {"median, ms", "least, ms"})
-        std::printf(" %12s %9s %9s", time, "× floor", "× durable");
+    for (const char *time : {"median, ms", "least, ms"}) {
+        std::printf(" %12s", time);
+        for (const char *name : floors)
+            if (isUsed(name))
+                std::printf(" × %7s", name);
+    }
     std::printf("\n");
     for (const std::string &name : m_names) {
         for (const auto &[way, times] : m_rows[name]) {
@@ -55,15 +59,20 @@ void RatioTable::Finalize()
     }
 }
 
-void RatioTable::printRatios(const Row &row, const Times &times, double Times::*time)
+bool RatioTable::isUsed(const std::string &floor) const
+{
+    return std::ranges::any_of(m_rows, [&floor](const auto &row) { return row.second.contains(floor); });
+}
+
+void RatioTable::printRatios(const Row &row, const Times &times, double Times::*time) const
 {
     std::printf(" %12.4f", times.*time);
     for (const char *name : floors) {
         const auto floor = row.find(name);
-        if (floor == row.end())
-            std::printf(" %8s", "");
-        else
-            std::printf(" %8.2f", times.*time / (floor->second.*time));
+        if (floor != row.end())
+            std::printf(" %9.2f", times.*time / (floor->second.*time));
+        else if (isUsed(name))
+            std::printf(" %9s", "");
     }
 }
 

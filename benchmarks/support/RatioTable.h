@@ -28,7 +28,8 @@ private:
     using Row = std::map<std::string, Times>; // by way
 
     Times &timesOf(const Run &run);
-    static void printRatios(const Row &row, const Times &times, double Times::*time);
+    bool isUsed(const std::string &floor) const;
+    void printRatios(const Row &row, const Times &times, double Times::*time) const;
 
     std::vector<std::string> m_names; // "task/library", in the order of their running
     std::map<std::string, Row> m_rows;
