@@ -4,22 +4,29 @@ import QtQuick
 import Pelko
 
 /// The keys of the commands, made from their table. A menu bar has those of its rows.
-Instantiator {
+Item {
     id: keys
 
     required property ShellCommands commands
 
-    model: commands.list
+    Repeater {
+        model: keys.commands.list
 
-    delegate: Shortcut {
-        required property string commandID
-        required property string shortcut
-        required property bool isInMenu
-        required property bool isEnabled
+        // A shortcut looks for its window among items.
+        delegate: Item {
+            id: row
 
-        enabled: isEnabled && !(isInMenu && keys.commands.hasMenuBar)
-        sequences: shortcut === "" ? [] : [shortcut]
-        context: Qt.WindowShortcut
-        onActivated: keys.commands.run(commandID)
+            required property string commandID
+            required property string shortcut
+            required property bool isInMenu
+            required property bool isEnabled
+
+            Shortcut {
+                enabled: row.isEnabled && !(row.isInMenu && keys.commands.hasMenuBar)
+                sequences: row.shortcut === "" ? [] : [row.shortcut]
+                context: Qt.WindowShortcut
+                onActivated: keys.commands.run(row.commandID)
+            }
+        }
     }
 }
