@@ -12,6 +12,9 @@
 #include <csignal>
 #include <cstdio>
 #include <sys/resource.h>
+#ifdef __GLIBC__
+#    include <malloc.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +26,15 @@ QStringList arguments(int argc, char *argv[])
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
     return arguments;
+}
+
+/// The room of a picture that is let go belongs to the system again, not to the next picture of another size.
+void giveLargeBlocksBack()
+{
+#ifdef __GLIBC__
+    constexpr int megabyte = 1 << 20;
+    ::mallopt(M_MMAP_THRESHOLD, megabyte);
+#endif
 }
 
 int say(const CommandLineAnswer &answer)
@@ -69,6 +81,7 @@ int main(int argc, char *argv[])
     // What is written is for the writer only: it is left in no core file.
     constexpr rlimit none{0, 0};
     ::setrlimit(RLIMIT_CORE, &none);
+    giveLargeBlocksBack();
     const CommandLine commandLine = readCommandLine(arguments(argc, argv));
     if (const auto *known = std::get_if<CommandLineAnswer>(&commandLine))
         return say(*known);

@@ -53,7 +53,7 @@ private:
 
     QHash<QUuid, Entry> m_entries;
     quint64 m_asked = 0;
-    qsizetype m_budget = 72 << 20;
+    qsizetype m_budget = 40 << 20;
     int m_decodings = 0;
     QThreadPool m_decoder;
 };
