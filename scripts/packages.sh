@@ -14,6 +14,10 @@ run=(
     qt6-qpa-plugins qt6-wayland qt6-image-formats-plugins
     libgl1-mesa-dri fonts-inter fonts-jetbrains-mono
 )
+# Debian 12 has this plugin in the library's own package, later releases beside it.
+if grep -qs '^ID=debian$' /etc/os-release && ! grep -qs '^VERSION_ID="12"$' /etc/os-release; then
+    run+=(qt6-svg-plugins)
+fi
 display=(xvfb xauth imagemagick)
 benchmark=(libbenchmark-dev dbus)
 test=(

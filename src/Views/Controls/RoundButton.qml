@@ -1,4 +1,3 @@
-import QtQuick
 import Pelko
 
 /// A round glass button with the symbol `icon.name`; a new symbol grows in where the old one shrinks away.

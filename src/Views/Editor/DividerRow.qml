@@ -1,4 +1,3 @@
-import QtQuick
 import Pelko
 
 /// A divider on the page.

@@ -1,4 +1,3 @@
-import QtQuick
 import Pelko
 
 /// The cross that removes a checklist entry.

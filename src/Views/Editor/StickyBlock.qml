@@ -14,9 +14,11 @@ BlockEditor {
     property bool quiet: false
 
     function takeFocus(todoID: string, caret: int) {
-        for (let row = 0; row < entries.count; ++row)
-            if (todoID === "" || entries.itemAt(row).todoID === todoID)
-                return entries.itemAt(row).takeFocus(caret)
+        for (let row = 0; row < entries.count; ++row) {
+            const entry = entries.itemAt(row) as TodoRow
+            if (entry && (todoID === "" || entry.todoID === todoID))
+                return entry.takeFocus(caret)
+        }
     }
 
     Accessible.name: BlockKinds.checklist.tip
