@@ -22,7 +22,7 @@ const Passages &PageSelection::passages() const
 
 void PageSelection::publish(const PelkoDocument &document)
 {
-    if (document.blocks == m_document.blocks)
+    if (m_selection && document.blocks == m_document.blocks)
         return;
     m_document = document;
     m_passages.reset();
