@@ -34,6 +34,7 @@ void giveLargeBlocksBack()
 #ifdef __GLIBC__
     constexpr int megabyte = 1 << 20;
     ::mallopt(M_MMAP_THRESHOLD, megabyte);
+    ::mallopt(M_TRIM_THRESHOLD, 8 * megabyte); // a long page is copied with every key
 #endif
 }
 
