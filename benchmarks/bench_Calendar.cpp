@@ -94,8 +94,7 @@ void add(const char *name, const std::shared_ptr<Calendars> &calendars, Work wor
                                      }
                                  })
         ->Unit(benchmark::kMillisecond)
-        ->Repetitions(5)
-        ->ReportAggregatesOnly();
+        ->Repetitions(5);
 }
 
 void addBoth(const std::string &row, const std::shared_ptr<Calendars> &calendars)
