@@ -13,11 +13,15 @@ MouseArea {
     readonly property bool filled: Window.visibility === Window.Maximized
     readonly property bool movable: Window.visibility !== Window.FullScreen
 
+    signal dragged()
+
     acceptedButtons: Qt.LeftButton
+    onDragged: Window.window.startSystemMove()
     onPressed: mouse => start = Qt.point(mouse.x, mouse.y)
     onPositionChanged: mouse => {
-        if (movable && Math.hypot(mouse.x - start.x, mouse.y - start.y) > 4)
-            Window.window.startSystemMove()
+        // Qt 6.8 also reports the pointer that only passes over.
+        if (pressed && movable && Math.hypot(mouse.x - start.x, mouse.y - start.y) > 4)
+            dragged()
     }
     onDoubleClicked: {
         if (maximises && movable)
