@@ -81,6 +81,15 @@ void PomodoroViewModel::shown()
     focusCaptureAfter(focusDelayWhenShown);
 }
 
+void PomodoroViewModel::startFresh()
+{
+    m_delayedFocus.cancel();
+    m_lastCapturedID.reset();
+    refreshSparks();
+    typed({});
+    Q_EMIT startedFresh();
+}
+
 void PomodoroViewModel::toggleTimer()
 {
     startOrPause(m_timer);

@@ -7,9 +7,9 @@ class AppState;
 class Pasteboard;
 class PomodoroTimer;
 
-/// What the pomodoro panel shows and can do, from its opening to its closing: the timer, the field a spark
-/// is caught in, and the latest sparks. Timer and sparks live elsewhere and outlast it; what stands in the
-/// field does not.
+/// What the pomodoro panel shows and can do: the timer, the field a spark is caught in, and the latest
+/// sparks. Timer and sparks live elsewhere; what stands in the field and which spark glows lasts from one
+/// opening of the panel to its closing.
 class PomodoroViewModel : public QObject
 {
     Q_OBJECT
@@ -47,6 +47,8 @@ public:
 
     /// The panel is on screen: soon the field wants the keyboard.
     Q_INVOKABLE void shown();
+    /// The panel has closed: the next opening is to know nothing of this one.
+    Q_INVOKABLE void startFresh();
     Q_INVOKABLE void toggleTimer();
     Q_INVOKABLE void resetTimer();
     /// The field holds `text` now.
@@ -64,6 +66,7 @@ Q_SIGNALS:
     void sessionsChanged();
     void quickNoteChanged();
     void sparkCountChanged();
+    void startedFresh();
     /// The capture field has to take the keyboard.
     void captureFocusRequested();
 

@@ -3,7 +3,6 @@
 #include "Store/ChangeScope.h"
 #include "Timers/PomodoroReading.h"
 #include "Timers/PomodoroTimer.h"
-#include "Timers/PomodoroViewModel.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -18,9 +17,8 @@ TimersViewModel::TimersViewModel(PomodoroTimer &timer, FlowTimer &flow, AppState
     : QObject(parent)
     , m_timer(timer)
     , m_flow(flow)
-    , m_appState(appState)
-    , m_pasteboard(pasteboard)
     , m_scheduler(scheduler)
+    , m_panel(timer, appState, pasteboard, scheduler)
 {
     connect(&m_timer, &PomodoroTimer::isRunningChanged, this, &TimersViewModel::isRunningChanged);
     connect(&m_timer, &PomodoroTimer::isRunningChanged, this, &TimersViewModel::labelTextChanged);
@@ -45,11 +43,6 @@ QString TimersViewModel::labelName() const
 void TimersViewModel::setInTray(bool inTray)
 {
     ChangeScope(*this).assign(m_isInTray, inTray, &TimersViewModel::isInTrayChanged);
-}
-
-PomodoroViewModel *TimersViewModel::makePanel(QObject *parent)
-{
-    return new PomodoroViewModel(m_timer, m_appState, m_pasteboard, m_scheduler, parent);
 }
 
 void TimersViewModel::togglePanel(const QRect &opener)

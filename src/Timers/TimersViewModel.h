@@ -2,13 +2,13 @@
 
 #include "Services/Scheduler.h"
 #include "Timers/FlowTimer.h"
+#include "Timers/PomodoroViewModel.h"
 
 #include <QRect>
 
 class AppState;
 class Pasteboard;
 class PomodoroTimer;
-class PomodoroViewModel;
 
 /// What the windows know of the timers: the flow timer, the label that tells how the pomodoro stands and
 /// opens its panel, and whether a tray shows that label already.
@@ -38,8 +38,7 @@ public:
 
     void setInTray(bool inTray);
 
-    /// A view model for a panel that opens now; it belongs to the caller.
-    PomodoroViewModel *makePanel(QObject *parent);
+    PomodoroViewModel &panel() { return m_panel; }
     /// Opens the panel at a place of the screen or closes the one that is open.
     Q_INVOKABLE void togglePanel(const QRect &opener);
     Q_INVOKABLE void closePanel();
@@ -58,9 +57,8 @@ Q_SIGNALS:
 private:
     PomodoroTimer &m_timer;
     FlowTimer &m_flow;
-    AppState &m_appState;
-    Pasteboard &m_pasteboard;
     Scheduler &m_scheduler;
+    PomodoroViewModel m_panel;
     bool m_isInTray = false;
     bool m_isPanelOpen = false;
     bool m_hasJustLeft = false;

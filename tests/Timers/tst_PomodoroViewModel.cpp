@@ -158,11 +158,26 @@ private Q_SLOTS:
 
         QVERIFY(m_program->cards()[0].isNew && m_program->cards()[0].text == u"second"_s);
         QVERIFY(!m_program->cards()[1].isNew);
+    }
 
-        // A panel that opens later knows nothing of it.
-        PomodoroViewModel later(m_program->timer, m_program->appState, m_program->pasteboard,
-                                m_program->scheduler);
-        QVERIFY(!static_cast<SparkListModel *>(later.sparks())->rows()[0].isNew);
+    void afterItsClosingThePanelStartsFresh()
+    {
+        const QSignalSpy freshness(&m_program->panel, &PomodoroViewModel::startedFresh);
+        const QSignalSpy focus(&m_program->panel, &PomodoroViewModel::captureFocusRequested);
+        m_program->timer.start();
+        m_program->capture(u"spark"_s);
+        m_program->panel.typed(u"half a thought"_s);
+
+        m_program->panel.startFresh();
+
+        QCOMPARE(m_program->panel.quickNote(), QString());
+        QVERIFY(!m_program->panel.canSubmit());
+        QCOMPARE(m_program->cards().size(), 1);
+        QVERIFY(!m_program->cards()[0].isNew);
+        QVERIFY(m_program->panel.isRunning());
+        QCOMPARE(freshness.count(), 1);
+        m_program->scheduler.advance(1s);
+        QCOMPARE(focus.count(), 0);
     }
 
     void sixSparksAreCountedAndFourShown()

@@ -42,6 +42,10 @@ def without_a_window(pelko):
 
 def sparks_of_both_kinds(pelko):
     open_panel(pelko)
+    pelko.type("half a thought")
+    pelko.keys("Escape")
+    pelko.wait_gone("Capture a spark")
+    open_panel(pelko)
     capture_by_panel(pelko, "first from the panel")
     assert pelko_says(pelko, "--spark", "first from a key") == (0, "", "")
     pelko.wait_for("first from a key")

@@ -2,7 +2,6 @@
 
 #include "Store/AppState.h"
 #include "Timers/PomodoroTimer.h"
-#include "Timers/PomodoroViewModel.h"
 #include "Timers/TimersViewModel.h"
 #include "support/ManualClock.h"
 #include "support/ManualDocumentFile.h"
@@ -20,7 +19,7 @@ class TimersBench : public QObject
 
 public:
     TimersViewModel *timers() { return &m_timers; }
-    PomodoroViewModel *panel() { return &m_panel; }
+    PomodoroViewModel *panel() { return &m_timers.panel(); }
 
     Q_INVOKABLE void advance(int milliseconds)
     {
@@ -60,5 +59,4 @@ private:
     PomodoroTimer m_pomodoro{m_scheduler};
     FlowTimer m_flow{m_scheduler};
     TimersViewModel m_timers{m_pomodoro, m_flow, m_appState, m_pasteboard, m_scheduler};
-    PomodoroViewModel m_panel{m_pomodoro, m_appState, m_pasteboard, m_scheduler};
 };

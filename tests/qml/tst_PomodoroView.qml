@@ -218,6 +218,26 @@ Item {
             tryVerify(() => field().activeFocus)
         }
 
+        function test_afterItsClosingItStartsFresh() {
+            make(["one"])
+            view.forceActiveFocus()
+            keyClick("x")
+            keyClick(Qt.Key_Backspace)
+            verify(field().canUndo)
+            mouseClick(cards()[0], 60, 10, Qt.RightButton)
+            verify(named("Copy"))
+
+            bench.panel.startFresh()
+
+            tryVerify(() => !named("Copy"))
+            verify(field().activeFocus)
+            verify(!field().canUndo && !field().canRedo)
+            keyClick("y")
+            compare(bench.panel.quickNote, "y")
+            bench.panel.startFresh()
+            compare(field().text, "")
+        }
+
         function test_theMenuKeyOpensTheMenu_data() {
             return [
                 { tag: "menu", key: Qt.Key_Menu, modifiers: Qt.NoModifier },

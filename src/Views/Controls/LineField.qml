@@ -12,6 +12,13 @@ TextInput {
 
     signal edited(string text)
 
+    /// Nothing that was typed can come back by undoing.
+    function forgetTyping() : void {
+        // Only a change of the text drops its history.
+        text = content + " "
+        text = Qt.binding(() => field.content)
+    }
+
     text: content
     onTextEdited: field.edited(text)
     maximumLength: 0x7fffffff

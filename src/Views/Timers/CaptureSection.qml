@@ -12,6 +12,10 @@ FocusScope {
     Connections {
         target: root.panel
         function onCaptureFocusRequested() { field.forceActiveFocus(Qt.OtherFocusReason) }
+        function onStartedFresh() {
+            field.forgetTyping()
+            field.forceActiveFocus(Qt.OtherFocusReason)
+        }
     }
 
     Column {

@@ -21,6 +21,8 @@ PanelWindow::~PanelWindow()
 void PanelWindow::openAt(const QRect &opener)
 {
     m_opener = opener;
+    // The window system may tell only now that it lost the keyboard when it was closed.
+    m_wasActive = false;
     place();
     show();
     raise();

@@ -1,7 +1,6 @@
 #include "PomodoroPanel.h"
 
 #include "PanelWindow.h"
-#include "Timers/PomodoroViewModel.h"
 #include "Timers/TimersViewModel.h"
 
 using namespace Qt::StringLiterals;
@@ -9,8 +8,9 @@ using namespace std::chrono_literals;
 
 namespace
 {
-constexpr auto restAfterClosing = 500ms;
-}
+constexpr auto restBeforePreparing = 500ms;
+constexpr auto settlingTime = 500ms; // until the window system has told all that comes of a closing
+} // namespace
 
 PomodoroPanel::PomodoroPanel(QQmlEngine &engine, TimersViewModel &timers, Scheduler &scheduler,
                              QObject *parent)
@@ -23,19 +23,11 @@ PomodoroPanel::PomodoroPanel(QQmlEngine &engine, TimersViewModel &timers, Schedu
     connect(&m_timers, &TimersViewModel::panelClosed, this, &PomodoroPanel::close);
 }
 
-PomodoroPanel::~PomodoroPanel()
-{
-    delete m_window;
-}
-
-PanelWindow *PomodoroPanel::window() const
-{
-    return m_window;
-}
+PomodoroPanel::~PomodoroPanel() = default;
 
 void PomodoroPanel::prepareSoon()
 {
-    m_preparation = m_scheduler.after(restAfterClosing, [this] { prepare(); });
+    m_preparation = m_scheduler.after(restBeforePreparing, [this] { prepare(); });
 }
 
 void PomodoroPanel::prepare()
@@ -43,29 +35,25 @@ void PomodoroPanel::prepare()
     if (m_window)
         return;
     // Not before it is wanted: the start of the program has other things to do.
-    if (m_component.isNull())
-        m_component.loadUrl(QUrl(u"qrc:/qt/qml/Pelko/Views/Timers/PomodoroWindow.qml"_s));
-    PomodoroViewModel *panel = m_timers.makePanel(nullptr);
-    m_window = qobject_cast<PanelWindow *>(
-        m_component.createWithInitialProperties({{u"panel"_s, QVariant::fromValue(panel)}}));
-    if (!m_window) {
-        delete panel;
-        return;
-    }
-    panel->setParent(m_window);
-    m_panel = panel;
-    connect(m_window, &PanelWindow::dismissed, &m_timers, &TimersViewModel::leavePanel);
+    m_component.loadUrl(QUrl(u"qrc:/qt/qml/Pelko/Views/Timers/PomodoroWindow.qml"_s));
+    m_window.reset(qobject_cast<PanelWindow *>(
+        m_component.createWithInitialProperties({{u"panel"_s, QVariant::fromValue(&m_timers.panel())}})));
+    if (m_window)
+        connect(m_window.get(), &PanelWindow::dismissed, &m_timers, &TimersViewModel::leavePanel);
 }
 
 void PomodoroPanel::open(const QRect &opener)
 {
+    // One that opens again before its closing is told of can stay unseen.
+    if (!m_isResting)
+        m_window.reset();
     prepare();
     if (!m_window) {
         m_timers.closePanel();
         return;
     }
     m_window->openAt(opener);
-    m_panel->shown();
+    m_timers.panel().shown();
 }
 
 void PomodoroPanel::close()
@@ -73,8 +61,7 @@ void PomodoroPanel::close()
     if (!m_window)
         return;
     m_window->hide();
-    // Whoever closes it may stand inside it.
-    m_window->deleteLater();
-    m_window.clear();
-    prepareSoon();
+    m_timers.panel().startFresh();
+    m_isResting = false;
+    m_rest = m_scheduler.after(settlingTime, [this] { m_isResting = true; });
 }

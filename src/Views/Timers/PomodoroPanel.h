@@ -2,15 +2,13 @@
 
 #include "Services/Scheduler.h"
 
-#include <QPointer>
 #include <QQmlComponent>
 
 class PanelWindow;
-class PomodoroViewModel;
 class TimersViewModel;
 
-/// Opens a fresh pomodoro panel whenever the timers ask for one, and takes it away again. The next one is
-/// made ready, unseen, while nobody is waiting for it.
+/// Opens the pomodoro panel whenever the timers ask for it, and closes it again. Its window is made while
+/// nobody is waiting for it, and kept with all that it has drawn; what it shows starts fresh at each opening.
 class PomodoroPanel : public QObject
 {
     Q_OBJECT
@@ -20,8 +18,8 @@ public:
                   QObject *parent = nullptr);
     ~PomodoroPanel() override;
 
-    /// The panel that is open or ready to be.
-    PanelWindow *window() const;
+    /// Null until it was prepared.
+    PanelWindow *window() const { return m_window.get(); }
     void prepareSoon();
     void prepare();
 
@@ -32,7 +30,8 @@ private:
     TimersViewModel &m_timers;
     Scheduler &m_scheduler;
     QQmlComponent m_component;
-    QPointer<PanelWindow> m_window;
-    QPointer<PomodoroViewModel> m_panel; // of that window
+    std::unique_ptr<PanelWindow> m_window;
     ScheduledCall m_preparation;
+    ScheduledCall m_rest;
+    bool m_isResting = true;
 };

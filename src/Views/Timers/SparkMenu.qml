@@ -14,6 +14,11 @@ PopupMenu {
         popUp(place.x, place.y)
     }
 
+    Connections {
+        target: menu.panel
+        function onStartedFresh() { menu.close() }
+    }
+
     name: ""
     minimumWidth: 138
 
