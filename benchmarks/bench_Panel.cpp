@@ -9,6 +9,7 @@
 #include "Timers/TimersViewModel.h"
 #include "Views/Timers/PanelWindow.h"
 #include "Views/Timers/PomodoroPanel.h"
+#include "support/NoFile.h"
 #include "support/RatioTable.h"
 
 #include <QEventLoop>
@@ -28,13 +29,6 @@ namespace
 {
 constexpr int patience = 10'000; // ms
 constexpr int rest = 700;        // ms; nobody opens a panel in the moment in which it closes
-
-class NoFile : public DocumentFile
-{
-public:
-    Contents read() override { return Missing(); }
-    std::optional<FileError> replace(const Producer &) override { return std::nullopt; }
-};
 
 /// The timers over a store of that many sparks.
 struct Desk {
