@@ -31,7 +31,7 @@ private:
         QByteArray json;
     };
 
-    static constexpr std::size_t chunkLength = 16;
+    static constexpr std::size_t chunkLength = 4;
 
     void putChunk(JsonText &text, Documents documents, Chunk &written);
 
