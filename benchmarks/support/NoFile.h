@@ -8,4 +8,5 @@ class NoFile : public DocumentFile
 public:
     Contents read() override { return Missing{}; }
     std::optional<FileError> replace(const Producer &) override { return std::nullopt; }
+    std::optional<FileError> confirm() override { return std::nullopt; }
 };

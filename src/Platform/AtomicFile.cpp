@@ -12,7 +12,8 @@ namespace fs = std::filesystem;
 
 namespace
 {
-constexpr qint64 writeBackStep = 8 * 1024 * 1024;
+constexpr qint64 writeBackStep = 1024 * 1024;
+constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR; // what mkostemp gives
 constexpr std::string_view uniquePart = "XXXXXX";
 
 /// The file itself, also behind links to files that do not exist yet.
@@ -76,7 +77,8 @@ std::optional<FileError> AtomicFile::open(const fs::path &path)
         return lastSystemError();
     m_temporary = name;
     ::flock(m_descriptor.number(), LOCK_EX | LOCK_NB); // says "not abandoned"; see removeAbandoned
-    if (exists && ::fchmod(m_descriptor.number(), existing.st_mode & 07777) != 0)
+    const mode_t mode = exists ? existing.st_mode & 07777 : ownerOnly;
+    if (mode != ownerOnly && ::fchmod(m_descriptor.number(), mode) != 0)
         return lastSystemError();
     return std::nullopt;
 }
@@ -94,10 +96,19 @@ std::optional<FileError> AtomicFile::commit()
 {
     if (!flushToDisk(m_descriptor.number()))
         return lastSystemError();
+    m_replaced = FileDescriptor(::open(m_target.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (::rename(m_temporary.c_str(), m_target.c_str()) != 0)
         return lastSystemError();
     m_temporary.clear();
-    return flushFolder(m_target.parent_path());
+    return std::nullopt;
+}
+
+std::optional<FileError> AtomicFile::settle()
+{
+    auto error = flushFolder(m_target.parent_path());
+    m_descriptor = FileDescriptor();
+    m_replaced = FileDescriptor();
+    return error;
 }
 
 void AtomicFile::removeAbandoned(const fs::path &path)

@@ -58,13 +58,18 @@ DocumentFile::Contents readFile(const fs::path &path)
 /// Failing is not told here: the reading or writing that follows will fail and say why.
 void createPrivateFolder(const fs::path &folder)
 {
+    if (::mkdir(folder.c_str(), S_IRWXU) == 0 || errno != ENOENT)
+        return;
     std::error_code ignored;
     fs::create_directories(folder.parent_path(), ignored);
     ::mkdir(folder.c_str(), S_IRWXU);
 }
 } // namespace
 
-LocalDocumentFile::LocalDocumentFile(const DataLocation &location) : m_location(location) {}
+LocalDocumentFile::LocalDocumentFile(const DataLocation &location) : m_location(location)
+{
+    m_settler.setMaxThreadCount(1);
+}
 
 DocumentFile::Contents LocalDocumentFile::read()
 {
@@ -80,12 +85,28 @@ std::optional<FileError> LocalDocumentFile::replace(const Producer &produce)
     const auto target = path();
     if (!target)
         return systemError(ENOENT);
-    AtomicFile file;
-    if (auto error = file.open(*target))
+    auto file = std::make_shared<AtomicFile>();
+    if (auto error = file->open(*target))
         return error;
-    if (auto error = produce(file))
+    if (auto error = produce(*file))
         return error;
-    return file.commit();
+    if (auto error = file->commit())
+        return error;
+    settle(std::move(file));
+    return std::nullopt;
+}
+
+std::optional<FileError> LocalDocumentFile::confirm()
+{
+    return m_settling.valid() ? m_settling.get() : std::nullopt;
+}
+
+void LocalDocumentFile::settle(std::shared_ptr<AtomicFile> file)
+{
+    using Task = std::packaged_task<std::optional<FileError>()>;
+    const auto task = std::make_shared<Task>([file = std::move(file)] { return file->settle(); });
+    m_settling = task->get_future();
+    m_settler.start([task] { (*task)(); });
 }
 
 std::optional<fs::path> LocalDocumentFile::path() const

@@ -3,6 +3,13 @@
 #include "Services/DataLocation.h"
 #include "Services/DocumentFile.h"
 
+#include <QThreadPool>
+
+#include <future>
+#include <memory>
+
+class AtomicFile;
+
 /// "data.json" in the folder "Pelko" of the application-support directory. The path is made afresh, and the
 /// folder if need be, each time. Whatever else may lie in the file's place (a folder, a pipe, a device) is an
 /// error and is neither waited for nor touched.
@@ -13,9 +20,13 @@ public:
 
     Contents read() override;
     [[nodiscard]] std::optional<FileError> replace(const Producer &produce) override;
+    [[nodiscard]] std::optional<FileError> confirm() override;
 
 private:
     std::optional<std::filesystem::path> path() const;
+    void settle(std::shared_ptr<AtomicFile> file);
 
     const DataLocation &m_location;
+    std::future<std::optional<FileError>> m_settling;
+    QThreadPool m_settler; // waits for its task in the end
 };

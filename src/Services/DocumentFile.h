@@ -37,6 +37,11 @@ public:
     virtual Contents read() = 0;
 
     /// Replaces the file by what `produce` writes. After an error, `produce`'s own included, the file is what
-    /// it was before; without one, the new bytes have reached the disk.
+    /// it was before; without one, the new bytes are on the disk and the file's name stands for them. Until
+    /// `confirm` has returned, a power cut may give it back to the old bytes.
     [[nodiscard]] virtual std::optional<FileError> replace(const Producer &produce) = 0;
+
+    /// Waits until the last replacement is there to stay. The disk is at it already, so that after a moment
+    /// there is nothing to wait for.
+    [[nodiscard]] virtual std::optional<FileError> confirm() = 0;
 };

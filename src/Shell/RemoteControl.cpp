@@ -8,6 +8,7 @@ using namespace Qt::StringLiterals;
 CommandLineAnswer captureSpark(AppState &appState, const SparkCommand &command)
 {
     appState.captureSpark(command.text);
+    appState.confirmSave();
     if (const std::optional<QString> &error = appState.lastSaveError())
         return {u"pelko: %1\n"_s.arg(*error), 1};
     return {};

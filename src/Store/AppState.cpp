@@ -216,16 +216,32 @@ void AppState::moveBlock(const QUuid &documentID, qsizetype from, qsizetype to)
 
 void AppState::save()
 {
+    confirmSave(); // the one before this
     const auto produce = [this](ByteSink &sink) { return m_writer.write(m_documents, sink); };
     if (const std::optional<FileError> error = m_file.replace(produce)) {
-        m_lastSaveError = u"Save failed: "_s + error->description;
-        setLastError(m_lastSaveError);
+        saveFailed(*error);
         return;
     }
     m_lastSaveError.reset();
     m_hasUnsavedChanges = false;
-    m_savedIndicatorTask = m_scheduler.after(savedIndicatorTime, [this] { setShowSavedIndicator(false); });
+    m_savedIndicatorTask = m_scheduler.after(savedIndicatorTime, [this] {
+        setShowSavedIndicator(false);
+        confirmSave();
+    });
     setShowSavedIndicator(true);
+}
+
+void AppState::confirmSave()
+{
+    if (const std::optional<FileError> error = m_file.confirm())
+        saveFailed(*error);
+}
+
+void AppState::saveFailed(const FileError &error)
+{
+    m_hasUnsavedChanges = true;
+    m_lastSaveError = u"Save failed: "_s + error.description;
+    setLastError(m_lastSaveError);
 }
 
 void AppState::saveChanges()

@@ -81,6 +81,8 @@ public:
     /// Writes them if anything has changed that is not in the file yet. `lastSaveError` tells what came of
     /// it.
     void saveChanges();
+    /// Waits until the last save would outlive a power cut. A failure becomes `lastError`.
+    void confirmSave();
 
 Q_SIGNALS:
     void documentsChanged();
@@ -106,6 +108,7 @@ private:
     void show(Space space, std::optional<QUuid> id);
     void debounceSave();
     void announceReplaced(qsizetype row);
+    void saveFailed(const FileError &error);
     void setShowSavedIndicator(bool shown);
     void setLastError(std::optional<QString> error);
 

@@ -38,8 +38,10 @@ public:
     /// Has the program replace the file. What was told; an empty string when all went well.
     QString replace(const QByteArray &bytes = "new")
     {
-        const auto error =
-            LocalDocumentFile(*this).replace([&](ByteSink &sink) { return sink.write(bytes); });
+        LocalDocumentFile file(*this);
+        auto error = file.replace([&](ByteSink &sink) { return sink.write(bytes); });
+        if (!error)
+            error = file.confirm();
         return error ? error->description : QString();
     }
 

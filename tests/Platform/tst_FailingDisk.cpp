@@ -165,6 +165,7 @@ private Q_SLOTS:
         folderFlushError = EIO;
         QCOMPARE(disk->replace(), u"Input/output error"_s);
         QCOMPARE(DataFolder::filesIn(disk->folder()), {u"data.json"_s});
+        QCOMPARE(disk->read(), "new");
     }
 
     void aFileSystemThatCannotFlushFoldersIsNoError()

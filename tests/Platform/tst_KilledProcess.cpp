@@ -84,6 +84,7 @@ public:
             tell(Report::Kind::saved, m_version);
         return error;
     }
+    [[nodiscard]] std::optional<FileError> confirm() override { return m_file.confirm(); }
 
 private:
     DocumentFile &m_file;

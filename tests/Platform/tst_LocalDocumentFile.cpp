@@ -45,6 +45,19 @@ private Q_SLOTS:
         QCOMPARE(DataFolder::filesIn(disk->folder()), {u"data.json"_s});
     }
 
+    void replacementsInARowNeedNotBeConfirmedOneByOne()
+    {
+        LocalDocumentFile file(*disk);
+        for (char letter = 'a'; letter <= 'z'; ++letter) {
+            const QByteArray bytes(100'000, letter);
+            QVERIFY(!file.replace([&bytes](ByteSink &sink) { return sink.write(bytes); }));
+            QCOMPARE(disk->read(), bytes);
+        }
+        QVERIFY(!file.confirm());
+        QVERIFY(!file.confirm());
+        QCOMPARE(DataFolder::filesIn(disk->folder()), {u"data.json"_s});
+    }
+
     void aNewFileIsForItsOwnerOnlyWhateverTheMask()
     {
         const mode_t mask = ::umask(0);

@@ -32,14 +32,15 @@ QByteArray version(int number)
 /// In pieces, as the store does.
 bool save(const DataFolder &folder, const QByteArray &bytes)
 {
-    const auto error = LocalDocumentFile(folder).replace([&bytes](ByteSink &sink) {
+    LocalDocumentFile file(folder);
+    const auto error = file.replace([&bytes](ByteSink &sink) {
         constexpr qsizetype piece = 100'000;
         std::optional<FileError> failure;
         for (qsizetype at = 0; at < bytes.size() && !failure; at += piece)
             failure = sink.write(QByteArrayView(bytes).sliced(at, std::min(piece, bytes.size() - at)));
         return failure;
     });
-    return !error;
+    return !error && !file.confirm();
 }
 } // namespace
 

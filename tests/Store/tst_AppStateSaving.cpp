@@ -135,6 +135,42 @@ private Q_SLOTS:
         QCOMPARE(*file.bytes, before); // nothing is tried again
     }
 
+    void aSaveThatMayNotLastIsToldOnceTheIndicatorHasGone()
+    {
+        file.confirmError = u"Input/output error"_s;
+        edit();
+        scheduler.advance(500ms);
+        QVERIFY(state->showSavedIndicator());
+        QCOMPARE(state->lastError(), std::nullopt);
+        scheduler.advance(1500ms);
+        QCOMPARE(state->lastError(), u"Save failed: Input/output error"_s);
+        QCOMPARE(state->lastSaveError(), state->lastError());
+        QVERIFY(!state->showSavedIndicator());
+        file.confirmError.reset();
+        const int writes = file.writes();
+        state->saveChanges();
+        QCOMPARE(file.writes(), writes + 1);
+        QCOMPARE(state->lastSaveError(), std::nullopt);
+    }
+
+    void aSaveThatMayNotLastIsToldByTheNext()
+    {
+        file.confirmError = u"Input/output error"_s;
+        state->save();
+        state->save();
+        QCOMPARE(file.writes(), 2);
+        QCOMPARE(state->lastError(), u"Save failed: Input/output error"_s);
+        QCOMPARE(state->lastSaveError(), std::nullopt); // the second may still last
+    }
+
+    void aSaveThatLastsIsConfirmedInSilence()
+    {
+        state->save();
+        state->confirmSave();
+        QCOMPARE(state->lastError(), std::nullopt);
+        QVERIFY(state->showSavedIndicator());
+    }
+
     void aFailedSaveLeavesTheIndicatorOfTheLastAlone()
     {
         state->save();

@@ -2,6 +2,8 @@
 
 #include "support/MemorySink.h"
 
+#include <utility>
+
 DocumentFile::Contents ManualDocumentFile::read()
 {
     if (readError)
@@ -20,5 +22,12 @@ std::optional<FileError> ManualDocumentFile::replace(const Producer &produce)
         return FileError{*writeError};
     bytes = sink.bytes;
     ++m_writes;
+    m_isConfirmed = false;
     return std::nullopt;
+}
+
+std::optional<FileError> ManualDocumentFile::confirm()
+{
+    const bool fails = !std::exchange(m_isConfirmed, true) && confirmError;
+    return fails ? std::optional(FileError{*confirmError}) : std::nullopt;
 }

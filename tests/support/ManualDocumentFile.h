@@ -11,13 +11,17 @@ public:
     /// While set, every read or replacement fails with these words.
     std::optional<QString> readError;
     std::optional<QString> writeError;
+    /// While set, a power cut would bring the old bytes back.
+    std::optional<QString> confirmError;
 
     /// The replacements that succeeded.
     int writes() const { return m_writes; }
 
     Contents read() override;
     [[nodiscard]] std::optional<FileError> replace(const Producer &produce) override;
+    [[nodiscard]] std::optional<FileError> confirm() override;
 
 private:
     int m_writes = 0;
+    bool m_isConfirmed = true;
 };
