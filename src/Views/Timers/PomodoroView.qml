@@ -20,11 +20,13 @@ FocusScope {
 
         Rectangle {
             anchors.fill: parent
+            radius: Metrics.cardRadius
             color: FirePalette.deepBackground
         }
 
         Rectangle {
             anchors.fill: parent
+            radius: Metrics.cardRadius
             gradient: Gradient {
                 GradientStop { position: 0.5; color: Qt.alpha(FirePalette.amber, 0) }
                 GradientStop { position: 1; color: Qt.alpha(FirePalette.amber, 0.06) }
@@ -71,6 +73,7 @@ FocusScope {
     // The window's own rim, so that a dark panel does not melt into a dark desktop.
     Rectangle {
         anchors.fill: parent
+        radius: Metrics.cardRadius
         color: "transparent"
         border.color: FirePalette.white(0.10)
     }

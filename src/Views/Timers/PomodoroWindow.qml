@@ -1,7 +1,8 @@
 import QtQuick
 import Pelko
 
-/// The window of the pomodoro panel, as high as what it shows.
+/// The window of the pomodoro panel, as high as what it shows. Only what the panel draws is opaque: where nothing
+/// composes windows its round corners stand on black.
 PanelWindow {
     id: window
 
@@ -10,7 +11,7 @@ PanelWindow {
     width: view.implicitWidth
     height: view.implicitHeight
     title: "Pelko"
-    color: FirePalette.deepBackground
+    color: "transparent"
 
     PomodoroView {
         id: view
