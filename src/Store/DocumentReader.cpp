@@ -77,6 +77,9 @@ bool read(dom::element json, QString &value)
     value = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     if (marks > 0)
         value.prepend(QString(marks, QChar::ByteOrderMark));
+    // QString::fromUtf8 makes room for a unit of each byte, three times what Chinese needs.
+    if (value.capacity() > value.size() + value.size() / 4)
+        value.squeeze();
     return true;
 }
 

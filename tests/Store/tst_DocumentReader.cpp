@@ -140,6 +140,14 @@ private Q_SLOTS:
         QTEST(onlyBlock(fileWithContent(json)).content, "content");
     }
 
+    void textTakesNoMoreRoomThanItNeeds()
+    {
+        const QString chinese(10'000, u'\u4E66');
+        const QString content = onlyBlock(fileWithContent('"' + chinese.toUtf8() + '"')).content;
+        QCOMPARE(content, chinese);
+        QVERIFY(content.capacity() < 12'500);
+    }
+
     void datesAreReadToTheLastDigit_data()
     {
         QTest::addColumn<QByteArray>("json");
