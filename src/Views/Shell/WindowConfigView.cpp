@@ -20,8 +20,11 @@ void WindowConfigView::componentComplete()
 
 void WindowConfigView::configureWindow()
 {
-    // Moving by the background needs the pointer's press: WindowDragArea does it.
+    // Moving by the background needs the pointer's press: WindowDragArea does it. A Mac keeps its title bar:
+    // the buttons on it are the only ones there.
+#ifndef Q_OS_DARWIN
     window()->setFlag(Qt::FramelessWindowHint);
+#endif
     QColor opaque = m_background;
     opaque.setAlpha(255);
     window()->setColor(opaque);

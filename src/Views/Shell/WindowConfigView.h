@@ -4,9 +4,9 @@
 #include <QQuickItem>
 #include <QtQml/qqml.h>
 
-/// Dresses the window it is put into, each time it is put into one: no title bar but the one the app draws,
-/// opaque, in the colour `background`. All other traits of the window stay as they were. Leaving a window
-/// changes nothing.
+/// Dresses the window it is put into, each time it is put into one: no title bar but the one the app draws
+/// (a Mac keeps its own), opaque, in the colour `background`. All other traits of the window stay as they
+/// were. Leaving a window changes nothing.
 class WindowConfigView : public QQuickItem
 {
     Q_OBJECT
