@@ -3,12 +3,16 @@
 #include "Store/AppState.h"
 #include "Timers/PomodoroTimer.h"
 #include "Timers/TimersViewModel.h"
+#include "Views/Timers/PanelWindow.h"
+#include "Views/Timers/PomodoroPanel.h"
 #include "support/ManualClock.h"
 #include "support/ManualDocumentFile.h"
 #include "support/ManualPasteboard.h"
 #include "support/ManualScheduler.h"
 
 #include <QtQml/qqml.h>
+
+#include <memory>
 
 /// The timers and a store of sparks on a time that a view test moves.
 class TimersBench : public QObject
@@ -26,6 +30,14 @@ public:
         m_scheduler.advance(std::chrono::milliseconds(milliseconds));
     }
     Q_INVOKABLE void stopFlow() { m_flow.stop(); }
+    /// The window that the panel has after the click on its label.
+    Q_INVOKABLE QObject *toggleWindow()
+    {
+        if (!m_window)
+            m_window = std::make_unique<PomodoroPanel>(*qmlEngine(this), m_timers, m_scheduler);
+        m_timers.togglePanel(QRect(10, 10, 20, 20));
+        return m_window->window();
+    }
     Q_INVOKABLE void capture(const QString &text)
     {
         m_clock.time += 1;
@@ -59,4 +71,5 @@ private:
     PomodoroTimer m_pomodoro{m_scheduler};
     FlowTimer m_flow{m_scheduler};
     TimersViewModel m_timers{m_pomodoro, m_flow, m_appState, m_pasteboard, m_scheduler};
+    std::unique_ptr<PomodoroPanel> m_window;
 };
