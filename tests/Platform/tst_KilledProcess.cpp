@@ -264,6 +264,7 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     if (argc == 3 && std::strcmp(argv[1], "--type") == 0)
         return typeUntilKilled(argv[2]);
+    qputenv("QTEST_FUNCTION_TIMEOUT", "3600000"); // ms; a thousand kills take longer than other tests may
     TestKilledProcess test;
     return QTest::qExec(&test, argc, argv);
 }
