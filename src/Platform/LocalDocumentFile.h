@@ -3,12 +3,7 @@
 #include "Services/DataLocation.h"
 #include "Services/DocumentFile.h"
 
-#include <QThreadPool>
-
 #include <future>
-#include <memory>
-
-class AtomicFile;
 
 /// "data.json" in the folder "Pelko" of the application-support directory. The path is made afresh, and the
 /// folder if need be, each time. Whatever else may lie in the file's place (a folder, a pipe, a device) is an
@@ -24,9 +19,7 @@ public:
 
 private:
     std::optional<std::filesystem::path> path() const;
-    void settle(std::shared_ptr<AtomicFile> file);
 
     const DataLocation &m_location;
-    std::future<std::optional<FileError>> m_settling;
-    QThreadPool m_settler; // waits for its task in the end
+    std::future<std::optional<FileError>> m_settling; // waited for in the end
 };
