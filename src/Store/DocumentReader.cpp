@@ -4,13 +4,14 @@
 #include "Store/JsonObjects.h"
 #include "Store/UuidText.h"
 
-#include <QVarLengthArray>
-
 #include <simdjson.h>
 
+#include <algorithm>
+#include <array>
 #include <ranges>
 
 namespace dom = simdjson::dom;
+using namespace std::string_view_literals;
 
 namespace
 {
@@ -21,32 +22,24 @@ constexpr std::string_view shortestDocument =
 constexpr auto padding = qsizetype(simdjson::SIMDJSON_PADDING);
 static_assert(padding < qsizetype(shortestDocument.size()), "a run pads the one before it");
 
-/// The members of one JSON object, found by name.
-class Members
+/// The members of a JSON object under each of the names, of two alike the last. None when it is no object.
+template <std::size_t count>
+std::array<std::optional<dom::element>, count> membersOf(dom::element json,
+                                                         const std::array<std::string_view, count> &names)
 {
-public:
-    explicit Members(dom::element json)
-    {
-        dom::object object;
-        if (json.get(object) != simdjson::SUCCESS)
-            return;
-        for (const dom::key_value_pair member : object)
-            m_members.append({member.key, member.value});
+    std::array<std::optional<dom::element>, count> members;
+    dom::object object;
+    if (json.get(object) != simdjson::SUCCESS)
+        return members;
+    std::size_t expected = 0; // mostly they are in the order of the names
+    for (const dom::key_value_pair member : object) {
+        if (expected >= count || member.key != names[expected])
+            expected = std::size_t(std::ranges::find(names, member.key) - names.begin());
+        if (expected < count)
+            members[expected++] = member.value;
     }
-
-    /// False when the member is missing or is not what `value` can hold.
-    template <typename Value>
-    bool required(std::string_view key, Value &value) const;
-
-    /// False when the member is there and is not what `value` can hold.
-    template <typename Value>
-    bool optional(std::string_view key, std::optional<Value> &value) const;
-
-private:
-    std::optional<dom::element> last(std::string_view key) const;
-
-    QVarLengthArray<std::pair<std::string_view, dom::element>, 8> m_members;
-};
+    return members;
+}
 
 // What "data.json" may hold, value by value. Each is false when the JSON is of another kind.
 
@@ -123,30 +116,49 @@ bool read(dom::element json, BlockType &value)
 template <typename Value>
 bool read(dom::element json, QList<Value> &values);
 
+/// False when the member is missing or is not what `value` can hold.
+template <typename Value>
+bool required(const std::optional<dom::element> &member, Value &value)
+{
+    return member && read(*member, value);
+}
+
+/// False when the member is there and is not what `value` can hold.
+template <typename Value>
+bool optional(const std::optional<dom::element> &member, std::optional<Value> &value)
+{
+    if (member && !member->is_null())
+        return read(*member, value.emplace());
+    value.reset();
+    return true;
+}
+
 bool read(dom::element json, TodoItem &item)
 {
-    const Members members(json);
-    return members.required("id", item.id) && members.required("text", item.text) &&
-           members.required("done", item.done);
+    constexpr std::array names{"id"sv, "text"sv, "done"sv};
+    const auto &[id, text, done] = membersOf(json, names);
+    return required(id, item.id) && required(text, item.text) && required(done, item.done);
 }
 
 bool read(dom::element json, Block &block)
 {
-    const Members members(json);
-    return members.required("id", block.id) && members.required("type", block.type) &&
-           members.required("content", block.content) && members.optional("imageData", block.imageData) &&
-           members.optional("todos", block.todos) && members.optional("isFullWidth", block.isFullWidth) &&
-           members.optional("bannerTitle", block.bannerTitle);
+    constexpr std::array names{"id"sv,    "type"sv,        "content"sv,    "imageData"sv,
+                               "todos"sv, "isFullWidth"sv, "bannerTitle"sv};
+    const auto &[id, type, content, imageData, todos, isFullWidth, bannerTitle] = membersOf(json, names);
+    return required(id, block.id) && required(type, block.type) && required(content, block.content) &&
+           optional(imageData, block.imageData) && optional(todos, block.todos) &&
+           optional(isFullWidth, block.isFullWidth) && optional(bannerTitle, block.bannerTitle);
 }
 
 bool read(dom::element json, PelkoDocument &document)
 {
-    const Members members(json);
-    return members.required("id", document.id) && members.required("space", document.space) &&
-           members.required("blocks", document.blocks) && members.required("createdAt", document.createdAt) &&
-           members.optional("updatedAt", document.updatedAt) &&
-           members.optional("isPinned", document.isPinned) &&
-           members.optional("isArchived", document.isArchived);
+    constexpr std::array names{"id"sv,        "space"sv,    "blocks"sv,    "createdAt"sv,
+                               "updatedAt"sv, "isPinned"sv, "isArchived"sv};
+    const auto &[id, space, blocks, createdAt, updatedAt, isPinned, isArchived] = membersOf(json, names);
+    return required(id, document.id) && required(space, document.space) &&
+           required(blocks, document.blocks) && required(createdAt, document.createdAt) &&
+           optional(updatedAt, document.updatedAt) && optional(isPinned, document.isPinned) &&
+           optional(isArchived, document.isArchived);
 }
 
 template <typename Value>
@@ -176,33 +188,6 @@ bool read(dom::element json, QList<Value> &values)
         values.append(std::move(value));
     }
     return true;
-}
-
-std::optional<dom::element> Members::last(std::string_view key) const
-{
-    for (const auto &[name, value] : m_members | std::views::reverse) {
-        if (name == key)
-            return value;
-    }
-    return std::nullopt;
-}
-
-template <typename Value>
-bool Members::required(std::string_view key, Value &value) const
-{
-    const auto json = last(key);
-    return json && read(*json, value);
-}
-
-template <typename Value>
-bool Members::optional(std::string_view key, std::optional<Value> &value) const
-{
-    const auto json = last(key);
-    if (!json || json->is_null()) {
-        value.reset();
-        return true;
-    }
-    return read(*json, value.emplace());
 }
 
 /// Reads the last run, the rest of whose text is given back, into as many documents.

@@ -110,6 +110,7 @@ private Q_SLOTS:
     {
         QCOMPARE(onlyDocument(fileWith("'isPinned':true,'isPinned':false")).isPinned, false);
         QCOMPARE(onlyDocument(fileWith("'isPinned':true,'isPinned':null")).isPinned, std::nullopt);
+        QCOMPARE(onlyDocument(fileWith("'isPinned':7,'isPinned':true")).isPinned, true);
         QCOMPARE(onlyDocument(fileWith("'createdAt':2")).createdAt, 2.0);
     }
 
