@@ -1,6 +1,9 @@
 // Loading and saving against what the machine needs to read or write the same bytes, and against
 // QJsonDocument.
 //
+// A load is measured in memory that comes fresh from the system, as it does when the program starts, and, as
+// "load again", in memory that was in use before, where the floor is much lower.
+//
 // A save has two floors. "floor" writes the bytes, synchronises them and renames: after a power cut that is a
 // whole file, but it may be the old one. "durable" also synchronises the folder. "Pelko" is what the
 // interface waits for; "Pelko for good" waits until the folder is synchronised as well.
@@ -9,11 +12,9 @@
 #include "Store/DocumentReader.h"
 #include "Store/DocumentWriter.h"
 #include "support/Libraries.h"
+#include "support/QJsonCodec.h"
 #include "support/RatioTable.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTemporaryDir>
 
 #include <cstring>
@@ -109,29 +110,44 @@ bool writePlainly(const std::string &path, const QByteArray &bytes, Rename renam
     return whole && (rename == Rename::mayBeLost || syncFolderOf(path));
 }
 
-/// A program loads in its first moment, when all memory comes fresh from the system.
-void startWithFreshMemory(benchmark::State &state)
+enum class Memory {
+    fresh, ///< from the system, for large blocks always, as the program wants it
+    used,  ///< kept by the allocator, as it does by itself once large blocks were freed
+};
+
+void choose(Memory memory)
 {
+    ::mallopt(M_MMAP_THRESHOLD, memory == Memory::fresh ? 1 << 20 : 32 << 20);
+    ::mallopt(M_TRIM_THRESHOLD, memory == Memory::fresh ? 8 << 20 : 64 << 20);
+}
+
+void prepare(benchmark::State &state, Memory memory)
+{
+    if (memory == Memory::used)
+        return;
     state.PauseTiming();
     ::malloc_trim(0);
     state.ResumeTiming();
 }
 
-void loadFloor(benchmark::State &state, LibrarySize size)
+void loadFloor(benchmark::State &state, LibrarySize size, Memory memory)
 {
     const std::string path = library(size).folder.dataFile();
+    choose(memory);
     for (auto _ : state) {
-        startWithFreshMemory(state);
+        prepare(state, memory);
         const QByteArray bytes = readPlainly(path);
         benchmark::DoNotOptimize(std::memchr(bytes.constData(), 1, std::size_t(bytes.size())));
     }
+    choose(Memory::fresh);
 }
 
-void loadPelko(benchmark::State &state, LibrarySize size)
+void loadPelko(benchmark::State &state, LibrarySize size, Memory memory)
 {
     LocalDocumentFile &file = library(size).file;
+    choose(memory);
     for (auto _ : state) {
-        startWithFreshMemory(state);
+        prepare(state, memory);
         auto contents = file.read();
         auto documents = readDocuments(std::move(std::get<QByteArray>(contents)));
         if (!documents)
@@ -140,57 +156,18 @@ void loadPelko(benchmark::State &state, LibrarySize size)
         documents.reset();
         state.ResumeTiming();
     }
+    choose(Memory::fresh);
 }
 
-QList<PelkoDocument> fromQJson(const QJsonArray &json)
-{
-    QList<PelkoDocument> documents;
-    for (const QJsonValueConstRef value : json) {
-        PelkoDocument document;
-        document.id = QUuid::fromString(value[u"id"_s].toString());
-        document.createdAt = value[u"createdAt"_s].toDouble();
-        document.updatedAt = value[u"updatedAt"_s].toDouble();
-        for (const QJsonValue &part : value[u"blocks"_s].toArray()) {
-            Block block(*blockTypeFromRawValue(part[u"type"_s].toString()), part[u"content"_s].toString());
-            block.id = QUuid::fromString(part[u"id"_s].toString());
-            if (part[u"imageData"_s].isString())
-                block.imageData = QByteArray::fromBase64(part[u"imageData"_s].toString().toLatin1());
-            document.blocks.append(block);
-        }
-        documents.append(document);
-    }
-    return documents;
-}
-
-QJsonArray toQJson(const QList<PelkoDocument> &documents)
-{
-    QJsonArray json;
-    for (const PelkoDocument &document : documents) {
-        QJsonArray blocks;
-        for (const Block &block : document.blocks) {
-            QJsonObject object{{u"id"_s, block.id.toString(QUuid::WithoutBraces)},
-                               {u"type"_s, rawValue(block.type)},
-                               {u"content"_s, block.content}};
-            if (block.imageData)
-                object[u"imageData"_s] = QString::fromLatin1(block.imageData->toBase64());
-            blocks.append(object);
-        }
-        json.append(QJsonObject{{u"id"_s, document.id.toString(QUuid::WithoutBraces)},
-                                {u"space"_s, rawValue(document.space)},
-                                {u"blocks"_s, blocks},
-                                {u"createdAt"_s, document.createdAt},
-                                {u"updatedAt"_s, *document.updatedAt}});
-    }
-    return json;
-}
-
-void loadQJson(benchmark::State &state, LibrarySize size)
+void loadQJson(benchmark::State &state, LibrarySize size, Memory memory)
 {
     const std::string path = library(size).folder.dataFile();
+    choose(memory);
     for (auto _ : state) {
-        startWithFreshMemory(state);
-        benchmark::DoNotOptimize(fromQJson(QJsonDocument::fromJson(readPlainly(path)).array()));
+        prepare(state, memory);
+        benchmark::DoNotOptimize(readWithQJson(readPlainly(path)));
     }
+    choose(Memory::fresh);
 }
 
 void savePlainly(benchmark::State &state, LibrarySize size, Rename rename)
@@ -201,16 +178,6 @@ void savePlainly(benchmark::State &state, LibrarySize size, Rename rename)
         if (!writePlainly(path + ".floor", bytes, rename))
             state.SkipWithError("the bytes could not be written");
     }
-}
-
-void saveFloor(benchmark::State &state, LibrarySize size)
-{
-    savePlainly(state, size, Rename::mayBeLost);
-}
-
-void saveDurable(benchmark::State &state, LibrarySize size)
-{
-    savePlainly(state, size, Rename::isKept);
 }
 
 void savePelko(benchmark::State &state, LibrarySize size)
@@ -242,7 +209,7 @@ void saveQJson(benchmark::State &state, LibrarySize size)
     Library &saved = library(size);
     for (auto _ : state) {
         saved.typeOneKey();
-        const QByteArray bytes = QJsonDocument(toQJson(saved.documents)).toJson(QJsonDocument::Compact);
+        const QByteArray bytes = writeWithQJson(saved.documents);
         if (!writePlainly(saved.folder.dataFile() + ".qjson", bytes, Rename::mayBeLost))
             state.SkipWithError("the bytes could not be written");
     }
@@ -259,32 +226,32 @@ void registerAll()
     for (const Case &each :
          {Case{"48 KB", LibrarySize::pages, 100, 30}, Case{"4.9 MB", LibrarySize::sparks, 20, 2},
           Case{"244 MB", LibrarySize::pictures, 1, 1}}) {
-        const auto add = [&each](const char *task, const char *way, auto *measure, int iterations) {
+        const auto add = [&each](const char *task, const char *way, int iterations, auto *measure,
+                                 auto... arguments) {
             const std::string name = std::string(task) + "/" + each.name + "/" + way;
-            benchmark::RegisterBenchmark(name.c_str(), measure, each.size)
+            benchmark::RegisterBenchmark(name.c_str(), measure, each.size, arguments...)
                 ->Iterations(iterations)
                 ->Repetitions(each.iterations == 1 && iterations == 1 ? 5 : 9)
                 ->Unit(benchmark::kMillisecond)
                 ->UseRealTime();
         };
-        add("load", "floor", loadFloor, each.iterations);
-        add("load", "Pelko", loadPelko, each.iterations);
-        add("load", "QJson", loadQJson, each.slowIterations);
-        add("save", "floor", saveFloor, each.iterations);
-        add("save", "durable", saveDurable, each.iterations);
-        add("save", "Pelko", savePelko, each.iterations);
-        add("save", "Pelko for good", savePelkoForGood, each.iterations);
-        add("save", "QJson", saveQJson, each.slowIterations);
+        for (const auto &[task, memory] : {std::pair{"load", Memory::fresh}, {"load again", Memory::used}}) {
+            add(task, "floor", each.iterations, loadFloor, memory);
+            add(task, "Pelko", each.iterations, loadPelko, memory);
+            add(task, "QJson", each.slowIterations, loadQJson, memory);
+        }
+        add("save", "floor", each.iterations, savePlainly, Rename::mayBeLost);
+        add("save", "durable", each.iterations, savePlainly, Rename::isKept);
+        add("save", "Pelko", each.iterations, savePelko);
+        add("save", "Pelko for good", each.iterations, savePelkoForGood);
+        add("save", "QJson", each.slowIterations, saveQJson);
     }
 }
 } // namespace
 
 int main(int argc, char **argv)
 {
-    // As in the program. By itself the allocator would change its ways after a while, and with them the floor
-    // tenfold.
-    ::mallopt(M_MMAP_THRESHOLD, 1 << 20);
-    ::mallopt(M_TRIM_THRESHOLD, 8 << 20);
+    choose(Memory::fresh);
     // In turn, so that what disturbs the disk for a while disturbs all ways alike.
     std::vector<char *> arguments(argv, argv + argc);
     std::string inTurn = "--benchmark_enable_random_interleaving=true";
