@@ -1,16 +1,22 @@
 #include "PanelWindow.h"
 
+#include "RoundedRegion.h"
 #include "Timers/PanelPlace.h"
 #include "Views/TakeDown.h"
 
 #include <QGuiApplication>
 #include <QScreen>
 
+using namespace Qt::StringLiterals;
+
 PanelWindow::PanelWindow(QWindow *parent) : QQuickWindow(parent)
 {
     setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     connect(this, &QWindow::activeChanged, this, &PanelWindow::followActive);
     connect(this, &QWindow::heightChanged, this, &PanelWindow::place);
+    for (const auto changed : {&QWindow::widthChanged, &QWindow::heightChanged})
+        connect(this, changed, this, &PanelWindow::cutCorners);
+    connect(this, &PanelWindow::cornerRadiusChanged, this, &PanelWindow::cutCorners);
 }
 
 PanelWindow::~PanelWindow()
@@ -36,6 +42,13 @@ void PanelWindow::place()
     if (QScreen *under = QGuiApplication::screenAt(m_opener.center()))
         setScreen(under);
     setPosition(panelPlace(m_opener, size(), screen()->availableGeometry()));
+}
+
+void PanelWindow::cutCorners()
+{
+    // Where nothing composes windows, what is transparent is black.
+    if (QGuiApplication::platformName() == "xcb"_L1)
+        setMask(roundedRegion(size(), m_cornerRadius));
 }
 
 void PanelWindow::followActive()

@@ -8,6 +8,7 @@
 class PanelWindow : public QQuickWindow
 {
     Q_OBJECT
+    Q_PROPERTY(int cornerRadius MEMBER m_cornerRadius NOTIFY cornerRadiusChanged)
     QML_ELEMENT
 
 public:
@@ -19,11 +20,14 @@ public:
 
 Q_SIGNALS:
     void dismissed();
+    void cornerRadiusChanged();
 
 private:
     void place();
+    void cutCorners();
     void followActive();
 
     QRect m_opener;
+    int m_cornerRadius = 0;
     bool m_wasActive = false;
 };

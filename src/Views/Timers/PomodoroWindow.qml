@@ -1,8 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The window of the pomodoro panel, as high as what it shows. Only what the panel draws is opaque: where nothing
-/// composes windows its round corners stand on black.
+/// The window of the pomodoro panel, as high as what it shows.
 PanelWindow {
     id: window
 
@@ -12,6 +11,7 @@ PanelWindow {
     height: view.implicitHeight
     title: "Pelko"
     color: "transparent"
+    cornerRadius: Metrics.cardRadius
 
     PomodoroView {
         id: view
