@@ -100,6 +100,8 @@ def end_group(leader):
 
 def start_window_manager():
     """Returns once it manages windows: one that is shown while it is still taking over can stay unmapped."""
+    # The first key of all can get lost while everybody learns of the keyboard that it comes from.
+    subprocess.run(["xdotool", "key", "shift"], check=True)
     ready = pathlib.Path(os.environ["PELKO_JOURNEY"]) / "managed"
     manager = subprocess.Popen(
         ["openbox", "--sm-disable", "--startup", f"touch {ready}"],
