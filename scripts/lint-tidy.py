@@ -24,7 +24,7 @@ import subprocess
 import sys
 
 CHECKER = "clang-tidy-19"
-FILES_IN_A_UNIT = 12
+FILES_IN_A_UNIT = 24
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 
 
@@ -80,10 +80,14 @@ def changed_files(build, stamps):
     version = subprocess.run([CHECKER, "--version"], capture_output=True, check=True).stdout
     common = version + (ROOT / ".clang-tidy").read_bytes()
     deps = dependencies(build)
+    seen = set()
     for entry in json.loads((build / "compile_commands.json").read_text()):
         flags, object_file = flags_and_object(entry["command"])
         mark = fingerprint(entry, deps.get(object_file, []), common)
         for source in sources_of(entry):
+            if source in seen:
+                continue
+            seen.add(source)
             stamp = stamps / (str(source.relative_to(ROOT / "src")).replace(os.sep, "-") + ".clean")
             if not stamp.exists() or stamp.read_text() != mark:
                 yield Job(source, flags, stamp, mark)

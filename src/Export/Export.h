@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Export/ExportedFile.h"
+#include "Models/ExportedFile.h"
 #include "Models/PelkoDocument.h"
 
 #include <QList>

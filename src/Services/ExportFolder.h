@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Export/ExportedFile.h"
+#include "Models/ExportedFile.h"
 #include "Services/DocumentFile.h"
 #include "Services/Scheduler.h"
 
