@@ -69,8 +69,6 @@ protected:
 
     QStringList takeFocused() { return std::exchange(focused, {}); }
 
-    static QString id(char letter) { return PageText::idOf(letter).toString(QUuid::WithoutBraces); }
-
 private Q_SLOTS:
     void init()
     {

@@ -12,14 +12,6 @@ using namespace PageText;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-namespace
-{
-QString id(char letter)
-{
-    return idOf(letter).toString(QUuid::WithoutBraces);
-}
-} // namespace
-
 class TestBlockDrag : public QObject
 {
     Q_OBJECT

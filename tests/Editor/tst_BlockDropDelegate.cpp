@@ -12,14 +12,6 @@ using namespace PageText;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-namespace
-{
-QUuid idOf(const QString &letter)
-{
-    return PageText::idOf(letter.at(0).toLatin1());
-}
-} // namespace
-
 class TestBlockDropDelegate : public QObject
 {
     Q_OBJECT
@@ -76,13 +68,13 @@ private Q_SLOTS:
         QFETCH(const QString, dragged);
         QFETCH(const QString, path);
         QFETCH(const QString, order);
-        draggingBlockID = idOf(dragged);
+        draggingBlockID = idOf(dragged.at(0).toLatin1());
 
         for (const QChar row : path)
             over(row.toLatin1()).dropEntered();
 
         QCOMPARE(letters(stored()), order);
-        QCOMPARE(draggingBlockID, idOf(dragged));
+        QCOMPARE(draggingBlockID, idOf(dragged.at(0).toLatin1()));
     }
 
     void nothingMovesWithoutADrag()
@@ -98,7 +90,7 @@ private Q_SLOTS:
         const Timestamp before = stored().updatedAt.value();
         const qsizetype writes = file.writes();
         clock.time += 60;
-        draggingBlockID = PageText::idOf('A');
+        draggingBlockID = idOf('A');
 
         for (const char row : {'B', 'C', 'D'}) {
             over(row).dropEntered();
@@ -118,7 +110,7 @@ private Q_SLOTS:
 
     void anUnfinishedOrderIsSavedWithTheNextWriteOfThePage()
     {
-        draggingBlockID = PageText::idOf('A');
+        draggingBlockID = idOf('A');
         over('B').dropEntered();
         state->updateDocument(*state->openDocument());
         scheduler.advance(10s);
@@ -129,7 +121,7 @@ private Q_SLOTS:
     void aDropAfterThePageWasClosedChangesNothing()
     {
         const BlockDropDelegate delegate = over('B');
-        draggingBlockID = PageText::idOf('A');
+        draggingBlockID = idOf('A');
         state->setOpenDocumentID(std::nullopt);
         QSignalSpy changed(state.get(), &AppState::documentsChanged);
 
@@ -143,7 +135,7 @@ private Q_SLOTS:
 
     void theMoveGoesToTheOpenPageOnly()
     {
-        draggingBlockID = PageText::idOf('A');
+        draggingBlockID = idOf('A');
         state->createDocument(Space::work); // and opens it
         over('C').dropEntered();
         QCOMPARE(letters(stored()), u"ABCD"_s);

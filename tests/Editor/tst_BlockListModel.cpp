@@ -16,9 +16,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr BlockType body = BlockType::textSmall;
-constexpr BlockType heading = BlockType::textLarge;
-
 QList<Block> bodies(const QString &letters)
 {
     QList<Block> blocks;

@@ -8,9 +8,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr BlockType body = BlockType::textSmall;
-constexpr BlockType heading = BlockType::textLarge;
-
 Block imageWithoutData(char letter)
 {
     return block(letter, BlockType::image);

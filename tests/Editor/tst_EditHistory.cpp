@@ -9,7 +9,7 @@ namespace
 {
 
 /// A page and its history, edited as an editor does.
-struct Desk {
+struct RememberedPage {
     EditHistory history = {};
     PelkoDocument page;
 
@@ -97,14 +97,14 @@ class TestEditHistory : public QObject
 private Q_SLOTS:
     void aFreshHistoryHasNothingToTakeBack()
     {
-        Desk desk{.page = page({block('A')})};
+        RememberedPage desk{.page = page({block('A')})};
         QVERIFY(!desk.undo() && !desk.redo());
         QVERIFY(!desk.history.canUndo() && !desk.history.canRedo());
     }
 
     void stepsAreTakenBackAndDoneAgainInOrder()
     {
-        Desk desk{.page = page({block('A')})};
+        RememberedPage desk{.page = page({block('A')})};
         for (const QString &content : {u"one"_s, u"two"_s, u"three"_s})
             desk.change(withBlocks(desk.page, {block('A', BlockType::textSmall, content)}));
         QStringList seen;
@@ -119,7 +119,7 @@ private Q_SLOTS:
 
     void aNewStepForgetsWhatWasTakenBack()
     {
-        Desk desk{.page = page({block('A')})};
+        RememberedPage desk{.page = page({block('A')})};
         desk.type(u"a|"_s);
         desk.undo();
         desk.type(u"b|"_s);
@@ -130,7 +130,7 @@ private Q_SLOTS:
 
     void whatChangesNothingIsNoStep()
     {
-        Desk desk{.page = page({block('A')})};
+        RememberedPage desk{.page = page({block('A')})};
         desk.type(u"a|"_s);
         desk.undo();
         desk.change(desk.page);
@@ -149,7 +149,7 @@ private Q_SLOTS:
     void keysAreTakenBackByWordAndPlace()
     {
         QFETCH(const QStringList, values);
-        Desk desk{.page = page({block('A'), block('B')})};
+        RememberedPage desk{.page = page({block('A'), block('B')})};
         for (const QString &value : values)
             desk.type(value);
         const QString written = desk.page.blocks.first().content;
@@ -164,7 +164,7 @@ private Q_SLOTS:
 
     void aPauseEndsTheRun()
     {
-        Desk desk{.page = page({block('A')})};
+        RememberedPage desk{.page = page({block('A')})};
         desk.type(u"a|"_s);
         desk.history.endRun();
         desk.type(u"ab|"_s);
@@ -174,7 +174,7 @@ private Q_SLOTS:
 
     void undoEndsTheRun()
     {
-        Desk desk{.page = page({block('A')})};
+        RememberedPage desk{.page = page({block('A')})};
         desk.type(u"a|"_s);
         desk.history.endRun();
         desk.type(u"ab|"_s);
@@ -186,7 +186,7 @@ private Q_SLOTS:
 
     void theCaretGoesBackToWhereItWas()
     {
-        Desk desk{.page = page({block('A', BlockType::textSmall, u"ab"_s)})};
+        RememberedPage desk{.page = page({block('A', BlockType::textSmall, u"ab"_s)})};
         desk.lastPlace = FocusTarget{.blockID = idOf('A'), .caret = 1};
         desk.type(u"ax|b"_s);
         desk.type(u"axy|b"_s);
@@ -199,7 +199,7 @@ private Q_SLOTS:
 
     void withoutAPlaceTheFocusGoesToWhatChanged()
     {
-        Desk desk{.page = page({block('A'), block('B')})};
+        RememberedPage desk{.page = page({block('A'), block('B')})};
         desk.change(withBlocks(desk.page, {block('A')}));
         desk.undo();
         QCOMPARE(desk.shownFocus, u"B@end"_s);
@@ -209,7 +209,7 @@ private Q_SLOTS:
 
     void aChangeFarFromTheCaretIsScrolledTo()
     {
-        Desk desk{.page = page({block('A'), block('B'), block('C')})};
+        RememberedPage desk{.page = page({block('A'), block('B'), block('C')})};
         const FocusTarget place{.blockID = idOf('A'), .caret = 0};
         desk.change(withBlocks(desk.page, {block('A'), block('B')}), {.before = place, .after = place});
         desk.undo();
@@ -219,7 +219,7 @@ private Q_SLOTS:
 
     void aChangeMadeElsewhereIsAStepOfItsOwn()
     {
-        Desk desk{.page = page({block('A'), sticky('B', {todo('x')})})};
+        RememberedPage desk{.page = page({block('A'), sticky('B', {todo('x')})})};
         desk.type(u"a|"_s);
         desk.page.blocks[1].todos->first().done = true; // by another view
         desk.type(u"ab|"_s);
@@ -233,7 +233,7 @@ private Q_SLOTS:
 
     void aChangeMadeElsewhereIsTakenBackBeforeWhatWasDoneHere()
     {
-        Desk desk{.page = page({block('A'), sticky('B', {todo('x')})})};
+        RememberedPage desk{.page = page({block('A'), sticky('B', {todo('x')})})};
         desk.type(u"a|"_s);
         desk.page.blocks.prepend(block('N', BlockType::textSmall, u"new"_s));
         QVERIFY(desk.undo());
@@ -248,7 +248,7 @@ private Q_SLOTS:
 
     void afterAChangeMadeElsewhereNothingIsDoneAgain()
     {
-        Desk desk{.page = page({block('A'), block('B')})};
+        RememberedPage desk{.page = page({block('A'), block('B')})};
         desk.type(u"a|"_s);
         desk.undo();
         desk.page.blocks.removeLast();
@@ -259,7 +259,7 @@ private Q_SLOTS:
 
     void theRestOfTheDocumentIsLeftAlone()
     {
-        Desk desk{.page = page({block('A')})};
+        RememberedPage desk{.page = page({block('A')})};
         desk.type(u"a|"_s);
         desk.page.isPinned = true;
         desk.page.updatedAt = 12;
@@ -270,7 +270,7 @@ private Q_SLOTS:
 
     void theOldestStepsGoFirst()
     {
-        Desk desk{.history = EditHistory({.steps = 3}), .page = page({block('A')})};
+        RememberedPage desk{.history = EditHistory({.steps = 3}), .page = page({block('A')})};
         for (int step = 1; step <= 10; ++step)
             desk.change(withBlocks(desk.page, {block('A', BlockType::textSmall, QString::number(step))}));
         while (desk.undo()) {
@@ -280,7 +280,7 @@ private Q_SLOTS:
 
     void longTextsAreForgottenSooner()
     {
-        Desk desk{.history = EditHistory({.textBytes = 100'000}), .page = page({block('A')})};
+        RememberedPage desk{.history = EditHistory({.textBytes = 100'000}), .page = page({block('A')})};
         for (int step = 1; step <= 10; ++step)
             desk.change(withBlocks(desk.page,
                                    {block('A', BlockType::textSmall, QString(10'000, QChar(u'a' + step)))}));
@@ -292,8 +292,8 @@ private Q_SLOTS:
 
     void theLatestStepStaysHoweverLarge()
     {
-        Desk desk{.history = EditHistory({.textBytes = 10, .pictureBytes = 3}),
-                  .page = page({image('A'), image('B'), block('C')})};
+        RememberedPage desk{.history = EditHistory({.textBytes = 10, .pictureBytes = 3}),
+                            .page = page({image('A'), image('B'), block('C')})};
         desk.change(withBlocks(desk.page, {image('B'), block('C')}));
         desk.change(withBlocks(desk.page, {block('C')}));
         QVERIFY(desk.undo());
@@ -303,7 +303,7 @@ private Q_SLOTS:
 
     void aLongRunOfKeysWeighsWhatItHolds()
     {
-        Desk desk{.history = EditHistory({.textBytes = 2'000}), .page = page({block('A')})};
+        RememberedPage desk{.history = EditHistory({.textBytes = 2'000}), .page = page({block('A')})};
         desk.change(withBlocks(desk.page, {block('A', BlockType::textSmall, u"-"_s)}));
         QString word = u"-"_s;
         for (int key = 0; key < 200; ++key)

@@ -4,12 +4,6 @@ using namespace PageText;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-namespace
-{
-constexpr BlockType body = BlockType::textSmall;
-constexpr BlockType heading = BlockType::textLarge;
-} // namespace
-
 class TestEditorFocus : public EditorTest
 {
     Q_OBJECT

@@ -10,20 +10,13 @@ using namespace std::chrono_literals;
 namespace
 {
 
-constexpr BlockType body = BlockType::textSmall;
-constexpr BlockType heading = BlockType::textLarge;
 using Operation = std::function<void(EditorDesk &)>;
 
 /// A page that has something for every operation.
-QList<Block> everything()
+QList<Block> onePageForAll()
 {
     return {block('A', heading, u"Title"_s), block('B', body, u"onetwo"_s), image('C'),
             sticky('D', {todo('x', u"milk"_s), todo('y', u"eggs"_s)}), block('E')};
-}
-
-QString id(char letter)
-{
-    return EditorDesk::id(letter);
 }
 
 } // namespace
@@ -71,7 +64,7 @@ private Q_SLOTS:
     void everyOperationIsOneStep()
     {
         QFETCH(const Operation, operation);
-        EditorDesk desk(everything());
+        EditorDesk desk(onePageForAll());
         desk.editor->caretMoved(id('B'), {}, 3);
         const QStringList before = desk.lines();
 

@@ -9,12 +9,6 @@ using namespace PageText;
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-namespace
-{
-constexpr BlockType body = BlockType::textSmall;
-constexpr BlockType heading = BlockType::textLarge;
-} // namespace
-
 class TestEditorViewModel : public EditorTest
 {
     Q_OBJECT

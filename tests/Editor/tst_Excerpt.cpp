@@ -9,19 +9,13 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-PelkoDocument everything()
+PelkoDocument pageToCopy()
 {
     return page({block('A', BlockType::textLarge, u"Head"_s),
                  block('B', BlockType::textSmall, u"Body\n& soul"_s), block('C', BlockType::divider),
                  block('Q', BlockType::quote, u"so\nsaid"_s), image('E'),
                  sticky('D', {todo('x', u"milk"_s), todo('y', u"rye"_s, true)}),
                  block('F', BlockType::code, u"a<b\n```"_s)});
-}
-
-BlockSelection between(char first, int from, char last, int to)
-{
-    return {.anchor = {.passage = {idOf(first)}, .offset = from},
-            .head = {.passage = {idOf(last)}, .offset = to}};
 }
 
 } // namespace
@@ -33,23 +27,23 @@ class TestExcerpt : public QObject
 private Q_SLOTS:
     void textsAtTheEndsAreCut()
     {
-        PelkoDocument cut = everything();
-        cut.blocks = excerpt(everything(), between('A', 2, 'B', 2));
+        PelkoDocument cut = pageToCopy();
+        cut.blocks = excerpt(pageToCopy(), between('A', 2, 'B', 2));
         QCOMPARE(lines(cut), (QStringList{u"A textLarge \"ad\""_s, u"B textSmall \"Bo\""_s}));
     }
 
     void entriesAtTheEndsAreCut()
     {
-        PelkoDocument cut = everything();
-        cut.blocks = excerpt(everything(), {.anchor = {.passage = {idOf('D'), idOf('y')}, .offset = 1},
+        PelkoDocument cut = pageToCopy();
+        cut.blocks = excerpt(pageToCopy(), {.anchor = {.passage = {idOf('D'), idOf('y')}, .offset = 1},
                                             .head = {.passage = {idOf('F')}, .offset = 1}});
         QCOMPARE(lines(cut), (QStringList{u"D sticky \"\" todos(y[x] \"ye\")"_s, u"F code \"a\""_s}));
     }
 
     void thingsOnlyTouchedAreLeftOut()
     {
-        PelkoDocument cut = everything();
-        cut.blocks = excerpt(everything(), between('B', 0, 'C', 0));
+        PelkoDocument cut = pageToCopy();
+        cut.blocks = excerpt(pageToCopy(), between('B', 0, 'C', 0));
         QCOMPARE(letters(cut), u"B"_s);
     }
 
@@ -66,18 +60,18 @@ private Q_SLOTS:
 
     void nothingIsCutFromAnotherPage()
     {
-        QCOMPARE(excerpt(everything(), between('A', 0, 'Z', 0)), QList<Block>{});
+        QCOMPARE(excerpt(pageToCopy(), between('A', 0, 'Z', 0)), QList<Block>{});
     }
 
     void plainTextIsWhatStandsThere()
     {
-        QCOMPARE(BlockForms::plainText(everything().blocks),
+        QCOMPARE(BlockForms::plainText(pageToCopy().blocks),
                  u"Head\nBody\n& soul\n---\nso\nsaid\nmilk\nrye\na<b\n```"_s);
     }
 
     void markdownMarksTheKinds()
     {
-        QCOMPARE(BlockForms::markdown(everything().blocks),
+        QCOMPARE(BlockForms::markdown(pageToCopy().blocks),
                  u"# Head\n\nBody  \n& soul\n\n---\n\n> so  \n> said\n\n- [ ] milk\n- [x] rye\n\n"
                  "````\na<b\n```\n````"_s);
     }
@@ -85,7 +79,7 @@ private Q_SLOTS:
     void htmlHoldsNothingButElements()
     {
         QCOMPARE(
-            BlockForms::html(everything().blocks),
+            BlockForms::html(pageToCopy().blocks),
             u"<h1>Head</h1>\n<p>Body<br>&amp; soul</p>\n<hr>\n<blockquote><p>so<br>said</p></blockquote>\n"
             "<ul><li>☐ milk</li>\n<li>☑ rye</li></ul>\n<pre><code>a&lt;b\n```</code></pre>"_s);
     }

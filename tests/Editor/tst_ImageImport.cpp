@@ -13,10 +13,6 @@ namespace
 {
 using Files = QList<std::filesystem::path>;
 
-QString id(char letter)
-{
-    return idOf(letter).toString(QUuid::WithoutBraces);
-}
 } // namespace
 
 class TestImageImport : public QObject

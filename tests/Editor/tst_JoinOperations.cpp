@@ -8,11 +8,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr BlockType body = BlockType::textSmall;
-constexpr BlockType heading = BlockType::textLarge;
-
 /// A key at the edge of the text that `at` names ("B" or "B.x"), and what becomes of the page.
-struct Case {
+struct JoinCase {
     const char *name;
     QList<Block> blocks;
     const char *at;
@@ -33,9 +30,9 @@ Block divider(char letter)
     return block(letter, BlockType::divider);
 }
 
-const QList<Case> &backwardsCases()
+const QList<JoinCase> &backwardsCases()
 {
-    static const QList<Case> cases{
+    static const QList<JoinCase> cases{
         {"text joins the text above",
          {block('A', heading, u"one"_s), block('B', body, u"two"_s), block('C')},
          "B",
@@ -136,9 +133,9 @@ const QList<Case> &backwardsCases()
     return cases;
 }
 
-const QList<Case> &forwardsCases()
+const QList<JoinCase> &forwardsCases()
 {
-    static const QList<Case> cases{
+    static const QList<JoinCase> cases{
         {"the text below joins",
          {block('A', heading, u"one"_s), block('B', BlockType::quote, u"two"_s)},
          "A",
@@ -218,13 +215,13 @@ class TestJoinOperations : public QObject
 {
     Q_OBJECT
 
-    static void addRows(const QList<Case> &cases)
+    static void addRows(const QList<JoinCase> &cases)
     {
         QTest::addColumn<QList<Block>>("blocks");
         QTest::addColumn<QByteArray>("at");
         QTest::addColumn<QStringList>("becomes");
         QTest::addColumn<QString>("focus");
-        for (const Case &row : cases)
+        for (const JoinCase &row : cases)
             QTest::newRow(row.name) << row.blocks << QByteArray(row.at) << row.becomes << row.focus;
     }
 

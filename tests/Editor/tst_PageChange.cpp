@@ -9,7 +9,7 @@ namespace
 {
 
 /// A page of body blocks called by these letters.
-QList<Block> bodies(const char *letters)
+QList<Block> bodyBlocks(const char *letters)
 {
     QList<Block> blocks;
     for (const char *letter = letters; *letter; ++letter)
@@ -61,12 +61,12 @@ private Q_SLOTS:
     {
         QFETCH(const QByteArray, before);
         QFETCH(const QByteArray, after);
-        const PageChange change = PageChange::between(bodies(before), bodies(after));
+        const PageChange change = PageChange::between(bodyBlocks(before), bodyBlocks(after));
         QTEST(change.row(), "row");
         QTEST(change.rowsBefore(), "rowsBefore");
         QTEST(change.rowsAfter(), "rowsAfter");
         QCOMPARE(change.isEmpty(), before == after);
-        leadsBothWays(bodies(before), bodies(after));
+        leadsBothWays(bodyBlocks(before), bodyBlocks(after));
     }
 
     void everyFieldOfABlockIsTakenBack_data()

@@ -16,15 +16,9 @@ PelkoDocument letter()
     return page({block('A', BlockType::textLarge, u"Dear"_s), block('B', BlockType::textSmall, u"reader"_s)});
 }
 
-BlockSelection between(char first, int from, char last, int to)
-{
-    return {.anchor = {.passage = {idOf(first)}, .offset = from},
-            .head = {.passage = {idOf(last)}, .offset = to}};
-}
-
 /// A selection on a page that takes the edits.
-struct Desk {
-    explicit Desk(const PelkoDocument &document) : page(document) { selection.publish(page); }
+struct SelectionDesk {
+    explicit SelectionDesk(const PelkoDocument &document) : page(document) { selection.publish(page); }
 
     void apply(const PageSelection::Operation &operation)
     {
@@ -53,7 +47,7 @@ class TestPageSelection : public QObject
 private Q_SLOTS:
     void aSelectionWithinOneTextIsLeftToItsField()
     {
-        Desk desk(letter());
+        SelectionDesk desk(letter());
         QVERIFY(desk.selection.select(between('A', 0, 'B', 1)));
         QSignalSpy changed(&desk.selection, &PageSelection::changed);
         QVERIFY(!desk.selection.select(between('A', 0, 'A', 2)));
@@ -63,7 +57,7 @@ private Q_SLOTS:
 
     void theSameSelectionIsAnnouncedOnce()
     {
-        Desk desk(letter());
+        SelectionDesk desk(letter());
         QSignalSpy changed(&desk.selection, &PageSelection::changed);
         desk.selection.select(between('A', 0, 'B', 1));
         desk.selection.select(between('A', 0, 'B', 1));
@@ -72,7 +66,7 @@ private Q_SLOTS:
 
     void itIsCopiedInEveryForm()
     {
-        Desk desk(letter());
+        SelectionDesk desk(letter());
         desk.selection.select(between('A', 2, 'B', 4));
         desk.selection.copy();
         QCOMPARE(desk.pasteboard.item, (PasteboardItem{.text = u"ar\nread"_s,
@@ -84,7 +78,7 @@ private Q_SLOTS:
 
     void cuttingCopiesAndRemovesInOneEdit()
     {
-        Desk desk(letter());
+        SelectionDesk desk(letter());
         desk.selection.select(between('A', 2, 'B', 4));
         desk.selection.cut();
         QCOMPARE(desk.pasteboard.item.text, u"ar\nread"_s);
@@ -96,7 +90,7 @@ private Q_SLOTS:
 
     void textReplacesItInOneEdit()
     {
-        Desk desk(letter());
+        SelectionDesk desk(letter());
         desk.selection.select(between('B', 4, 'A', 2));
         desk.selection.replace(u"x"_s);
         QCOMPARE(lines(desk.page), QStringList{u"A textLarge \"Dexer\""_s});
@@ -106,7 +100,7 @@ private Q_SLOTS:
 
     void linesOfOtherSystemsArePasted()
     {
-        Desk desk(letter());
+        SelectionDesk desk(letter());
         desk.pasteboard.item.text = u"one\r\ntwo"_s;
         desk.selection.select(between('A', 2, 'B', 4));
         desk.selection.paste();
@@ -116,7 +110,7 @@ private Q_SLOTS:
 
     void anEmptyPasteboardRemovesNothing()
     {
-        Desk desk(letter());
+        SelectionDesk desk(letter());
         desk.selection.select(between('A', 2, 'B', 4));
         desk.selection.paste();
         QCOMPARE(desk.edits, 0);
@@ -125,7 +119,7 @@ private Q_SLOTS:
 
     void nothingSelectedIsNeitherCopiedNorChanged()
     {
-        Desk desk(letter());
+        SelectionDesk desk(letter());
         desk.pasteboard.item.text = u"kept"_s;
         desk.selection.cut();
         desk.selection.replace(u"x"_s);
@@ -136,7 +130,7 @@ private Q_SLOTS:
 
     void aChangedPageDropsIt()
     {
-        Desk desk(letter());
+        SelectionDesk desk(letter());
         desk.selection.select(between('A', 2, 'B', 4));
         PelkoDocument stamped = desk.page;
         stamped.updatedAt = 1;

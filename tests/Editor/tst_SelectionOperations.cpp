@@ -9,7 +9,7 @@ namespace
 {
 
 /// A heading, a body, a divider, a checklist, a picture and a code block.
-PelkoDocument everything()
+PelkoDocument pageToSelectIn()
 {
     return page({block('A', BlockType::textLarge, u"Head"_s), block('B', BlockType::textSmall, u"Body"_s),
                  block('C', BlockType::divider),
@@ -108,15 +108,15 @@ private Q_SLOTS:
         QFETCH(QString, to);
         QFETCH(QString, left);
         QFETCH(QString, caret);
-        const auto edit = SelectionOperations::remove(everything(), selection(from, to));
+        const auto edit = SelectionOperations::remove(pageToSelectIn(), selection(from, to));
         QCOMPARE(shortLines(edit.value().document), left);
         QCOMPARE(focus(edit->focus), caret);
     }
 
     void nothingIsRemovedWhereAnEndIsNotOnThePage()
     {
-        QVERIFY(!SelectionOperations::remove(everything(), selection(u"A@0"_s, u"Z@0"_s)));
-        QVERIFY(!SelectionOperations::replace(everything(), selection(u"D.z@0"_s, u"F@0"_s), u"x"_s));
+        QVERIFY(!SelectionOperations::remove(pageToSelectIn(), selection(u"A@0"_s, u"Z@0"_s)));
+        QVERIFY(!SelectionOperations::replace(pageToSelectIn(), selection(u"D.z@0"_s, u"F@0"_s), u"x"_s));
     }
 
     void aPageOfThingsWithoutTextGetsABody()
@@ -199,7 +199,7 @@ private Q_SLOTS:
     void anEntryIsTypedOverAsAnEntry()
     {
         const auto edit =
-            SelectionOperations::replace(everything(), selection(u"D.x@2"_s, u"F@4"_s), u"\nz"_s);
+            SelectionOperations::replace(pageToSelectIn(), selection(u"D.x@2"_s, u"F@4"_s), u"\nz"_s);
         QCOMPARE(line(edit.value().document.blocks.last()),
                  u"D sticky \"\" todos(x[ ] \"mi\", +[ ] \"z\")"_s);
         QCOMPARE(focus(edit->focus), u"D.+@1"_s);

@@ -10,11 +10,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr BlockType body = BlockType::textSmall;
-constexpr BlockType heading = BlockType::textLarge;
-
 /// What a text field reports, and what becomes of its block B on the page A (heading), B, C (body).
-struct Case {
+struct TypingCase {
     const char *name;
     BlockType type;
     QString stored;
@@ -24,9 +21,9 @@ struct Case {
     QString focus;
 };
 
-const QList<Case> &shortcuts()
+const QList<TypingCase> &shortcuts()
 {
-    static const QList<Case> cases{
+    static const QList<TypingCase> cases{
         {"#", body, u"#"_s, u"# "_s, 2, {u"B textLarge \"\""_s}, u"B@end"_s},
         {">", body, u">"_s, u"> "_s, 2, {u"B quote \"\""_s}, u"B@end"_s},
         {"```", body, u"``"_s, u"```"_s, 3, {u"B code \"\""_s}, u"B@end"_s},
@@ -48,9 +45,9 @@ const QList<Case> &shortcuts()
     return cases;
 }
 
-const QList<Case> &lineFeeds()
+const QList<TypingCase> &lineFeeds()
 {
-    static const QList<Case> cases{
+    static const QList<TypingCase> cases{
         {"at the end",
          body,
          u"one"_s,
@@ -150,9 +147,9 @@ const QList<Case> &lineFeeds()
     return cases;
 }
 
-const QList<Case> &plainText()
+const QList<TypingCase> &plainText()
 {
-    static const QList<Case> cases{
+    static const QList<TypingCase> cases{
         {"first character", body, {}, u"o"_s, 1, {u"B textSmall \"o\""_s}, {}},
         {"last character deleted", body, u"o"_s, {}, 0, {u"B textSmall \"\""_s}, {}},
         {"unchanged", body, u"one"_s, u"one"_s, 3, {u"B textSmall \"one\""_s}, {}},
@@ -172,9 +169,9 @@ class TestTypingRules : public QObject
 {
     Q_OBJECT
 
-    static void addRows(const char *group, const QList<Case> &cases)
+    static void addRows(const char *group, const QList<TypingCase> &cases)
     {
-        for (const Case &row : cases)
+        for (const TypingCase &row : cases)
             QTest::addRow("%s: %s", group, row.name)
                 << row.type << row.stored << row.typed << row.caret << row.becomes << row.focus;
     }
@@ -200,7 +197,7 @@ private Q_SLOTS:
         addRows("line feed", lineFeeds());
         addRows("text", plainText());
         for (const BlockType type : {heading, BlockType::quote, BlockType::code}) {
-            for (const Case &shortcut : shortcuts())
+            for (const TypingCase &shortcut : shortcuts())
                 if (!shortcut.stored.contains(u'\n') && shortcut.stored != u"#word" && shortcut.caret > 0)
                     addStaysText(type, shortcut.typed);
         }

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-QString body(const QString &text)
+QString ofBody(const QString &text)
 {
     return pageMarkdown({block('A', BlockType::textSmall, text)}).chopped(1);
 }
@@ -123,7 +123,7 @@ a<b
     void whatNeedsNoEscapingStays()
     {
         QFETCH(QString, text);
-        QCOMPARE(body(text), text);
+        QCOMPARE(ofBody(text), text);
     }
 
     void marksAreEscaped_data()
@@ -165,7 +165,7 @@ a<b
     void marksAreEscaped()
     {
         QFETCH(QString, text);
-        QTEST(body(text), "markdown");
+        QTEST(ofBody(text), "markdown");
     }
 };
 

@@ -32,7 +32,7 @@ ManualDocumentFile library()
     return file;
 }
 
-struct Program {
+struct ExportingProgram {
     ManualScheduler scheduler;
     ManualClock clock;
     ManualDocumentFile file = library();
@@ -47,7 +47,7 @@ class TestExportViewModel : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<Program> m_program;
+    std::unique_ptr<ExportingProgram> m_program;
 
     ExportViewModel &exports() { return m_program->exports; }
 
@@ -72,7 +72,7 @@ class TestExportViewModel : public QObject
     }
 
 private Q_SLOTS:
-    void init() { m_program = std::make_unique<Program>(); }
+    void init() { m_program = std::make_unique<ExportingProgram>(); }
 
     void aFolderIsAskedForAndThePageWrittenThere()
     {

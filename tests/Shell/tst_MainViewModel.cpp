@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 namespace
 {
 /// A program that has started on a given data file.
-struct Program {
+struct StartedProgram {
     ManualScheduler scheduler;
     ManualClock clock;
     ManualDocumentFile file;
@@ -25,7 +25,7 @@ struct Program {
     AppState appState;
     MainViewModel main;
 
-    explicit Program(const ManualDocumentFile &start = {})
+    explicit StartedProgram(const ManualDocumentFile &start = {})
         : file(start)
         , appState(scheduler, clock, file)
         , main(appState, clock, desktop.services(scheduler))
@@ -65,7 +65,7 @@ class TestMainViewModel : public QObject
 private Q_SLOTS:
     void startsWithTheEmptyStateWhenThereAreNoDocuments()
     {
-        const Program program;
+        const StartedProgram program;
 
         QCOMPARE(program.main.openDocumentID(), QString());
         QCOMPARE(program.main.windowTitle(), u"Pelko"_s);
@@ -74,7 +74,7 @@ private Q_SLOTS:
 
     void startWritingCreatesAPageInWorkAndOpensIt()
     {
-        Program program;
+        StartedProgram program;
         program.main.createDocument();
 
         QCOMPARE(program.appState.documents().size(), 1);
@@ -84,7 +84,7 @@ private Q_SLOTS:
 
     void newDocumentAtFiveShowsTheLimitInsteadOfCreating()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(5);
         QVERIFY(!program.main.showDocLimitNudge());
         program.main.commands()->run(u"newDocument"_s);
@@ -98,7 +98,7 @@ private Q_SLOTS:
 
     void theLimitAlertComesBackWhenItIsDue()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(6);
         program.main.dismissDocLimitNudge();
         program.main.createDocument();
@@ -108,7 +108,7 @@ private Q_SLOTS:
 
     void startWritingInAFullSpaceShowsTheLimit()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(5);
         program.appState.setOpenDocumentID(std::nullopt);
         program.main.createDocument();
@@ -119,7 +119,7 @@ private Q_SLOTS:
 
     void aLoadFailureShowsTheErrorAlertUntilItIsDismissed()
     {
-        Program program(brokenFile());
+        StartedProgram program(brokenFile());
 
         QVERIFY(program.main.showError());
         QVERIFY(PelkoVoice::errorPool().contains(program.main.errorTitle()));
@@ -131,7 +131,7 @@ private Q_SLOTS:
 
     void dismissingNoErrorChangesNothing()
     {
-        Program program;
+        StartedProgram program;
         QSignalSpy changes(&program.main, &MainViewModel::showErrorChanged);
         program.main.dismissError();
 
@@ -140,7 +140,7 @@ private Q_SLOTS:
 
     void twoErrorsInARowHaveDifferentTitles()
     {
-        Program program;
+        StartedProgram program;
         program.file.writeError = u"No space left on device"_s;
         QString previous;
         for (int i = 0; i < 30; ++i) {
@@ -154,7 +154,7 @@ private Q_SLOTS:
 
     void theWordsOfAnErrorStayWhileItsAlertGoesAway()
     {
-        Program program(brokenFile());
+        StartedProgram program(brokenFile());
         const QString title = program.main.errorTitle();
         program.main.dismissError();
 
@@ -164,7 +164,7 @@ private Q_SLOTS:
 
     void aNewErrorReplacesOneNotYetSeen()
     {
-        Program program(brokenFile());
+        StartedProgram program(brokenFile());
         const QString title = program.main.errorTitle();
         program.file.writeError = u"Read-only file system"_s;
         program.appState.save();
@@ -176,7 +176,7 @@ private Q_SLOTS:
 
     void theAboutCommandShowsTheAboutAlert()
     {
-        Program program;
+        StartedProgram program;
         program.main.commands()->run(u"about"_s);
         QVERIFY(program.main.showAbout());
 
@@ -187,7 +187,7 @@ private Q_SLOTS:
 
     void deletingThroughTheAlertOpensTheNewestRemainingPage()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(3);
         const auto documents = program.appState.documents();
         program.main.requestDelete(program.openID());
@@ -201,7 +201,7 @@ private Q_SLOTS:
 
     void theAlertIsGoneBeforeTheNextPageOpens()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(2);
         bool wasAsking = true;
         connect(&program.main, &MainViewModel::openDocumentIDChanged, this,
@@ -214,7 +214,7 @@ private Q_SLOTS:
 
     void deletingTheLastPageShowsTheEmptyState()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(1);
         program.main.requestDelete(program.openID());
         program.main.confirmDelete();
@@ -225,7 +225,7 @@ private Q_SLOTS:
 
     void nahLeavesTheListUnchangedAndForgetsThePage()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(2);
         const auto documents = program.appState.documents();
         program.main.requestDelete(program.openID());
@@ -239,7 +239,7 @@ private Q_SLOTS:
 
     void theConfirmationNamesThePageAndKeepsItsWords()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(1);
         program.appState.updateDocument(titled(*program.appState.openDocument(), u"Letter to the printer"_s));
         program.main.requestDelete(program.openID());
@@ -251,7 +251,7 @@ private Q_SLOTS:
 
     void theConfirmationNamesALongPageInAFewWords()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(1);
         const QString title = u"x"_s.repeated(10'000) + u"\nmore"_s;
         program.appState.updateDocument(titled(*program.appState.openDocument(), title));
@@ -262,7 +262,7 @@ private Q_SLOTS:
 
     void theConfirmationNamesASparkByWhatItSays()
     {
-        Program program;
+        StartedProgram program;
         const auto spark = program.appState.captureSpark(u"A lamp that dims"_s);
         program.main.requestDelete(spark->id.toString());
 
@@ -271,7 +271,7 @@ private Q_SLOTS:
 
     void askingToDeleteAnUnknownPageAsksNothing()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(1);
         program.main.requestDelete(QUuid::createUuid().toString());
 
@@ -281,7 +281,7 @@ private Q_SLOTS:
 
     void dismissingTheNavigationLowersItsFlag()
     {
-        Program program;
+        StartedProgram program;
         program.appState.setShowNav(true);
         QVERIFY(program.main.showNav());
         program.main.dismissNav();
@@ -292,7 +292,7 @@ private Q_SLOTS:
 
     void theNavigationOpensAndClosesWithOneKey()
     {
-        Program program;
+        StartedProgram program;
         program.main.toggleNav();
         QVERIFY(program.main.showNav());
         program.main.toggleNav();
@@ -301,7 +301,7 @@ private Q_SLOTS:
 
     void aNewPageClosesTheNavigation()
     {
-        Program program;
+        StartedProgram program;
         program.appState.setShowNav(true);
         program.main.createDocument();
 
@@ -310,7 +310,7 @@ private Q_SLOTS:
 
     void theNavigationStaysWhereASpaceIsFull()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(5);
         program.appState.setShowNav(true);
         program.main.createDocument();
@@ -321,7 +321,7 @@ private Q_SLOTS:
 
     void theTickIsShownAfterASave()
     {
-        Program program;
+        StartedProgram program;
         QSignalSpy changes(&program.main, &MainViewModel::showSavedIndicatorChanged);
         program.appState.save();
         QVERIFY(program.main.showSavedIndicator());
@@ -333,7 +333,7 @@ private Q_SLOTS:
 
     void focusModeShowsNothingButThePage()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(1);
         program.appState.setFocusMode(true);
         QVERIFY(program.main.isFocused());
@@ -345,7 +345,7 @@ private Q_SLOTS:
 
     void withoutAPageFocusModeWaits()
     {
-        Program program;
+        StartedProgram program;
         program.appState.setFocusMode(true);
         QVERIFY(!program.main.isFocused());
         program.createDocuments(1);
@@ -358,7 +358,7 @@ private Q_SLOTS:
 
     void theGreetingIsOneLineForAsLongAsTheWindowIsOpen()
     {
-        Program program;
+        StartedProgram program;
         const QString greeting = program.main.topMessage();
         program.createDocuments(2);
 
@@ -368,7 +368,7 @@ private Q_SLOTS:
 
     void aSecondWindowNeverStartsWithTheGreetingBeforeIt()
     {
-        Program program;
+        StartedProgram program;
         QString previous = program.main.topMessage();
         for (int i = 0; i < 50; ++i) {
             const MainViewModel next(program.appState, program.clock,
@@ -380,7 +380,7 @@ private Q_SLOTS:
 
     void aWindowThatIsOpenedAgainGreetsWithAnotherLine()
     {
-        Program program;
+        StartedProgram program;
         QSignalSpy changes(&program.main, &MainViewModel::topMessageChanged);
         for (int i = 1; i <= 30; ++i) {
             const QString before = program.main.topMessage();
@@ -393,7 +393,7 @@ private Q_SLOTS:
 
     void theEmptyMessageIsPickedAnewEachTimeTheEmptyStateComesUp()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(1);
         const std::optional<QUuid> page = program.appState.openDocumentID();
         QString previous = program.main.emptyMessage();
@@ -408,7 +408,7 @@ private Q_SLOTS:
 
     void theNewMessageIsThereBeforeTheEmptyStateIsShown()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(1);
         const QString before = program.main.emptyMessage();
         QString seen;
@@ -422,7 +422,7 @@ private Q_SLOTS:
 
     void anOpenIdWithoutItsDocumentIsTheEmptyState()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(1);
         program.appState.setOpenDocumentID(QUuid::createUuid());
 
@@ -431,7 +431,7 @@ private Q_SLOTS:
 
     void theWindowIsNamedAfterThePage()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(1);
         QCOMPARE(program.main.windowTitle(), u"Untitled – Pelko"_s);
         program.appState.updateDocument(titled(*program.appState.openDocument(), u"First hour"_s));
@@ -441,7 +441,7 @@ private Q_SLOTS:
 
     void editingAPageDoesNotReopenIt()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(1);
         QSignalSpy opened(&program.main, &MainViewModel::openDocumentIDChanged);
         program.appState.updateDocument(titled(*program.appState.openDocument(), u"First hour"_s));
@@ -451,7 +451,7 @@ private Q_SLOTS:
 
     void anEditorBelongsToTheDocumentItWasOpenedFor()
     {
-        Program program;
+        StartedProgram program;
         program.createDocuments(2);
         const std::unique_ptr<EditorViewModel> editor(program.main.openEditor(program.openID()));
 

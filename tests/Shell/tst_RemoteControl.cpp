@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 
 namespace
 {
-struct Program {
+struct ControlledProgram {
     ManualScheduler scheduler;
     ManualClock clock;
     ManualDocumentFile file;
@@ -37,10 +37,10 @@ class TestRemoteControl : public QObject
     Q_OBJECT
 
 private:
-    std::unique_ptr<Program> m_program;
+    std::unique_ptr<ControlledProgram> m_program;
 
 private Q_SLOTS:
-    void init() { m_program = std::make_unique<Program>(); }
+    void init() { m_program = std::make_unique<ControlledProgram>(); }
 
     void aSecondStartAsksForTheWindow()
     {

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-struct Program {
+struct CommandedProgram {
     ManualScheduler scheduler;
     ManualClock clock;
     ManualDocumentFile file;
@@ -29,7 +29,7 @@ struct Program {
 class Echo
 {
 public:
-    explicit Echo(Program &program)
+    explicit Echo(CommandedProgram &program)
     {
         for (const auto asked : {&ShellCommands::menuRequested, &ShellCommands::pomodoroRequested,
                                  &ShellCommands::fullScreenToggled, &ShellCommands::quitRequested,
@@ -65,7 +65,7 @@ private Q_SLOTS:
     void everyCommandDoesOneThing()
     {
         QFETCH(QString, id);
-        Program program;
+        CommandedProgram program;
         program.appState.createDocument(Space::work);
         // Of the three spaces, the current one has nothing left to do.
         if (id == u"work"_s)
@@ -78,7 +78,7 @@ private Q_SLOTS:
 
     void anUnknownCommandDoesNothing()
     {
-        Program program;
+        CommandedProgram program;
         const Echo echo(program);
         program.commands.run(u"paintItBlack"_s);
 
@@ -87,7 +87,7 @@ private Q_SLOTS:
 
     void tasksAreThereInTheWorkSpaceOnly()
     {
-        Program program;
+        CommandedProgram program;
         QVERIFY(program.isEnabled(u"tasks"_s) && !program.isTicked(u"tasks"_s));
         program.commands.run(u"tasks"_s);
         QVERIFY(program.appState.showTasksPanel() && program.isTicked(u"tasks"_s));
@@ -99,7 +99,7 @@ private Q_SLOTS:
 
     void theNavigationComesAndGoes()
     {
-        Program program;
+        CommandedProgram program;
         program.commands.run(u"goTo"_s);
         QVERIFY(program.appState.showNav());
         program.commands.run(u"goTo"_s);
@@ -108,7 +108,7 @@ private Q_SLOTS:
 
     void newDocumentIsMadeInTheCurrentSpace()
     {
-        Program program;
+        CommandedProgram program;
         program.commands.run(u"journal"_s);
         program.commands.run(u"newDocument"_s);
 
@@ -118,7 +118,7 @@ private Q_SLOTS:
 
     void newDocumentAtFiveShowsTheLimitInsteadOfCreating()
     {
-        Program program;
+        CommandedProgram program;
         for (int i = 0; i < 6; ++i)
             program.commands.run(u"newDocument"_s);
 
@@ -128,7 +128,7 @@ private Q_SLOTS:
 
     void aNewDocumentEndsTheNavigationUnlessThereIsNoPlace()
     {
-        Program program;
+        CommandedProgram program;
         for (int i = 0; i < 5; ++i) {
             program.appState.setShowNav(true);
             program.commands.run(u"newDocument"_s);
@@ -141,7 +141,7 @@ private Q_SLOTS:
 
     void focusModeEndsTheNavigation()
     {
-        Program program;
+        CommandedProgram program;
         program.appState.createDocument(Space::work);
         program.appState.setShowNav(true);
         program.commands.run(u"focusMode"_s);
@@ -151,7 +151,7 @@ private Q_SLOTS:
 
     void aSpaceOpensItsNewestPage()
     {
-        Program program;
+        CommandedProgram program;
         program.appState.createDocument(Space::ideas);
         const auto idea = program.appState.openDocumentID();
         program.appState.createDocument(Space::work);
@@ -163,7 +163,7 @@ private Q_SLOTS:
 
     void theCurrentSpaceIsTicked()
     {
-        Program program;
+        CommandedProgram program;
         for (const QString &current : {u"journal"_s, u"ideas"_s, u"work"_s}) {
             program.commands.run(current);
             for (const QString &space : {u"journal"_s, u"ideas"_s, u"work"_s})
@@ -173,7 +173,7 @@ private Q_SLOTS:
 
     void focusModeGoesOnAndOff()
     {
-        Program program;
+        CommandedProgram program;
         program.appState.createDocument(Space::work);
         for (const bool on : {true, false}) {
             program.commands.run(u"focusMode"_s);
@@ -184,7 +184,7 @@ private Q_SLOTS:
 
     void withoutAPageThereIsNothingToFocusOn()
     {
-        Program program;
+        CommandedProgram program;
         QVERIFY(!program.isEnabled(u"focusMode"_s));
         program.commands.run(u"focusMode"_s);
         QVERIFY(!program.appState.focusMode());
@@ -196,7 +196,7 @@ private Q_SLOTS:
 
     void theSheetOfKeysIsShownUntilItIsDismissed()
     {
-        Program program;
+        CommandedProgram program;
         program.commands.run(u"shortcuts"_s);
         QVERIFY(program.commands.showShortcuts());
         program.commands.dismissShortcuts();
@@ -205,7 +205,7 @@ private Q_SLOTS:
 
     void aboutShowsTheAlert()
     {
-        Program program;
+        CommandedProgram program;
         program.commands.run(u"about"_s);
 
         QVERIFY(program.appState.showAbout());
@@ -213,7 +213,7 @@ private Q_SLOTS:
 
     void fullScreenIsTickedWhileTheWindowFillsTheScreen()
     {
-        Program program;
+        CommandedProgram program;
         QVERIFY(!program.isTicked(u"fullScreen"_s));
         program.commands.setFullScreen(true);
         QVERIFY(program.isTicked(u"fullScreen"_s));

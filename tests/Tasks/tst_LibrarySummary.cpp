@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-PelkoDocument page(const QString &title, const QStringList &tasks = {})
+PelkoDocument titled(const QString &title, const QStringList &tasks = {})
 {
     PelkoDocument document(Space::work, 800'000'000);
     document.blocks[0].content = title;
@@ -61,7 +61,7 @@ void changeByLot(QList<PelkoDocument> &library, QRandomGenerator &lot)
     const int place = library.isEmpty() ? 0 : lot.bounded(int(library.size()));
     switch (library.isEmpty() ? 0 : lot.bounded(8)) {
     case 0:
-        library.insert(place, page(u"A new page"_s, lot.bounded(2) ? QStringList{u"do"_s} : QStringList{}));
+        library.insert(place, titled(u"A new page"_s, lot.bounded(2) ? QStringList{u"do"_s} : QStringList{}));
         break;
     case 1:
         library.removeAt(place);
@@ -111,7 +111,8 @@ void tst_LibrarySummary::anEmptyLibraryHasNothing()
 
 void tst_LibrarySummary::wordsOfAllPagesCount()
 {
-    QList<PelkoDocument> library{page(u"one"_s), page(u"one two"_s), page(u"one two three"_s, {u"not me"_s})};
+    QList<PelkoDocument> library{titled(u"one"_s), titled(u"one two"_s),
+                                 titled(u"one two three"_s, {u"not me"_s})};
     library[0].isArchived = true;
     library[1].space = Space::journal;
     library[2].space = Space::ideas;
@@ -125,13 +126,14 @@ void tst_LibrarySummary::wordsOfAllPagesCount()
 void tst_LibrarySummary::wordsAreWhatStandsBetweenWhiteSpace()
 {
     LibrarySummary summary;
-    summary.read({page(u"one  two\nthree\t four"_s), page(u"   "_s)});
+    summary.read({titled(u"one  two\nthree\t four"_s), titled(u"   "_s)});
     QCOMPARE(summary.wordCount(), 4);
 }
 
 void tst_LibrarySummary::tellsWhetherTheListOfTasksReadsDifferently()
 {
-    QList<PelkoDocument> library{page(u"Idle"_s), page(u"Busy"_s, {u"one"_s, u"two"_s}), page(u"Last"_s)};
+    QList<PelkoDocument> library{titled(u"Idle"_s), titled(u"Busy"_s, {u"one"_s, u"two"_s}),
+                                 titled(u"Last"_s)};
     LibrarySummary summary;
     QVERIFY(summary.read(library));
     QVERIFY(!summary.read(library));
@@ -155,7 +157,7 @@ void tst_LibrarySummary::tellsWhetherTheListOfTasksReadsDifferently()
 
 void tst_LibrarySummary::aPageThatWasPinnedIsReadAgain()
 {
-    QList<PelkoDocument> library{page(u"Busy"_s, {u"one"_s})};
+    QList<PelkoDocument> library{titled(u"Busy"_s, {u"one"_s})};
     LibrarySummary summary;
     summary.read(library);
 

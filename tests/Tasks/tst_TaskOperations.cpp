@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 /// A heading, a checklist of these, and a line of text.
-PelkoDocument page(const QStringList &texts)
+PelkoDocument checklistOf(const QStringList &texts)
 {
     PelkoDocument document(Space::work, 800'000'000);
     document.blocks = {Block(BlockType::textLarge, u"Packing list"_s), Block(BlockType::sticky),
@@ -43,7 +43,7 @@ private Q_SLOTS:
 
 void tst_TaskOperations::toggleFlipsOneEntry()
 {
-    const PelkoDocument before = page({u"socks"_s, u"pens"_s});
+    const PelkoDocument before = checklistOf({u"socks"_s, u"pens"_s});
 
     const auto after = TaskOperations::toggleTodo(before, before.blocks[1].id, todos(before)[1].id);
     PelkoDocument expected = before;
@@ -53,7 +53,7 @@ void tst_TaskOperations::toggleFlipsOneEntry()
 
 void tst_TaskOperations::toggleTwiceIsAsBefore()
 {
-    const PelkoDocument before = page({u"socks"_s});
+    const PelkoDocument before = checklistOf({u"socks"_s});
     const QUuid block = before.blocks[1].id;
     const QUuid todo = todos(before)[0].id;
 
@@ -63,7 +63,7 @@ void tst_TaskOperations::toggleTwiceIsAsBefore()
 
 void tst_TaskOperations::toggleOfWhatIsNotThereIsNothing()
 {
-    const PelkoDocument before = page({u"socks"_s});
+    const PelkoDocument before = checklistOf({u"socks"_s});
     const QUuid unknown = QUuid::createUuid();
 
     QVERIFY(!TaskOperations::toggleTodo(before, unknown, todos(before)[0].id));
@@ -73,7 +73,7 @@ void tst_TaskOperations::toggleOfWhatIsNotThereIsNothing()
 
 void tst_TaskOperations::deleteTakesOneEntryAndKeepsTheOthersInOrder()
 {
-    const PelkoDocument before = page({u"socks"_s, u"pens"_s, u"tea"_s});
+    const PelkoDocument before = checklistOf({u"socks"_s, u"pens"_s, u"tea"_s});
 
     const auto after = TaskOperations::deleteTodo(before, before.blocks[1].id, todos(before)[1].id);
     PelkoDocument expected = before;
@@ -83,7 +83,7 @@ void tst_TaskOperations::deleteTakesOneEntryAndKeepsTheOthersInOrder()
 
 void tst_TaskOperations::deleteTakesEveryEntryOfThatId()
 {
-    PelkoDocument before = page({u"socks"_s, u"pens"_s, u"tea"_s});
+    PelkoDocument before = checklistOf({u"socks"_s, u"pens"_s, u"tea"_s});
     (*before.blocks[1].todos)[2].id = todos(before)[0].id;
 
     const auto after = TaskOperations::deleteTodo(before, before.blocks[1].id, todos(before)[0].id);
@@ -92,7 +92,7 @@ void tst_TaskOperations::deleteTakesEveryEntryOfThatId()
 
 void tst_TaskOperations::deleteOfTheLastEntryLeavesAnEmptyChecklist()
 {
-    const PelkoDocument before = page({u"socks"_s});
+    const PelkoDocument before = checklistOf({u"socks"_s});
 
     const auto after = TaskOperations::deleteTodo(before, before.blocks[1].id, todos(before)[0].id);
     QCOMPARE(after->blocks.size(), 3);
@@ -101,14 +101,14 @@ void tst_TaskOperations::deleteOfTheLastEntryLeavesAnEmptyChecklist()
 
 void tst_TaskOperations::deleteInABlockWithoutAChecklistGivesThePageBack()
 {
-    const PelkoDocument before = page({});
+    const PelkoDocument before = checklistOf({});
 
     QCOMPARE(TaskOperations::deleteTodo(before, before.blocks[0].id, QUuid::createUuid()), before);
 }
 
 void tst_TaskOperations::deleteInABlockThatIsNotThereIsNothing()
 {
-    PelkoDocument before = page({u"socks"_s});
+    PelkoDocument before = checklistOf({u"socks"_s});
     QVERIFY(!TaskOperations::deleteTodo(before, QUuid::createUuid(), todos(before)[0].id));
 
     before.blocks.clear();
@@ -117,8 +117,8 @@ void tst_TaskOperations::deleteInABlockThatIsNotThereIsNothing()
 
 void tst_TaskOperations::addAppendsToTheFirstChecklist()
 {
-    PelkoDocument before = page({u"socks"_s});
-    before.blocks.append(page({u"later"_s}).blocks);
+    PelkoDocument before = checklistOf({u"socks"_s});
+    before.blocks.append(checklistOf({u"later"_s}).blocks);
 
     const PelkoDocument after = TaskOperations::addQuickTask(before, u"  pens "_s);
     PelkoDocument expected = before;
@@ -129,7 +129,7 @@ void tst_TaskOperations::addAppendsToTheFirstChecklist()
 
 void tst_TaskOperations::addFillsAChecklistThatIsAbsent()
 {
-    PelkoDocument before = page({});
+    PelkoDocument before = checklistOf({});
     before.blocks[1].todos.reset();
 
     const PelkoDocument after = TaskOperations::addQuickTask(before, u"pens"_s);
@@ -139,7 +139,7 @@ void tst_TaskOperations::addFillsAChecklistThatIsAbsent()
 
 void tst_TaskOperations::addMakesAChecklistAtTheEnd()
 {
-    PelkoDocument before = page({});
+    PelkoDocument before = checklistOf({});
     before.blocks.removeAt(1);
 
     const PelkoDocument once = TaskOperations::addQuickTask(before, u"pens"_s);

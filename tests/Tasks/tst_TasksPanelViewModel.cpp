@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 namespace
 {
 /// A library with the panel open beside it.
-struct Desk {
+struct PanelDesk {
     ManualScheduler scheduler;
     ManualClock clock;
     ManualDocumentFile file;
@@ -27,7 +27,7 @@ struct Desk {
     AppState appState{scheduler, clock, file};
     std::unique_ptr<TasksPanelViewModel> panel;
 
-    Desk() { openPanel(); }
+    PanelDesk() { openPanel(); }
 
     void openPanel()
     {
@@ -110,7 +110,7 @@ private Q_SLOTS:
 
 void tst_TasksPanelViewModel::theListFollowsTheStore()
 {
-    Desk desk;
+    PanelDesk desk;
     QCOMPARE(desk.list(), QStringList{});
     QCOMPARE(desk.panel->pendingCount(), 0);
 
@@ -129,7 +129,7 @@ void tst_TasksPanelViewModel::theListFollowsTheStore()
 
 void tst_TasksPanelViewModel::aTickedTaskStaysListedAndIsNotCounted()
 {
-    Desk desk;
+    PanelDesk desk;
     desk.add(u"Packing list"_s, {u"-socks"_s});
     const QSignalSpy counted(desk.panel.get(), &TasksPanelViewModel::pendingCountChanged);
 
@@ -141,7 +141,7 @@ void tst_TasksPanelViewModel::aTickedTaskStaysListedAndIsNotCounted()
 
 void tst_TasksPanelViewModel::toggleWritesTheDocumentEachTime()
 {
-    Desk desk;
+    PanelDesk desk;
     const PelkoDocument before = desk.add(u"Packing list"_s, {u"-socks"_s});
     desk.scheduler.advance(1s);
     const int writes = desk.file.writes();
@@ -158,7 +158,7 @@ void tst_TasksPanelViewModel::toggleWritesTheDocumentEachTime()
 
 void tst_TasksPanelViewModel::deleteOfTheLastTaskEmptiesTheListAndKeepsTheBlock()
 {
-    Desk desk;
+    PanelDesk desk;
     desk.add(u"Packing list"_s, {u"-socks"_s, u"-pens"_s});
     desk.apply(&TasksPanelViewModel::deleteTodo, 1);
     QCOMPARE(desk.list(), QStringList({u"PACKING LIST"_s, u"-pens"_s}));
@@ -171,7 +171,7 @@ void tst_TasksPanelViewModel::deleteOfTheLastTaskEmptiesTheListAndKeepsTheBlock(
 
 void tst_TasksPanelViewModel::whatIsNotThereChangesNothing()
 {
-    Desk desk;
+    PanelDesk desk;
     const PelkoDocument document = desk.add(u"Packing list"_s, {u"-socks"_s});
     desk.scheduler.advance(1s);
     const int writes = desk.file.writes();
@@ -190,7 +190,7 @@ void tst_TasksPanelViewModel::whatIsNotThereChangesNothing()
 
 void tst_TasksPanelViewModel::aTaskOfAnotherPageIsTickedThere()
 {
-    Desk desk;
+    PanelDesk desk;
     desk.add(u"Packing list"_s, {u"-socks"_s});
     const PelkoDocument open = desk.add(u"Open"_s);
 
@@ -201,7 +201,7 @@ void tst_TasksPanelViewModel::aTaskOfAnotherPageIsTickedThere()
 
 void tst_TasksPanelViewModel::theKeyboardWalksOverHeadings()
 {
-    Desk desk;
+    PanelDesk desk;
     QCOMPARE(desk.panel->taskNear(0), -1);
     desk.add(u"Packing list"_s, {u"-socks"_s, u"-pens"_s});
     desk.add(u"Spring issue"_s, {u"-cover"_s});
@@ -219,7 +219,7 @@ void tst_TasksPanelViewModel::theKeyboardWalksOverHeadings()
 
 void tst_TasksPanelViewModel::blanksAloneAreNoTask()
 {
-    Desk desk;
+    PanelDesk desk;
     const PelkoDocument open = desk.add(u"Open"_s);
     for (const QString &blanks : {u""_s, u"  \t "_s, u"\u00a0\u2003"_s}) {
         desk.panel->typed(blanks);
@@ -231,7 +231,7 @@ void tst_TasksPanelViewModel::blanksAloneAreNoTask()
 
 void tst_TasksPanelViewModel::aNewTaskKeepsItsBlanks()
 {
-    Desk desk;
+    PanelDesk desk;
     desk.add(u"Open"_s, {u"-first"_s});
     desk.panel->typed(u"  call the printer "_s);
     desk.panel->submitNewTask();
@@ -242,7 +242,7 @@ void tst_TasksPanelViewModel::aNewTaskKeepsItsBlanks()
 
 void tst_TasksPanelViewModel::aNewTaskWithoutAnOpenDocumentIsDropped()
 {
-    Desk desk;
+    PanelDesk desk;
     desk.add(u"Closed"_s);
     desk.appState.setOpenDocumentID(std::nullopt);
     const QList<PelkoDocument> before = desk.appState.documents();
@@ -255,7 +255,7 @@ void tst_TasksPanelViewModel::aNewTaskWithoutAnOpenDocumentIsDropped()
 
 void tst_TasksPanelViewModel::newTasksGoIntoTheChecklistThatTheFirstOneMade()
 {
-    Desk desk;
+    PanelDesk desk;
     desk.add(u"Open"_s);
     desk.panel->addQuickTask(u"one"_s);
     QCOMPARE(desk.appState.openDocument()->blocks.size(), 3);
@@ -268,7 +268,7 @@ void tst_TasksPanelViewModel::newTasksGoIntoTheChecklistThatTheFirstOneMade()
 
 void tst_TasksPanelViewModel::thePillTellsWordsAndAgeOfTheOpenDocument()
 {
-    Desk desk;
+    PanelDesk desk;
     desk.add(u"The first hour"_s);
     QCOMPARE(desk.panel->openDocumentText(), u"3 words · Just now"_s);
     desk.add(u"One"_s);
@@ -279,7 +279,7 @@ void tst_TasksPanelViewModel::thePillTellsWordsAndAgeOfTheOpenDocument()
 
 void tst_TasksPanelViewModel::thePillIsThereWhileADocumentIsOpen()
 {
-    Desk desk;
+    PanelDesk desk;
     QVERIFY(!desk.panel->hasOpenDocument());
     desk.add(u"Open"_s);
     QVERIFY(desk.panel->hasOpenDocument());
@@ -289,7 +289,7 @@ void tst_TasksPanelViewModel::thePillIsThereWhileADocumentIsOpen()
 
 void tst_TasksPanelViewModel::theAgeGrowsWithTheMinutes()
 {
-    Desk desk;
+    PanelDesk desk;
     desk.add(u"Open"_s);
     desk.passMinutes(5);
     QCOMPARE(desk.panel->openDocumentText(), u"1 words · 5m ago"_s);
@@ -297,7 +297,7 @@ void tst_TasksPanelViewModel::theAgeGrowsWithTheMinutes()
 
 void tst_TasksPanelViewModel::wordsAreSummedOverTheLibrary()
 {
-    Desk desk;
+    PanelDesk desk;
     QCOMPARE(desk.panel->wordTotal(), 0);
     QCOMPARE(desk.panel->wordGoal(), 500);
     desk.add(u"word "_s.repeated(200));
@@ -311,7 +311,7 @@ void tst_TasksPanelViewModel::wordsAreSummedOverTheLibrary()
 
 void tst_TasksPanelViewModel::theStreakGoesOnAtMidnight()
 {
-    Desk desk;
+    PanelDesk desk;
     desk.clock.time = timestampOf(QDateTime(QDate(2026, 11, 20), QTime(23, 58, 30), QTimeZone::utc()));
     desk.preferences.values.clear();
     desk.openPanel();
@@ -327,7 +327,7 @@ void tst_TasksPanelViewModel::theStreakGoesOnAtMidnight()
 
 void tst_TasksPanelViewModel::theStreakGoesOnWithTheFirstKeyOfADay()
 {
-    Desk desk;
+    PanelDesk desk;
     PelkoDocument open = desk.add(u"Open"_s);
     QCOMPARE(desk.panel->currentStreak(), 1);
     desk.clock.time += 86400;
@@ -338,7 +338,7 @@ void tst_TasksPanelViewModel::theStreakGoesOnWithTheFirstKeyOfADay()
 
 void tst_TasksPanelViewModel::aClockSetBackBeginsTheStreakAnew()
 {
-    Desk desk;
+    PanelDesk desk;
     desk.clock.time += 86400;
     desk.passMinutes(1);
     QCOMPARE(desk.panel->currentStreak(), 2);
@@ -349,7 +349,7 @@ void tst_TasksPanelViewModel::aClockSetBackBeginsTheStreakAnew()
 
 void tst_TasksPanelViewModel::anotherZoneIsAnotherTimeAndDay()
 {
-    Desk desk;
+    PanelDesk desk;
     desk.clock.time = timestampOf(QDateTime(QDate(2026, 11, 20), QTime(22, 0), QTimeZone::utc()));
     desk.preferences.values.clear();
     desk.openPanel();
@@ -365,7 +365,7 @@ void tst_TasksPanelViewModel::anotherZoneIsAnotherTimeAndDay()
 
 void tst_TasksPanelViewModel::aPanelOpenedAgainHasNothingInItsField()
 {
-    Desk desk;
+    PanelDesk desk;
     desk.panel->typed(u"half a thou"_s);
     desk.openPanel();
     QCOMPARE(desk.panel->newTaskText(), QString());
@@ -373,7 +373,7 @@ void tst_TasksPanelViewModel::aPanelOpenedAgainHasNothingInItsField()
 
 void tst_TasksPanelViewModel::aPanelThatIsGoneNoLongerTicks()
 {
-    Desk desk;
+    PanelDesk desk;
     desk.panel.reset();
     desk.preferences.writes = 0;
     desk.clock.time += 86400;

@@ -10,12 +10,12 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-struct Desk {
+struct EventsDesk {
     ManualClock clock;
     ManualCalendarStore store;
     UpcomingEvents events{store, clock, QLocale(u"en_US"_s)};
 
-    Desk() { setTime(QDateTime(QDate(2025, 10, 16), QTime(7, 42), QTimeZone::utc())); }
+    EventsDesk() { setTime(QDateTime(QDate(2025, 10, 16), QTime(7, 42), QTimeZone::utc())); }
 
     void setTime(const QDateTime &time)
     {
@@ -56,7 +56,7 @@ class TestUpcomingEvents : public QObject
 private Q_SLOTS:
     void nothingIsShownUntilTheAnswerComes()
     {
-        Desk desk;
+        EventsDesk desk;
         desk.events.fetchEvents();
         QCOMPARE(desk.rows(), QStringList());
         QCOMPARE(desk.events.total(), 0);
@@ -66,7 +66,7 @@ private Q_SLOTS:
 
     void withoutAccessTheListStaysAsItWas()
     {
-        Desk desk;
+        EventsDesk desk;
         desk.fetch(std::nullopt);
         QCOMPARE(desk.events.total(), 0);
         desk.fetch(QList{desk.event(u"Tea"_s, 60)});
@@ -76,7 +76,7 @@ private Q_SLOTS:
 
     void ofFiveEventsThreeAreShownAndAllCounted()
     {
-        Desk desk;
+        EventsDesk desk;
         const QSignalSpy counted(&desk.events, &UpcomingEvents::totalChanged);
         desk.fetch(QList{desk.event(u"E"_s, 500), desk.event(u"D"_s, 400), desk.event(u"C"_s, 300),
                          desk.event(u"B"_s, 200), desk.event(u"A"_s, 100)});
@@ -87,7 +87,7 @@ private Q_SLOTS:
 
     void theListIsReplacedAsAWhole()
     {
-        Desk desk;
+        EventsDesk desk;
         desk.fetch(QList{desk.event(u"A"_s, 100), desk.event(u"B"_s, 200)});
         desk.fetch(QList{desk.event(u"C"_s, 300)});
         QCOMPARE(desk.rows(), QStringList{u"C 12:42 PM"_s});
@@ -97,14 +97,14 @@ private Q_SLOTS:
 
     void whatIsInProgressComesFirstWithItsPastStart()
     {
-        Desk desk;
+        EventsDesk desk;
         desk.fetch(QList{desk.event(u"Next"_s, 60), desk.event(u"Now"_s, -60)});
         QCOMPARE(desk.rows(), (QStringList{u"Now 6:42 AM"_s, u"Next 8:42 AM"_s}));
     }
 
     void eventsOfTheSameStartKeepTheOrderOfTheStore()
     {
-        Desk desk;
+        EventsDesk desk;
         QList<CalendarEvent> events;
         for (int index = 0; index < 100; ++index)
             events << desk.event(QString::number(index), 60 - index % 2);
@@ -120,7 +120,7 @@ private Q_SLOTS:
 
     void whatHasNoTitleIsUntitled()
     {
-        Desk desk;
+        EventsDesk desk;
         desk.fetch(QList{CalendarEvent{.start = desk.clock.time}});
         QCOMPARE(desk.rows(), QStringList{u"Untitled 7:42 AM"_s});
         QCOMPARE(desk.events.index(0).data(UpcomingEvents::EventIdentifierRole).toString(), QString());
@@ -142,7 +142,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, zone);
         QFETCH(QTime, utc);
         QFETCH(QString, told);
-        Desk desk;
+        EventsDesk desk;
         desk.clock.zone = QTimeZone(zone);
         const Timestamp start = timestampOf(QDateTime(QDate(2025, 10, 16), utc, QTimeZone::utc()));
         QCOMPARE(desk.events.eventTimeString({.start = start}), told);
@@ -160,7 +160,7 @@ private Q_SLOTS:
     {
         QFETCH(QDate, day);
         QFETCH(int, hours);
-        Desk desk;
+        EventsDesk desk;
         desk.setTime(QDateTime(day, QTime(12, 0), QTimeZone("Europe/Berlin")));
         desk.events.fetchEvents();
         const CalendarWindow window = desk.store.windows.first();
@@ -179,7 +179,7 @@ private Q_SLOTS:
 
     void onlyTheLastFetchCounts()
     {
-        Desk desk;
+        EventsDesk desk;
         desk.events.fetchEvents();
         desk.events.fetchEvents();
         const QSignalSpy replaced(&desk.events, &UpcomingEvents::modelReset);

@@ -14,7 +14,7 @@ const QString lastWriteDate = u"pelko.lastWriteDate"_s;
 const QString currentStreak = u"pelko.currentStreak"_s;
 const QTimeZone berlin("Europe/Berlin");
 
-Timestamp at(const QString &time, const QTimeZone &zone = berlin)
+Timestamp timeIn(const QString &time, const QTimeZone &zone = berlin)
 {
     QDateTime moment = QDateTime::fromString(time, Qt::ISODate);
     moment.setTimeZone(zone);
@@ -28,7 +28,7 @@ struct User {
 
     qint64 uses(const QString &time)
     {
-        return WritingStreak::currentStreak(preferences, at(time, zone), zone);
+        return WritingStreak::currentStreak(preferences, timeIn(time, zone), zone);
     }
 };
 } // namespace
@@ -64,7 +64,7 @@ void tst_WritingStreak::theFirstUseIsDayOne()
     QCOMPARE(user.uses(u"2026-11-21T16:40:12"_s), 1);
 
     QCOMPARE(user.preferences.integer(currentStreak), 1);
-    QCOMPARE(user.preferences.date(lastWriteDate), at(u"2026-11-21T00:00:00"_s));
+    QCOMPARE(user.preferences.date(lastWriteDate), timeIn(u"2026-11-21T00:00:00"_s));
 }
 
 void tst_WritingStreak::threeDaysInARowAreThree()
@@ -74,7 +74,7 @@ void tst_WritingStreak::threeDaysInARowAreThree()
     QCOMPARE(user.uses(u"2026-02-28T01:00:00"_s), 2);
     QCOMPARE(user.uses(u"2026-03-01T20:00:00"_s), 3);
     QCOMPARE(user.preferences.integer(currentStreak), 3);
-    QCOMPARE(user.preferences.date(lastWriteDate), at(u"2026-03-01T00:00:00"_s));
+    QCOMPARE(user.preferences.date(lastWriteDate), timeIn(u"2026-03-01T00:00:00"_s));
 }
 
 void tst_WritingStreak::aDayLeftOutBeginsAnew()
@@ -83,7 +83,7 @@ void tst_WritingStreak::aDayLeftOutBeginsAnew()
     user.uses(u"2026-11-19T12:00:00"_s);
     QCOMPARE(user.uses(u"2026-11-20T12:00:00"_s), 2);
     QCOMPARE(user.uses(u"2026-11-22T00:00:01"_s), 1);
-    QCOMPARE(user.preferences.date(lastWriteDate), at(u"2026-11-22T00:00:00"_s));
+    QCOMPARE(user.preferences.date(lastWriteDate), timeIn(u"2026-11-22T00:00:00"_s));
 }
 
 void tst_WritingStreak::aDayCountsOnce()
@@ -117,7 +117,7 @@ void tst_WritingStreak::aClockSetBackBeginsAnew()
     user.uses(u"2026-11-20T12:00:00"_s);
     user.uses(u"2026-11-21T12:00:00"_s);
     QCOMPARE(user.uses(u"2026-11-20T12:00:00"_s), 1);
-    QCOMPARE(user.preferences.date(lastWriteDate), at(u"2026-11-20T00:00:00"_s));
+    QCOMPARE(user.preferences.date(lastWriteDate), timeIn(u"2026-11-20T00:00:00"_s));
 }
 
 void tst_WritingStreak::theDaysOfATimeChangeAreDays_data()
@@ -147,7 +147,7 @@ void tst_WritingStreak::aDayWithoutMidnightBeginsWhereItBegins()
     user.zone = QTimeZone("America/Sao_Paulo"); // on 2018-11-04 the clocks went from midnight to one
     QCOMPARE(user.uses(u"2018-11-03T12:00:00"_s), 1);
     QCOMPARE(user.uses(u"2018-11-04T12:00:00"_s), 2);
-    QCOMPARE(user.preferences.date(lastWriteDate), at(u"2018-11-04T01:00:00"_s, user.zone));
+    QCOMPARE(user.preferences.date(lastWriteDate), timeIn(u"2018-11-04T01:00:00"_s, user.zone));
     QCOMPARE(user.uses(u"2018-11-05T12:00:00"_s), 3);
 }
 
@@ -160,7 +160,7 @@ void tst_WritingStreak::travelIsReadByTheNewZone()
     // Midnight in Berlin was still the day before in New York: there it is the day after the last use.
     user.zone = QTimeZone("America/New_York");
     QCOMPARE(user.uses(u"2026-11-21T12:00:00"_s), 3);
-    QCOMPARE(user.preferences.date(lastWriteDate), at(u"2026-11-21T00:00:00"_s, user.zone));
+    QCOMPARE(user.preferences.date(lastWriteDate), timeIn(u"2026-11-21T00:00:00"_s, user.zone));
 
     user.zone = QTimeZone("Pacific/Auckland");
     QCOMPARE(user.uses(u"2026-11-22T12:00:00"_s), 4);
@@ -181,13 +181,14 @@ void tst_WritingStreak::whatIsNoDateCountsAsNone()
     User user;
     user.preferences.values = {{currentStreak, qint64(12)}, {lastWriteDate, value}};
     QCOMPARE(user.uses(u"2026-11-21T12:00:00"_s), 1);
-    QCOMPARE(user.preferences.date(lastWriteDate), at(u"2026-11-21T00:00:00"_s));
+    QCOMPARE(user.preferences.date(lastWriteDate), timeIn(u"2026-11-21T00:00:00"_s));
 }
 
 void tst_WritingStreak::whatIsNoNumberCountsAsZero()
 {
     User user;
-    user.preferences.values = {{currentStreak, u"twelve"_s}, {lastWriteDate, at(u"2026-11-20T00:00:00"_s)}};
+    user.preferences.values = {{currentStreak, u"twelve"_s},
+                               {lastWriteDate, timeIn(u"2026-11-20T00:00:00"_s)}};
     QCOMPARE(user.uses(u"2026-11-21T12:00:00"_s), 1);
     QCOMPARE(user.preferences.integer(currentStreak), 1);
 }
@@ -195,7 +196,7 @@ void tst_WritingStreak::whatIsNoNumberCountsAsZero()
 void tst_WritingStreak::aStoredZeroOfTodayStaysZero()
 {
     User user;
-    user.preferences.values = {{currentStreak, qint64(0)}, {lastWriteDate, at(u"2026-11-21T00:00:00"_s)}};
+    user.preferences.values = {{currentStreak, qint64(0)}, {lastWriteDate, timeIn(u"2026-11-21T00:00:00"_s)}};
     QCOMPARE(user.uses(u"2026-11-21T12:00:00"_s), 0);
     QCOMPARE(user.preferences.writes, 0);
 }
@@ -212,9 +213,10 @@ void tst_WritingStreak::aDateBeyondAnyCalendarBeginsAnew()
 void tst_WritingStreak::aZoneThatIsNoneLeavesTheCountAlone()
 {
     User user;
-    user.preferences.values = {{currentStreak, qint64(5)}, {lastWriteDate, at(u"2026-11-20T00:00:00"_s)}};
+    user.preferences.values = {{currentStreak, qint64(5)}, {lastWriteDate, timeIn(u"2026-11-20T00:00:00"_s)}};
     user.preferences.writes = 0;
-    QCOMPARE(WritingStreak::currentStreak(user.preferences, at(u"2026-11-21T12:00:00"_s), QTimeZone()), 5);
+    QCOMPARE(WritingStreak::currentStreak(user.preferences, timeIn(u"2026-11-21T12:00:00"_s), QTimeZone()),
+             5);
     QCOMPARE(user.preferences.writes, 0);
 }
 

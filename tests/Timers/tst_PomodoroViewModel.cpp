@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 
 namespace
 {
-struct Program {
+struct PomodoroProgram {
     ManualScheduler scheduler;
     ManualClock clock;
     ManualDocumentFile file;
@@ -51,10 +51,10 @@ class TestPomodoroViewModel : public QObject
     Q_OBJECT
 
 private:
-    std::unique_ptr<Program> m_program;
+    std::unique_ptr<PomodoroProgram> m_program;
 
 private Q_SLOTS:
-    void init() { m_program = std::make_unique<Program>(); }
+    void init() { m_program = std::make_unique<PomodoroProgram>(); }
 
     void drawsADotForEachOfFourSessions_data()
     {

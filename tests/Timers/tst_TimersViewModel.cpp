@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 
 namespace
 {
-struct Program {
+struct TimersProgram {
     ManualScheduler scheduler;
     ManualClock clock;
     ManualDocumentFile file;
@@ -36,10 +36,10 @@ class TestTimersViewModel : public QObject
     Q_OBJECT
 
 private:
-    std::unique_ptr<Program> m_program;
+    std::unique_ptr<TimersProgram> m_program;
 
 private Q_SLOTS:
-    void init() { m_program = std::make_unique<Program>(); }
+    void init() { m_program = std::make_unique<TimersProgram>(); }
 
     void theLabelTellsTheTimeOnlyWhileItRuns()
     {

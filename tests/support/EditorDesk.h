@@ -38,9 +38,10 @@ public:
     /// Where the focus was asked to go last, such as "B@3".
     QString takeFocused() { return std::exchange(m_focused, {}); }
 
-    static QString id(char letter) { return PageText::idOf(letter).toString(QUuid::WithoutBraces); }
-
-    void type(char letter, const QString &value) { editor->typed(id(letter), value, int(value.size())); }
+    void type(char letter, const QString &value)
+    {
+        editor->typed(PageText::id(letter), value, int(value.size()));
+    }
 
 private:
     ManualClock m_clock;

@@ -19,6 +19,11 @@ QUuid PageText::idOf(char letter)
     return QUuid(group, 0, 0x4000, 0x80, 0, 0, 0, 0, 0, 0, static_cast<uchar>(letter));
 }
 
+QString PageText::id(char letter)
+{
+    return idOf(letter).toString(QUuid::WithoutBraces);
+}
+
 QString PageText::nameOf(const QUuid &id)
 {
     return id == idOf(static_cast<char>(id.data4[7])) ? QString(QLatin1Char(char(id.data4[7]))) : u"+"_s;
@@ -90,6 +95,12 @@ QString PageText::letters(const PelkoDocument &document)
     for (const Block &block : document.blocks)
         result += nameOf(block.id);
     return result;
+}
+
+BlockSelection PageText::between(char first, int from, char last, int to)
+{
+    return {.anchor = {.passage = {idOf(first)}, .offset = from},
+            .head = {.passage = {idOf(last)}, .offset = to}};
 }
 
 QString PageText::focus(const std::optional<FocusTarget> &target)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Editor/BlockSelection.h"
 #include "Editor/Edit.h"
 
 /// Pages in tests. Blocks and checklist entries are called by letters, and a page can be written down as
@@ -12,7 +13,12 @@
 namespace PageText
 {
 
+inline constexpr BlockType body = BlockType::textSmall;
+inline constexpr BlockType heading = BlockType::textLarge;
+
 QUuid idOf(char letter);
+/// As the view models tell it.
+QString id(char letter);
 QString nameOf(const QUuid &id);
 
 Block block(char letter, BlockType type = BlockType::textSmall, const QString &content = {});
@@ -25,6 +31,8 @@ QString line(const Block &block);
 QStringList lines(const PelkoDocument &document);
 /// Only the names of the blocks, such as "AB+C".
 QString letters(const PelkoDocument &document);
+/// A selection from a place in the text of one block to a place in another's.
+BlockSelection between(char first, int from, char last, int to);
 /// Such as "B@3", "B.x@end" for an entry of a checklist, or "" for none.
 QString focus(const std::optional<FocusTarget> &target);
 
