@@ -60,11 +60,12 @@ def fingerprint(entry, headers, common):
 
 
 def flags_and_object(command):
-    """What the compiler was told beside its input and output, and its output."""
+    """What the compiler was told beside its input, its output and its precompiled headers; and its output."""
     words = shlex.split(command)
     first = next(index for index, word in enumerate(words) if word.startswith("-"))
-    last = words.index("-o")
-    return tuple(words[first:last]), words[last + 1]
+    output = words.index("-o")
+    last = words.index("-Winvalid-pch") if "-Winvalid-pch" in words else output
+    return tuple(words[first:last]), words[output + 1]
 
 
 def sources_of(entry):
