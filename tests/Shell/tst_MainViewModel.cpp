@@ -1,62 +1,14 @@
 #include "Shell/MainViewModel.h"
+#include "StartedProgram.h"
 #include "support/TestProgram.h"
 
 #include "Editor/EditorViewModel.h"
-#include "Store/AppState.h"
 #include "Theme/PelkoVoice.h"
-#include "support/ManualClock.h"
-#include "support/ManualDesktop.h"
-#include "support/ManualDocumentFile.h"
-#include "support/ManualScheduler.h"
 
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
-
-namespace
-{
-/// A program that has started on a given data file.
-struct StartedProgram {
-    ManualScheduler scheduler;
-    ManualClock clock;
-    ManualDocumentFile file;
-    ManualDesktop desktop;
-    AppState appState;
-    MainViewModel main;
-
-    explicit StartedProgram(const ManualDocumentFile &start = {})
-        : file(start)
-        , appState(scheduler, clock, file)
-        , main(appState, clock, desktop.services(scheduler))
-    {
-    }
-
-    /// Creates pages one second apart, so that the order of their ages is plain.
-    void createDocuments(int count)
-    {
-        for (int i = 0; i < count; ++i) {
-            clock.time += 1;
-            main.createDocument();
-        }
-    }
-
-    QString openID() const { return appState.openDocumentID()->toString(QUuid::WithoutBraces); }
-};
-
-ManualDocumentFile brokenFile()
-{
-    ManualDocumentFile file;
-    file.bytes = "not a library";
-    return file;
-}
-
-PelkoDocument titled(PelkoDocument document, const QString &title)
-{
-    document.blocks.first().content = title;
-    return document;
-}
-} // namespace
 
 class TestMainViewModel : public QObject
 {
@@ -80,203 +32,6 @@ private Q_SLOTS:
         QCOMPARE(program.appState.documents().size(), 1);
         QCOMPARE(program.appState.documents().first().space, Space::work);
         QCOMPARE(program.main.openDocumentID(), program.openID());
-    }
-
-    void newDocumentAtFiveShowsTheLimitInsteadOfCreating()
-    {
-        StartedProgram program;
-        program.createDocuments(5);
-        QVERIFY(!program.main.showDocLimitNudge());
-        program.main.commands()->run(u"newDocument"_s);
-
-        QCOMPARE(program.appState.documents().size(), 5);
-        QVERIFY(program.main.showDocLimitNudge());
-        program.main.dismissDocLimitNudge();
-        QVERIFY(!program.main.showDocLimitNudge());
-        QVERIFY(!program.appState.showDocLimitNudge());
-    }
-
-    void theLimitAlertComesBackWhenItIsDue()
-    {
-        StartedProgram program;
-        program.createDocuments(6);
-        program.main.dismissDocLimitNudge();
-        program.main.createDocument();
-
-        QVERIFY(program.main.showDocLimitNudge());
-    }
-
-    void startWritingInAFullSpaceShowsTheLimit()
-    {
-        StartedProgram program;
-        program.createDocuments(5);
-        program.appState.setOpenDocumentID(std::nullopt);
-        program.main.createDocument();
-
-        QCOMPARE(program.main.openDocumentID(), QString());
-        QVERIFY(program.main.showDocLimitNudge());
-    }
-
-    void aLoadFailureShowsTheErrorAlertUntilItIsDismissed()
-    {
-        StartedProgram program(brokenFile());
-
-        QVERIFY(program.main.showError());
-        QVERIFY(PelkoVoice::errorPool().contains(program.main.errorTitle()));
-        QCOMPARE(program.main.errorText(), u"Failed to load your documents."_s);
-        program.main.dismissError();
-        QVERIFY(!program.main.showError());
-        QVERIFY(!program.appState.lastError());
-    }
-
-    void dismissingNoErrorChangesNothing()
-    {
-        StartedProgram program;
-        QSignalSpy changes(&program.main, &MainViewModel::showErrorChanged);
-        program.main.dismissError();
-
-        QCOMPARE(changes.count(), 0);
-    }
-
-    void twoErrorsInARowHaveDifferentTitles()
-    {
-        StartedProgram program;
-        program.file.writeError = u"No space left on device"_s;
-        QString previous;
-        for (int i = 0; i < 30; ++i) {
-            program.appState.save();
-            QCOMPARE(program.main.errorText(), u"Save failed: No space left on device"_s);
-            QVERIFY(program.main.errorTitle() != previous);
-            previous = program.main.errorTitle();
-            program.main.dismissError();
-        }
-    }
-
-    void theWordsOfAnErrorStayWhileItsAlertGoesAway()
-    {
-        StartedProgram program(brokenFile());
-        const QString title = program.main.errorTitle();
-        program.main.dismissError();
-
-        QCOMPARE(program.main.errorTitle(), title);
-        QCOMPARE(program.main.errorText(), u"Failed to load your documents."_s);
-    }
-
-    void aNewErrorReplacesOneNotYetSeen()
-    {
-        StartedProgram program(brokenFile());
-        const QString title = program.main.errorTitle();
-        program.file.writeError = u"Read-only file system"_s;
-        program.appState.save();
-
-        QVERIFY(program.main.showError());
-        QVERIFY(program.main.errorTitle() != title);
-        QCOMPARE(program.main.errorText(), u"Save failed: Read-only file system"_s);
-    }
-
-    void theAboutCommandShowsTheAboutAlert()
-    {
-        StartedProgram program;
-        program.main.commands()->run(u"about"_s);
-        QVERIFY(program.main.showAbout());
-
-        program.main.dismissAbout();
-        QVERIFY(!program.main.showAbout());
-        QVERIFY(!program.appState.showAbout());
-    }
-
-    void deletingThroughTheAlertOpensTheNewestRemainingPage()
-    {
-        StartedProgram program;
-        program.createDocuments(3);
-        const auto documents = program.appState.documents();
-        program.main.requestDelete(program.openID());
-        QVERIFY(program.main.showDeleteConfirmation());
-        program.main.confirmDelete();
-
-        QVERIFY(!program.main.showDeleteConfirmation());
-        QCOMPARE(program.appState.documents(), documents.mid(0, 2));
-        QCOMPARE(program.main.openDocumentID(), documents[1].id.toString(QUuid::WithoutBraces));
-    }
-
-    void theAlertIsGoneBeforeTheNextPageOpens()
-    {
-        StartedProgram program;
-        program.createDocuments(2);
-        bool wasAsking = true;
-        connect(&program.main, &MainViewModel::openDocumentIDChanged, this,
-                [&] { wasAsking = program.main.showDeleteConfirmation(); });
-        program.main.requestDelete(program.openID());
-        program.main.confirmDelete();
-
-        QVERIFY(!wasAsking);
-    }
-
-    void deletingTheLastPageShowsTheEmptyState()
-    {
-        StartedProgram program;
-        program.createDocuments(1);
-        program.main.requestDelete(program.openID());
-        program.main.confirmDelete();
-
-        QCOMPARE(program.main.openDocumentID(), QString());
-        QVERIFY(PelkoVoice::emptyNotesPool().contains(program.main.emptyMessage()));
-    }
-
-    void nahLeavesTheListUnchangedAndForgetsThePage()
-    {
-        StartedProgram program;
-        program.createDocuments(2);
-        const auto documents = program.appState.documents();
-        program.main.requestDelete(program.openID());
-        program.main.cancelDelete();
-
-        QCOMPARE(program.appState.documents(), documents);
-        QVERIFY(!program.main.docToDelete());
-        program.main.confirmDelete();
-        QCOMPARE(program.appState.documents(), documents);
-    }
-
-    void theConfirmationNamesThePageAndKeepsItsWords()
-    {
-        StartedProgram program;
-        program.createDocuments(1);
-        program.appState.updateDocument(titled(*program.appState.openDocument(), u"Letter to the printer"_s));
-        program.main.requestDelete(program.openID());
-        QCOMPARE(program.main.deleteConfirmText(), u"Delete “Letter to the printer” for good?"_s);
-
-        program.main.cancelDelete();
-        QCOMPARE(program.main.deleteConfirmText(), u"Delete “Letter to the printer” for good?"_s);
-    }
-
-    void theConfirmationNamesALongPageInAFewWords()
-    {
-        StartedProgram program;
-        program.createDocuments(1);
-        const QString title = u"x"_s.repeated(10'000) + u"\nmore"_s;
-        program.appState.updateDocument(titled(*program.appState.openDocument(), title));
-        program.main.requestDelete(program.openID());
-
-        QCOMPARE(program.main.deleteConfirmText(), u"Delete “%1…” for good?"_s.arg(title.left(120)));
-    }
-
-    void theConfirmationNamesASparkByWhatItSays()
-    {
-        StartedProgram program;
-        const auto spark = program.appState.captureSpark(u"A lamp that dims"_s);
-        program.main.requestDelete(spark->id.toString());
-
-        QCOMPARE(program.main.deleteConfirmText(), u"Delete “A lamp that dims” for good?"_s);
-    }
-
-    void askingToDeleteAnUnknownPageAsksNothing()
-    {
-        StartedProgram program;
-        program.createDocuments(1);
-        program.main.requestDelete(QUuid::createUuid().toString());
-
-        QVERIFY(!program.main.showDeleteConfirmation());
-        QCOMPARE(program.main.deleteConfirmText(), QString());
     }
 
     void dismissingTheNavigationLowersItsFlag()
@@ -434,7 +189,7 @@ private Q_SLOTS:
         StartedProgram program;
         program.createDocuments(1);
         QCOMPARE(program.main.windowTitle(), u"Untitled – Pelko"_s);
-        program.appState.updateDocument(titled(*program.appState.openDocument(), u"First hour"_s));
+        program.callOpenPage(u"First hour"_s);
 
         QCOMPARE(program.main.windowTitle(), u"First hour – Pelko"_s);
     }
@@ -444,7 +199,7 @@ private Q_SLOTS:
         StartedProgram program;
         program.createDocuments(1);
         QSignalSpy opened(&program.main, &MainViewModel::openDocumentIDChanged);
-        program.appState.updateDocument(titled(*program.appState.openDocument(), u"First hour"_s));
+        program.callOpenPage(u"First hour"_s);
 
         QCOMPARE(opened.count(), 0);
     }

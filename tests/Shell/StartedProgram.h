@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Shell/MainViewModel.h"
+#include "Store/AppState.h"
+#include "support/ManualClock.h"
+#include "support/ManualDesktop.h"
+#include "support/ManualDocumentFile.h"
+#include "support/ManualScheduler.h"
+
+/// A program that has started on a given data file.
+struct StartedProgram {
+    ManualScheduler scheduler;
+    ManualClock clock;
+    ManualDocumentFile file;
+    ManualDesktop desktop;
+    AppState appState;
+    MainViewModel main;
+
+    explicit StartedProgram(const ManualDocumentFile &start = {})
+        : file(start)
+        , appState(scheduler, clock, file)
+        , main(appState, clock, desktop.services(scheduler))
+    {
+    }
+
+    /// Creates pages one second apart, so that the order of their ages is plain.
+    void createDocuments(int count)
+    {
+        for (int i = 0; i < count; ++i) {
+            clock.time += 1;
+            main.createDocument();
+        }
+    }
+
+    void callOpenPage(const QString &title)
+    {
+        PelkoDocument document = *appState.openDocument();
+        document.blocks.first().content = title;
+        appState.updateDocument(document);
+    }
+
+    QString openID() const { return appState.openDocumentID()->toString(QUuid::WithoutBraces); }
+};
