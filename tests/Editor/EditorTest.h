@@ -68,6 +68,17 @@ protected:
     }
 
     QStringList takeFocused() { return std::exchange(focused, {}); }
+    /// What was asked for last, or "".
+    QString takeLastFocused()
+    {
+        const QStringList all = takeFocused();
+        return all.isEmpty() ? QString() : all.last();
+    }
+
+    void type(char letter, const QString &value)
+    {
+        editor->typed(PageText::id(letter), value, int(value.size()));
+    }
 
 private Q_SLOTS:
     void init()

@@ -1,5 +1,4 @@
-#include "support/EditorDesk.h"
-#include "support/TestProgram.h"
+#include "EditorTest.h"
 
 #include <functional>
 
@@ -10,7 +9,7 @@ using namespace std::chrono_literals;
 namespace
 {
 
-using Operation = std::function<void(EditorDesk &)>;
+using Operation = std::function<void(EditorViewModel &)>;
 
 /// A page that has something for every operation.
 QList<Block> onePageForAll()
@@ -23,7 +22,7 @@ QList<Block> onePageForAll()
 
 Q_DECLARE_METATYPE(Operation)
 
-class TestEditorUndo : public QObject
+class TestEditorUndo : public EditorTest
 {
     Q_OBJECT
 
@@ -31,8 +30,8 @@ private Q_SLOTS:
     void everyOperationIsOneStep_data()
     {
         QTest::addColumn<Operation>("operation");
-        const auto row = [](const char *name, const std::function<void(EditorViewModel &)> &operation) {
-            QTest::newRow(name) << Operation([operation](EditorDesk &desk) { operation(*desk.editor); });
+        const auto row = [](const char *name, const Operation &operation) {
+            QTest::newRow(name) << operation;
         };
         row("key", [](auto &editor) { editor.typed(id('B'), u"onextwo"_s, 4); });
         row("split", [](auto &editor) { editor.typed(id('B'), u"one\ntwo"_s, 4); });
@@ -64,46 +63,46 @@ private Q_SLOTS:
     void everyOperationIsOneStep()
     {
         QFETCH(const Operation, operation);
-        EditorDesk desk(onePageForAll());
-        desk.editor->caretMoved(id('B'), {}, 3);
-        const QStringList before = desk.lines();
+        edit(onePageForAll());
+        editor->caretMoved(id('B'), {}, 3);
+        const QStringList before = lines(stored());
 
-        operation(desk);
-        const QList<Block> after = desk.page().blocks;
-        QVERIFY(desk.lines() != before);
-        desk.editor->undo();
-        QCOMPARE(desk.lines(), before);
-        QCOMPARE(desk.takeFocused(), u"B@3"_s);
-        desk.editor->undo();
-        QCOMPARE(desk.lines(), before);
-        desk.editor->redo();
-        QCOMPARE(desk.page().blocks, after);
+        operation(*editor);
+        const QList<Block> after = stored().blocks;
+        QVERIFY(lines(stored()) != before);
+        editor->undo();
+        QCOMPARE(lines(stored()), before);
+        QCOMPARE(takeLastFocused(), u"B@3"_s);
+        editor->undo();
+        QCOMPARE(lines(stored()), before);
+        editor->redo();
+        QCOMPARE(stored().blocks, after);
     }
 
     void undoOfASplitRejoinsWithTheCaretWhereItWas()
     {
-        EditorDesk desk({block('A', body, u"onetwo"_s)});
-        desk.editor->caretMoved(id('A'), {}, 3);
-        desk.editor->typed(id('A'), u"one\ntwo"_s, 4);
-        desk.editor->undo();
-        QCOMPARE(desk.lines(), {u"A textSmall \"onetwo\""_s});
-        QCOMPARE(desk.takeFocused(), u"A@3"_s);
-        desk.editor->redo();
-        QCOMPARE(desk.lines(), (QStringList{u"A textSmall \"one\""_s, u"+ textSmall \"two\""_s}));
-        QCOMPARE(desk.takeFocused(), u"+@0"_s);
+        edit({block('A', body, u"onetwo"_s)});
+        editor->caretMoved(id('A'), {}, 3);
+        editor->typed(id('A'), u"one\ntwo"_s, 4);
+        editor->undo();
+        QCOMPARE(lines(stored()), {u"A textSmall \"onetwo\""_s});
+        QCOMPARE(takeLastFocused(), u"A@3"_s);
+        editor->redo();
+        QCOMPARE(lines(stored()), (QStringList{u"A textSmall \"one\""_s, u"+ textSmall \"two\""_s}));
+        QCOMPARE(takeLastFocused(), u"+@0"_s);
     }
 
     void aDeletedBlockComesBackWithFocusAndCaret()
     {
-        EditorDesk desk({block('A'), block('B', body, u"text"_s)});
-        desk.editor->focusGained(id('B'));
-        desk.editor->caretMoved(id('B'), {}, 2);
-        desk.editor->focusLost(id('B')); // to the menu
-        desk.editor->deleteBlock(id('B'));
-        desk.editor->undo();
-        QCOMPARE(desk.lines().last(), u"B textSmall \"text\""_s);
-        QCOMPARE(desk.takeFocused(), u"B@2"_s);
-        QCOMPARE(desk.editor->focusedBlockID(), id('B'));
+        edit({block('A'), block('B', body, u"text"_s)});
+        editor->focusGained(id('B'));
+        editor->caretMoved(id('B'), {}, 2);
+        editor->focusLost(id('B')); // to the menu
+        editor->deleteBlock(id('B'));
+        editor->undo();
+        QCOMPARE(lines(stored()).last(), u"B textSmall \"text\""_s);
+        QCOMPARE(takeLastFocused(), u"B@2"_s);
+        QCOMPARE(editor->focusedBlockID(), id('B'));
     }
 
     void aTypedShortcutFirstGivesBackItsCharacters_data()
@@ -119,153 +118,154 @@ private Q_SLOTS:
     void aTypedShortcutFirstGivesBackItsCharacters()
     {
         QFETCH(const QStringList, keys);
-        EditorDesk desk({block('A', body)});
-        desk.editor->caretMoved(id('A'), {}, 0);
+        edit({block('A', body)});
+        editor->caretMoved(id('A'), {}, 0);
         for (const QString &value : keys)
-            desk.type('A', value);
-        const QStringList converted = desk.lines();
+            type('A', value);
+        const QStringList converted = lines(stored());
 
-        desk.editor->undo();
-        QCOMPARE(desk.lines(), {u"A textSmall \"%1\""_s.arg(keys.last())});
-        QCOMPARE(desk.takeFocused(), u"A@%1"_s.arg(keys.last().size()));
-        desk.editor->undo();
-        QCOMPARE(desk.lines(), {u"A textSmall \"\""_s});
-        QCOMPARE(desk.takeFocused(), u"A@0"_s);
-        desk.editor->redo();
-        desk.editor->redo();
-        QCOMPARE(desk.lines(), converted);
+        editor->undo();
+        QCOMPARE(lines(stored()), {u"A textSmall \"%1\""_s.arg(keys.last())});
+        QCOMPARE(takeLastFocused(), u"A@%1"_s.arg(keys.last().size()));
+        editor->undo();
+        QCOMPARE(lines(stored()), {u"A textSmall \"\""_s});
+        QCOMPARE(takeLastFocused(), u"A@0"_s);
+        editor->redo();
+        editor->redo();
+        QCOMPARE(lines(stored()), converted);
     }
 
     void stepsOfTheCaretAreNeitherStoredNorTakenBack()
     {
-        EditorDesk desk({block('A', BlockType::divider), block('B', body, u"text"_s)});
-        const PelkoDocument before = desk.page();
-        desk.editor->keys()->joinBackwards(id('B'), {});
-        QCOMPARE(desk.takeFocused(), u"A@end"_s);
-        desk.editor->keys()->writeBelow();
-        QCOMPARE(desk.takeFocused(), u"B@end"_s);
-        QCOMPARE(desk.page(), before);
-        desk.editor->undo();
-        QCOMPARE(desk.page(), before);
+        edit({block('A', BlockType::divider), block('B', body, u"text"_s)});
+        const PelkoDocument before = stored();
+        editor->keys()->joinBackwards(id('B'), {});
+        QCOMPARE(takeLastFocused(), u"A@end"_s);
+        editor->keys()->writeBelow();
+        QCOMPARE(takeLastFocused(), u"B@end"_s);
+        QCOMPARE(stored(), before);
+        editor->undo();
+        QCOMPARE(stored(), before);
     }
 
     void writingBelowADividerAddsABody()
     {
-        EditorDesk desk({block('A', BlockType::divider)});
-        desk.editor->keys()->writeBelow();
-        QCOMPARE(desk.lines(), (QStringList{u"A divider \"\""_s, u"+ textSmall \"\""_s}));
-        QCOMPARE(desk.takeFocused(), u"+@end"_s);
-        desk.editor->undo();
-        QCOMPARE(desk.lines(), {u"A divider \"\""_s});
+        edit({block('A', BlockType::divider)});
+        editor->keys()->writeBelow();
+        QCOMPARE(lines(stored()), (QStringList{u"A divider \"\""_s, u"+ textSmall \"\""_s}));
+        QCOMPARE(takeLastFocused(), u"+@end"_s);
+        editor->undo();
+        QCOMPARE(lines(stored()), {u"A divider \"\""_s});
     }
 
     void aJoinIsTakenBackWithTheCaretAtTheStart()
     {
-        EditorDesk desk({block('A', body, u"one"_s), block('B', body, u"two"_s)});
-        desk.editor->caretMoved(id('B'), {}, 0);
-        desk.editor->keys()->joinBackwards(id('B'), {});
-        QCOMPARE(desk.takeFocused(), u"A@3"_s);
-        desk.editor->undo();
-        QCOMPARE(desk.lines(), (QStringList{u"A textSmall \"one\""_s, u"B textSmall \"two\""_s}));
-        QCOMPARE(desk.takeFocused(), u"B@0"_s);
+        edit({block('A', body, u"one"_s), block('B', body, u"two"_s)});
+        editor->caretMoved(id('B'), {}, 0);
+        editor->keys()->joinBackwards(id('B'), {});
+        QCOMPARE(takeLastFocused(), u"A@3"_s);
+        editor->undo();
+        QCOMPARE(lines(stored()), (QStringList{u"A textSmall \"one\""_s, u"B textSmall \"two\""_s}));
+        QCOMPARE(takeLastFocused(), u"B@0"_s);
     }
 
     void aWordIsOneStepUntilThePause()
     {
-        EditorDesk desk({block('A', body)});
-        desk.type('A', u"o"_s);
-        desk.scheduler.advance(999ms);
-        desk.type('A', u"on"_s);
-        desk.scheduler.advance(1s);
-        desk.type('A', u"one"_s);
-        desk.editor->undo();
-        QCOMPARE(desk.lines(), {u"A textSmall \"on\""_s});
-        desk.editor->undo();
-        QCOMPARE(desk.lines(), {u"A textSmall \"\""_s});
+        edit({block('A', body)});
+        type('A', u"o"_s);
+        scheduler.advance(999ms);
+        type('A', u"on"_s);
+        scheduler.advance(1s);
+        type('A', u"one"_s);
+        editor->undo();
+        QCOMPARE(lines(stored()), {u"A textSmall \"on\""_s});
+        editor->undo();
+        QCOMPARE(lines(stored()), {u"A textSmall \"\""_s});
     }
 
     void anOperationBetweenTwoKeysPartsThem()
     {
-        EditorDesk desk({block('A', body), sticky('B', {todo('x')})});
-        desk.type('A', u"o"_s);
-        desk.editor->toggleTodo(id('B'), id('x'));
-        desk.type('A', u"on"_s);
-        desk.editor->undo();
-        desk.editor->undo();
-        QCOMPARE(desk.lines(), (QStringList{u"A textSmall \"o\""_s, u"B sticky \"\" todos(x[ ] \"\")"_s}));
+        edit({block('A', body), sticky('B', {todo('x')})});
+        type('A', u"o"_s);
+        editor->toggleTodo(id('B'), id('x'));
+        type('A', u"on"_s);
+        editor->undo();
+        editor->undo();
+        QCOMPARE(lines(stored()), (QStringList{u"A textSmall \"o\""_s, u"B sticky \"\" todos(x[ ] \"\")"_s}));
     }
 
     void theLettersOfAnEntryAreOneStep()
     {
-        EditorDesk desk({sticky('A', {todo('x'), todo('y')})});
-        desk.editor->caretMoved(id('A'), id('x'), 0);
-        desk.editor->typedTodo(id('A'), id('x'), u"a"_s, 1);
-        desk.editor->typedTodo(id('A'), id('x'), u"ab"_s, 2);
-        desk.editor->typedTodo(id('A'), id('y'), u"c"_s, 1);
-        desk.editor->undo();
-        QCOMPARE(desk.lines(), {u"A sticky \"\" todos(x[ ] \"ab\", y[ ] \"\")"_s});
-        QCOMPARE(desk.takeFocused(), u"A.x@2"_s);
-        desk.editor->undo();
-        QCOMPARE(desk.lines(), {u"A sticky \"\" todos(x[ ] \"\", y[ ] \"\")"_s});
-        QCOMPARE(desk.takeFocused(), u"A.x@0"_s);
+        edit({sticky('A', {todo('x'), todo('y')})});
+        editor->caretMoved(id('A'), id('x'), 0);
+        editor->typedTodo(id('A'), id('x'), u"a"_s, 1);
+        editor->typedTodo(id('A'), id('x'), u"ab"_s, 2);
+        editor->typedTodo(id('A'), id('y'), u"c"_s, 1);
+        editor->undo();
+        QCOMPARE(lines(stored()), {u"A sticky \"\" todos(x[ ] \"ab\", y[ ] \"\")"_s});
+        QCOMPARE(takeLastFocused(), u"A.x@2"_s);
+        editor->undo();
+        QCOMPARE(lines(stored()), {u"A sticky \"\" todos(x[ ] \"\", y[ ] \"\")"_s});
+        QCOMPARE(takeLastFocused(), u"A.x@0"_s);
     }
 
     void aChangeMadeElsewhereSurvivesUndo()
     {
-        EditorDesk desk({block('A', body), sticky('B', {todo('x')})});
-        desk.type('A', u"text"_s);
-        PelkoDocument ticked = desk.page();
+        edit({block('A', body), sticky('B', {todo('x')})});
+        type('A', u"text"_s);
+        PelkoDocument ticked = stored();
         ticked.blocks[1].todos->first().done = true;
-        desk.state().updateDocument(ticked);
-        desk.type('A', u"text."_s);
-        desk.editor->undo();
-        QCOMPARE(desk.lines(), (QStringList{u"A textSmall \"text\""_s, u"B sticky \"\" todos(x[x] \"\")"_s}));
+        state->updateDocument(ticked);
+        type('A', u"text."_s);
+        editor->undo();
+        QCOMPARE(lines(stored()),
+                 (QStringList{u"A textSmall \"text\""_s, u"B sticky \"\" todos(x[x] \"\")"_s}));
     }
 
     void undoIsSavedLikeAnyChange()
     {
-        EditorDesk desk({block('A', body)});
-        desk.type('A', u"text"_s);
-        desk.scheduler.advance(5s);
-        QCOMPARE(desk.state().showSavedIndicator(), false);
-        desk.editor->undo();
-        desk.scheduler.advance(500ms);
-        QCOMPARE(desk.state().showSavedIndicator(), true);
+        edit({block('A', body)});
+        type('A', u"text"_s);
+        scheduler.advance(5s);
+        QCOMPARE(state->showSavedIndicator(), false);
+        editor->undo();
+        scheduler.advance(500ms);
+        QCOMPARE(state->showSavedIndicator(), true);
     }
 
     void undoOnAnotherOpenPageLeavesThatPageAlone()
     {
-        EditorDesk desk({block('A', body)});
-        desk.type('A', u"text"_s);
-        desk.state().createDocument(Space::work);
-        const PelkoDocument other = *desk.state().openDocument();
-        desk.editor->undo();
-        QCOMPARE(desk.lines(), {u"A textSmall \"\""_s});
-        QCOMPARE(*desk.state().openDocument(), other);
+        edit({block('A', body)});
+        type('A', u"text"_s);
+        state->createDocument(Space::work);
+        const PelkoDocument other = *state->openDocument();
+        editor->undo();
+        QCOMPARE(lines(stored()), {u"A textSmall \"\""_s});
+        QCOMPARE(*state->openDocument(), other);
     }
 
     void whatReachesAnotherPageIsNoStepOfThisOne()
     {
-        EditorDesk desk({block('A', body)});
-        desk.state().createDocument(Space::work);
-        PelkoDocument other = *desk.state().openDocument();
+        edit({block('A', body)});
+        state->createDocument(Space::work);
+        PelkoDocument other = *state->openDocument();
         other.blocks = {block('Z')};
-        desk.state().updateDocument(other);
-        desk.type('Z', u"text"_s);
-        QCOMPARE(lines(*desk.state().openDocument()), {u"Z textSmall \"text\""_s});
-        desk.editor->undo();
-        QCOMPARE(lines(*desk.state().openDocument()), {u"Z textSmall \"text\""_s});
+        state->updateDocument(other);
+        type('Z', u"text"_s);
+        QCOMPARE(lines(*state->openDocument()), {u"Z textSmall \"text\""_s});
+        editor->undo();
+        QCOMPARE(lines(*state->openDocument()), {u"Z textSmall \"text\""_s});
     }
 
     void withNothingDoneUndoAndRedoDoNothing()
     {
-        EditorDesk desk({block('A', body, u"text"_s)});
-        desk.editor->undo();
-        desk.editor->redo();
-        desk.state().permanentlyDeleteDocument(desk.page());
-        desk.editor->undo();
-        desk.editor->redo();
-        QCOMPARE(desk.takeFocused(), QString());
+        edit({block('A', body, u"text"_s)});
+        editor->undo();
+        editor->redo();
+        state->permanentlyDeleteDocument(stored());
+        editor->undo();
+        editor->redo();
+        QCOMPARE(takeLastFocused(), QString());
     }
 };
 
