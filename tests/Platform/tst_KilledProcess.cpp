@@ -193,7 +193,8 @@ private:
     static QList<Report> reportsIn(const QByteArray &told)
     {
         QList<Report> reports(told.size() / qsizetype(sizeof(Report)));
-        std::memcpy(reports.data(), told.constData(), std::size_t(reports.size()) * sizeof(Report));
+        if (!reports.isEmpty())
+            std::memcpy(reports.data(), told.constData(), std::size_t(reports.size()) * sizeof(Report));
         return reports;
     }
 
