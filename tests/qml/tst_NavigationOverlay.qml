@@ -349,7 +349,10 @@ Item {
         function test_undoIsNotThePages() {
             library()
             app.advance(1000)
-            const field = all(root, item => item instanceof WritingField && item.text === "one kettle")[0]
+            const fields = () => all(root, item => item instanceof WritingField && item.text === "one kettle")
+            tryVerify(() => all(root, item => item instanceof EditorView).length === 1) // the others have faded
+            tryVerify(() => fields().length === 1)
+            const field = fields()[0]
             field.takeFocus(0)
             keyClick("x")
             open()
