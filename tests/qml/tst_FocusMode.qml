@@ -123,7 +123,7 @@ Item {
             const field = holder()
             const start = field.mapToItem(root, 0, 0)
             toggle()
-            verify(field.mapToItem(root, 0, 0).y < start.y + 2)
+            verify(field.mapToItem(root, 0, 0).y < start.y + 32)
             tryVerify(() => field.mapToItem(root, 0, 0).y === start.y + 32)
             compare(field.mapToItem(root, 0, 0).x, start.x)
             compare(field.width, 624)
