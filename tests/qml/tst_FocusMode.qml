@@ -122,8 +122,8 @@ Item {
             openPage(["textSmall"])
             const field = holder()
             const start = field.mapToItem(root, 0, 0)
-            toggle()
-            verify(field.mapToItem(root, 0, 0).y < start.y + 32)
+            app.main.commands.run("focusMode") // not by key: no time may pass before it is looked at
+            verify(field.mapToItem(root, 0, 0).y < start.y + 2)
             tryVerify(() => field.mapToItem(root, 0, 0).y === start.y + 32)
             compare(field.mapToItem(root, 0, 0).x, start.x)
             compare(field.width, 624)
