@@ -1,11 +1,13 @@
 #include "BlockText.h"
 
+#include "Editor/ShownText.h"
 #include "Editor/TextChange.h"
 
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QInputMethodEvent>
 #include <QQuickItem>
+#include <QScopedValueRollback>
 #include <QTextBlockFormat>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -55,18 +57,17 @@ void BlockText::setLineHeight(qreal lineHeight)
     Q_EMIT lineHeightChanged();
 }
 
-void BlockText::report()
+void BlockText::report(int caret)
 {
-    // While the store answers, the field passes through states that nobody typed.
-    if (!text() || m_isReporting)
+    if (!text() || m_isUpdating)
         return;
     const QString value = shown();
-    if (value == m_content)
+    if (value == ShownText::of(m_content))
         return;
-    m_isReporting = true;
-    Q_EMIT edited(value);
+    // While the store answers, the field passes through states that nobody typed.
+    const QScopedValueRollback updating(m_isUpdating, true);
+    Q_EMIT edited(ShownText::changed(m_content, value, caret));
     show();
-    m_isReporting = false;
 }
 
 void BlockText::askInputMethod() const
@@ -88,9 +89,11 @@ void BlockText::show()
     if (!text())
         return;
     const QString before = shown();
-    if (before == m_content)
+    const QString after = ShownText::of(m_content);
+    if (before == after)
         return;
-    const TextChange change = TextChange::between(before, m_content);
+    const QScopedValueRollback updating(m_isUpdating, true);
+    const TextChange change = TextChange::between(before, after);
     QTextCursor cursor(text());
     cursor.setPosition(static_cast<int>(change.position));
     cursor.setPosition(static_cast<int>(change.position + change.removed.size()), QTextCursor::KeepAnchor);

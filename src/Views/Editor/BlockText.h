@@ -10,6 +10,7 @@ class QTextDocument;
 /// Keeps a text field and the text of a block the same, both ways, without ever losing the caret. A text
 /// edit's own `text` turns no-break spaces into plain ones and puts the caret back to the start when it is
 /// assigned; this one reads and writes the document under the field, and changes only what differs.
+/// Characters that the document cannot hold are shown as others and stay in the stored text.
 class BlockText : public QObject
 {
     Q_OBJECT
@@ -32,8 +33,9 @@ public:
     void setLineHeight(qreal lineHeight);
 
     /// Announces the field's text if the writer has changed it. To be called when it may have changed, but
-    /// not while an input method composes. Whatever the store made of it is in the field afterwards.
-    Q_INVOKABLE void report();
+    /// not while an input method composes. Whatever the store made of it is in the field afterwards. `caret`
+    /// is where the caret stands now.
+    Q_INVOKABLE void report(int caret);
 
     /// Has the input method settle on what it is composing, if it does so when asked.
     Q_INVOKABLE void askInputMethod() const;
@@ -49,6 +51,7 @@ Q_SIGNALS:
 
 private:
     QTextDocument *text() const;
+    /// What the field shows, with a line feed for each of its line breaks.
     QString shown() const;
     void show();
     void applyLineHeight();
@@ -56,5 +59,5 @@ private:
     QPointer<QQuickTextDocument> m_document;
     QString m_content;
     qreal m_lineHeight = 0;
-    bool m_isReporting = false;
+    bool m_isUpdating = false;
 };

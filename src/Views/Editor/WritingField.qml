@@ -27,7 +27,7 @@ TextEdit {
 
     function reportUnlessComposing() {
         if (!inputMethodComposing)
-            bridge.report()
+            bridge.report(cursorPosition)
     }
 
     /// While a text that was typed is not reported yet, its caret goes with it.
