@@ -36,14 +36,10 @@ void BlockDrag::drop()
 {
     if (!m_draggingBlockID)
         return;
-    PelkoDocument page = m_appState.openDocument().value_or(PelkoDocument());
+    const PelkoDocument page = m_appState.openDocument().value_or(PelkoDocument());
     const qsizetype row = BlockOperations::indexOf(page, *m_draggingBlockID);
     BlockDropDelegate{row < 0 ? Block() : page.blocks.at(row), page, m_appState, m_draggingBlockID}
         .performDrop();
-    if (row >= 0 && row != origin(page)) {
-        page.blocks.move(row, origin(page));
-        Q_EMIT reordered(page);
-    }
     Q_EMIT draggingBlockIDChanged();
 }
 

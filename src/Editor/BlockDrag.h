@@ -26,8 +26,6 @@ public:
 
 Q_SIGNALS:
     void draggingBlockIDChanged();
-    /// A drop has stored a new order; `before` is the page with the block where it came from.
-    void reordered(const PelkoDocument &before);
 
 private:
     /// Where the dragged block came from, as long as the page is long enough.

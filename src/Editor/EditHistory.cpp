@@ -94,10 +94,10 @@ std::optional<Edit> EditHistory::redo(PelkoDocument page)
     return shown(std::move(page), step.places.after, step.change.row(), step.change.rowsAfter());
 }
 
-void EditHistory::follow(const QList<Block> &blocks)
+void EditHistory::follow(const QList<Block> &blocks, const Places &places)
 {
     if (m_present && *m_present != blocks)
-        push({.change = PageChange::between(*m_present, blocks), .places = {}});
+        push({.change = PageChange::between(*m_present, blocks), .places = places});
     m_present = blocks;
 }
 

@@ -30,6 +30,8 @@ public:
     bool canRedo() const { return !m_future.isEmpty(); }
     qsizetype steps() const { return m_past.size() + m_future.size(); }
 
+    /// Remembers what was changed behind its back, if anything, as one step.
+    void follow(const QList<Block> &blocks, const Places &places = {});
     /// Remembers a change as one step.
     void record(const PelkoDocument &before, const PelkoDocument &after, const Places &places);
     /// Remembers what one key made of the text at `places.after`, together with the keys just before it.
@@ -48,7 +50,6 @@ private:
         Places places;
     };
 
-    void follow(const QList<Block> &blocks);
     void push(const Step &step);
     void weigh(const Step &step, qsizetype sign);
     void trim();

@@ -24,10 +24,9 @@ void EditSession::commit(const Edit &edit)
     m_appState.updateDocument(edit.document);
 }
 
-void EditSession::recordStored(const PelkoDocument &before)
+void EditSession::follow(const PelkoDocument &page)
 {
-    if (const PelkoDocument *after = stored(before))
-        m_history.record(before, *after, {.before = m_place, .after = m_place});
+    m_history.follow(page.blocks, {.before = m_place, .after = m_place});
 }
 
 void EditSession::commitTyping(const Edit &edit, const FocusTarget &field)

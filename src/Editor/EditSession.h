@@ -18,8 +18,9 @@ public:
 
     /// Stores the changed page; undo takes it back in one step.
     void commit(const Edit &edit);
-    /// For a change that was made live and is in the store already: undo goes back to `before` in one step.
-    void recordStored(const PelkoDocument &before);
+    /// The page as the store has it now. What was changed there by others since the last call, such as the
+    /// tasks panel or a drag, becomes a step of its own.
+    void follow(const PelkoDocument &page);
     /// Stores what a key made of the text of `field`, whose caret is the one after the key. Keys typed one
     /// after the other are taken back together, a word at a time, unless the writer paused between them.
     void commitTyping(const Edit &edit, const FocusTarget &field);

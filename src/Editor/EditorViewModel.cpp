@@ -41,8 +41,6 @@ EditorViewModel::EditorViewModel(AppState &appState, const EditorServices &servi
     connect(&m_appState, &AppState::focusModeChanged, this, &EditorViewModel::focusInFocusMode);
     connect(&m_appState, &AppState::showNavChanged, this, &EditorViewModel::focusAfterNavigation);
     connect(&m_appState, &AppState::openDocumentIDAboutToChange, this, &EditorViewModel::settleRequested);
-    connect(&m_drag, &BlockDrag::reordered, this,
-            [this](const PelkoDocument &before) { m_session.recordStored(before); });
     refresh();
 }
 
@@ -65,6 +63,9 @@ void EditorViewModel::refresh()
     const PelkoDocument *found = document();
     const PelkoDocument &shown = found ? *found : nothing;
     ChangeScope scope(*this);
+    // A drag is one step, which ends with the drop.
+    if (found && m_drag.draggingBlockID().isEmpty())
+        m_session.follow(*found);
     m_selection.publish(shown);
     m_blocks.publish(shown);
     scope.assign(m_title, shown.title(), &EditorViewModel::titleChanged);

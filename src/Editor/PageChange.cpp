@@ -60,21 +60,18 @@ PageChange PageChange::between(const QList<Block> &before, const QList<Block> &a
     }
     PageChange change;
     change.m_row = oldStart - before.cbegin();
-    if (oldEnd - oldStart == 1 && newEnd - newStart == 1)
+    if (oldStart != oldEnd && newStart != newEnd)
         change.m_text = textChange(*oldStart, *newStart);
-    if (!change.m_text) {
-        change.m_before = QList<Block>(oldStart, oldEnd);
-        change.m_after = QList<Block>(newStart, newEnd);
-    }
+    change.m_before = QList<Block>(oldStart + change.rewrittenRows(), oldEnd);
+    change.m_after = QList<Block>(newStart + change.rewrittenRows(), newEnd);
     return change;
 }
 
 PageChange::Size PageChange::size() const
 {
-    if (m_text)
-        return {.text = (m_text->removed.size() + m_text->inserted.size()) * qsizetype(sizeof(QChar))};
+    const qsizetype units = m_text ? m_text->removed.size() + m_text->inserted.size() : 0;
     const auto sum = [](qsizetype total, const Block &block) { return total + textSize(block); };
-    return {.text = std::accumulate(m_before.begin(), m_before.end(), qsizetype(0), sum) +
+    return {.text = std::accumulate(m_before.begin(), m_before.end(), units * qsizetype(sizeof(QChar)), sum) +
                     std::accumulate(m_after.begin(), m_after.end(), qsizetype(0), sum),
             .pictures = pictureSize(m_before, m_after) + pictureSize(m_after, m_before)};
 }
@@ -83,8 +80,7 @@ QList<Block> PageChange::applied(QList<Block> page) const
 {
     if (m_text)
         page[m_row].content = m_text->applied(page.at(m_row).content);
-    else
-        replaceRows(page, m_row, m_before.size(), m_after);
+    replaceRows(page, m_row + rewrittenRows(), m_before.size(), m_after);
     return page;
 }
 
@@ -92,7 +88,6 @@ QList<Block> PageChange::reverted(QList<Block> page) const
 {
     if (m_text)
         page[m_row].content = m_text->reverted(page.at(m_row).content);
-    else
-        replaceRows(page, m_row, m_after.size(), m_before);
+    replaceRows(page, m_row + rewrittenRows(), m_after.size(), m_before);
     return page;
 }

@@ -21,7 +21,6 @@ class TestBlockDrag : public QObject
     ManualDocumentFile file;
     std::unique_ptr<AppState> state;
     std::unique_ptr<BlockDrag> drag;
-    QStringList undoTo; // the pages that `reordered` told of
 
     QString order() const { return letters(*state->openDocument()); }
 
@@ -44,9 +43,6 @@ private Q_SLOTS:
         state->updateDocument(page);
         scheduler.advance(10s);
         drag = std::make_unique<BlockDrag>(*state);
-        undoTo.clear();
-        connect(drag.get(), &BlockDrag::reordered, this,
-                [this](const PelkoDocument &before) { undoTo << letters(before); });
     }
 
     void cleanup()
@@ -68,14 +64,12 @@ private Q_SLOTS:
         QCOMPARE(file.writes(), writes + 1);
     }
 
-    void aDropTellsOnceWhatThePageWasBeforeTheFirstStep()
+    void aDropMayLieManyRowsAway()
     {
         drag->begin(id('D'));
         pass("CBA");
-        QCOMPARE(undoTo, QStringList());
         drag->drop();
         QCOMPARE(order(), u"DABC"_s);
-        QCOMPARE(undoTo, {u"ABCD"_s});
     }
 
     void aDropWhereTheBlockCameFromIsNoReorder()
@@ -84,7 +78,7 @@ private Q_SLOTS:
         pass("CC"); // down over a row and up over it again
         QCOMPARE(order(), u"ABCD"_s);
         drag->drop();
-        QCOMPARE(undoTo, QStringList());
+        QCOMPARE(order(), u"ABCD"_s);
     }
 
     void aCancelledDragPutsTheBlockBackUnsaved()
@@ -98,7 +92,6 @@ private Q_SLOTS:
         QCOMPARE(drag->draggingBlockID(), QString());
         QCOMPARE(*state->openDocument(), before);
         QCOMPARE(file.writes(), writes);
-        QCOMPARE(undoTo, QStringList());
     }
 
     void whatWasWrittenMeanwhileSurvivesACancel()
@@ -132,7 +125,6 @@ private Q_SLOTS:
         dropped ? drag->drop() : drag->cancel();
         QCOMPARE(order(), u"ABC"_s);
         QCOMPARE(drag->draggingBlockID(), QString());
-        QCOMPARE(undoTo, QStringList());
     }
 
     void aPageThatIsClosedMeanwhileStaysAsItIs()
@@ -143,7 +135,6 @@ private Q_SLOTS:
         drag->drop();
         QCOMPARE(letters(state->documents().constFirst()), u"BACD"_s);
         QCOMPARE(drag->draggingBlockID(), QString());
-        QCOMPARE(undoTo, QStringList());
     }
 
     void nothingHappensWithoutADrag()

@@ -1,4 +1,5 @@
 #include "EditorTest.h"
+#include "Tasks/TaskOperations.h"
 
 #include <functional>
 
@@ -220,6 +221,49 @@ private Q_SLOTS:
         editor->undo();
         QCOMPARE(lines(stored()),
                  (QStringList{u"A textSmall \"text\""_s, u"B sticky \"\" todos(x[x] \"\")"_s}));
+    }
+
+    void changesMadeElsewhereAreAStepEachFromTheFirstOn()
+    {
+        edit({block('A', body, u"text"_s)});
+        editor->caretMoved(id('A'), {}, 2);
+        const PelkoDocument opened = stored();
+        const auto one = TaskOperations::addQuickTask(opened, u"one"_s);
+        state->updateDocument(one);
+        const auto two = TaskOperations::addQuickTask(stored(), u"two"_s);
+        state->updateDocument(two);
+
+        editor->undo();
+        QCOMPARE(stored().blocks, one.blocks);
+        QCOMPARE(takeLastFocused(), u"A@2"_s);
+        editor->undo();
+        QCOMPARE(stored().blocks, opened.blocks);
+        editor->undo();
+        QCOMPARE(stored().blocks, opened.blocks);
+        editor->redo();
+        editor->redo();
+        QCOMPARE(stored().blocks, two.blocks);
+    }
+
+    void aDragThatChangesNothingIsNoStep_data()
+    {
+        QTest::addColumn<bool>("dropped");
+        QTest::newRow("dropped where it came from") << true;
+        QTest::newRow("cancelled") << false;
+    }
+
+    void aDragThatChangesNothingIsNoStep()
+    {
+        QFETCH(const bool, dropped);
+        edit({block('A', body), block('B', body), block('C', body)});
+        type('A', u"text"_s);
+        editor->drag()->begin(id('B'));
+        editor->drag()->enter(id('C'));
+        if (dropped)
+            editor->drag()->enter(id('C'));
+        dropped ? editor->drag()->drop() : editor->drag()->cancel();
+        editor->undo();
+        QCOMPARE(lines(stored()).first(), u"A textSmall \"\""_s);
     }
 
     void undoIsSavedLikeAnyChange()

@@ -114,6 +114,18 @@ private Q_SLOTS:
         QCOMPARE(change.size().text, 2);
     }
 
+    void aSplitOrAJoinKeepsOnlyTheTextThatMoved()
+    {
+        const QString text(100'000, u'x');
+        const QList<Block> joined{block('A', BlockType::textSmall, text + u"end"_s)};
+        const QList<Block> split{block('A', BlockType::textSmall, text),
+                                 block('B', BlockType::textSmall, u"end"_s)};
+        QCOMPARE_LT(PageChange::between(joined, split).size().text, 1000);
+        QCOMPARE_LT(PageChange::between(split, joined).size().text, 1000);
+        leadsBothWays(joined, split);
+        leadsBothWays(split, joined);
+    }
+
     void aPictureThatIsMovedWeighsNothing()
     {
         const QList<Block> before{image('A'), block('B')};
