@@ -1,6 +1,7 @@
 #include "Editor/LineOperations.h"
 
 #include "Editor/BlockOperations.h"
+#include "Models/LineBreaks.h"
 
 #include <algorithm>
 
@@ -42,6 +43,31 @@ bool leavesCode(const QString &text, LineOperations::Stretch selected)
     return selected.start == text.size() && text.endsWith(u'\n');
 }
 
+/// Where the lines begin that the selection touches, in order. The line that it ends before is not one of
+/// them.
+QList<qsizetype> startsOfLines(const QString &text, LineOperations::Stretch selected)
+{
+    qsizetype start = selected.start;
+    while (start > 0 && !isLineBreak(text.at(start - 1)))
+        --start;
+    QList<qsizetype> starts{start};
+    for (qsizetype index = start; index < selected.end - 1; ++index) {
+        const bool isCarriageReturn = text.at(index) == u'\r' && text.at(index + 1) == u'\n';
+        if (isLineBreak(text.at(index)) && !isCarriageReturn)
+            starts.append(index + 1);
+    }
+    return starts;
+}
+
+/// How many characters at the start of the line are one step of indentation: a tab, or up to four spaces.
+qsizetype indentation(QStringView line)
+{
+    if (line.startsWith(u'\t'))
+        return 1;
+    const auto firstLetter = std::ranges::find_if(line, [](QChar character) { return character != u' '; });
+    return std::min<qsizetype>(firstLetter - line.begin(), 4);
+}
+
 FocusTarget insertBelow(PelkoDocument &document, const Field &field, const QString &text)
 {
     Block &block = document.blocks[field.row];
@@ -75,12 +101,37 @@ std::optional<Edit> LineOperations::split(PelkoDocument document, const FocusTar
     if (!found)
         return std::nullopt;
     const auto [start, end] = within(*found->text, selected);
-    const bool isCode = document.blocks.at(found->row).type == BlockType::code;
-    const bool leaves = isCode && leavesCode(*found->text, {start, end});
-    if (isCode && !leaves)
+    const bool isLineOfCode =
+        document.blocks.at(found->row).type == BlockType::code && found->text->contains(u'\n');
+    const bool leaves = isLineOfCode && leavesCode(*found->text, {start, end});
+    if (isLineOfCode && !leaves)
         return breakLine(std::move(document), field, selected);
     const QString rest = found->text->sliced(end);
     found->text->truncate(leaves ? start - 1 : start);
     const FocusTarget below = insertBelow(document, *found, rest);
     return Edit{.document = std::move(document), .focus = below};
+}
+
+std::optional<Edit> LineOperations::indent(PelkoDocument document, const FocusTarget &field, Stretch selected)
+{
+    const auto found = find(document, field);
+    if (!found)
+        return std::nullopt;
+    const QList<qsizetype> starts = startsOfLines(*found->text, within(*found->text, selected));
+    std::for_each(starts.rbegin(), starts.rend(),
+                  [&](qsizetype start) { found->text->insert(start, u'\t'); });
+    return Edit{.document = std::move(document)};
+}
+
+std::optional<Edit> LineOperations::unindent(PelkoDocument document, const FocusTarget &field,
+                                             Stretch selected)
+{
+    const auto found = find(document, field);
+    if (!found)
+        return std::nullopt;
+    QString &text = *found->text;
+    const QList<qsizetype> starts = startsOfLines(text, within(text, selected));
+    std::for_each(starts.rbegin(), starts.rend(),
+                  [&](qsizetype start) { text.remove(start, indentation(QStringView(text).sliced(start))); });
+    return Edit{.document = std::move(document)};
 }

@@ -2,8 +2,8 @@
 
 #include "Editor/Edit.h"
 
-/// The keys that make lines, where they say something else than the value of a field would: a line break
-/// within a block, and a split of a block that already has line breaks.
+/// The keys that work on lines, where they say something else than the value of a field would: a line break
+/// within a block, a split of a block, and the indentation of several lines.
 namespace LineOperations
 {
 
@@ -16,8 +16,14 @@ struct Stretch {
 /// Shift+Return: a line break in the text that `field` names, in place of what is selected.
 std::optional<Edit> breakLine(PelkoDocument document, const FocusTarget &field, Stretch selected);
 
-/// Return in a text of several lines: what stands behind the selection goes on below, in a body block or in
-/// an entry of its own. Code takes the line break instead; a second one at its end leaves it.
+/// Return: what stands behind the selection goes on below, in a body block or in an entry of its own. Code of
+/// several lines takes a line break instead; a second one at its end leaves it.
 std::optional<Edit> split(PelkoDocument document, const FocusTarget &field, Stretch selected);
+
+/// Tab over selected lines: each line that the selection touches begins with one more tab.
+std::optional<Edit> indent(PelkoDocument document, const FocusTarget &field, Stretch selected);
+
+/// Shift+Tab over selected lines: each loses the tab, or up to four spaces, that it begins with.
+std::optional<Edit> unindent(PelkoDocument document, const FocusTarget &field, Stretch selected);
 
 } // namespace LineOperations

@@ -43,6 +43,20 @@ void WritingKeys::split(const QString &blockID, const QString &todoID, int start
     });
 }
 
+void WritingKeys::indent(const QString &blockID, int start, int end)
+{
+    m_apply([field = FocusTarget::at(blockID, {}, start), start, end](PelkoDocument page) {
+        return LineOperations::indent(std::move(page), field, {.start = start, .end = end});
+    });
+}
+
+void WritingKeys::unindent(const QString &blockID, int start, int end)
+{
+    m_apply([field = FocusTarget::at(blockID, {}, start), start, end](PelkoDocument page) {
+        return LineOperations::unindent(std::move(page), field, {.start = start, .end = end});
+    });
+}
+
 void WritingKeys::writeBelow()
 {
     m_apply([](PelkoDocument page) { return BlockOperations::writeBelow(std::move(page)); });

@@ -27,6 +27,9 @@ public:
     Q_INVOKABLE void breakLine(const QString &blockID, const QString &todoID, int start, int end);
     /// Return in a text of several lines.
     Q_INVOKABLE void split(const QString &blockID, const QString &todoID, int start, int end);
+    /// Tab and Shift+Tab over selected lines of code.
+    Q_INVOKABLE void indent(const QString &blockID, int start, int end);
+    Q_INVOKABLE void unindent(const QString &blockID, int start, int end);
     /// A click below the last block: the writer goes on there.
     Q_INVOKABLE void writeBelow();
 

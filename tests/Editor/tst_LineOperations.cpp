@@ -72,6 +72,10 @@ private Q_SLOTS:
             {u"A textSmall \"on\""_s, u"+ textSmall \"wo\""_s}, u"+@0"_s);
         row("split of a quote", Key::returnKey, BlockType::quote, u"one\ntwo|"_s,
             {u"A quote \"one\ntwo\""_s, u"+ textSmall \"\""_s}, u"+@0"_s);
+        row("code of one line", Key::returnKey, BlockType::code, u"a;|b;"_s,
+            {u"A code \"a;\""_s, u"+ textSmall \"b;\""_s}, u"+@0"_s);
+        row("a text of one line", Key::returnKey, body, u"on|e"_s,
+            {u"A textSmall \"on\""_s, u"+ textSmall \"e\""_s}, u"+@0"_s);
         row("code goes on", Key::returnKey, BlockType::code, u"a;\nb;|"_s, {u"A code \"a;\nb;\n\""_s},
             u"A@6"_s);
         row("code goes on in the middle", Key::returnKey, BlockType::code, u"a;|\n"_s,
@@ -104,6 +108,40 @@ private Q_SLOTS:
         QCOMPARE(lines(split.value().document),
                  {u"A sticky \"\" todos(x[x] \"one\nt\", +[ ] \"wo\", y[ ] \"\")"_s});
         QCOMPARE(PageText::focus(split->focus), u"A.+@0"_s);
+    }
+
+    /// The selection stands between two bars, or the caret at one.
+    void tabMovesTheSelectedLines_data()
+    {
+        QTest::addColumn<QString>("written");
+        QTest::addColumn<QString>("indented");
+        QTest::addColumn<QString>("unindented");
+        QTest::newRow("part of a line") << u"\ta|b|c"_s << u"\t\tabc"_s << u"abc"_s;
+        QTest::newRow("two lines") << u"a|b\n\tc|d"_s << u"\tab\n\t\tcd"_s << u"ab\ncd"_s;
+        QTest::newRow("the lines around are left")
+            << u"\ta\n|\tb\n\tc|\n\td"_s << u"\ta\n\t\tb\n\t\tc\n\td"_s << u"\ta\nb\nc\n\td"_s;
+        QTest::newRow("a line that is only ended before is left")
+            << u"|\ta\n|\tb"_s << u"\t\ta\n\tb"_s << u"a\n\tb"_s;
+        QTest::newRow("up to four spaces") << u"|      a\n  b|"_s << u"\t      a\n\t  b"_s << u"  a\nb"_s;
+        QTest::newRow("one step at a time") << u"|\t\ta|"_s << u"\t\t\ta"_s << u"\ta"_s;
+        QTest::newRow("nothing to take away") << u"|a\nb|"_s << u"\ta\n\tb"_s << u"a\nb"_s;
+        QTest::newRow("an empty text") << u"|"_s << u"\t"_s << u""_s;
+        QTest::newRow("other line breaks")
+            << u"|a\u2028b\r\nc\rd|"_s << u"\ta\u2028\tb\r\n\tc\r\td"_s << u"a\u2028b\r\nc\rd"_s;
+    }
+
+    void tabMovesTheSelectedLines()
+    {
+        QFETCH(const QString, written);
+        const Selected selected(written);
+        const PelkoDocument code = page({block('A', BlockType::code, selected.text)});
+        const FocusTarget field{.blockID = idOf('A')};
+        const auto indented = LineOperations::indent(code, field, selected.stretch);
+        QTEST(indented.value().document.blocks.first().content, "indented");
+        const auto unindented = LineOperations::unindent(code, field, selected.stretch);
+        QTEST(unindented.value().document.blocks.first().content, "unindented");
+        QVERIFY(!LineOperations::indent(code, {.blockID = idOf('Z')}, {}));
+        QVERIFY(!LineOperations::unindent(code, {.blockID = idOf('Z')}, {}));
     }
 
     void aSelectionBeyondTheTextEndsWithIt()

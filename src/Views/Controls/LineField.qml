@@ -2,7 +2,7 @@ import QtQuick
 import Pelko
 
 /// A field of one line on whatever ground it is put: it shows `content` and reports what is made of it. There is no
-/// limit to what may be pasted.
+/// limit to what may be pasted; line breaks and tabs become spaces.
 TextInput {
     id: field
 
@@ -19,8 +19,31 @@ TextInput {
         text = Qt.binding(() => field.content)
     }
 
+    /// What was pasted ends at the caret. It may come back shorter.
+    function report() : void {
+        const behind = length - cursorPosition
+        edited(FieldText.onOneLine(text))
+        cursorPosition = length - behind
+    }
+
+    /// The field by itself would delete an emoji in pieces.
+    function eraseBackwards(event: KeyEvent) : void {
+        const isPlain = (event.modifiers & ~(Qt.ShiftModifier | Qt.KeypadModifier)) === 0
+        event.accepted = isPlain && selectedText === "" && preeditText === ""
+        if (event.accepted)
+            remove(cursorPosition - FieldText.backspaceLength(textBefore()), cursorPosition)
+        if (event.accepted)
+            report()
+    }
+
+    /// The last of the text before the caret; as much as one character may be made of.
+    function textBefore() : string {
+        return getText(Math.max(0, cursorPosition - 256), cursorPosition)
+    }
+
     text: content
-    onTextEdited: field.edited(text)
+    onTextEdited: report()
+    Keys.onPressed: event => event.key === Qt.Key_Backspace ? eraseBackwards(event) : event.accepted = false
     maximumLength: 0x7fffffff
     clip: true
     activeFocusOnTab: true

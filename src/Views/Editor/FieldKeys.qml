@@ -13,8 +13,12 @@ Item {
 
     readonly property WritingKeys keys: row?.page.editor.keys ?? null
 
+    function hasSelection() : bool {
+        return field.selectionStart !== field.selectionEnd
+    }
+
     function bare() : bool {
-        return field.selectionStart === field.selectionEnd && !field.inputMethodComposing
+        return !hasSelection() && !field.inputMethodComposing
     }
 
     function joinsBackwards(event: KeyEvent) : bool {
@@ -24,16 +28,32 @@ Item {
         return joins
     }
 
+    /// The field by itself would delete an emoji in pieces.
+    function erasesBackwards(event: KeyEvent) : bool {
+        const isPlain = (event.modifiers & ~(Qt.ShiftModifier | Qt.KeypadModifier)) === 0
+        const erases = event.key === Qt.Key_Backspace && isPlain && bare()
+        if (erases)
+            field.remove(field.cursorPosition - FieldText.backspaceLength(textBefore()), field.cursorPosition)
+        return erases
+    }
+
+    /// The last of the text before the caret; as much as one character may be made of.
+    function textBefore() : string {
+        return field.getText(Math.max(0, field.cursorPosition - 256), field.cursorPosition)
+    }
+
+    // With Shift the key cuts.
     function joinForwards(event: KeyEvent) {
-        event.accepted = bare() && field.cursorPosition === field.length
+        event.accepted = bare() && field.cursorPosition === field.length && !(event.modifiers & Qt.ShiftModifier)
         if (event.accepted)
             keys.joinForwards(row.blockID, todoID)
     }
 
     function makeLine(event: KeyEvent) {
-        event.accepted = event.modifiers === Qt.ShiftModifier || content.includes("\n")
+        const breaks = (event.modifiers & ~Qt.KeypadModifier) === Qt.ShiftModifier
+        event.accepted = breaks || content.includes("\n")
         if (event.accepted)
-            event.modifiers === Qt.ShiftModifier
+            breaks
                 ? keys.breakLine(row.blockID, todoID, field.selectionStart, field.selectionEnd)
                 : keys.split(row.blockID, todoID, field.selectionStart, field.selectionEnd)
     }
@@ -41,16 +61,24 @@ Item {
     function indent(event: KeyEvent) {
         event.accepted = row.kind === "code" && event.modifiers === Qt.NoModifier
         if (event.accepted)
-            field.remove(field.selectionStart, field.selectionEnd)
-        if (event.accepted)
-            field.insert(field.cursorPosition, "\t")
+            hasSelection() ? moveLines(true) : field.insert(field.cursorPosition, "\t")
     }
 
     function unindent(event: KeyEvent) {
         const caret = field.cursorPosition
-        event.accepted = row.kind === "code" && bare() && field.getText(caret - 1, caret) === "\t"
+        const removesTab = bare() && field.getText(caret - 1, caret) === "\t"
+        event.accepted = row.kind === "code" && (hasSelection() || removesTab)
         if (event.accepted)
-            field.remove(caret - 1, caret)
+            removesTab ? field.remove(caret - 1, caret) : moveLines(false)
+    }
+
+    /// Moves the selected lines one step inwards or outwards. They stay selected, from the start of the first.
+    function moveLines(inwards: bool) {
+        const start = field.getText(0, field.selectionStart).lastIndexOf("\n") + 1
+        const behind = field.length - field.selectionEnd
+        inwards ? keys.indent(row.blockID, field.selectionStart, field.selectionEnd)
+                : keys.unindent(row.blockID, field.selectionStart, field.selectionEnd)
+        field.select(start, field.length - behind)
     }
 
     function undoes(event: KeyEvent) : bool {
@@ -72,7 +100,8 @@ Item {
     Keys.onBacktabPressed: event => unindent(event)
     Keys.onDeletePressed: event => joinForwards(event)
     Keys.onEnterPressed: event => makeLine(event)
-    Keys.onPressed: event => event.accepted = joinsBackwards(event) || undoes(event) || redoes(event)
+    Keys.onPressed: event => event.accepted = joinsBackwards(event) || erasesBackwards(event)
+                             || undoes(event) || redoes(event)
     Keys.onReturnPressed: event => makeLine(event)
     Keys.onTabPressed: event => indent(event)
 }

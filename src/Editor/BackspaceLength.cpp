@@ -1,0 +1,47 @@
+#include "Editor/BackspaceLength.h"
+
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+
+namespace
+{
+
+/// Looking for clusters from the start of a long text would take too long for a key; an ASCII character
+/// begins a cluster.
+qsizetype nearClusterStart(QStringView text)
+{
+    qsizetype start = text.size() - 1;
+    while (start > 0 && text.at(start).unicode() >= 0x80)
+        --start;
+    return start;
+}
+
+/// Pictographs and regional indicators, and what makes an emoji of another character: the variation selector
+/// and the keycap.
+bool belongsToEmoji(char32_t codePoint)
+{
+    return (codePoint >= 0x1F000 && codePoint <= 0x1FAFF) || codePoint == 0xFE0F || codePoint == 0x20E3;
+}
+
+bool isEmoji(QStringView cluster)
+{
+    return std::ranges::any_of(cluster.toUcs4(), belongsToEmoji);
+}
+
+} // namespace
+
+qsizetype backspaceLength(QStringView before)
+{
+    if (before.isEmpty())
+        return 0;
+    const QStringView near = before.sliced(nearClusterStart(before));
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, near.data(), near.size());
+    finder.toEnd();
+    const QStringView cluster = near.sliced(std::max<qsizetype>(finder.toPreviousBoundary(), 0));
+    if (isEmoji(cluster))
+        return cluster.size();
+    const bool isPair = cluster.size() > 1 && cluster.back().isLowSurrogate() &&
+                        cluster.at(cluster.size() - 2).isHighSurrogate();
+    return isPair ? 2 : 1;
+}
