@@ -126,7 +126,7 @@ void EditorViewModel::typedTodo(const QString &blockID, const QString &todoID, c
 void EditorViewModel::typedBannerTitle(const QString &blockID, const QString &value, int caret)
 {
     if (auto page = documentToMutate())
-        commitTyping(ImageOperations::setBannerTitle(*std::move(page), QUuid(blockID), value),
+        commitTyping(ImageOperations::setBannerTitle(*std::move(page), QUuid(blockID), value, caret),
                      FocusTarget::at(blockID, {}, caret));
 }
 

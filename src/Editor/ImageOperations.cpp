@@ -1,6 +1,8 @@
 #include "Editor/ImageOperations.h"
 
 #include "Editor/BlockOperations.h"
+#include "Editor/TextChange.h"
+#include "Models/LineBreaks.h"
 
 std::optional<Edit> ImageOperations::setImageData(PelkoDocument document, const QUuid &blockID,
                                                   const QByteArray &bytes)
@@ -25,13 +27,15 @@ std::optional<Edit> ImageOperations::insertImage(PelkoDocument document, const Q
 }
 
 std::optional<Edit> ImageOperations::setBannerTitle(PelkoDocument document, const QUuid &blockID,
-                                                    QString title)
+                                                    const QString &title, int caret)
 {
     const qsizetype index = BlockOperations::indexOf(document, blockID);
     if (index < 0)
         return std::nullopt;
-    for (const char16_t lineBreak : {u'\n', u'\r', u'\x2028', u'\x2029'})
-        title.replace(QChar(lineBreak), u' ');
-    document.blocks[index].bannerTitle = title;
+    Block &block = document.blocks[index];
+    const QString before = block.bannerTitle.value_or(QString());
+    TextChange change = TextChange::between(before, title, caret);
+    change.inserted = onOneLine(change.inserted);
+    block.bannerTitle = change.applied(before);
     return Edit{.document = std::move(document)};
 }

@@ -5,7 +5,21 @@
 #include "Editor/SelectionOperations.h"
 #include "Services/Pasteboard.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
+
+namespace
+{
+
+QByteArray firstPicture(const QList<Block> &blocks)
+{
+    const auto picture =
+        std::ranges::find_if(blocks, [](const Block &block) { return block.imageData.has_value(); });
+    return picture == blocks.end() ? QByteArray() : *picture->imageData;
+}
+
+} // namespace
 
 PageSelection::PageSelection(Pasteboard &pasteboard, Apply apply)
     : m_pasteboard(pasteboard)
@@ -60,7 +74,14 @@ void PageSelection::copy() const
     const QList<Block> blocks = excerpt(m_document, *m_selection);
     m_pasteboard.put({.text = BlockForms::plainText(blocks),
                       .markdown = BlockForms::markdown(blocks),
-                      .html = BlockForms::html(blocks)});
+                      .html = BlockForms::html(blocks),
+                      .picture = firstPicture(blocks)});
+}
+
+void PageSelection::offer() const
+{
+    if (m_selection)
+        m_pasteboard.putSelectedText(BlockForms::plainText(excerpt(m_document, *m_selection)));
 }
 
 void PageSelection::cut()
@@ -85,10 +106,63 @@ void PageSelection::replace(const QString &text)
     }
 }
 
+void PageSelection::split()
+{
+    if (const auto selected = m_selection) {
+        m_apply([&](PelkoDocument page) { return SelectionOperations::split(std::move(page), *selected); });
+    }
+}
+
+void PageSelection::breakLine()
+{
+    if (const auto selected = m_selection) {
+        m_apply(
+            [&](PelkoDocument page) { return SelectionOperations::breakLine(std::move(page), *selected); });
+    }
+}
+
 void PageSelection::paste()
 {
-    QString text = m_pasteboard.text();
+    const auto selected = m_selection;
+    if (!selected || pasteText(*selected))
+        return;
+    const QByteArray picture = m_pasteboard.picture();
+    if (picture.isEmpty())
+        return;
+    m_apply([&](PelkoDocument page) {
+        return SelectionOperations::replaceByPicture(std::move(page), *selected, picture);
+    });
+}
+
+void PageSelection::copyText(const BlockSelection &selected) const
+{
+    const QList<SelectedPart> parts = SelectedParts(passages(), selected).all();
+    if (!parts.isEmpty())
+        m_pasteboard.put({.text = parts.first().text().value_or(QString())});
+}
+
+void PageSelection::cutText(const BlockSelection &selected)
+{
+    copyText(selected);
+    m_apply([&](PelkoDocument page) { return SelectionOperations::remove(std::move(page), selected); });
+}
+
+bool PageSelection::pasteText(const BlockSelection &selected)
+{
+    return insert(m_pasteboard.text(), selected);
+}
+
+bool PageSelection::pasteSelectedText(const PagePosition &place)
+{
+    return insert(m_pasteboard.selectedText(), {.anchor = place, .head = place});
+}
+
+bool PageSelection::insert(QString text, const BlockSelection &selected)
+{
     text.replace("\r\n"_L1, "\n"_L1);
-    if (!text.isEmpty())
-        replace(text);
+    if (text.isEmpty())
+        return false;
+    m_apply(
+        [&](PelkoDocument page) { return SelectionOperations::replace(std::move(page), selected, text); });
+    return true;
 }

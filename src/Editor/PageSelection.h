@@ -41,13 +41,28 @@ public:
     void remove();
     /// Types over what is selected.
     void replace(const QString &text);
-    /// Types what is on the pasteboard over what is selected.
+    /// Return and Shift+Return over what is selected.
+    void split();
+    void breakLine();
+    /// Puts the text, or else the picture, of the pasteboard in place of what is selected.
     void paste();
+    /// The same for what is selected within one text.
+    void copyText(const BlockSelection &selected) const;
+    void cutText(const BlockSelection &selected);
+    /// Puts the text of the pasteboard in place of `selected`, within one text or beyond. Tells whether there
+    /// is any.
+    bool pasteText(const BlockSelection &selected);
+    /// Puts the text that was selected last, in whatever program, at that place.
+    bool pasteSelectedText(const PagePosition &place);
+    /// Offers the text of the selection to the middle button.
+    void offer() const;
 
 Q_SIGNALS:
     void changed();
 
 private:
+    bool insert(QString text, const BlockSelection &selected);
+
     Pasteboard &m_pasteboard;
     Apply m_apply;
     PelkoDocument m_document;

@@ -1,8 +1,11 @@
 #include "Editor/SelectionOperations.h"
 
 #include "Editor/BlockOperations.h"
+#include "Editor/ImageOperations.h"
+#include "Editor/LineOperations.h"
 #include "Editor/TodoOperations.h"
 #include "Editor/TypingRules.h"
+#include "Models/LineBreaks.h"
 
 #include <algorithm>
 
@@ -60,6 +63,11 @@ void setText(PelkoDocument &document, const PassageID &passage, const QString &t
         block.content = text;
 }
 
+bool isBannerTitle(const PelkoDocument &document, const PassageID &passage)
+{
+    return document.blocks.at(BlockOperations::indexOf(document, passage.blockID)).type == BlockType::image;
+}
+
 struct Removal {
     PelkoDocument document;
     Seam seam;
@@ -80,6 +88,8 @@ std::optional<Removal> removal(PelkoDocument document, const BlockSelection &sel
         document.blocks.insert(firstRow, Block(BlockType::textSmall));
         seam.emplace().passage.blockID = document.blocks.at(firstRow).id;
     }
+    if (parts.isCrossing() && isBannerTitle(document, seam->passage))
+        seam->after = onOneLine(seam->after);
     setText(document, seam->passage, seam->before + seam->after);
     return Removal{.document = std::move(document), .seam = *std::move(seam)};
 }
@@ -96,8 +106,20 @@ std::optional<Edit> type(PelkoDocument document, const PassageID &passage, const
     const qsizetype row = BlockOperations::indexOf(document, passage.blockID);
     if (isTextLike(document.blocks.at(row).type))
         return TypingRules::apply(std::move(document), passage.blockID, value, caret);
-    setText(document, passage, QString(value).replace(u'\n', u' '));
+    setText(document, passage, value);
     return Edit{.document = std::move(document), .focus = std::nullopt};
+}
+
+/// Removes the selection and then makes a line at the seam, where its text can have several.
+std::optional<Edit> makeLine(PelkoDocument document, const BlockSelection &selection,
+                             decltype(LineOperations::split) operation)
+{
+    auto removed = SelectionOperations::remove(std::move(document), selection);
+    if (!removed)
+        return std::nullopt;
+    const FocusTarget seam = removed->focus.value();
+    auto edit = operation(removed->document, seam, {.start = seam.caret, .end = seam.caret});
+    return edit ? edit : removed;
 }
 
 } // namespace
@@ -118,10 +140,34 @@ std::optional<Edit> SelectionOperations::replace(PelkoDocument document, const B
     if (!removed)
         return std::nullopt;
     const Seam &seam = removed->seam;
-    const FocusTarget caret = caretIn(seam.passage, seam.before.size() + text.size());
+    const QString typed = isBannerTitle(removed->document, seam.passage) ? onOneLine(text) : text;
+    const FocusTarget caret = caretIn(seam.passage, seam.before.size() + typed.size());
     auto edit =
-        type(std::move(removed->document), seam.passage, seam.before + text + seam.after, caret.caret);
+        type(std::move(removed->document), seam.passage, seam.before + typed + seam.after, caret.caret);
     if (edit && !edit->focus)
         edit->focus = caret;
     return edit;
+}
+
+std::optional<Edit> SelectionOperations::replaceByPicture(PelkoDocument document,
+                                                          const BlockSelection &selection,
+                                                          const QByteArray &bytes)
+{
+    auto removed = remove(std::move(document), selection);
+    if (!removed)
+        return std::nullopt;
+    auto edit = ImageOperations::insertImage(std::move(removed->document), removed->focus->blockID, bytes);
+    if (edit)
+        edit->focus = removed->focus;
+    return edit;
+}
+
+std::optional<Edit> SelectionOperations::split(PelkoDocument document, const BlockSelection &selection)
+{
+    return makeLine(std::move(document), selection, LineOperations::split);
+}
+
+std::optional<Edit> SelectionOperations::breakLine(PelkoDocument document, const BlockSelection &selection)
+{
+    return makeLine(std::move(document), selection, LineOperations::breakLine);
 }

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QMimeData>
+#include <QMimeDatabase>
 
 #include <memory>
 
@@ -13,15 +14,48 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
+/// As Qt names an image that has no encoding yet.
+constexpr auto decodedImage = "application/x-qt-image"_L1;
+
+/// What is offered to other programs. A picture is decoded only if one asks for it in another format.
+class OfferedForms : public QMimeData
+{
+public:
+    void setPicture(const QByteArray &file)
+    {
+        const QString type = QMimeDatabase().mimeTypeForData(file).name();
+        if (!type.startsWith("image/"_L1))
+            return;
+        setData(type, file);
+        m_picture = file;
+    }
+
+    QStringList formats() const override
+    {
+        return m_picture.isEmpty() ? QMimeData::formats() : QMimeData::formats() << decodedImage;
+    }
+
+protected:
+    QVariant retrieveData(const QString &form, QMetaType type) const override
+    {
+        return form == decodedImage ? QImage::fromData(m_picture) : QMimeData::retrieveData(form, type);
+    }
+
+private:
+    QByteArray m_picture;
+};
+
 std::unique_ptr<QMimeData> formsOf(const PasteboardItem &item)
 {
-    auto forms = std::make_unique<QMimeData>();
+    auto forms = std::make_unique<OfferedForms>();
     if (!item.text.isEmpty())
         forms->setText(item.text);
     if (!item.markdown.isEmpty())
         forms->setData(u"text/markdown"_s, item.markdown.toUtf8());
     if (!item.html.isEmpty())
         forms->setHtml(item.html);
+    if (!item.picture.isEmpty())
+        forms->setPicture(item.picture);
     return forms;
 }
 
@@ -37,8 +71,10 @@ QByteArray SystemPasteboard::picture() const
     const QMimeData *offered = QGuiApplication::clipboard()->mimeData();
     if (!offered || offered->hasText())
         return {};
-    if (const QByteArray file = offered->data(u"image/png"_s); !file.isEmpty())
-        return file;
+    for (const auto type : {"image/png"_L1, "image/jpeg"_L1, "image/webp"_L1, "image/gif"_L1}) {
+        if (const QByteArray file = offered->data(type); !file.isEmpty())
+            return file;
+    }
     QByteArray encoded;
     QBuffer buffer(&encoded);
     offered->imageData().value<QImage>().save(&buffer, "PNG");
@@ -47,5 +83,18 @@ QByteArray SystemPasteboard::picture() const
 
 void SystemPasteboard::put(const PasteboardItem &item)
 {
-    QGuiApplication::clipboard()->setMimeData(formsOf(item).release());
+    auto forms = formsOf(item);
+    if (!forms->formats().isEmpty())
+        QGuiApplication::clipboard()->setMimeData(forms.release());
+}
+
+QString SystemPasteboard::selectedText() const
+{
+    return QGuiApplication::clipboard()->text(QClipboard::Selection);
+}
+
+void SystemPasteboard::putSelectedText(const QString &text)
+{
+    if (QGuiApplication::clipboard()->supportsSelection())
+        QGuiApplication::clipboard()->setText(text, QClipboard::Selection);
 }

@@ -9,4 +9,6 @@ public:
     QString text() const override;
     QByteArray picture() const override;
     void put(const PasteboardItem &item) override;
+    QString selectedText() const override;
+    void putSelectedText(const QString &text) override;
 };

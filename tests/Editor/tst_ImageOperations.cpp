@@ -49,16 +49,25 @@ private Q_SLOTS:
 
     void theTitleIsStored()
     {
-        const auto edit = ImageOperations::setBannerTitle(page({image('A', true)}), idOf('A'), u"Summer"_s);
+        const auto edit =
+            ImageOperations::setBannerTitle(page({image('A', true)}), idOf('A'), u"Summer"_s, 6);
         QCOMPARE(edit.value().document.blocks[0].bannerTitle, u"Summer"_s);
         QCOMPARE(edit->document.title(), u"Summer"_s);
     }
 
-    void aTitleIsOneLineOfTheSameLength()
+    void whatComesIntoATitleIsOneLine()
     {
         const auto edit = ImageOperations::setBannerTitle(page({image('A', true)}), idOf('A'),
-                                                          u"a\nb\r\nc\u2028d\u2029e"_s);
-        QCOMPARE(edit.value().document.blocks[0].bannerTitle, u"a b  c d e"_s);
+                                                          u"a\nb\r\nc\u2028d\u2029e\tf"_s, 11);
+        QCOMPARE(edit.value().document.blocks[0].bannerTitle, u"a b c d e f"_s);
+    }
+
+    void whatStandsInATitleStaysAsItIs()
+    {
+        PelkoDocument document = page({image('A', true)});
+        document.blocks[0].bannerTitle = u"a\u2028b"_s;
+        const auto edit = ImageOperations::setBannerTitle(document, idOf('A'), u"a\u2028\nb"_s, 3);
+        QCOMPARE(edit.value().document.blocks[0].bannerTitle, u"a\u2028 b"_s);
     }
 
     void anUnknownBlockChangesNothing()
@@ -66,7 +75,7 @@ private Q_SLOTS:
         const PelkoDocument before = page({block('A')});
         QVERIFY(!ImageOperations::setImageData(before, idOf('X'), "png"_ba));
         QVERIFY(!ImageOperations::insertImage(before, idOf('X'), "png"_ba));
-        QVERIFY(!ImageOperations::setBannerTitle(before, idOf('X'), u"t"_s));
+        QVERIFY(!ImageOperations::setBannerTitle(before, idOf('X'), u"t"_s, 1));
     }
 };
 

@@ -45,6 +45,79 @@ class TestPageSelection : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void aPictureIsCopiedAsAPicture()
+    {
+        SelectionDesk desk(page({block('A'), image('B'), block('C')}));
+        desk.pasteboard.item.text = u"kept"_s;
+        QVERIFY(desk.selection.select(between('B', 0, 'B', 1)));
+        desk.selection.copy();
+        QCOMPARE(desk.pasteboard.item.picture, image('B').imageData);
+        QCOMPARE(desk.pasteboard.item.text, QString());
+    }
+
+    void copyingWhatHasNoFormKeepsThePasteboard()
+    {
+        SelectionDesk desk(page({block('A'), block('B', BlockType::image), block('C')}));
+        desk.pasteboard.item.text = u"kept"_s;
+        QVERIFY(desk.selection.select(between('B', 0, 'B', 1)));
+        desk.selection.copy();
+        QCOMPARE(desk.pasteboard.item.text, u"kept"_s);
+    }
+
+    void aPictureThatIsCutCanBePasted()
+    {
+        SelectionDesk desk(page({block('A', BlockType::textSmall, u"one"_s), image('B')}));
+        QVERIFY(desk.selection.select(between('B', 0, 'B', 1)));
+        desk.selection.cut();
+        QCOMPARE(lines(desk.page), (QStringList{u"A textSmall \"one\""_s, u"+ textSmall \"\""_s}));
+        QCOMPARE(desk.pasteboard.picture(), image('B').imageData.value());
+    }
+
+    void aPictureIsPastedOverASelection()
+    {
+        SelectionDesk desk(letter());
+        desk.pasteboard.png = "picture"_ba;
+        QVERIFY(desk.selection.select(between('A', 1, 'B', 1)));
+        desk.selection.paste();
+        QCOMPARE(lines(desk.page),
+                 (QStringList{u"A textLarge \"Deader\""_s, u"+ image \"\" image(picture)"_s}));
+    }
+
+    void textIsPastedWithinOneText()
+    {
+        SelectionDesk desk(letter());
+        QVERIFY(!desk.selection.pasteText(between('B', 1, 'B', 2)));
+        desk.pasteboard.item.text = u"1\u20282\r\n3"_s;
+        QVERIFY(desk.selection.pasteText(between('B', 1, 'B', 2)));
+        QCOMPARE(lines(desk.page).sliced(1),
+                 (QStringList{u"B textSmall \"r1\u20282\""_s, u"+ textSmall \"3ader\""_s}));
+        QCOMPARE(desk.caret, u"+@1"_s);
+    }
+
+    void textIsCopiedAndCutWithinOneTextAsItIsStored()
+    {
+        SelectionDesk desk(page({block('A', BlockType::textSmall, u"a\u2028b\u00a0c"_s)}));
+        desk.selection.copyText(between('A', 1, 'A', 3));
+        QCOMPARE(desk.pasteboard.item.text, u"\u2028b"_s);
+        QCOMPARE(desk.edits, 0);
+        desk.selection.cutText(between('A', 4, 'A', 2));
+        QCOMPARE(desk.pasteboard.item.text, u"b\u00a0"_s);
+        QCOMPARE(desk.page.blocks.first().content, u"a\u2028c"_s);
+        QCOMPARE(desk.caret, u"A@2"_s);
+    }
+
+    void allThatIsSelectedIsOfferedToTheMiddleButton()
+    {
+        SelectionDesk desk(letter());
+        desk.selection.offer();
+        QCOMPARE(desk.pasteboard.selected, QString());
+        QVERIFY(desk.selection.select(between('A', 2, 'B', 4)));
+        desk.selection.offer();
+        QCOMPARE(desk.pasteboard.selected, u"ar\nread"_s);
+        QVERIFY(desk.selection.pasteSelectedText({.passage = {.blockID = idOf('B')}, .offset = 6}));
+        QCOMPARE(desk.page.blocks.last().content, u"read"_s);
+    }
+
     void aSelectionWithinOneTextIsLeftToItsField()
     {
         SelectionDesk desk(letter());

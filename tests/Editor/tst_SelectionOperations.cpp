@@ -205,6 +205,62 @@ private Q_SLOTS:
         QCOMPARE(focus(edit->focus), u"D.+@1"_s);
     }
 
+    void returnMakesALineAtTheSeam_data()
+    {
+        QTest::addColumn<BlockType>("type");
+        QTest::addColumn<QString>("first");
+        QTest::addColumn<QString>("split");
+        QTest::addColumn<QString>("broken");
+        const BlockType body = BlockType::textSmall;
+        QTest::newRow("one line") << body << u"one"_s << u"A textSmall \"on\" | + textSmall \"wo\""_s
+                                  << u"A textSmall \"on\nwo\""_s;
+        QTest::newRow("a line break before the seam")
+            << body << u"o\none"_s << u"A textSmall \"o\non\" | + textSmall \"wo\""_s
+            << u"A textSmall \"o\non\nwo\""_s;
+        QTest::newRow("code of one line")
+            << BlockType::code << u"one"_s << u"A code \"on\" | + textSmall \"wo\""_s
+            << u"A code \"on\nwo\""_s;
+        QTest::newRow("code of two lines")
+            << BlockType::code << u"o\none"_s << u"A code \"o\non\nwo\""_s << u"A code \"o\non\nwo\""_s;
+    }
+
+    void returnMakesALineAtTheSeam()
+    {
+        QFETCH(const BlockType, type);
+        QFETCH(const QString, first);
+        const PelkoDocument two = page({block('A', type, first), block('B', BlockType::textSmall, u"two"_s)});
+        const BlockSelection selected = selection(u"A@%1"_s.arg(first.size() - 1), u"B@1"_s);
+        QTEST(shortLines(SelectionOperations::split(two, selected).value().document), "split");
+        QTEST(shortLines(SelectionOperations::breakLine(two, selected).value().document), "broken");
+    }
+
+    void returnOverAPictureLeavesAnEmptyLineBelow()
+    {
+        const auto edit = SelectionOperations::split(page({image('A')}), selection(u"A@0"_s, u"A@1"_s));
+        QCOMPARE(shortLines(edit.value().document), u"+ textSmall \"\" | + textSmall \"\""_s);
+    }
+
+    void aPictureTakesThePlaceOfWhatIsSelected()
+    {
+        const auto edit = SelectionOperations::replaceByPicture(pageToSelectIn(),
+                                                                selection(u"A@2"_s, u"F@2"_s), "picture"_ba);
+        QCOMPARE(shortLines(edit.value().document), u"A textLarge \"Hede\" | + image \"\" image(picture)"_s);
+        QCOMPARE(edit->document.blocks.last().imageData, "picture"_ba);
+        QCOMPARE(focus(edit->focus), u"A@2"_s);
+        QVERIFY(!SelectionOperations::replaceByPicture(pageToSelectIn(), selection(u"Z@0"_s, u"F@2"_s), {}));
+    }
+
+    void linesThatJoinABannerTitleBecomeOne()
+    {
+        PelkoDocument document = page({image('A', true), block('B', BlockType::textSmall, u"two\nthree"_s)});
+        document.blocks[0].bannerTitle = u"ti\u2028tle"_s;
+        const BlockSelection selected = selection(u"A@4"_s, u"B@1"_s);
+        const auto removed = SelectionOperations::remove(document, selected);
+        QCOMPARE(removed.value().document.blocks.first().bannerTitle, u"ti\u2028two three"_s);
+        const auto split = SelectionOperations::split(document, selected);
+        QCOMPARE(split.value().document.blocks.first().bannerTitle, u"ti\u2028two three"_s);
+    }
+
     void aBannerTitleStaysOneLine()
     {
         const auto edit = SelectionOperations::replace(page({image('A', true), block('B')}),

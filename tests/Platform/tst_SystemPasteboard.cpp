@@ -1,6 +1,7 @@
 #include "Platform/SystemPasteboard.h"
 #include "support/TestProgram.h"
 
+#include <QBuffer>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QImage>
@@ -14,6 +15,15 @@ namespace
 const QMimeData *offered()
 {
     return QGuiApplication::clipboard()->mimeData();
+}
+
+QByteArray redPicture(const char *format)
+{
+    QImage image(2, 3, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QBuffer buffer;
+    image.save(&buffer, format);
+    return buffer.data();
 }
 
 } // namespace
@@ -76,6 +86,46 @@ private Q_SLOTS:
         QGuiApplication::clipboard()->setMimeData(picture);
         QCOMPARE(QImage::fromData(SystemPasteboard().picture(), "PNG").convertToFormat(image.format()),
                  image);
+    }
+
+    void aPictureIsOfferedAsItsFileAndInOtherFormats()
+    {
+        const QByteArray file = redPicture("JPEG");
+        SystemPasteboard().put({.picture = file});
+        QCOMPARE(offered()->data(u"image/jpeg"_s), file);
+        QCOMPARE(offered()->imageData().value<QImage>().size(), QSize(2, 3));
+        QVERIFY(!offered()->hasText());
+        QCOMPARE(SystemPasteboard().picture(), file);
+    }
+
+    void aPictureIsOfferedBesideItsText()
+    {
+        const QByteArray file = redPicture("PNG");
+        SystemPasteboard().put({.text = u"words"_s, .picture = file});
+        QCOMPARE(offered()->data(u"image/png"_s), file);
+        QCOMPARE(SystemPasteboard().text(), u"words"_s);
+    }
+
+    void whatHasNoFormLeavesThePasteboard()
+    {
+        SystemPasteboard().put({.text = u"kept"_s});
+        SystemPasteboard().put({});
+        QCOMPARE(SystemPasteboard().text(), u"kept"_s);
+        SystemPasteboard().put({.picture = "no picture"_ba});
+        QCOMPARE(SystemPasteboard().text(), u"kept"_s);
+    }
+
+    void theSelectionIsApartFromWhatWasCopied()
+    {
+        if (!QGuiApplication::clipboard()->supportsSelection()) {
+            SystemPasteboard().putSelectedText(u"selected"_s);
+            QCOMPARE(SystemPasteboard().selectedText(), QString());
+            return;
+        }
+        SystemPasteboard().put({.text = u"copied"_s});
+        SystemPasteboard().putSelectedText(u"selected"_s);
+        QCOMPARE(SystemPasteboard().selectedText(), u"selected"_s);
+        QCOMPARE(SystemPasteboard().text(), u"copied"_s);
     }
 
     void besideTextAPictureDoesNotCount()

@@ -178,6 +178,13 @@ void EditorBench::pressTwice(QQuickItem *item, QPointF place) const
     send(QEvent::MouseButtonDblClick, Qt::LeftButton);
 }
 
+void EditorBench::releaseMiddleButton(QQuickItem *field, QPointF place) const
+{
+    QMouseEvent event(QEvent::MouseButtonRelease, place, field->mapToScene(place), field->mapToGlobal(place),
+                      Qt::MiddleButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(field, &event);
+}
+
 bool EditorBench::sharesBytes(QObject *picture, int row) const
 {
     const auto shown = picture->property("imageData").value<PictureBytes>();

@@ -38,10 +38,16 @@ public:
     Q_INVOKABLE void commit(const QString &text, const QString &preedit = {});
     /// The pointer's button goes down, up and down again.
     Q_INVOKABLE void pressTwice(QQuickItem *item, QPointF place) const;
+    /// Without a selection of the desktop, a field is given no middle button; the event goes to it by itself.
+    Q_INVOKABLE void releaseMiddleButton(QQuickItem *field, QPointF place) const;
     /// Puts text on the pasteboard, and tells what is there.
     Q_INVOKABLE void copy(const QString &text) { m_desktop.pasteboard.put({.text = text}); }
     Q_INVOKABLE QString copied() const { return m_desktop.pasteboard.item.text; }
     Q_INVOKABLE QString copiedMarkdown() const { return m_desktop.pasteboard.item.markdown; }
+    Q_INVOKABLE bool copiedPicture() const { return !m_desktop.pasteboard.picture().isEmpty(); }
+    /// The text for the middle button.
+    Q_INVOKABLE void offer(const QString &text) { m_desktop.pasteboard.putSelectedText(text); }
+    Q_INVOKABLE QString offered() const { return m_desktop.pasteboard.selected; }
     /// Creates another page and opens it; the editor is still the one of the page before.
     Q_INVOKABLE void openAnother();
     /// How often the data file was written.

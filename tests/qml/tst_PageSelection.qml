@@ -332,6 +332,88 @@ Item {
             compare(contents(), "first|condse|third")
         }
 
+        function test_return_over_it_splits_after_a_line_break_data() {
+            return [
+                { tag: "Return", key: Qt.Key_Return, modifiers: Qt.NoModifier, contents: "o\nfi|Xird" },
+                { tag: "Enter", key: Qt.Key_Enter, modifiers: Qt.KeypadModifier, contents: "o\nfi|Xird" },
+                { tag: "Shift+Return", key: Qt.Key_Return, modifiers: Qt.ShiftModifier, contents: "o\nfi\nXird" },
+            ]
+        }
+
+        function test_return_over_it_splits_after_a_line_break(row) {
+            open([{ type: "textSmall", content: "o\nfirst" }, { type: "textSmall", content: "third" }])
+            select("o", 4, "third", 2)
+            keyClick(row.key, row.modifiers)
+            keyClick("X")
+            compare(contents(), row.contents)
+            press("Ctrl+Z Ctrl+Z")
+            compare(contents(), "o\nfirst|third")
+        }
+
+        function test_a_picture_is_copied_cut_and_pasted() {
+            open([{ type: "textLarge", content: "first" }, { type: "image", picture: "gold" },
+                { type: "textSmall", content: "third" }])
+            bench.copy("kept")
+            go(saying("first"), 5)
+            press("Delete Ctrl+C")
+            compare(kinds(), "textLarge image textSmall")
+            verify(bench.copiedPicture())
+            press("Ctrl+X")
+            compare(kinds(), "textLarge textSmall textSmall")
+            press("Ctrl+V")
+            compare(kinds(), "textLarge textSmall image textSmall")
+        }
+
+        function test_a_picture_is_pasted_over_it() {
+            open(three())
+            bench.copyPicture("gold")
+            select("first", 2, "third", 3)
+            press("Ctrl+V")
+            compare(kinds(), "textLarge image")
+            compare(contents(), "fird|")
+        }
+
+        function test_all_of_it_is_offered_to_the_middle_button() {
+            open(three())
+            select("first", 2, "third", 3)
+            compare(bench.offered(), "rst\nsecond\nthi")
+            go(saying("first"), 2)
+            press("Shift+Down Shift+Down Shift+End")
+            compare(bench.offered(), "rst\nsecond\nthird")
+        }
+
+        function test_the_middle_button_pastes_where_it_is_let_go() {
+            open(three())
+            bench.offer("x\u2028y")
+            const place = saying("second").positionToRectangle(3)
+            bench.releaseMiddleButton(saying("second"), Qt.point(place.x, place.y + place.height / 2))
+            compare(contents(), "first|secx\u2028yond|third")
+            keyClick("Z")
+            compare(contents(), "first|secx\u2028yZond|third")
+        }
+
+        function test_shift_click_on_a_picture_extends_to_all_of_it_data() {
+            return [
+                { tag: "from above", from: "first", caret: 2, left: "fi|third" },
+                { tag: "from below", from: "third", caret: 2, left: "first|ird" },
+            ]
+        }
+
+        function test_shift_click_on_a_picture_extends_to_all_of_it(row) {
+            open([{ type: "textLarge", content: "first" }, { type: "image", picture: "gold" },
+                { type: "textSmall", content: "third" }])
+            tryVerify(() => everything(page).some(item => item instanceof BlockPicture && item.ready))
+            const picture = everything(page).find(item => item instanceof BlockPicture)
+            go(saying(row.from), row.caret)
+            for (const height of [0.25, 0.75]) {
+                const there = picture.mapToItem(page, picture.width / 2, picture.height * height)
+                mouseClick(page, there.x, there.y, Qt.LeftButton, Qt.ShiftModifier)
+                compare(washed(), "image")
+            }
+            press("Delete")
+            compare(contents(), row.left)
+        }
+
         function test_an_input_method_types_over_it() {
             open(three())
             select("first", 2, "third", 3)

@@ -291,6 +291,65 @@ Item {
             compare(written(), "code:ab textSmall:c")
         }
 
+        function test_tab_over_selected_lines_of_code_moves_them_in_one_step_each() {
+            open([{ type: "code", content: "a\nbc\nd" }])
+            go(0, 0)
+            fields()[0].select(1, 3)
+            press(["Tab", "Tab"])
+            compare(written(), "code:\t\ta/\t\tbc/d")
+            compare(fields()[0].selectedText.replace(/\u2029/g, "\n"), "\t\ta\n\t\tb")
+            keyClick(Qt.Key_Backtab)
+            compare(written(), "code:\ta/\tbc/d")
+            press(["Ctrl+Z"])
+            compare(written(), "code:\t\ta/\t\tbc/d")
+            press(["Ctrl+Z", "Ctrl+Z"])
+            compare(written(), "code:a/bc/d")
+        }
+
+        function test_shift_tab_over_lines_without_indentation_changes_nothing() {
+            open([{ type: "code", content: "a\nb" }])
+            go(0, 0)
+            fields()[0].selectAll()
+            keyClick(Qt.Key_Backtab)
+            compare(written(), "code:a/b")
+            verify(fields()[0].activeFocus)
+        }
+
+        function test_backspace_deletes_an_emoji_whole_and_marks_one_by_one_data() {
+            return [
+                { tag: "joined", text: "👩🏽‍💻" },
+                { tag: "flag", text: "🇵🇱" },
+                { tag: "keycap", text: "7️⃣" },
+                { tag: "pictograph", text: "🔥" },
+                { tag: "combining mark", text: "e\u0301", left: "e" },
+            ]
+        }
+
+        function test_backspace_deletes_an_emoji_whole_and_marks_one_by_one(row) {
+            open([{ type: "textSmall", content: "a" + row.text + "b" },
+                { type: "sticky", todos: [{ text: row.text, done: false }] }])
+            go(0, 1 + row.text.length)
+            press(["Backspace"])
+            go(1, -1)
+            press(["Backspace"])
+            const left = row.left ?? ""
+            compare(written(), "textSmall:a" + left + "b sticky[" + left + "]")
+        }
+
+        function test_shift_delete_without_a_selection_joins_nothing() {
+            open([{ type: "textLarge", content: "a" }, { type: "textSmall", content: "b" }])
+            go(0, 1)
+            press(["Shift+Del"])
+            compare(written(), "textLarge:a textSmall:b")
+        }
+
+        function test_shift_enter_of_the_keypad_breaks_the_line() {
+            open([{ type: "textSmall", content: "onetwo" }])
+            go(0, 3)
+            keyClick(Qt.Key_Enter, Qt.ShiftModifier | Qt.KeypadModifier)
+            compare(written(), "textSmall:one/two")
+        }
+
         function test_a_click_below_the_last_block_goes_on_there_data() {
             return [
                 { tag: "empty", last: { type: "textSmall" }, written: "textLarge:t textSmall:x" },
@@ -305,6 +364,13 @@ Item {
             mouseClick(page, page.width / 2, 480)
             type("x")
             compare(written(), row.written)
+        }
+
+        function test_a_click_on_a_page_without_blocks_begins_one() {
+            open([])
+            mouseClick(page, page.width / 2, page.height / 2)
+            type("x")
+            compare(written(), "textSmall:x")
         }
 
         function test_a_click_on_the_page_elsewhere_adds_nothing() {

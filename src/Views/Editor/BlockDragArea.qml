@@ -9,6 +9,7 @@ MouseArea {
 
     required property BlockDrag blocks
     required property ListView list
+    required property PageCaret caret
 
     readonly property bool dragging: blocks.draggingBlockID !== ""
     /// How far the pointer is over the line from which the page scrolls; negative at the top.
@@ -74,6 +75,9 @@ MouseArea {
     onCanceled: giveUp()
     onPositionChanged: mouse => { if (taken !== "") pullTo(Qt.point(mouse.x, mouse.y)) }
     onPressed: mouse => {
+        pressedRow = null
+        if (mouse.modifiers & Qt.ShiftModifier && caret.extendTo(Qt.point(mouse.x, mouse.y)))
+            return
         const row = list.itemAt(list.width / 2, list.contentY + mouse.y) as BlockRow
         mouse.accepted = row !== null && list.count > 1
         if (mouse.accepted)

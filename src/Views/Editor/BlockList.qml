@@ -67,10 +67,10 @@ FocusScope {
         scroll.glide(from, list.contentY)
     }
 
-    /// A click under the last block goes on writing there.
+    /// A click under the last block, or on a page without any, goes on writing there.
     function writeBelow(position: point) {
         const last = list.itemAtIndex(list.count - 1)
-        if (last && list.mapToItem(last, position).y > last.height)
+        if (list.count === 0 || last && list.mapToItem(last, position).y > last.height)
             editor.keys.writeBelow()
     }
 
@@ -172,6 +172,7 @@ FocusScope {
 
         anchors.fill: parent
         blocks: root.editor.drag
+        caret: pageCaret
         list: list
         onScrollRequested: distance => scroll.scrollBy(distance)
     }

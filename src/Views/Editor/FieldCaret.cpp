@@ -50,6 +50,12 @@ int FieldCaret::anchor() const
     return start == caret() ? field().property("selectionEnd").toInt() : start;
 }
 
+BlockSelection FieldCaret::selection() const
+{
+    return {.anchor = {.passage = passage(), .offset = anchor()},
+            .head = {.passage = passage(), .offset = caret()}};
+}
+
 bool FieldCaret::isAllSelected() const
 {
     return qAbs(anchor() - caret()) == field().property("length").toInt();
@@ -123,6 +129,8 @@ bool FieldCaret::eventFilter(QObject *, QEvent *event)
     case QEvent::MouseMove:
         return m_page->pointer().moved(*this, *static_cast<QMouseEvent *>(event));
     case QEvent::MouseButtonRelease:
+        return m_page->pointer().pastes(*this, *static_cast<QMouseEvent *>(event)) ||
+               m_page->pointer().released();
     case QEvent::UngrabMouse:
         return m_page->pointer().released();
     default:

@@ -34,6 +34,7 @@ public:
     /// The end of the selection where the caret stands, and the other one.
     int caret() const;
     int anchor() const;
+    BlockSelection selection() const;
     bool isAllSelected() const;
     bool isComposing() const { return field().property("inputMethodComposing").toBool(); }
     /// Whether the field can follow that key by itself.

@@ -16,6 +16,12 @@ qreal distance(const QRectF &place, qreal y)
     return std::max({place.top() - y, y - place.bottom(), 0.0});
 }
 
+bool isText(const Passages &passages, const PassageID &id)
+{
+    const qsizetype index = passages.indexOf(id);
+    return index >= 0 && passages.at(index).text.has_value();
+}
+
 } // namespace
 
 PageCaret::PageCaret(QObject *parent) : QObject(parent) {}
@@ -82,7 +88,10 @@ std::optional<PagePosition> PageCaret::nearest(QPointF point, bool onlyInText) c
         least = distance(place, point.y());
         found = position(point - place.topLeft(), place.size());
     };
+    const Passages &passages = m_selection->passages();
     for (const FieldCaret *field : m_fields) {
+        if (!isText(passages, field->passage()))
+            continue;
         consider(field->field(), [&](QPointF inside, QSizeF) {
             return PagePosition{.passage = field->passage(),
                                 .offset = TextLines::nearest(field->text(), inside)};
@@ -90,8 +99,7 @@ std::optional<PagePosition> PageCaret::nearest(QPointF point, bool onlyInText) c
     }
     for (const BlockPlace *block : m_blocks) {
         const PassageID passage{.blockID = block->blockID()};
-        const bool isThing = m_selection->passages().indexOf(passage) >= 0 && !m_fields.contains(passage);
-        if (!isThing || onlyInText)
+        if (onlyInText || passages.indexOf(passage) < 0 || isText(passages, passage))
             continue;
         consider(*block->item(), [&](QPointF inside, QSizeF size) {
             return PagePosition{.passage = passage, .offset = inside.y() > size.height() / 2 ? 1 : 0};
@@ -131,6 +139,7 @@ void PageCaret::show(const BlockSelection &selection)
 void PageCaret::select(const BlockSelection &selection)
 {
     show(selection);
+    m_selection->offer();
     const PassageID &head = selection.head.passage;
     const qsizetype index = m_selection->passages().indexOf(head);
     if (index >= 0 && m_selection->passages().at(index).text) {
@@ -139,6 +148,21 @@ void PageCaret::select(const BlockSelection &selection)
     } else if (const BlockPlace *block = m_blocks.value(head.blockID)) {
         Q_EMIT showRequested(block->item());
     }
+}
+
+bool PageCaret::extendTo(QPointF point)
+{
+    auto head = nearest(point, false);
+    if (!head || !m_current)
+        return false;
+    const auto &selected = m_selection->selection();
+    const PagePosition anchor = selected ? selected->anchor : m_current->selection().anchor;
+    const Passages &passages = m_selection->passages();
+    const qsizetype index = passages.indexOf(head->passage);
+    if (!passages.at(index).text)
+        head->offset = index > passages.indexOf(anchor.passage) ? 1 : 0;
+    select({.anchor = anchor, .head = *head});
+    return true;
 }
 
 void PageCaret::giveUp()

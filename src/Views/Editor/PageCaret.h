@@ -54,6 +54,10 @@ public:
     /// Selects, and leaves the focus where it is.
     void show(const BlockSelection &selection);
 
+    /// Shift and a click on something that is not text: selects from where the caret is to what is nearest to
+    /// a point in the view, with all of it. Tells whether there is a caret.
+    Q_INVOKABLE bool extendTo(QPointF point);
+
     /// Selects nothing any more, and leaves the caret where it is.
     void giveUp();
     /// A field got the focus.

@@ -42,24 +42,45 @@ bool PageKeys::pressed(FieldCaret &field, const QKeyEvent &event)
         selectPage();
         return true;
     }
-    const auto key = caretKey(event);
-    if (!key || field.isComposing() || field.follows(*key))
+    if (field.isComposing())
         return false;
-    const PassageID passage = field.passage();
-    return go({.anchor = {.passage = passage, .offset = field.anchor()},
-               .head = {.passage = passage, .offset = field.caret()}},
-              *key);
+    const BlockSelection selected = field.selection();
+    if (usesPasteboard(selected, event))
+        return true;
+    const auto key = caretKey(event);
+    return key && !field.follows(*key) && go(selected, *key);
+}
+
+bool PageKeys::usesPasteboard(const BlockSelection &selected, const QKeyEvent &event)
+{
+    if (event.matches(QKeySequence::Paste))
+        return selection().pasteText(selected);
+    const bool cuts = event.matches(QKeySequence::Cut);
+    if (selected.anchor == selected.head || !(cuts || event.matches(QKeySequence::Copy)))
+        return false;
+    cuts ? selection().cutText(selected) : selection().copyText(selected);
+    return true;
 }
 
 bool PageKeys::pressed(const BlockPlace &block, const QKeyEvent &event)
 {
-    const auto key = caretKey(event);
     if (selection().isCrossing())
         return pressedWhileSelected(event);
+    if (event.matches(QKeySequence::Copy) || event.matches(QKeySequence::Cut))
+        return copies(block, event);
+    const auto key = caretKey(event);
     if (!key)
         return false;
     PagePosition near{.passage = {.blockID = block.blockID()}, .offset = isForward(key->move, false) ? 0 : 1};
     return go({.anchor = near, .head = near}, *key);
+}
+
+bool PageKeys::copies(const BlockPlace &block, const QKeyEvent &event)
+{
+    const PassageID passage{.blockID = block.blockID()};
+    const BlockSelection whole{.anchor = {.passage = passage, .offset = 0},
+                               .head = {.passage = passage, .offset = 1}};
+    return selection().select(whole) && change(event);
 }
 
 bool PageKeys::pressedWhileSelected(const QKeyEvent &event)
@@ -94,6 +115,12 @@ bool PageKeys::change(const QKeyEvent &event)
         return true;
     case SelectionKey::Action::remove:
         selection().remove();
+        return true;
+    case SelectionKey::Action::split:
+        selection().split();
+        return true;
+    case SelectionKey::Action::breakLine:
+        selection().breakLine();
         return true;
     case SelectionKey::Action::type:
         selection().replace(key.text);

@@ -25,6 +25,10 @@ public:
 private:
     bool pressedWhileSelected(const QKeyEvent &event);
     bool change(const QKeyEvent &event);
+    /// Copy, Cut and Paste in one text. A field by itself would turn some characters into others.
+    bool usesPasteboard(const BlockSelection &selected, const QKeyEvent &event);
+    /// Copy and Cut take the block as a whole.
+    bool copies(const BlockPlace &block, const QKeyEvent &event);
     bool go(const BlockSelection &from, const CaretKey &key);
     void collapse(bool toEnd);
     void selectPage();

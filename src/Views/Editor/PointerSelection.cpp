@@ -2,6 +2,7 @@
 
 #include "FieldCaret.h"
 #include "PageCaret.h"
+#include "TextLines.h"
 
 #include <QMouseEvent>
 
@@ -77,6 +78,17 @@ bool PointerSelection::released()
     if (wasDragging && selection)
         m_page.select(*selection);
     return wasDragging && !isOwned;
+}
+
+bool PointerSelection::pastes(FieldCaret &field, const QMouseEvent &event)
+{
+    if (event.button() != Qt::MiddleButton)
+        return false;
+    const int offset = TextLines::nearest(field.text(), event.position());
+    if (!m_page.selection()->pasteSelectedText({.passage = field.passage(), .offset = offset}))
+        return false;
+    field.takeFocus();
+    return true;
 }
 
 void PointerSelection::carryOn()

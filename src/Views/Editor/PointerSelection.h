@@ -19,6 +19,8 @@ public:
     bool pressed(FieldCaret &field, QMouseEvent &event);
     bool moved(const FieldCaret &field, const QMouseEvent &event);
     bool released();
+    /// The middle button pastes what was selected last, where it is let go.
+    bool pastes(FieldCaret &field, const QMouseEvent &event);
 
     /// How far the pointer is over an edge of the view; negative above.
     qreal pull() const { return m_pull; }

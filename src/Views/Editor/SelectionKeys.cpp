@@ -45,7 +45,7 @@ SelectionKey selectionKey(const QKeyEvent &event)
         return {.action = Action::remove};
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return {.action = Action::type, .text = QStringLiteral("\n")};
+        return {.action = event.modifiers() & Qt::ShiftModifier ? Action::breakLine : Action::split};
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
         return {.action = Action::leave};
