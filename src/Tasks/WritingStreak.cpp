@@ -19,8 +19,8 @@ std::optional<qint64> daysBetween(const QDate &first, const QDate &second)
 qint64 onePlus(qint64 streak)
 {
     qint64 sum = 0;
-    [[maybe_unused]] const bool overflows = __builtin_add_overflow(streak, 1, &sum);
-    Q_ASSERT(!overflows);
+    if (__builtin_add_overflow(streak, 1, &sum))
+        qFatal("WritingStreak: the streak overflows.");
     return sum;
 }
 } // namespace

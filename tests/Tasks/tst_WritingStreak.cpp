@@ -6,6 +6,10 @@
 
 #include <limits>
 
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace
@@ -55,6 +59,7 @@ private Q_SLOTS:
     void aStoredZeroOfTodayStaysZero();
     void aDateBeyondAnyCalendarBeginsAnew();
     void aZoneThatIsNoneLeavesTheCountAlone();
+    void anOverflowEndsTheProgram();
     void theGoalIsReachedAtFiveHundredAndStaysReached();
 };
 
@@ -218,6 +223,24 @@ void tst_WritingStreak::aZoneThatIsNoneLeavesTheCountAlone()
     QCOMPARE(WritingStreak::currentStreak(user.preferences, timeIn(u"2026-11-21T12:00:00"_s), QTimeZone()),
              5);
     QCOMPARE(user.preferences.writes, 0);
+}
+
+void tst_WritingStreak::anOverflowEndsTheProgram()
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        std::signal(SIGABRT, SIG_DFL);
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+        User user;
+        user.preferences.values = {{currentStreak, std::numeric_limits<qint64>::max()},
+                                   {lastWriteDate, timeIn(u"2026-11-20T00:00:00"_s)}};
+        user.uses(u"2026-11-21T12:00:00"_s);
+        _exit(0);
+    }
+    int status = 0;
+    QCOMPARE(waitpid(child, &status, 0), child);
+    QVERIFY(WIFSIGNALED(status));
+    QCOMPARE(WTERMSIG(status), SIGABRT);
 }
 
 void tst_WritingStreak::theGoalIsReachedAtFiveHundredAndStaysReached()

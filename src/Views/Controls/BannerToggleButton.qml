@@ -4,6 +4,6 @@ import Pelko
 HoverCapsule {
     required property bool isBanner
 
-    name: isBanner ? "Unbanner" : "Banner"
+    name: isBanner ? qsTr("Unbanner") : qsTr("Banner")
     icon.name: isBanner ? "rectangle.compress.vertical" : "rectangle.expand.vertical"
 }

@@ -41,7 +41,7 @@ PressableControl {
         x: (capsule.width - capsule.contentWidth) / 2
         anchors.verticalCenter: parent.verticalCenter
         name: capsule.icon.name
-        size: 12
+        size: 10
         color: Qt.alpha(FirePalette.ink, 0.86 + 0.1 * capsule.unfolded)
     }
 
