@@ -24,9 +24,11 @@ QChar shownAs(QChar character, QChar next)
     return isReserved(character) ? QChar(QChar::ReplacementCharacter) : character;
 }
 
+/// Asked of every character with every key.
 bool isShownAsItIs(QChar character)
 {
-    return character == u'\n' || !(isLineBreak(character) || isReserved(character));
+    const bool isCommon = character >= u' ' && character <= u'~';
+    return isCommon || character == u'\n' || !(isLineBreak(character) || isReserved(character));
 }
 
 } // namespace
