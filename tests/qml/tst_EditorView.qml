@@ -309,6 +309,15 @@ Item {
             verify(named("Plan").length === 1)
         }
 
+        function test_the_title_is_shown_on_one_line_data() {
+            return ["\n", "\r", "\u2028", "\u2029", "\u0085", " \r\n "].map(between => ({ tag: escape(between), between: between }))
+        }
+
+        function test_the_title_is_shown_on_one_line(row) {
+            open([{ type: "textLarge", content: "Plan" + row.between + "B" }])
+            verify(named("Plan B").length === 1)
+        }
+
         function test_opening_shows_the_empty_block_that_takes_the_caret() {
             const lines = Array.from({ length: 60 }, (_, i) => ({ type: "textSmall", content: "line " + i }))
             open(lines.concat([{ type: "quote" }]))

@@ -380,6 +380,8 @@ Item {
             go(saying("first"), 2)
             press("Shift+Down Shift+Down Shift+End")
             compare(bench.offered(), "rst\nsecond\nthird")
+            press("Ctrl+A Ctrl+A")
+            compare(bench.offered(), "first\nsecond\nthird")
         }
 
         function test_the_middle_button_pastes_where_it_is_let_go() {

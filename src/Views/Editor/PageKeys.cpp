@@ -19,6 +19,7 @@ void PageKeys::selectPage()
     const Passages &passages = selection().passages();
     if (const auto start = passages.start())
         m_page.show({.anchor = *start, .head = *passages.end()});
+    selection().offer();
 }
 
 void PageKeys::collapse(bool toEnd)

@@ -38,7 +38,7 @@ GlassSurface {
             font: Typography.capsule
             maximumLineCount: 1
             renderType: Text.NativeRendering
-            text: root.title.replace(/\s*\n\s*/g, " ")
+            text: root.title.replace(/\s*[\n-\r\u0085\u2028\u2029]\s*/g, " ")
             textFormat: Text.PlainText
             width: Math.min(implicitWidth, root.maximumWidth - 2 * Metrics.space12 - Metrics.capsuleDot - Metrics.space8
                             - root.tickWidth)
