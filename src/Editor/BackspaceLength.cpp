@@ -1,5 +1,6 @@
 #include "Editor/BackspaceLength.h"
 
+#include <QList>
 #include <QTextBoundaryFinder>
 
 #include <algorithm>

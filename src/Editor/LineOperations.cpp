@@ -4,6 +4,7 @@
 #include "Models/LineBreaks.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace
 {
@@ -118,8 +119,8 @@ std::optional<Edit> LineOperations::indent(PelkoDocument document, const FocusTa
     if (!found)
         return std::nullopt;
     const QList<qsizetype> starts = startsOfLines(*found->text, within(*found->text, selected));
-    std::for_each(starts.rbegin(), starts.rend(),
-                  [&](qsizetype start) { found->text->insert(start, u'\t'); });
+    for (const qsizetype start : std::views::reverse(starts))
+        found->text->insert(start, u'\t');
     return Edit{.document = std::move(document)};
 }
 
@@ -131,7 +132,7 @@ std::optional<Edit> LineOperations::unindent(PelkoDocument document, const Focus
         return std::nullopt;
     QString &text = *found->text;
     const QList<qsizetype> starts = startsOfLines(text, within(text, selected));
-    std::for_each(starts.rbegin(), starts.rend(),
-                  [&](qsizetype start) { text.remove(start, indentation(QStringView(text).sliced(start))); });
+    for (const qsizetype start : std::views::reverse(starts))
+        text.remove(start, indentation(QStringView(text).sliced(start)));
     return Edit{.document = std::move(document)};
 }
