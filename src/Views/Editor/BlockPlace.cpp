@@ -4,12 +4,6 @@
 
 #include <QQuickWindow>
 
-BlockPlace::~BlockPlace()
-{
-    if (m_page)
-        m_page->remove(*this);
-}
-
 void BlockPlace::componentComplete()
 {
     m_item->installEventFilter(this);
@@ -26,13 +20,13 @@ void BlockPlace::setCovered(bool covered)
 
 bool BlockPlace::hasFocus() const
 {
-    const QQuickItem *focused = m_item->window()->activeFocusItem();
+    const QQuickItem *focused = isOnPage() ? m_item->window()->activeFocusItem() : nullptr;
     return focused && (focused == m_item || focused == m_control);
 }
 
 bool BlockPlace::eventFilter(QObject *, QEvent *event)
 {
     // Keys that a field or a control has left unused come by here as well.
-    const bool isMine = event->type() == QEvent::KeyPress && m_page && hasFocus();
+    const bool isMine = event->type() == QEvent::KeyPress && hasFocus();
     return isMine && m_page->keys().pressed(*this, *static_cast<QKeyEvent *>(event));
 }

@@ -22,9 +22,10 @@ class BlockPlace : public QObject, public QQmlParserStatus
 
 public:
     using QObject::QObject;
-    ~BlockPlace() override;
 
-    QUuid blockID() const { return QUuid(m_blockID); }
+    QUuid id() const { return QUuid(m_blockID); }
+    /// A row that has left the view is in no window any more, even before it is destroyed.
+    bool isOnPage() const { return m_page && m_item && m_item->window(); }
     QQuickItem *item() const { return m_item; }
     bool isCovered() const { return m_isCovered; }
     void setCovered(bool covered);

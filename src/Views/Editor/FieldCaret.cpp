@@ -5,12 +5,6 @@
 
 #include <QTextDocument>
 
-FieldCaret::~FieldCaret()
-{
-    if (m_page)
-        m_page->remove(*this);
-}
-
 void FieldCaret::componentComplete()
 {
     field().installEventFilter(this);
@@ -21,7 +15,7 @@ void FieldCaret::componentComplete()
     m_page->add(*this);
 }
 
-PassageID FieldCaret::passage() const
+PassageID FieldCaret::id() const
 {
     PassageID id{.blockID = QUuid(m_blockID)};
     if (!m_todoID.isEmpty())
@@ -52,8 +46,8 @@ int FieldCaret::anchor() const
 
 BlockSelection FieldCaret::selection() const
 {
-    return {.anchor = {.passage = passage(), .offset = anchor()},
-            .head = {.passage = passage(), .offset = caret()}};
+    return {.anchor = {.passage = id(), .offset = anchor()},
+            .head = {.passage = id(), .offset = caret()}};
 }
 
 bool FieldCaret::isAllSelected() const
@@ -85,7 +79,7 @@ void FieldCaret::select(int anchor, int caret)
 
 void FieldCaret::show(const SelectedParts &parts, const std::optional<BlockSelection> &selection)
 {
-    const SelectedPart *part = parts.of(passage());
+    const SelectedPart *part = parts.of(id());
     setSelectedEmpty(part && part->passage.length() == 0 && part != &parts.all().last());
     // What is selected as a whole is washed over.
     if (part && !parts.covers(part->passage.id.blockID))

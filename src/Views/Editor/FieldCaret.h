@@ -24,10 +24,11 @@ class FieldCaret : public QObject, public QQmlParserStatus
 
 public:
     using QObject::QObject;
-    ~FieldCaret() override;
 
-    PassageID passage() const;
+    PassageID id() const;
     QQuickItem &field() const;
+    /// The row of a block that has left the view is in no window any more, even before it is destroyed.
+    bool isOnPage() const { return m_page && field().window(); }
     const QTextDocument &text() const;
     bool hasFocus() const { return field().hasActiveFocus(); }
 

@@ -39,42 +39,30 @@ void PageCaret::setSelection(PageSelection *selection)
 
 void PageCaret::add(FieldCaret &field)
 {
-    m_fields.insert(field.passage(), &field);
+    m_fields.add(field);
     field.show(m_selection->parts(), m_selection->selection());
 }
 
 void PageCaret::add(BlockPlace &block)
 {
-    m_blocks.insert(block.blockID(), &block);
-    block.setCovered(m_selection->parts().covers(block.blockID()));
-}
-
-// A row that is made anew stands beside the old one for a moment.
-void PageCaret::remove(FieldCaret &field)
-{
-    if (m_fields.value(field.passage()) == &field)
-        m_fields.remove(field.passage());
-}
-
-void PageCaret::remove(BlockPlace &block)
-{
-    if (m_blocks.value(block.blockID()) == &block)
-        m_blocks.remove(block.blockID());
+    m_blocks.add(block);
+    block.setCovered(m_selection->parts().covers(block.id()));
 }
 
 FieldCaret *PageCaret::field(const PassageID &passage)
 {
-    if (!m_fields.contains(passage))
-        Q_EMIT rowNeeded(passage.blockID.toString(QUuid::WithoutBraces));
-    return m_fields.value(passage);
+    if (FieldCaret *found = m_fields.find(passage))
+        return found;
+    Q_EMIT rowNeeded(passage.blockID.toString(QUuid::WithoutBraces));
+    return m_fields.find(passage);
 }
 
 void PageCaret::showSelection()
 {
-    for (FieldCaret *field : std::as_const(m_fields))
+    for (FieldCaret *field : m_fields.all())
         field->show(m_selection->parts(), m_selection->selection());
-    for (BlockPlace *block : std::as_const(m_blocks))
-        block->setCovered(m_selection->parts().covers(block->blockID()));
+    for (BlockPlace *block : m_blocks.all())
+        block->setCovered(m_selection->parts().covers(block->id()));
 }
 
 std::optional<PagePosition> PageCaret::nearest(QPointF point, bool onlyInText) const
@@ -89,16 +77,16 @@ std::optional<PagePosition> PageCaret::nearest(QPointF point, bool onlyInText) c
         found = position(point - place.topLeft(), place.size());
     };
     const Passages &passages = m_selection->passages();
-    for (const FieldCaret *field : m_fields) {
-        if (!isText(passages, field->passage()))
+    for (const FieldCaret *field : m_fields.all()) {
+        const PassageID passage = field->id();
+        if (!isText(passages, passage))
             continue;
         consider(field->field(), [&](QPointF inside, QSizeF) {
-            return PagePosition{.passage = field->passage(),
-                                .offset = TextLines::nearest(field->text(), inside)};
+            return PagePosition{.passage = passage, .offset = TextLines::nearest(field->text(), inside)};
         });
     }
-    for (const BlockPlace *block : m_blocks) {
-        const PassageID passage{.blockID = block->blockID()};
+    for (const BlockPlace *block : m_blocks.all()) {
+        const PassageID passage{.blockID = block->id()};
         if (onlyInText || passages.indexOf(passage) < 0 || isText(passages, passage))
             continue;
         consider(*block->item(), [&](QPointF inside, QSizeF size) {
@@ -141,11 +129,10 @@ void PageCaret::select(const BlockSelection &selection)
     show(selection);
     m_selection->offer();
     const PassageID &head = selection.head.passage;
-    const qsizetype index = m_selection->passages().indexOf(head);
-    if (index >= 0 && m_selection->passages().at(index).text) {
+    if (isText(m_selection->passages(), head)) {
         if (FieldCaret *target = field(head))
             focus(*target);
-    } else if (const BlockPlace *block = m_blocks.value(head.blockID)) {
+    } else if (const BlockPlace *block = m_blocks.find(head.blockID)) {
         Q_EMIT showRequested(block->item());
     }
 }
@@ -168,8 +155,8 @@ bool PageCaret::extendTo(QPointF point)
 void PageCaret::giveUp()
 {
     m_selection->clear();
-    if (m_current)
-        m_current->deselect();
+    if (FieldCaret *field = current())
+        field->deselect();
 }
 
 void PageCaret::focus(FieldCaret &field)
@@ -180,7 +167,7 @@ void PageCaret::focus(FieldCaret &field)
 
 FieldCaret *PageCaret::current() const
 {
-    return m_current;
+    return m_current && m_current->isOnPage() ? m_current : nullptr;
 }
 
 void PageCaret::entered(FieldCaret &field)
@@ -189,7 +176,8 @@ void PageCaret::entered(FieldCaret &field)
     if (!m_isMoving && m_current != &field)
         m_selection->clear();
     // There is one selection on a page.
-    if (m_current && m_current != &field && !m_selection->isCrossing())
-        m_current->deselect();
+    FieldCaret *last = current();
+    if (last && last != &field && !m_selection->isCrossing())
+        last->deselect();
     m_current = &field;
 }

@@ -2,6 +2,7 @@
 
 #include "Editor/PageSelection.h"
 #include "PageKeys.h"
+#include "PageMembers.h"
 #include "PointerSelection.h"
 
 #include <QPointer>
@@ -37,12 +38,10 @@ public:
 
     void add(FieldCaret &field);
     void add(BlockPlace &block);
-    void remove(FieldCaret &field);
-    void remove(BlockPlace &block);
 
     /// The field of that passage, for which the view makes the row if need be; null where there is none.
     FieldCaret *field(const PassageID &passage);
-    /// The field that has the focus, or had it last.
+    /// The field that has the focus, or had it last; null when it has left the page.
     FieldCaret *current() const;
     /// The place on the page, among the rows that the view has made, nearest to a point in the view.
     std::optional<PagePosition> nearest(QPointF point, bool onlyInText) const;
@@ -80,8 +79,8 @@ private:
     QPointer<PageSelection> m_selection;
     QPointer<QQuickItem> m_view;
     qreal m_pageStep = 0;
-    QHash<PassageID, FieldCaret *> m_fields;
-    QHash<QUuid, BlockPlace *> m_blocks;
+    PageMembers<FieldCaret> m_fields;
+    PageMembers<BlockPlace> m_blocks;
     QPointer<FieldCaret> m_current;
     bool m_isMoving = false;
     PageKeys m_keys{*this};

@@ -72,13 +72,13 @@ bool PageKeys::pressed(const BlockPlace &block, const QKeyEvent &event)
     const auto key = caretKey(event);
     if (!key)
         return false;
-    PagePosition near{.passage = {.blockID = block.blockID()}, .offset = isForward(key->move, false) ? 0 : 1};
+    PagePosition near{.passage = {.blockID = block.id()}, .offset = isForward(key->move, false) ? 0 : 1};
     return go({.anchor = near, .head = near}, *key);
 }
 
 bool PageKeys::copies(const BlockPlace &block, const QKeyEvent &event)
 {
-    const PassageID passage{.blockID = block.blockID()};
+    const PassageID passage{.blockID = block.id()};
     const BlockSelection whole{.anchor = {.passage = passage, .offset = 0},
                                .head = {.passage = passage, .offset = 1}};
     return selection().select(whole) && change(event);

@@ -31,7 +31,7 @@ bool PointerSelection::extendFrom(const FieldCaret &field, QMouseEvent &event)
     if (!head || !current || (!selection && current == &field))
         return false;
     m_start = selection ? selection->anchor
-                        : PagePosition{.passage = current->passage(), .offset = current->anchor()};
+                        : PagePosition{.passage = current->id(), .offset = current->anchor()};
     m_end = m_start;
     m_owner = nullptr;
     m_isFresh = false;
@@ -47,8 +47,8 @@ bool PointerSelection::moved(const FieldCaret &field, const QMouseEvent &event)
         return false;
     if (m_isFresh) {
         const auto [start, end] = std::minmax({field.anchor(), field.caret()});
-        m_start = {.passage = field.passage(), .offset = start};
-        m_end = {.passage = field.passage(), .offset = end};
+        m_start = {.passage = field.id(), .offset = start};
+        m_end = {.passage = field.id(), .offset = end};
         m_isFresh = false;
     }
     m_pointer = m_page.view().mapFromScene(event.scenePosition());
@@ -56,7 +56,7 @@ bool PointerSelection::moved(const FieldCaret &field, const QMouseEvent &event)
     const auto head = m_page.nearest(m_pointer, false);
     if (!head)
         return m_isDragging;
-    if (m_owner && head->passage == field.passage() && m_pull == 0) {
+    if (m_owner && head->passage == field.id() && m_pull == 0) {
         m_isDragging = false;
         m_page.selection()->clear();
         return false;
@@ -85,7 +85,7 @@ bool PointerSelection::pastes(FieldCaret &field, const QMouseEvent &event)
     if (event.button() != Qt::MiddleButton)
         return false;
     const int offset = TextLines::nearest(field.text(), event.position());
-    if (!m_page.selection()->pasteSelectedText({.passage = field.passage(), .offset = offset}))
+    if (!m_page.selection()->pasteSelectedText({.passage = field.id(), .offset = offset}))
         return false;
     field.takeFocus();
     return true;

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QList>
+#include <QPointer>
+
+#include <algorithm>
+#include <ranges>
+
+/// The fields or the blocks of a page, which the view creates and destroys as it scrolls. A member is found only while
+/// it exists and is on the page: one that has left, or is being destroyed, need not be taken out.
+template <typename Member> class PageMembers
+{
+public:
+    void add(Member &member)
+    {
+        m_members.removeIf([](const QPointer<Member> &known) { return known.isNull(); });
+        m_members.append(&member);
+    }
+
+    /// The latest comes first: a row that is created anew can stand beside the old one.
+    QList<Member *> all() const
+    {
+        QList<Member *> found;
+        for (const QPointer<Member> &member : std::views::reverse(m_members)) {
+            if (member && member->isOnPage())
+                found.append(member);
+        }
+        return found;
+    }
+
+    /// The latest member whose `id()` is that one; null if there is none.
+    template <typename ID> Member *find(const ID &id) const
+    {
+        const auto found = std::ranges::find_if(
+            m_members.crbegin(), m_members.crend(), [&](const QPointer<Member> &member) {
+                return member && member->isOnPage() && member->id() == id;
+            });
+        return found == m_members.crend() ? nullptr : found->data();
+    }
+
+private:
+    QList<QPointer<Member>> m_members;
+};
