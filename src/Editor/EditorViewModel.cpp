@@ -167,12 +167,14 @@ void EditorViewModel::removeTodo(const QString &blockID, const QString &todoID)
 
 void EditorViewModel::undo()
 {
+    Q_EMIT settleRequested();
     if (const auto edit = m_session.undo())
         goOn(*edit);
 }
 
 void EditorViewModel::redo()
 {
+    Q_EMIT settleRequested();
     if (const auto edit = m_session.redo())
         goOn(*edit);
 }

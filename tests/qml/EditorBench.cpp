@@ -1,12 +1,12 @@
 #include "EditorBench.h"
 
 #include "Editor/PictureBytes.h"
+#include "InputMethodBench.h"
 
 #include <QBuffer>
 #include <QColor>
 #include <QGuiApplication>
 #include <QImage>
-#include <QInputMethodEvent>
 #include <QMimeData>
 #include <QQuickWindow>
 
@@ -114,15 +114,12 @@ void EditorBench::advance(int milliseconds)
 
 void EditorBench::compose(const QString &preedit)
 {
-    QInputMethodEvent event(preedit, {});
-    QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+    InputMethodBench().compose(preedit);
 }
 
 void EditorBench::commit(const QString &text, const QString &preedit)
 {
-    QInputMethodEvent event(preedit, {});
-    event.setCommitString(text);
-    QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
+    InputMethodBench().commit(text, preedit);
 }
 
 int EditorBench::cursorOf(QQuickItem *item) const

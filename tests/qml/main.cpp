@@ -1,6 +1,7 @@
 #include "ChooserBench.h"
 #include "EditorBench.h"
 #include "ExportBench.h"
+#include "InputMethodBench.h"
 #include "ShellFixture.h"
 #include "TasksBench.h"
 #include "TimersBench.h"
@@ -26,6 +27,7 @@ public Q_SLOTS:
         qmlRegisterType<ChooserBench>("PelkoTest", 1, 0, "ChooserBench");
         qmlRegisterType<EditorBench>("PelkoTest", 1, 0, "EditorBench");
         qmlRegisterType<ExportBench>("PelkoTest", 1, 0, "ExportBench");
+        qmlRegisterType<InputMethodBench>("PelkoTest", 1, 0, "InputMethodBench");
         qmlRegisterType<ShellFixture>("PelkoTest", 1, 0, "ShellFixture");
         qmlRegisterType<ShellWithMenuBar>("PelkoTest", 1, 0, "ShellWithMenuBar");
         qmlRegisterType<TasksBench>("PelkoTest", 1, 0, "TasksBench");

@@ -41,6 +41,16 @@ TextInput {
         return getText(Math.max(0, cursorPosition - 256), cursorPosition)
     }
 
+    // Return ends a composition before it ends the line.
+    function settles(event: KeyEvent) {
+        event.accepted = preeditText !== ""
+        Composition.settle(field)
+    }
+
+    Keys.onEnterPressed: event => settles(event)
+    Keys.onReturnPressed: event => settles(event)
+    onActiveFocusChanged: if (!activeFocus) Composition.settle(field)
+
     text: content
     onTextEdited: report()
     Keys.onPressed: event => event.key === Qt.Key_Backspace ? eraseBackwards(event) : event.accepted = false

@@ -3,10 +3,6 @@
 #include "Editor/ShownText.h"
 #include "Editor/TextChange.h"
 
-#include <QGuiApplication>
-#include <QInputMethod>
-#include <QInputMethodEvent>
-#include <QQuickItem>
 #include <QScopedValueRollback>
 #include <QTextBlockFormat>
 #include <QTextCursor>
@@ -68,20 +64,6 @@ void BlockText::report(int caret)
     const QScopedValueRollback updating(m_isUpdating, true);
     Q_EMIT edited(ShownText::changed(m_content, value, caret));
     show();
-}
-
-void BlockText::askInputMethod() const
-{
-    QGuiApplication::inputMethod()->commit();
-}
-
-void BlockText::commit(QQuickItem *field, const QString &composed)
-{
-    if (!field || composed.isEmpty())
-        return;
-    QInputMethodEvent event;
-    event.setCommitString(composed);
-    QCoreApplication::sendEvent(field, &event);
 }
 
 void BlockText::show()

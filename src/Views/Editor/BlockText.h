@@ -4,7 +4,6 @@
 #include <QQuickTextDocument>
 #include <QtQml/qqml.h>
 
-class QQuickItem;
 class QTextDocument;
 
 /// Keeps a text field and the text of a block the same, both ways, without ever losing the caret. A text
@@ -33,15 +32,9 @@ public:
     void setLineHeight(qreal lineHeight);
 
     /// Announces the field's text if the writer has changed it. To be called when it may have changed, but
-    /// not while an input method composes. Whatever the store made of it is in the field afterwards. `caret`
+    /// not while the field has preedit text. Whatever the store made of it is in the field afterwards. `caret`
     /// is where the caret stands now.
     Q_INVOKABLE void report(int caret);
-
-    /// Has the input method settle on what it is composing, if it does so when asked.
-    Q_INVOKABLE void askInputMethod() const;
-
-    /// Puts what an input method has composed into the field, as if it had been settled on.
-    Q_INVOKABLE void commit(QQuickItem *field, const QString &composed);
 
 Q_SIGNALS:
     void documentChanged();

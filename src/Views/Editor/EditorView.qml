@@ -136,7 +136,7 @@ FocusScope {
 
     Connections {
         function onSettleRequested() {
-            (root.Window.activeFocusItem as WritingField)?.settle()
+            Composition.settle(root.Window.activeFocusItem)
         }
 
         target: root.editor

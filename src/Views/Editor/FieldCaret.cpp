@@ -1,5 +1,6 @@
 #include "FieldCaret.h"
 
+#include "Composition.h"
 #include "PageCaret.h"
 #include "TextLines.h"
 
@@ -119,6 +120,7 @@ bool FieldCaret::eventFilter(QObject *, QEvent *event)
         return m_page->keys().composed(*static_cast<QInputMethodEvent *>(event));
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
+        Composition::settle(&field());
         return m_page->pointer().pressed(*this, *static_cast<QMouseEvent *>(event));
     case QEvent::MouseMove:
         return m_page->pointer().moved(*this, *static_cast<QMouseEvent *>(event));

@@ -37,7 +37,8 @@ public:
     int anchor() const;
     BlockSelection selection() const;
     bool isAllSelected() const;
-    bool isComposing() const { return field().property("inputMethodComposing").toBool(); }
+    /// Whether an input method has preedit text in the field.
+    bool isComposing() const { return !field().property("preeditText").toString().isEmpty(); }
     /// Whether the field can follow that key by itself.
     bool follows(const CaretKey &key) const;
     QRectF rectangleAt(int offset) const;

@@ -18,7 +18,7 @@ Item {
     }
 
     function bare() : bool {
-        return !hasSelection() && !field.inputMethodComposing
+        return !hasSelection() && field.preeditText === ""
     }
 
     function joinsBackwards(event: KeyEvent) : bool {

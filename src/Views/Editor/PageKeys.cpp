@@ -1,6 +1,7 @@
 #include "PageKeys.h"
 
 #include "BlockPlace.h"
+#include "Composition.h"
 #include "FieldCaret.h"
 #include "PageCaret.h"
 #include "SelectionKeys.h"
@@ -37,14 +38,14 @@ void PageKeys::collapse(bool toEnd)
 
 bool PageKeys::pressed(FieldCaret &field, const QKeyEvent &event)
 {
+    if (field.isComposing())
+        return pressedWhileComposing(field, event);
     if (selection().isCrossing())
         return pressedWhileSelected(event);
     if (event.matches(QKeySequence::SelectAll) && field.isAllSelected()) {
         selectPage();
         return true;
     }
-    if (field.isComposing())
-        return false;
     const BlockSelection selected = field.selection();
     if (usesPasteboard(selected, event))
         return true;
@@ -61,6 +62,20 @@ bool PageKeys::usesPasteboard(const BlockSelection &selected, const QKeyEvent &e
         return false;
     cuts ? selection().cutText(selected) : selection().copyText(selected);
     return true;
+}
+
+bool PageKeys::pressedWhileComposing(const FieldCaret &field, const QKeyEvent &event)
+{
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        Composition::settle(&field.field());
+        return true;
+    default:
+        return false;
+    }
 }
 
 bool PageKeys::pressed(const BlockPlace &block, const QKeyEvent &event)

@@ -24,6 +24,8 @@ public:
 
 private:
     bool pressedWhileSelected(const QKeyEvent &event);
+    /// The keys that end or leave a line settle the composition and do nothing more.
+    static bool pressedWhileComposing(const FieldCaret &field, const QKeyEvent &event);
     bool change(const QKeyEvent &event);
     /// Copy, Cut and Paste in one text. A field by itself would turn some characters into others.
     bool usesPasteboard(const BlockSelection &selected, const QKeyEvent &event);

@@ -25,8 +25,9 @@ TextEdit {
         forceActiveFocus()
     }
 
+    // Only preedit text tells that something is being composed: after a commit, `inputMethodComposing` can stay true.
     function reportUnlessComposing() {
-        if (!inputMethodComposing)
+        if (preeditText === "")
             bridge.report(cursorPosition)
     }
 
@@ -34,13 +35,6 @@ TextEdit {
     function reportCaret() {
         if (activeFocus && length === content.length)
             row.page.editor.caretMoved(row.blockID, todoID, cursorPosition)
-    }
-
-    /// Keeps what an input method is composing. An input method that the field has is asked first.
-    function settle() {
-        if (activeFocus)
-            bridge.askInputMethod()
-        bridge.commit(root, preeditText)
     }
 
     Accessible.role: Accessible.EditableText
@@ -58,9 +52,9 @@ TextEdit {
     selectionColor: FirePalette.selection
     textFormat: TextEdit.PlainText
     wrapMode: TextEdit.Wrap
-    onActiveFocusChanged: activeFocus ? reportCaret() : settle()
+    onActiveFocusChanged: activeFocus ? reportCaret() : Composition.settle(root)
     onCursorPositionChanged: reportCaret()
-    onInputMethodComposingChanged: reportUnlessComposing()
+    onPreeditTextChanged: reportUnlessComposing()
     onTextChanged: reportUnlessComposing()
 
     BlockText {
