@@ -95,8 +95,8 @@ Q_SIGNALS:
     void offersDeleteChanged();
     void focusedBlockIDChanged();
     void scrollTargetChanged();
-    /// What an input method is composing has to become part of the text now: another document is about to be opened,
-    /// or a step to be taken back.
+    /// What an input method is composing has to become part of the text now: another document is about to be
+    /// opened, or a step to be taken back.
     void settleRequested();
     /// The field of that block, or of that entry of its checklist, has to take the keyboard focus with the
     /// caret at that place, -1 for the end of its text.

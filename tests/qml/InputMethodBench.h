@@ -3,8 +3,8 @@
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 
-/// Sends the focused field what an input method would send it. As with real ones, an event that changes the preedit text
-/// carries the place of the caret in it, also when there is no preedit text left.
+/// Sends the focused field what an input method would send it. As with real ones, an event that changes the
+/// preedit text carries the place of the caret in it, also when there is no preedit text left.
 class InputMethodBench : public QObject
 {
     Q_OBJECT
@@ -13,7 +13,8 @@ public:
     Q_INVOKABLE void compose(const QString &preedit) const
     {
         const int end = static_cast<int>(preedit.size());
-        send(QInputMethodEvent(preedit, {{QInputMethodEvent::Cursor, end, 1, {}}}));
+        QInputMethodEvent event(preedit, {{QInputMethodEvent::Cursor, end, 1, {}}});
+        send(event);
     }
     Q_INVOKABLE void commit(const QString &text, const QString &preedit = {}) const
     {
@@ -30,7 +31,7 @@ public:
     }
 
 private:
-    static void send(QInputMethodEvent event)
+    static void send(QInputMethodEvent &event)
     {
         QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
     }

@@ -40,6 +40,7 @@ Item {
             bench.advance(0)
             waitForRendering(page)
             fieldSaying("Head").takeFocus(0)
+            wait(0)
         }
 
         function everything(item) {

@@ -6,9 +6,10 @@
 #include <algorithm>
 #include <ranges>
 
-/// The fields or the blocks of a page, which the view creates and destroys as it scrolls. A member is found only while
-/// it exists and is on the page: one that has left, or is being destroyed, need not be taken out.
-template <typename Member> class PageMembers
+/// The fields or the blocks of a page, which the view creates and destroys as it scrolls. A member is found
+/// only while it exists and is on the page: one that has left, or is being destroyed, need not be taken out.
+template <typename Member>
+class PageMembers
 {
 public:
     void add(Member &member)
@@ -29,10 +30,11 @@ public:
     }
 
     /// The latest member whose `id()` is that one; null if there is none.
-    template <typename ID> Member *find(const ID &id) const
+    template <typename ID>
+    Member *find(const ID &id) const
     {
-        const auto found = std::ranges::find_if(
-            m_members.crbegin(), m_members.crend(), [&](const QPointer<Member> &member) {
+        const auto found =
+            std::ranges::find_if(m_members.crbegin(), m_members.crend(), [&](const QPointer<Member> &member) {
                 return member && member->isOnPage() && member->id() == id;
             });
         return found == m_members.crend() ? nullptr : found->data();

@@ -30,8 +30,8 @@ bool PointerSelection::extendFrom(const FieldCaret &field, QMouseEvent &event)
     const auto head = m_page.nearest(m_pointer, false);
     if (!head || !current || (!selection && current == &field))
         return false;
-    m_start = selection ? selection->anchor
-                        : PagePosition{.passage = current->id(), .offset = current->anchor()};
+    m_start =
+        selection ? selection->anchor : PagePosition{.passage = current->id(), .offset = current->anchor()};
     m_end = m_start;
     m_owner = nullptr;
     m_isFresh = false;
