@@ -65,6 +65,11 @@ TextInput {
     renderType: Text.NativeRendering
     cursorDelegate: Caret {}
 
+    // A click would drop what an input method does not commit by itself.
+    PointHandler {
+        onActiveChanged: if (active) Composition.settle(field)
+    }
+
     Accessible.role: Accessible.EditableText
     Accessible.name: name
     Accessible.description: placeholder
