@@ -26,6 +26,7 @@ test=(
     qml6-module-qttest qml6-module-qt-labs-platform
     python3 python3-pyatspi at-spi2-core dbus cmark evolution-data-server
     xvfb openbox xdotool x11-utils x11-apps xclip imagemagick
+    fcitx5 fcitx5-anthy fcitx5-frontend-qt6 ibus ibus-anthy
 )
 
 names_of() {

@@ -47,8 +47,7 @@ int FieldCaret::anchor() const
 
 BlockSelection FieldCaret::selection() const
 {
-    return {.anchor = {.passage = id(), .offset = anchor()},
-            .head = {.passage = id(), .offset = caret()}};
+    return {.anchor = {.passage = id(), .offset = anchor()}, .head = {.passage = id(), .offset = caret()}};
 }
 
 bool FieldCaret::isAllSelected() const

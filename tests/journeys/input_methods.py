@@ -1,0 +1,53 @@
+"""What the journeys with input methods share: words in two scripts, written in every kind of text of a page."""
+
+from desktop import shown, until
+
+WORD = "日本"
+PLAIN = " is plain"
+TEXT = WORD + PLAIN
+PAGE = [("textLarge", TEXT), ("textSmall", TEXT), ("sticky", [TEXT, TEXT]), ("textSmall", "")]
+
+
+def wait_on_bus(name):
+    """Waits for a service without having the bus start another one."""
+    ask = ["dbus-send", "--print-reply", "--dest=org.freedesktop.DBus", "/", "org.freedesktop.DBus.NameHasOwner"]
+    until(lambda: "true" in shown(*ask, f"string:{name}"), f"{name} is on the bus")
+
+
+def write_word(pelko, turn):
+    """Writes the word with the input method, then plain letters without it."""
+    turn(True)
+    pelko.type("nihon")
+    pelko.keys("space", "Return")
+    turn(False)
+    pelko.type(PLAIN)
+
+
+def write_page(pelko, turn):
+    """Heading, body and the entries of a checklist; each Return after the first belongs to the page again."""
+    write_word(pelko, turn)
+    pelko.keys("Return")
+    write_word(pelko, turn)
+    pelko.keys("Return")
+    pelko.type("[] ")
+    write_word(pelko, turn)
+    pelko.keys("Return")
+    write_word(pelko, turn)
+
+
+def texts_of(block):
+    return [entry["text"] for entry in block["todos"]] if block["type"] == "sticky" else block["content"]
+
+
+def outline(page):
+    return [(block["type"], texts_of(block)) for block in page["blocks"]]
+
+
+def write_and_quit(pelko, turn, **environment):
+    pelko.start(**environment)
+    pelko.keys("ctrl+n")
+    pelko.wait_focus_on("Heading")
+    write_page(pelko, turn)
+    pelko.wait_saved(lambda saved: saved and outline(saved[0]) == PAGE, "the page")
+    pelko.close()
+    assert outline(pelko.saved()[0]) == PAGE, pelko.saved()
