@@ -1,6 +1,7 @@
 #include "PelkoApp.h"
 
 #include "Platform/WindowStates.h"
+#include "Shell/StartFailure.h"
 #include "Timers/PomodoroReading.h"
 #include "Views/TakeDown.h"
 
@@ -8,6 +9,8 @@
 #include <QOperatingSystemVersion>
 #include <QQuickWindow>
 #include <QtQml/QQmlExtensionPlugin>
+
+#include <cstdio>
 
 Q_IMPORT_QML_PLUGIN(PelkoPlugin)
 
@@ -26,11 +29,7 @@ PelkoApp::PelkoApp()
     followTimer();
     followTray();
     outliveTheWindow();
-    // A system without some QML module: the engine has said on standard error which; there is no window to
-    // wait for.
-    QObject::connect(
-        &m_engine, &QQmlApplicationEngine::objectCreationFailed, QCoreApplication::instance(),
-        [] { QCoreApplication::exit(1); }, Qt::QueuedConnection);
+    followLoading();
     m_engine.addImportPath(u"qrc:/qt/qml"_s);
     m_engine.setInitialProperties({{u"main"_s, QVariant::fromValue(&m_main)},
                                    {u"launch"_s, QVariant::fromValue(&m_launch)},
@@ -72,9 +71,43 @@ QQuickWindow *PelkoApp::window() const
     return qobject_cast<QQuickWindow *>(m_engine.rootObjects().value(0));
 }
 
+int PelkoApp::run()
+{
+    const int code = QGuiApplication::exec();
+    return m_failure ? 1 : code;
+}
+
+void PelkoApp::followLoading()
+{
+    QObject::connect(&m_engine, &QQmlEngine::warnings, &m_engine, [this](const QList<QQmlError> &errors) {
+        for (const QQmlError &error : errors)
+            m_loadErrors += error.toString() + u'\n';
+    });
+    QObject::connect(
+        &m_engine, &QQmlApplicationEngine::objectCreationFailed, &m_engine,
+        [this] { tellFailure(m_loadErrors); }, Qt::QueuedConnection);
+    QObject::connect(
+        &m_launch, &LaunchSequence::failed, &m_engine, [this](const QString &errors) { tellFailure(errors); },
+        Qt::QueuedConnection);
+}
+
+/// A system without some QML module. An empty window would say nothing, for ever.
+void PelkoApp::tellFailure(const QString &errors)
+{
+    const QString text = startFailure(errors);
+    std::fputs(qPrintable(text + u'\n'), stderr);
+    m_failure = std::make_unique<TextWindow>(u"Pelko"_s, text);
+    m_failure->show();
+    QObject::connect(m_failure.get(), &QWindow::visibleChanged, m_failure.get(), &QCoreApplication::quit);
+    if (window())
+        window()->hide();
+}
+
 void PelkoApp::bringToFront()
 {
-    if (window())
+    if (m_failure)
+        ::bringToFront(*m_failure);
+    else if (window())
         ::bringToFront(*window());
 }
 

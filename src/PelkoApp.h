@@ -12,6 +12,7 @@
 #include "Platform/SystemClock.h"
 #include "Platform/SystemDataLocation.h"
 #include "Platform/SystemPasteboard.h"
+#include "Platform/TextWindow.h"
 #include "Platform/Tray/Tray.h"
 #include "Platform/UserPreferences.h"
 #include "Shell/ExportViewModel.h"
@@ -27,6 +28,8 @@
 
 #include <QQmlApplicationEngine>
 
+#include <memory>
+
 class QQuickWindow;
 
 /// The composition root: the one place that knows every part and hands each what it needs. Making it loads
@@ -36,6 +39,10 @@ class PelkoApp
 public:
     PelkoApp();
     ~PelkoApp();
+
+    /// Runs until the program is to end. Returns the exit code: 1 where the window's contents could not be
+    /// loaded.
+    int run();
 
 private:
     static MenuPlace menuPlace();
@@ -47,7 +54,9 @@ private:
     void followWindow();
     void followTimer();
     void followTray();
+    void followLoading();
     void outliveTheWindow();
+    void tellFailure(const QString &errors);
     void carryOut(TrayMenuRow::Command command);
 
     // What is used by others stands first, so that it goes last.
@@ -72,6 +81,8 @@ private:
     TimersViewModel m_timers{m_pomodoroTimer, FlowTimer::shared(), m_appState, m_pasteboard, m_scheduler};
     TasksViewModel m_tasks{m_appState, {m_scheduler, m_clock, m_preferences, m_calendars}};
     QQmlApplicationEngine m_engine;
+    QString m_loadErrors;
+    std::unique_ptr<TextWindow> m_failure;
     PomodoroPanel m_panel{m_engine, m_timers, m_scheduler};
     Tray m_tray;
     ApplicationOnBus m_onBus;

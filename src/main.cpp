@@ -70,8 +70,7 @@ int showWindow(int argc, char *argv[])
         QQuickWindow::setSceneGraphBackend(u"software"_s);
     QGuiApplication application(argc, argv);
     describe(application);
-    PelkoApp app;
-    return QGuiApplication::exec();
+    return PelkoApp().run();
 }
 } // namespace
 

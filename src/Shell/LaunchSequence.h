@@ -24,8 +24,11 @@ public:
     Q_INVOKABLE void start();
     /// Ends the wait: the card goes now. It never stays up.
     Q_INVOKABLE void cancel();
+    /// The window's contents cannot be loaded. `errors` are the lines of the QML engine.
+    Q_INVOKABLE void fail(const QString &errors) { Q_EMIT failed(errors); }
 
 Q_SIGNALS:
+    void failed(const QString &errors);
     void overlayVisibleChanged();
     void showFlameChanged();
     void showTitleChanged();

@@ -13,6 +13,11 @@ Window {
     required property ExportViewModel exports
     required property FolderChooser folderChooser
 
+    function fill(content: Component) {
+        content.createObject(contentItem, { main: main, launch: launch, timers: timers, tasks: tasks,
+                                            exports: exports, folderChooser: folderChooser })
+    }
+
     width: 1100
     height: 750
     minimumWidth: 800
@@ -33,11 +38,8 @@ Window {
         interval: 0
         onTriggered: {
             done = true
-            Qt.createComponent("WindowContent.qml").createObject(window.contentItem,
-                                                                 { main: window.main, launch: window.launch,
-                                                                   timers: window.timers, tasks: window.tasks,
-                                                                   exports: window.exports,
-                                                                   folderChooser: window.folderChooser })
+            const content = Qt.createComponent("WindowContent.qml")
+            content.status === Component.Error ? window.launch.fail(content.errorString()) : window.fill(content)
         }
     }
 }

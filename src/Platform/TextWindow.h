@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QRasterWindow>
+
+/// A window that shows one text and nothing else, drawn without Qt Quick: for when that cannot be loaded.
+/// Escape and Return close it.
+class TextWindow : public QRasterWindow
+{
+public:
+    TextWindow(const QString &title, QString text);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QString m_text;
+};

@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QString>
+
+/// What to tell the user when the window's contents cannot be loaded. `errors` are the lines of the QML
+/// engine. Names each QML module that is not installed; other errors are passed on as they are.
+QString startFailure(const QString &errors);
