@@ -7,6 +7,7 @@
 #include "Platform/LocalExportFolder.h"
 #include "Platform/LocalPictureFiles.h"
 #include "Platform/LocalPictureFolders.h"
+#include "Platform/PasteGuard.h"
 #include "Platform/PortalFileChooser.h"
 #include "Platform/QtScheduler.h"
 #include "Platform/SystemClock.h"
@@ -63,6 +64,7 @@ private:
     QtScheduler m_scheduler;
     SystemClock m_clock;
     SystemDataLocation m_dataLocation;
+    PasteGuard m_pasteGuard;
     SystemPasteboard m_pasteboard;
     UserPreferences m_preferences;
     DesktopCalendarStore m_calendars{QDBusConnection::sessionBus(), UserFolders::ofThisUser()};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QClipboard>
+
+#include <cstdint>
+#include <memory>
+
+struct xcb_connection_t;
+
+/// Tells whether the program that owns the X11 clipboard or primary selection still answers. It has a
+/// connection to the X server beside Qt's, so that nobody else takes the answers, and keeps it: the owner may
+/// answer late, to a window that must still be there.
+class ClipboardOwner
+{
+public:
+    ClipboardOwner();
+
+    /// Waits for an answer for a fifth of a second at most. True also where nobody owns it, where this
+    /// program does, and on platforms other than X11.
+    bool answers(QClipboard::Mode mode) const;
+
+private:
+    struct Disconnect {
+        void operator()(xcb_connection_t *connection) const;
+    };
+
+    bool isConnected() const;
+    bool hasOwner(std::uint32_t selection) const;
+    std::uint32_t atom(const char *name) const;
+    /// Asks the owner for its formats.
+    void ask(std::uint32_t selection) const;
+    bool takeAnswer() const;
+    bool waitForAnswer() const;
+
+    std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
+    std::uint32_t m_window = 0;
+};
