@@ -162,7 +162,7 @@ void EditorViewModel::appendTodo(const QString &blockID)
 void EditorViewModel::removeTodo(const QString &blockID, const QString &todoID)
 {
     if (auto page = documentToMutate())
-        commit(TodoOperations::remove(*std::move(page), QUuid(blockID), QUuid(todoID)));
+        commit(TodoOperations::remove(*std::move(page), QUuid(blockID), QUuid(todoID), m_session.place()));
 }
 
 void EditorViewModel::undo()

@@ -80,15 +80,17 @@ std::optional<Edit> TodoOperations::append(PelkoDocument document, const QUuid &
     return Edit{std::move(document), focus};
 }
 
-std::optional<Edit> TodoOperations::remove(PelkoDocument document, const QUuid &blockID, const QUuid &todoID)
+std::optional<Edit> TodoOperations::remove(PelkoDocument document, const QUuid &blockID, const QUuid &todoID,
+                                           const std::optional<FocusTarget> &caret)
 {
     const auto place = find(document, blockID, todoID);
     if (!place)
         return std::nullopt;
     QList<TodoItem> &todos = *document.blocks[place->block].todos;
     todos.removeAt(place->todo);
+    const bool isElsewhere = caret && (caret->blockID != blockID || caret->todoID != todoID);
     std::optional<FocusTarget> focus;
-    if (!todos.isEmpty())
+    if (!todos.isEmpty() && !isElsewhere)
         focus =
             FocusTarget{.blockID = blockID, .todoID = todos.at(std::max<qsizetype>(place->todo - 1, 0)).id};
     return Edit{std::move(document), focus};

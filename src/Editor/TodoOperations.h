@@ -16,7 +16,9 @@ std::optional<Edit> toggle(PelkoDocument document, const QUuid &blockID, const Q
 /// Adds an empty entry at the end, which gets the focus.
 std::optional<Edit> append(PelkoDocument document, const QUuid &blockID);
 
-/// Removes the entry; the focus goes to the one above, else to the one that takes its place.
-std::optional<Edit> remove(PelkoDocument document, const QUuid &blockID, const QUuid &todoID);
+/// Removes the entry. A caret in it, or an unknown one, goes to the entry above, else to the one that takes
+/// its place; elsewhere it stays.
+std::optional<Edit> remove(PelkoDocument document, const QUuid &blockID, const QUuid &todoID,
+                           const std::optional<FocusTarget> &caret = std::nullopt);
 
 } // namespace TodoOperations

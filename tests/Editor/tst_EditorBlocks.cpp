@@ -231,7 +231,7 @@ private Q_SLOTS:
         QCOMPARE(takeFocused(), {u"B.+@end"_s});
         editor->removeTodo(id('B'), id('x'));
         QCOMPARE(list(), u"B sticky \"\" todos(+[ ] \"\")"_s);
-        QCOMPARE(takeFocused(), {u"B.+@end"_s});
+        QCOMPARE(takeFocused(), QStringList()); // the caret is in the other entry already
         QCOMPARE(stored().updatedAt, clock.time);
         scheduler.advance(500ms);
         QCOMPARE(file.writes(), 1);

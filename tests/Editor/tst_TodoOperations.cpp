@@ -144,6 +144,15 @@ private Q_SLOTS:
         QCOMPARE(PageText::focus(edit->focus), focus);
     }
 
+    void aCaretElsewhereStays()
+    {
+        const FocusTarget inEntry{.blockID = idOf('B'), .todoID = idOf('x')};
+        const FocusTarget inBody{.blockID = idOf('A')};
+        for (const FocusTarget &caret : {inEntry, inBody})
+            QCOMPARE(TodoOperations::remove(shopping(), idOf('B'), idOf('y'), caret)->focus, std::nullopt);
+        QVERIFY(TodoOperations::remove(shopping(), idOf('B'), idOf('x'), inEntry)->focus);
+    }
+
     void theOnlyEntryCanBeRemovedAndTheListStays()
     {
         const auto edit = TodoOperations::remove(listOf({todo('x')}), idOf('B'), idOf('x'));

@@ -15,10 +15,16 @@ FocusScope {
     signal toggled
     signal removed
     signal edited(string value, int caret)
-    signal caretMoved(rect rectangle)
 
     function takeFocus(caret: int) {
         field.takeFocus(caret)
+    }
+
+    /// The keyboard goes on where the entry was.
+    function remove() {
+        if (cross.activeFocus)
+            field.forceActiveFocus(Qt.OtherFocusReason)
+        removed()
     }
 
     implicitHeight: Math.max(Typography.checklistRow, field.implicitHeight + Metrics.space6)
@@ -52,7 +58,6 @@ FocusScope {
         placeholder: qsTr("To do...")
         todoID: root.todoID
         y: (Typography.checklistRow - Metrics.todoLine) / 2
-        onCursorRectangleChanged: if (activeFocus) root.caretMoved(mapToItem(root, cursorRectangle))
         onEdited: (value, caret) => root.edited(value, caret)
     }
 
@@ -65,6 +70,6 @@ FocusScope {
         visible: !root.quiet
         // The keyboard does not stay behind.
         onVisibleChanged: if (!visible && activeFocus) field.forceActiveFocus(Qt.OtherFocusReason)
-        onTriggered: root.removed()
+        onTriggered: root.remove()
     }
 }
