@@ -5,9 +5,6 @@ import Pelko
 FocusScope {
     required property Item keys
 
-    /// Where the caret stands, in this item, while it is here.
-    property rect caretRectangle
-
     /// How far below the top its first line stands, which is where the grip is.
     property real firstLine: Math.min(height, Metrics.gripHeight) / 2
 

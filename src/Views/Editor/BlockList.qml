@@ -24,9 +24,23 @@ FocusScope {
         list.currentRow?.block.takeFocus(todoID, caret)
     }
 
+    /// Creates the row of that block, and scrolls there if it is too far away to have been laid out.
     function makeRow(blockID: string) {
-        list.currentIndex = editor.rowOf(blockID)
-        bringIntoSight(list.currentIndex)
+        setCurrent(editor.rowOf(blockID))
+        layOutCurrent()
+    }
+
+    /// The view by itself would scroll to the top of the row.
+    function setCurrent(row: int) {
+        const place = list.contentY
+        list.currentIndex = row
+        list.contentY = place
+    }
+
+    /// Only near the view do rows have a place; a glide leads to one.
+    function layOutCurrent() {
+        if (!list.itemAtIndex(list.currentIndex) && !scroll.gliding)
+            bringIntoSight(list.currentIndex)
     }
 
     function scrollBy(distance: real) {
@@ -35,7 +49,7 @@ FocusScope {
     }
 
     function walkFrom(row: int, forward: bool) {
-        list.currentIndex = forward ? row + 1 : row - 1
+        setCurrent(forward ? row + 1 : row - 1)
         list.currentRow ? list.currentRow.enter(forward) : walkedOut(forward)
     }
 
@@ -43,22 +57,34 @@ FocusScope {
         walkFrom(forward ? -1 : list.count, forward)
     }
 
-    /// Scrolls just as far as it takes to see the caret.
+    /// Scrolls just as far as it takes to see the caret, or the control that has the focus.
     function revealCaret() {
-        const row = list.currentRow
-        if (row?.activeFocus)
-            show(list.contentItem.mapFromItem(row.block, row.block.caretRectangle))
+        list.forceLayout()
+        layOutCurrent()
+        const item = Window.activeFocusItem as Item
+        if (list.currentRow?.owns(item) && list.itemAtIndex(list.currentIndex))
+            scroll.show(list.contentItem.mapFromItem(item, (item as WritingField)?.cursorRectangle ?? Qt.rect(0, 0, item.width, item.height)))
     }
 
-    function show(place: rect) {
-        const above = Math.min(place.y - Metrics.pageTop - list.contentY, 0)
-        const below = Math.max(place.y + place.height + Metrics.space24 - list.contentY - height, 0)
-        list.contentY = Math.max(list.contentY + (above || below), list.originY - list.topMargin)
+    /// What is typed where there is no field goes on at the end of the page.
+    function writesOn(event: KeyEvent) : bool {
+        const isText = event.text >= " " && event.text !== "\u007f"
+        const writes = isText && !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier))
+        if (writes)
+            editor.keys.writeBelow()
+        if (writes)
+            (Window.activeFocusItem as WritingField)?.type(event.text)
+        return writes
     }
 
     /// Above the first block there is the air that belongs to it.
     function bringIntoSight(row: int) {
+        const from = list.contentY
         row === 0 ? list.positionViewAtBeginning() : list.positionViewAtIndex(row, ListView.Contain)
+        // Where the page begins is a guess, and no reason to stop there on the way down.
+        const item = list.itemAtIndex(row)
+        if (item?.y > from)
+            list.contentY = Math.min(list.contentY, item.y + item.height + Metrics.space24 - list.height)
     }
 
     function scrollTo(blockID: string) {
@@ -88,7 +114,7 @@ FocusScope {
         editor: root.editor
         images: ImageCache {}
         measure: Math.min(Metrics.measure, root.width - 2 * Metrics.pageMargin)
-        onFocusEntered: row => list.currentIndex = row
+        onFocusEntered: row => root.setCurrent(row)
         onMenuRequested: (row, item, position) => root.openMenu(row as BlockRow, item, position)
         onRevealRequested: reveal.start()
         onWalkedOut: (row, forward) => root.walkFrom(row, forward)
@@ -100,9 +126,10 @@ FocusScope {
         pageStep: list.height - Metrics.pageTop - Metrics.pageFoot
         selection: root.editor.selection
         view: list
+        onKeyPressed: reveal.start()
         onRowNeeded: blockID => root.makeRow(blockID)
         onScrollRequested: distance => root.scrollBy(distance)
-        onShowRequested: item => root.show(list.contentItem.mapFromItem(item, 0, 0, item.width, item.height))
+        onShowRequested: item => scroll.show(list.contentItem.mapFromItem(item, 0, 0, item.width, item.height))
     }
 
     FrameAnimation {
@@ -184,6 +211,7 @@ FocusScope {
 
         Accessible.name: qsTr("Page")
         Accessible.role: Accessible.Document
+        Keys.onPressed: event => event.accepted = root.writesOn(event)
         anchors.fill: parent
         bottomMargin: Metrics.pageFoot
         boundsBehavior: Flickable.StopAtBounds
@@ -237,7 +265,8 @@ FocusScope {
         id: scroll
 
         list: list
-        onFinished: root.editor.scrolled()
+        onArrived: reveal.start()
+        onEnded: root.editor.scrolled()
     }
 
     LiftedBlock {

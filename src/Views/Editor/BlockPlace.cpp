@@ -24,6 +24,12 @@ bool BlockPlace::hasFocus() const
     return focused && (focused == m_item || focused == m_control);
 }
 
+void BlockPlace::takeFocus() const
+{
+    if (m_control)
+        m_control->forceActiveFocus(Qt::TabFocusReason);
+}
+
 bool BlockPlace::eventFilter(QObject *, QEvent *event)
 {
     // Keys that a field or a control has left unused come by here as well.

@@ -32,6 +32,8 @@ public:
 
     /// Whether it has the keyboard as a whole, and not in a field.
     bool hasFocus() const;
+    /// Gives the keyboard to the control that stands for the block.
+    void takeFocus() const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
     void classBegin() override {}

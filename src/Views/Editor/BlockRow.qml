@@ -203,13 +203,4 @@ FocusScope {
         // The keyboard does not stay behind.
         onVisibleChanged: if (!visible && root.activeFocus && !body.activeFocus) body.forceActiveFocus(Qt.OtherFocusReason)
     }
-
-    Connections {
-        function onCaretRectangleChanged() {
-            if (root.block.activeFocus)
-                root.page.revealRequested()
-        }
-
-        target: root.block
-    }
 }

@@ -32,8 +32,8 @@ public:
     void setLineHeight(qreal lineHeight);
 
     /// Announces the field's text if the writer has changed it. To be called when it may have changed, but
-    /// not while the field has preedit text. Whatever the store made of it is in the field afterwards. `caret`
-    /// is where the caret stands now.
+    /// not while the field has preedit text. Whatever the store made of it is in the field afterwards.
+    /// `caret` is where the caret stands now.
     Q_INVOKABLE void report(int caret);
 
 Q_SIGNALS:

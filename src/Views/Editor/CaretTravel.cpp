@@ -12,6 +12,15 @@ qreal scrolled(const QQuickItem &view)
     return view.property("contentY").toReal();
 }
 
+/// The next passage that has text, or a control to make some: an empty checklist.
+const Passage *nextStop(const Passages &passages, const PassageID &from, bool forward)
+{
+    const Passage *next = passages.neighbour(from, forward);
+    while (next && !next->text && next->type != BlockType::sticky)
+        next = passages.neighbour(next->id, forward);
+    return next;
+}
+
 } // namespace
 
 qreal CaretTravel::inField(const FieldCaret &field, qreal x) const
@@ -65,7 +74,7 @@ std::optional<PagePosition> CaretTravel::beyond(const Passage &passage, bool for
 {
     const Passages &passages = m_page.selection()->passages();
     const Passage *found =
-        key.extends ? passages.neighbour(passage.id, forward) : passages.textNeighbour(passage.id, forward);
+        key.extends ? passages.neighbour(passage.id, forward) : nextStop(passages, passage.id, forward);
     if (!found)
         return isVertical(key.move) ? std::optional(PagePosition{.passage = passage.id,
                                                                  .offset = forward ? passage.length() : 0})

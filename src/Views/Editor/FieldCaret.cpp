@@ -6,6 +6,17 @@
 
 #include <QTextDocument>
 
+namespace
+{
+
+bool isModifier(int key)
+{
+    return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr ||
+           key == Qt::Key_Super_L || key == Qt::Key_Super_R;
+}
+
+} // namespace
+
 void FieldCaret::componentComplete()
 {
     field().installEventFilter(this);
@@ -114,6 +125,8 @@ bool FieldCaret::eventFilter(QObject *, QEvent *event)
         return false;
     switch (event->type()) {
     case QEvent::KeyPress:
+        if (!isModifier(static_cast<QKeyEvent *>(event)->key()))
+            Q_EMIT m_page->keyPressed();
         return m_page->keys().pressed(*this, *static_cast<QKeyEvent *>(event));
     case QEvent::InputMethod:
         return m_page->keys().composed(*static_cast<QInputMethodEvent *>(event));

@@ -35,7 +35,6 @@ BlockEditor {
     activeFocusOnTab: hasImage && !isBanner
     control: hasImage ? null : add
     implicitHeight: inColumn + (Metrics.bannerHeight - inColumn) * spread
-    onIsBannerChanged: if (!isBanner) caretRectangle = Qt.rect(0, 0, 0, 0)
 
     BlockPicture {
         id: picture
@@ -69,7 +68,6 @@ BlockEditor {
         keys: root.keys
         opacity: Math.min(1, root.spread)
         visible: root.isBanner
-        onCursorRectangleChanged: if (activeFocus) root.caretRectangle = mapToItem(root, cursorRectangle)
         onEdited: (value, caret) => root.titleEdited(value, caret)
         onFinished: root.titleFinished()
     }

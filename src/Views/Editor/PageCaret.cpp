@@ -99,9 +99,9 @@ std::optional<PagePosition> PageCaret::nearest(QPointF point, bool onlyInText) c
 void PageCaret::place(const PagePosition &position)
 {
     FieldCaret *target = field(position.passage);
-    if (!target)
-        return;
     m_selection->clear();
+    if (!target)
+        return focusBlock(position.passage.blockID);
     target->select(position.offset, position.offset);
     focus(*target);
 }
@@ -163,6 +163,12 @@ void PageCaret::focus(FieldCaret &field)
 {
     const QScopedValueRollback moving(m_isMoving, true);
     field.takeFocus();
+}
+
+void PageCaret::focusBlock(const QUuid &blockID)
+{
+    if (const BlockPlace *block = m_blocks.find(blockID))
+        block->takeFocus();
 }
 
 FieldCaret *PageCaret::current() const

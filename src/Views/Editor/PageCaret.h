@@ -46,7 +46,7 @@ public:
     /// The place on the page, among the rows that the view has made, nearest to a point in the view.
     std::optional<PagePosition> nearest(QPointF point, bool onlyInText) const;
 
-    /// Puts the caret there.
+    /// Puts the caret there; in a block without text, the focus on its control.
     void place(const PagePosition &position);
     /// Selects, and moves the caret along.
     void select(const BlockSelection &selection);
@@ -71,9 +71,12 @@ Q_SIGNALS:
     void rowNeeded(const QString &blockID);
     void showRequested(QQuickItem *item);
     void scrollRequested(qreal distance);
+    /// The writer pressed a key, so the caret has to be in sight.
+    void keyPressed();
 
 private:
     void focus(FieldCaret &field);
+    void focusBlock(const QUuid &blockID);
     void showSelection();
 
     QPointer<PageSelection> m_selection;

@@ -9,7 +9,17 @@ Item {
 
     property real margin: 0
 
-    signal finished
+    readonly property alias gliding: animation.running
+
+    /// The glide has ended, in its place or because something else scrolls.
+    signal ended
+    /// The glide has ended in its place.
+    signal arrived
+
+    /// Where the list is, or glides to.
+    function goal() : real {
+        return animation.running ? animation.to : list.contentY
+    }
 
     function glide(from: real, to: real) {
         animation.from = from
@@ -17,9 +27,21 @@ Item {
         animation.restart()
     }
 
-    function scrollBy(distance: real) {
+    function jump(to: real) {
         animation.stop()
-        list.contentY += distance
+        list.contentY = to
+    }
+
+    /// Scrolls just as far as it takes to see that place; if it is higher than the view, its top.
+    function show(place: rect) {
+        const above = place.y - Metrics.pageTop - goal()
+        const below = Math.max(place.y + place.height + Metrics.space24 - goal() - list.height, 0)
+        if (Math.min(above, below) !== 0)
+            jump(Math.max(goal() + Math.min(above, below), list.originY - list.topMargin))
+    }
+
+    function scrollBy(distance: real) {
+        jump(list.contentY + distance)
         list.returnToBounds()
     }
 
@@ -44,6 +66,7 @@ Item {
         easing: PelkoAnimation.smooth.curve
         property: "contentY"
         target: root.list
-        onFinished: root.finished()
+        onFinished: root.arrived()
+        onStopped: root.ended()
     }
 }

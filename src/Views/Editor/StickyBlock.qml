@@ -14,6 +14,8 @@ BlockEditor {
     property bool quiet: false
 
     function takeFocus(todoID: string, caret: int) {
+        column.forceLayout() // entries that were just created have no place yet
+        control?.forceActiveFocus(Qt.TabFocusReason)
         for (let row = 0; row < entries.count; ++row) {
             const entry = entries.itemAt(row) as TodoRow
             if (entry && (todoID === "" || entry.todoID === todoID))
@@ -23,6 +25,7 @@ BlockEditor {
 
     Accessible.name: BlockKinds.checklist.tip
     Accessible.role: Accessible.List
+    control: entries.count === 0 ? first : null
     firstLine: column.y + Typography.stickyLabel.pixelSize / 2
     implicitHeight: column.implicitHeight + 2 * Metrics.space14
 
@@ -55,7 +58,6 @@ BlockEditor {
                 keys: root.keys
                 quiet: root.quiet
                 width: column.width
-                onCaretMoved: rectangle => root.caretRectangle = mapToItem(root, rectangle)
                 onEdited: (value, caret) => root.editor.typedTodo(root.blockID, todoID, value, caret)
                 onRemoved: root.editor.removeTodo(root.blockID, todoID)
                 onToggled: root.editor.toggleTodo(root.blockID, todoID)
@@ -63,6 +65,8 @@ BlockEditor {
         }
 
         FirstTodoButton {
+            id: first
+
             Keys.forwardTo: [root.keys]
             visible: entries.count === 0
             width: column.width

@@ -18,7 +18,6 @@ BlockEditor {
         field.takeFocus(caret)
     }
 
-    caretRectangle: mapFromItem(field, field.cursorRectangle)
     firstLine: field.y + style.lineHeight / 2
     implicitHeight: field.implicitHeight + 2 * field.y
 

@@ -25,6 +25,10 @@ TextEdit {
         forceActiveFocus()
     }
 
+    function type(text: string) {
+        insert(cursorPosition, text)
+    }
+
     // Only preedit text tells that something is being composed: after a commit, `inputMethodComposing` can stay true.
     function reportUnlessComposing() {
         if (preeditText === "")
@@ -35,6 +39,11 @@ TextEdit {
     function reportCaret() {
         if (activeFocus && length === content.length)
             row.page.editor.caretMoved(row.blockID, todoID, cursorPosition)
+    }
+
+    function reveal() {
+        if (activeFocus)
+            row?.page.revealRequested()
     }
 
     Accessible.role: Accessible.EditableText
@@ -52,8 +61,12 @@ TextEdit {
     selectionColor: FirePalette.selection
     textFormat: TextEdit.PlainText
     wrapMode: TextEdit.Wrap
-    onActiveFocusChanged: activeFocus ? reportCaret() : Composition.settle(root)
+    onActiveFocusChanged: {
+        activeFocus ? reportCaret() : Composition.settle(root)
+        reveal()
+    }
     onCursorPositionChanged: reportCaret()
+    onCursorRectangleChanged: reveal()
     onPreeditTextChanged: reportUnlessComposing()
     onTextChanged: reportUnlessComposing()
 

@@ -1,0 +1,195 @@
+import QtQuick
+import QtTest
+import Pelko
+import PelkoTest
+
+/// After any key the caret is in the window, and the page has moved only as far as that takes.
+Item {
+    id: root
+
+    width: 900
+    height: 640
+
+    EditorBench { id: bench }
+
+    Component {
+        id: view
+
+        EditorView {
+            anchors.fill: parent
+            editor: bench.editor
+            focus: true
+        }
+    }
+
+    TestCase {
+        id: test
+
+        property EditorView page
+        property ListView list
+
+        name: "CaretInSight"
+        when: windowShown
+
+        function open(blocks) {
+            bench.open(blocks)
+            page = createTemporaryObject(view, root)
+            page.forceActiveFocus()
+            bench.advance(0)
+            waitForRendering(page)
+            list = everything(page).find(item => item instanceof ListView)
+        }
+
+        function everything(item) {
+            return [item].concat(...Array.from(item.children).map(child => everything(child)))
+        }
+
+        function fields() {
+            return everything(page).filter(item => item instanceof TextEdit && item.visible)
+                .sort((one, other) => one.mapToItem(page, 0, 0).y - other.mapToItem(page, 0, 0).y)
+        }
+
+        function focused() {
+            return page.Window.activeFocusItem
+        }
+
+        function lines(count) {
+            return Array.from({ length: count }, (_, line) => "line " + line).join("\n")
+        }
+
+        function entries(count) {
+            return Array.from({ length: count }, (_, entry) => ({ text: "entry " + entry, done: false }))
+        }
+
+        /// Puts the caret into a field and lets the page follow.
+        function go(field, caret) {
+            field.takeFocus(caret)
+            settle()
+        }
+
+        function settle() {
+            wait(50) // rows above are created in the frames that follow
+        }
+
+        function verifyInSight(what) {
+            verify(focused() instanceof TextEdit, what + ": " + focused())
+            const caret = list.mapFromItem(focused(), focused().cursorRectangle)
+            verify(caret.y >= Metrics.stripHeight && caret.y + caret.height <= list.height,
+                   what + ": from " + caret.y + " to " + (caret.y + caret.height) + " in " + list.height)
+        }
+
+        /// How far a key moves the page; the caret is in sight then.
+        function moves(key) {
+            const before = list.contentY
+            keySequence(key)
+            settle()
+            verifyInSight(key)
+            return Math.abs(list.contentY - before)
+        }
+
+        function test_down_and_up_through_a_tall_checklist() {
+            open([{ type: "textLarge", content: "Head" }, { type: "sticky", todos: entries(40) }])
+            go(fields()[1], 0)
+            for (let step = 0; step < 39; ++step)
+                verify(moves("Down") < 2 * Typography.checklistRow)
+            compare(focused().text, "entry 39")
+            for (let step = 0; step < 39; ++step)
+                verify(moves("Up") < 2 * Typography.checklistRow)
+            compare(focused().text, "entry 0")
+        }
+
+        function test_up_from_below_a_tall_checklist_data() {
+            return [{ tag: "Up", text: "entry 39" }, { tag: "Left", text: "entry 39" }, { tag: "Shift+Up", text: "entry 39" },
+                { tag: "Backspace", text: "entry 39below" }]
+        }
+
+        function test_up_from_below_a_tall_checklist(row) {
+            open([{ type: "sticky", todos: entries(40) }, { type: "textSmall", content: "below" }])
+            go(fields()[0], 0)
+            moves("Ctrl+End")
+            moves("Home")
+            verify(moves(row.tag) < 60)
+            compare(focused().text, row.text)
+        }
+
+        function test_return_in_a_tall_checklist() {
+            open([{ type: "sticky", todos: entries(40) }, { type: "textSmall", content: "below" }])
+            go(fields()[30], -1)
+            verify(moves("Return") < 2 * Typography.checklistRow)
+            compare(focused().text, "")
+            verify(moves("Ctrl+Z") < 2 * Typography.checklistRow)
+            compare(focused().text, "entry 30")
+            verify(moves("Backspace") === 0)
+        }
+
+        function test_a_long_text_is_put_in_data() {
+            return [{ tag: "code" }, { tag: "quote" }]
+        }
+
+        function test_a_long_text_is_put_in(row) {
+            open([{ type: "textLarge", content: "Head" }, { type: row.tag, content: "first\nlast" }])
+            go(fields()[1], 6)
+            focused().insert(6, lines(80) + "\n")
+            settle()
+            verifyInSight("after the text")
+            verify(moves("Left") < 60)
+        }
+
+        function test_keys_in_a_block_taller_than_the_window_data() {
+            const types = ["textSmall", "quote", "code"]
+            const keys = ["Return", "Shift+Return", "Left", "Down", "Up", "Backspace", "Delete"]
+            return [].concat(...types.map(type => keys.map(key => ({ tag: type + " " + key, type, key }))))
+        }
+
+        function test_keys_in_a_block_taller_than_the_window(row) {
+            open([{ type: "textLarge", content: "Head" }, { type: row.type, content: lines(80) }])
+            go(fields()[1], lines(40).length)
+            verifyInSight("at first")
+            verify(moves(row.key) < 60)
+            verify(moves("Ctrl+Z") < 60)
+            verify(moves("Ctrl+Y") < 60)
+        }
+
+        function test_undo_brings_the_place_back() {
+            open([{ type: "textLarge", content: "Head" }, { type: "code", content: lines(80) }])
+            go(fields()[1], lines(40).length)
+            const place = list.contentY
+            keySequence("Shift+Return")
+            settle()
+            scrollAway()
+            moves("Ctrl+Z")
+            compare(focused().cursorPosition, lines(40).length)
+            verify(Math.abs(list.contentY - place) < list.height)
+        }
+
+        function scrollAway() {
+            list.contentY = list.originY - list.topMargin
+            settle()
+        }
+
+        function test_any_key_brings_the_caret_back_data() {
+            return ["X", "Left", "Home", "Ctrl+C", "Ctrl+End", "Shift+Right"].map(key => ({ tag: key }))
+        }
+
+        function test_any_key_brings_the_caret_back(row) {
+            const paragraphs = Array.from({ length: 60 }, (_, i) => ({ type: "textSmall", content: "paragraph " + i }))
+            open([{ type: "textLarge", content: "Head" }, ...paragraphs])
+            keySequence("Ctrl+End")
+            settle()
+            keySequence("Home")
+            settle()
+            scrollAway()
+            verify(fields()[0].text === "Head")
+            moves(row.tag)
+        }
+
+        function test_a_glide_that_is_interrupted_has_ended() {
+            const paragraphs = Array.from({ length: 60 }, (_, i) => ({ type: "textSmall", content: "paragraph " + i }))
+            open(paragraphs)
+            bench.editor.addBlock("divider")
+            verify(bench.editor.scrollTarget !== "")
+            mouseWheel(page, page.width / 2, page.height / 2, 0, 120)
+            compare(bench.editor.scrollTarget, "")
+        }
+    }
+}

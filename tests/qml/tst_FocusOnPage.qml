@@ -1,0 +1,189 @@
+import QtQuick
+import QtTest
+import Pelko
+import PelkoTest
+
+/// Where the keyboard is on a page, also where it has no field to be in.
+Item {
+    id: root
+
+    width: 900
+    height: 640
+
+    EditorBench { id: bench }
+
+    Component {
+        id: view
+
+        EditorView {
+            anchors.fill: parent
+            editor: bench.editor
+            focus: true
+        }
+    }
+
+    TestCase {
+        id: test
+
+        property EditorView page
+
+        name: "FocusOnPage"
+        when: windowShown
+
+        function open(blocks) {
+            bench.open(blocks)
+            page = createTemporaryObject(view, root)
+            page.forceActiveFocus()
+            bench.advance(0)
+            waitForRendering(page)
+        }
+
+        function everything(item) {
+            return [item].concat(...Array.from(item.children).map(child => everything(child)))
+        }
+
+        function fieldSaying(text) {
+            return everything(page).find(item => item instanceof TextEdit && item.visible && item.text === text)
+        }
+
+        function named(name) {
+            return everything(page).filter(item => item instanceof PressableControl && item.visible && item.name === name)
+        }
+
+        function focused() {
+            return page.Window.activeFocusItem
+        }
+
+        function press(keys) {
+            for (const key of keys)
+                keySequence(key)
+        }
+
+        /// The page in one line: kinds by their name, the text behind a colon, entries in brackets.
+        function written() {
+            return bench.blocks().map(block => block.type + (block.todos
+                ? "[" + block.todos.map(todo => todo.text).join(",") + "]"
+                : block.content === "" ? "" : ":" + block.content)).join(" ")
+        }
+
+        // Typing where there is no field
+
+        function test_typing_without_a_field_goes_on_at_the_end_data() {
+            return [
+                { tag: "picture", blocks: [{ type: "image", picture: "red" }], written: "image textSmall:ab" },
+                { tag: "no picture yet", blocks: [{ type: "image" }], written: "image textSmall:ab" },
+                { tag: "divider", blocks: [{ type: "divider" }], written: "divider textSmall:ab" },
+                { tag: "checklist", blocks: [{ type: "sticky", todos: [] }], written: "sticky[] textSmall:ab" },
+                { tag: "no blocks", blocks: [], written: "textSmall:ab" },
+                { tag: "text at the end", blocks: [{ type: "divider" }, { type: "quote", content: "q" }], written: "divider quote:qab" },
+            ]
+        }
+
+        function test_typing_without_a_field_goes_on_at_the_end(row) {
+            open(row.blocks)
+            press(["A", "B"])
+            compare(written(), row.written)
+            verify(focused() instanceof TextEdit)
+        }
+
+        function test_typing_on_a_divider_is_not_lost() {
+            open([{ type: "divider" }, { type: "textSmall", content: "end" }])
+            everything(page).find(item => item instanceof DividerBlock).takeFocus("", -1)
+            press(["X"])
+            compare(written(), "divider textSmall:endx")
+        }
+
+        function test_keys_that_type_nothing_add_nothing() {
+            open([{ type: "divider" }])
+            press(["Escape", "Ctrl+B", "Alt+X", "F5", "Shift+F5"])
+            compare(written(), "divider")
+        }
+
+        // The cross of an entry
+
+        function milkAndRye() {
+            return [{ type: "textSmall", content: "body" },
+                { type: "sticky", todos: ["milk", "rye", "salt"].map(text => ({ text, done: false })) }]
+        }
+
+        function clickCross(text) {
+            const field = fieldSaying(text)
+            const cross = everything(field.parent).find(item => item instanceof RemoveTodoButton)
+            mouseMove(page, 1, 1)
+            mouseClick(cross, cross.width / 2, cross.height / 2)
+        }
+
+        function test_a_cross_leaves_the_caret_where_it_is_data() {
+            return [{ tag: "body" }, { tag: "milk" }, { tag: "salt" }]
+        }
+
+        function test_a_cross_leaves_the_caret_where_it_is(row) {
+            open(milkAndRye())
+            const field = fieldSaying(row.tag)
+            field.takeFocus(2)
+            clickCross("rye")
+            compare(written(), "textSmall:body sticky[milk,salt]")
+            compare(focused(), field)
+            compare(field.cursorPosition, 2)
+        }
+
+        function test_the_cross_of_the_entry_with_the_caret_moves_it_to_the_next() {
+            open(milkAndRye())
+            fieldSaying("rye").takeFocus(1)
+            clickCross("rye")
+            compare(focused().text, "milk")
+        }
+
+        function test_the_cross_by_keyboard_leaves_the_keyboard_in_the_list() {
+            open(milkAndRye())
+            fieldSaying("body").takeFocus(1)
+            const cross = everything(fieldSaying("rye").parent).find(item => item instanceof RemoveTodoButton)
+            cross.forceActiveFocus(Qt.TabFocusReason)
+            press(["Return"])
+            compare(written(), "textSmall:body sticky[milk,salt]")
+            compare(focused().text, "milk")
+        }
+
+        // An empty checklist
+
+        function aroundAChecklist() {
+            return [{ type: "textSmall", content: "above" }, { type: "sticky", todos: [] }, { type: "textSmall", content: "below" }]
+        }
+
+        function test_keys_stop_at_an_empty_checklist_data() {
+            return [{ tag: "Up", from: "below" }, { tag: "Left", from: "below" }, { tag: "Backspace", from: "below" },
+                { tag: "Down", from: "above" }, { tag: "Right", from: "above" }, { tag: "Delete", from: "above" }]
+        }
+
+        function test_keys_stop_at_an_empty_checklist(row) {
+            open(aroundAChecklist())
+            fieldSaying(row.from).takeFocus(row.from === "above" ? -1 : 0)
+            press([row.tag])
+            compare(focused(), named("To do...")[0])
+            press(["Return", "X"])
+            compare(written(), "textSmall:above sticky[x] textSmall:below")
+        }
+
+        function test_keys_go_on_from_an_empty_checklist_data() {
+            return [{ tag: "Up", to: "above" }, { tag: "Left", to: "above" }, { tag: "Down", to: "below" }, { tag: "Right", to: "below" }]
+        }
+
+        function test_keys_go_on_from_an_empty_checklist(row) {
+            open(aroundAChecklist())
+            named("To do...")[0].forceActiveFocus()
+            press([row.tag])
+            compare(focused().text, row.to)
+        }
+
+        function test_an_empty_checklist_goes_with_one_key_data() {
+            return [{ tag: "Delete" }, { tag: "Backspace" }]
+        }
+
+        function test_an_empty_checklist_goes_with_one_key(row) {
+            open(aroundAChecklist())
+            named("To do...")[0].forceActiveFocus()
+            press([row.tag])
+            compare(written(), "textSmall:above textSmall:below")
+        }
+    }
+}
