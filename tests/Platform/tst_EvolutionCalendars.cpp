@@ -13,16 +13,6 @@ QString at(const char *title, const char *lines = "")
     return QString::fromUtf8(
         eventText("UID:"_ba + title + "\r\nSUMMARY:" + title + "\r\nDTSTART:20261121T100000Z\r\n" + lines));
 }
-
-/// A bus on which nothing but what a test puts there can be started.
-QByteArray busConfiguration(const QByteArray &folder, const QByteArray &policy)
-{
-    return "<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen><servicedir>" + folder +
-           "</servicedir><policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
-           "<allow eavesdrop=\"true\"/>"
-           "<allow own=\"*\"/>" +
-           policy + "</policy></busconfig>";
-}
 } // namespace
 
 /// The server of the desktop's calendars as it may behave, played by the test.
@@ -34,13 +24,10 @@ class TestEvolutionCalendars : public QObject
     std::unique_ptr<PrivateBus> bus;
     std::unique_ptr<FakeEvolution> server;
 
-    void startBus(const QByteArray &policy = "")
+    void startBus(const PrivateBus::Configuration &configuration = {})
     {
         server.reset();
-        home->put("services/bus.conf",
-                  busConfiguration(QByteArray::fromStdString(home->path("home/services").string()), policy));
-        bus = std::make_unique<PrivateBus>(
-            u"--config-file="_s + QString::fromStdString(home->path("home/services/bus.conf").string()));
+        bus = std::make_unique<PrivateBus>(configuration);
     }
     void startServer() { server = std::make_unique<FakeEvolution>(bus->connection(u"server"_s)); }
 
@@ -141,7 +128,7 @@ private Q_SLOTS:
 
     void aServerThatMayNotBeAskedCountsAsNone()
     {
-        startBus("<deny send_destination=\"org.gnome.evolution.dataserver.Sources5\"/>");
+        startBus({.policy = "<deny send_destination=\"org.gnome.evolution.dataserver.Sources5\"/>"});
         startServer();
         server->addCalendar(u"one"_s, {at("Tea")});
         QCOMPARE(fetch(), u"Folder"_s);
@@ -149,9 +136,7 @@ private Q_SLOTS:
 
     void aServerThatEndsAtItsStartCountsAsNone()
     {
-        home->put("services/sources.service",
-                  "[D-BUS Service]\nName=org.gnome.evolution.dataserver.Sources5\nExec=/bin/false\n");
-        startBus();
+        startBus({.ownServices = {{u"org.gnome.evolution.dataserver.Sources5"_s, "/bin/false"}}});
         QCOMPARE(fetch(), u"Folder"_s);
     }
 

@@ -86,7 +86,8 @@ private Q_SLOTS:
         qputenv("GSETTINGS_BACKEND", "memory");
         qunsetenv("DISPLAY");
         qunsetenv("DBUS_SESSION_BUS_ADDRESS");
-        bus = std::make_unique<PrivateBus>();
+        bus = std::make_unique<PrivateBus>(PrivateBus::Configuration{
+            .installedServices = {serverName, u"org.gnome.evolution.dataserver.Sources5"_s}});
         writer = std::make_unique<Writer>(bus->connection(u"writer"_s));
         QVERIFY2(writer->open(u"system-calendar"_s), "evolution-data-server has to be installed");
     }

@@ -2,6 +2,9 @@
 
 `journey.py` is started twice. The outer process makes the folders and the display and starts the inner one under
 `dbus-run-session`, so that bus, window manager and program share one environment from the beginning.
+
+What is installed for the user's own desktop must not take part: the bus can start only the services that the journey
+names, and of the system's shared data there is only what the tools of a journey cannot do without.
 """
 
 import os
@@ -11,6 +14,25 @@ import subprocess
 import sys
 import tempfile
 import time
+
+
+INSTALLED_SERVICES = pathlib.Path("/usr/share/dbus-1/services")
+ACCESSIBILITY = ["org.a11y.Bus"]  # the tests read the window over it
+# Settings schemas are for the calendar server, themes for the window manager.
+SHARED_DATA = ("glib-2.0", "themes", "mime")
+BUS = """<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen><servicedir>{services}</servicedir>
+<policy context="default"><allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/>
+</policy>{limits}</busconfig>
+"""
+# Those of an ordinary session bus; the daemon's own are for the bus of the system.
+LIMITS = {
+    "max_incoming_bytes": 1000000000,
+    "max_outgoing_bytes": 1000000000,
+    "max_message_size": 1000000000,
+    "service_start_timeout": 120000,
+    "max_replies_per_connection": 50000,
+    "max_match_rules_per_connection": 50000,
+}
 
 
 class Late(AssertionError):
@@ -44,6 +66,31 @@ def start_display():
     return server, f":{number}"
 
 
+def are_installed(services):
+    return all((INSTALLED_SERVICES / f"{name}.service").exists() for name in services)
+
+
+def write_bus_configuration(home, services):
+    """Returns the configuration file of a session bus that can start these installed services only."""
+    folder = home / "services"
+    folder.mkdir()
+    for name in services:
+        (folder / f"{name}.service").symlink_to(INSTALLED_SERVICES / f"{name}.service")
+    file = home / "session.conf"
+    limits = "".join(f'<limit name="{name}">{value}</limit>' for name, value in LIMITS.items())
+    file.write_text(BUS.format(services=folder, limits=limits))
+    return file
+
+
+def share(home):
+    """Returns a folder of shared data that stands in for those of the system."""
+    folder = home / "share"
+    folder.mkdir()
+    for name in SHARED_DATA:
+        (folder / name).symlink_to(pathlib.Path("/usr/share") / name)
+    return folder
+
+
 def environment(home, display):
     """Only what the program needs: nothing of the developer's own desktop reaches it."""
     variables = {
@@ -54,11 +101,14 @@ def environment(home, display):
     }
     for folder in variables.values():
         os.makedirs(folder, mode=0o700)
-    passed_on = ("PATH", "ASAN_OPTIONS", "PELKO_TRACES", "QT_QUICK_BACKEND", "QT_SCALE_FACTOR")
+    passed_on = ("PATH", "ASAN_OPTIONS", "PELKO_TRACES", "QT_QUICK_BACKEND")
     kept = {name: os.environ[name] for name in passed_on if name in os.environ}
     return {
         **kept,
         **variables,
+        "XDG_DATA_DIRS": str(share(home)),
+        "XDG_CONFIG_DIRS": str(home / "config"),
+        "GSETTINGS_BACKEND": "memory",
         "HOME": str(home),
         "DISPLAY": display,
         "LANG": "C.UTF-8",
@@ -71,14 +121,15 @@ def environment(home, display):
     }
 
 
-def run_on_own_desktop():
-    """The outer process: runs this same script again on a fresh desktop and ends with its exit code."""
+def run_on_own_desktop(services):
+    """The outer process: runs this same script again on a fresh desktop and returns its exit code."""
     with tempfile.TemporaryDirectory(prefix="pelko-journey-") as folder:
         home = pathlib.Path(folder)
         server, display = start_display()
         try:
+            bus = write_bus_configuration(home, [*ACCESSIBILITY, *services])
             session = subprocess.Popen(
-                ["dbus-run-session", "--", sys.executable, *sys.argv],
+                ["dbus-run-session", f"--config-file={bus}", "--", sys.executable, *sys.argv],
                 env=environment(home, display),
                 start_new_session=True,
             )

@@ -3,6 +3,7 @@
 from gi.repository import Gio, GLib
 
 SERVER = "org.gnome.evolution.dataserver."
+SERVICES = [SERVER + name for name in ("Sources5", "Calendar8", "AddressBook10")]
 
 
 class Calendar:

@@ -218,11 +218,14 @@ def complaints(words):
     return [line for line in words.splitlines() if not any(phrase in line for phrase in HARMLESS)]
 
 
-def run(journey):
-    """Runs a journey on a desktop of its own; the script's argument is the program."""
+def run(journey, services=()):
+    """Runs a journey on a desktop of its own; the script's argument is the program.
+
+    `services` are the names of installed services that the bus of that desktop may start.
+    """
     home = os.environ.get("PELKO_JOURNEY")
     if home is None:
-        sys.exit(desktop.run_on_own_desktop())
+        sys.exit(desktop.run_on_own_desktop(services))
     manager = desktop.start_window_manager()
     pelko = Pelko(sys.argv[1], pathlib.Path(home))
     code = 0

@@ -64,4 +64,4 @@ def up_next(pelko):
     pelko.close()
 
 
-journey.run(up_next)
+journey.run(up_next, services=evolution.SERVICES)
