@@ -24,7 +24,7 @@ test=(
     clang-format-19 clang-tidy-19 clang-19 libclang-rt-19-dev llvm-19 lld shellcheck git
     desktop-file-utils appstream mandoc
     qml6-module-qttest qml6-module-qt-labs-platform
-    python3 python3-pyatspi at-spi2-core dbus cmark evolution-data-server
+    python3 python3-pyatspi at-spi2-core dbus cmark evolution-data-server xdg-desktop-portal-gtk
     xvfb openbox xdotool x11-utils x11-apps xclip imagemagick
     fcitx5 fcitx5-anthy fcitx5-frontend-qt6 ibus ibus-anthy
 )

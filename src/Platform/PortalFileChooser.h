@@ -12,7 +12,10 @@ public:
     /// Names the window that the chooser belongs to, in the way the desktop names windows; empty for none.
     using ParentWindow = std::function<QString()>;
 
-    PortalFileChooser(QDBusConnection bus, ParentWindow parentWindow, FileChooser &otherwise);
+    /// `longestAnswer`: how long the portal may take to accept a request before `otherwise` is shown.
+    /// Starting the service is part of it, showing the dialog is not.
+    PortalFileChooser(QDBusConnection bus, ParentWindow parentWindow, FileChooser &otherwise,
+                      std::chrono::milliseconds longestAnswer = std::chrono::seconds(10));
 
     ScheduledCall choose(Wanted wanted, Completion completion) override;
 
@@ -20,4 +23,5 @@ private:
     const QDBusConnection m_bus;
     const ParentWindow m_parentWindow;
     FileChooser &m_otherwise;
+    const std::chrono::milliseconds m_longestAnswer;
 };

@@ -5,6 +5,7 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 
 using namespace Qt::StringLiterals;
 
@@ -14,8 +15,7 @@ const QString portalService = u"org.freedesktop.portal.Desktop"_s;
 const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
 const QString chooserInterface = u"org.freedesktop.portal.FileChooser"_s;
 const QString requestInterface = u"org.freedesktop.portal.Request"_s;
-// Long enough to start the service; the question itself is answered at once.
-constexpr int longestAnswer = 10'000;
+constexpr uint successResponse = 0; // 1: cancelled; 2: ended in some other way, with GTK also by Escape
 
 /// One way to tell which files are wanted, as the bus has it: 1 stands for a media type.
 struct Pattern {
@@ -121,11 +121,10 @@ PortalRequest::PortalRequest(QDBusConnection bus, FileChooser::Wanted wanted,
 
 PortalRequest::~PortalRequest()
 {
-    if (!m_path.isEmpty())
-        m_bus.send(QDBusMessage::createMethodCall(portalService, m_path, requestInterface, u"Close"_s));
+    close();
 }
 
-void PortalRequest::send(const QString &parentWindow)
+void PortalRequest::send(const QString &parentWindow, std::chrono::milliseconds longestAnswer)
 {
     if (!m_bus.isConnected()) {
         QMetaObject::invokeMethod(this, &PortalRequest::refused, Qt::QueuedConnection);
@@ -133,10 +132,13 @@ void PortalRequest::send(const QString &parentWindow)
     }
     const QString token = nextToken();
     listenTo(requestPath(m_bus, token));
+    const auto *portal =
+        new QDBusServiceWatcher(portalService, m_bus, QDBusServiceWatcher::WatchForUnregistration, this);
+    connect(portal, &QDBusServiceWatcher::serviceUnregistered, this, &PortalRequest::portalEnded);
     auto question =
         QDBusMessage::createMethodCall(portalService, portalPath, chooserInterface, u"OpenFile"_s);
     question << parentWindow << titleFor(m_wanted) << optionsFor(m_wanted, token);
-    auto *reply = new QDBusPendingCallWatcher(m_bus.asyncCall(question, longestAnswer), this);
+    auto *reply = new QDBusPendingCallWatcher(m_bus.asyncCall(question, int(longestAnswer.count())), this);
     connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply] {
         const QDBusPendingReply<QDBusObjectPath> handle = *reply;
         reply->deleteLater();
@@ -146,13 +148,14 @@ void PortalRequest::send(const QString &parentWindow)
 
 void PortalRequest::accepted(const QString &handle)
 {
+    m_isAccepted = true;
     if (!m_path.isEmpty() && handle != m_path) // as early versions of the service have it
         listenTo(handle);
 }
 
 void PortalRequest::refused()
 {
-    m_path.clear();
+    close(); // It may only be late.
     m_otherChooser =
         m_otherwise.choose(m_wanted, [this](const FileChooser::Choice &choice) { finish(choice); });
 }
@@ -166,13 +169,30 @@ void PortalRequest::listenTo(const QString &path)
 
 void PortalRequest::answered(uint response, const QVariantMap &results)
 {
+    if (m_path.isEmpty()) // closed before
+        return;
     m_path.clear();
-    if (response == cancelled)
-        finish(QList<std::filesystem::path>{});
-    else if (response == chosen)
-        finish(filesOf(results.value(u"uris"_s).toStringList()));
-    else
-        finish(FileError{u"The file chooser came to an unexpected end."_s});
+    finish(response == successResponse ? filesOf(results.value(u"uris"_s).toStringList())
+                                       : QList<std::filesystem::path>());
+}
+
+void PortalRequest::portalEnded()
+{
+    // Before it has accepted the request, the call itself fails.
+    if (!m_isAccepted || m_path.isEmpty())
+        return;
+    m_path.clear();
+    finish(FileError{u"The file chooser came to an unexpected end"_s});
+}
+
+void PortalRequest::close()
+{
+    const QString path = std::exchange(m_path, {});
+    if (path.isEmpty())
+        return;
+    auto message = QDBusMessage::createMethodCall(portalService, path, requestInterface, u"Close"_s);
+    message.setAutoStartService(false);
+    m_bus.send(message);
 }
 
 void PortalRequest::finish(const FileChooser::Choice &choice)

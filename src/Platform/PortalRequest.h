@@ -8,8 +8,9 @@
 
 class QDBusMessage;
 
-/// One request to the desktop's file chooser, from the question to the answer. Destroying it closes the
-/// chooser.
+/// One request to the file chooser of the desktop's portal. A dialog that is closed in any way without a
+/// choice counts as cancelled. A portal that does not accept the request in time is replaced by another
+/// chooser, one that ends while its dialog is open is a FileError. Destroying the request closes the dialog.
 class PortalRequest : public QObject
 {
     Q_OBJECT
@@ -19,17 +20,17 @@ public:
                   FileChooser &otherwise);
     ~PortalRequest() override;
 
-    void send(const QString &parentWindow);
+    void send(const QString &parentWindow, std::chrono::milliseconds longestAnswer);
 
 private Q_SLOTS:
     /// The signal of the bus that ends the request.
     void answered(uint response, const QVariantMap &results);
 
 private:
-    enum Response : uint { chosen = 0, cancelled = 1 };
-
     void accepted(const QString &handle);
     void refused();
+    void portalEnded();
+    void close();
     void listenTo(const QString &path);
     void finish(const FileChooser::Choice &choice);
 
@@ -38,5 +39,6 @@ private:
     FileChooser::Completion m_completion;
     FileChooser &m_otherwise;
     QString m_path; // of the request on the bus, empty when nothing is under way there
+    bool m_isAccepted = false;
     ScheduledCall m_otherChooser;
 };

@@ -1,4 +1,5 @@
 #include "Platform/PortalFileChooser.h"
+#include "Platform/PrivateBus.h"
 #include "support/ManualDesktop.h"
 #include "support/TestProgram.h"
 
@@ -6,7 +7,7 @@
 #include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
-#include <QProcess>
+#include <QDBusVirtualObject>
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +17,22 @@ using Files = QList<std::filesystem::path>;
 
 const QString service = u"org.freedesktop.portal.Desktop"_s;
 
+/// The dialogs of the portal: notes which of them the program closes.
+class Dialogs : public QDBusVirtualObject
+{
+public:
+    QString introspect(const QString &) const override { return {}; }
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override
+    {
+        if (message.member() == "Close"_L1)
+            closed << message.path();
+        connection.send(message.createReply());
+        return true;
+    }
+
+    QStringList closed;
+};
+
 /// The desktop's side of the bus.
 class Portal : public QObject, protected QDBusContext
 {
@@ -23,7 +40,13 @@ class Portal : public QObject, protected QDBusContext
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
 
 public:
-    explicit Portal(const QDBusConnection &bus) : m_bus(bus) {}
+    explicit Portal(const QDBusConnection &bus) : m_bus(bus)
+    {
+        m_bus.registerObject(u"/org/freedesktop/portal/desktop"_s, this, QDBusConnection::ExportAllSlots);
+        m_bus.registerVirtualObject(u"/org/freedesktop/portal/desktop/request"_s, &dialogs,
+                                    QDBusConnection::SubPath);
+        m_bus.registerService(service);
+    }
 
     void answer(uint response, const QVariantMap &results)
     {
@@ -33,6 +56,18 @@ public:
         m_bus.send(signal);
     }
 
+    /// Returns once the program has received everything sent so far: messages keep their order.
+    bool flush()
+    {
+        const auto ping =
+            QDBusMessage::createMethodCall(caller, u"/"_s, u"org.freedesktop.DBus.Peer"_s, u"Ping"_s);
+        const bool isAnswered = m_bus.call(ping).type() == QDBusMessage::ReplyMessage;
+        QCoreApplication::processEvents();
+        return isAnswered;
+    }
+
+    bool isSilent = false; // answers no call
+    Dialogs dialogs;
     QString caller;
     QString handle;
     QString parent;
@@ -50,6 +85,7 @@ public Q_SLOTS:
                                                                         given[u"handle_token"_s].toString());
         if (!handleInstead.isEmpty())
             handle = handleInstead;
+        setDelayedReply(isSilent);
         return QDBusObjectPath(handle);
     }
 
@@ -72,40 +108,29 @@ class TestPortalFileChooser : public QObject
 {
     Q_OBJECT
 
-    QProcess daemon;
-    QString address;
+    std::unique_ptr<PrivateBus> bus;
     ManualFileChooser otherwise;
     std::unique_ptr<Portal> portal;
     QStringList choices;
     ScheduledCall request;
 
-    QDBusConnection connected(const QString &name) const
-    {
-        return QDBusConnection::connectToBus(address, name);
-    }
+    QDBusConnection program() { return bus->connection(u"program"_s); }
 
-    void choose(const QDBusConnection &bus, FileChooser::Wanted wanted = FileChooser::Wanted::picture)
+    void choose(const QDBusConnection &connection, FileChooser::Wanted wanted = FileChooser::Wanted::picture,
+                std::chrono::milliseconds longestAnswer = std::chrono::seconds(10))
     {
-        PortalFileChooser chooser(bus, [] { return u"x11:2a"_s; }, otherwise);
+        PortalFileChooser chooser(connection, [] { return u"x11:2a"_s; }, otherwise, longestAnswer);
         request =
             chooser.choose(wanted, [this](const FileChooser::Choice &choice) { choices << written(choice); });
     }
 
-    void offerPortal()
-    {
-        QDBusConnection desktop = connected(u"desktop"_s);
-        portal = std::make_unique<Portal>(desktop);
-        QVERIFY(desktop.registerObject(u"/org/freedesktop/portal/desktop"_s, portal.get(),
-                                       QDBusConnection::ExportAllSlots));
-        QVERIFY(desktop.registerService(service));
-    }
+    void offerPortal() { portal = std::make_unique<Portal>(bus->connection(u"desktop"_s)); }
 
 private Q_SLOTS:
-    void initTestCase()
+    void init()
     {
-        daemon.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
-        QVERIFY2(daemon.waitForReadyRead(), "no bus");
-        address = QString::fromUtf8(daemon.readLine().trimmed());
+        bus = std::make_unique<PrivateBus>();
+        otherwise.asked = 0;
     }
 
     void cleanup()
@@ -113,21 +138,13 @@ private Q_SLOTS:
         request = {};
         choices.clear();
         portal.reset();
-        connected(u"desktop"_s).unregisterService(service);
-        QDBusConnection::disconnectFromBus(u"desktop"_s);
-    }
-
-    void cleanupTestCase()
-    {
-        QDBusConnection::disconnectFromBus(u"program"_s);
-        daemon.terminate();
-        daemon.waitForFinished();
+        bus.reset();
     }
 
     void theDesktopIsAskedForOnePictureForThisWindow()
     {
         offerPortal();
-        choose(connected(u"program"_s));
+        choose(program());
         QTRY_VERIFY(!portal->handle.isEmpty());
         QCOMPARE(portal->parent, u"x11:2a"_s);
         QCOMPARE(portal->options[u"multiple"_s].toBool(), false);
@@ -139,7 +156,7 @@ private Q_SLOTS:
     void theDesktopIsAskedForAFolder()
     {
         offerPortal();
-        choose(connected(u"program"_s), FileChooser::Wanted::folder);
+        choose(program(), FileChooser::Wanted::folder);
         QTRY_VERIFY(!portal->handle.isEmpty());
         QCOMPARE(portal->options[u"directory"_s].toBool(), true);
         QVERIFY(!portal->options.contains(u"filters"_s));
@@ -150,7 +167,7 @@ private Q_SLOTS:
     void theChosenFileIsHandedOverByteForByte()
     {
         offerPortal();
-        choose(connected(u"program"_s));
+        choose(program());
         QTRY_VERIFY(!portal->handle.isEmpty());
         portal->answer(0, {{u"uris"_s, QStringList{u"file:///home/me/a%20%C3%A9.png"_s}}});
         QTRY_COMPARE(choices, QStringList{u"chosen: /home/me/a \u00e9.png"_s});
@@ -159,7 +176,7 @@ private Q_SLOTS:
     void whatIsNotOnThisMachineIsNoFile()
     {
         offerPortal();
-        choose(connected(u"program"_s));
+        choose(program());
         QTRY_VERIFY(!portal->handle.isEmpty());
         portal->answer(0, {{u"uris"_s, QStringList{u"https://example.org/a.png"_s}}});
         QTRY_COMPARE(choices, QStringList{u"chosen: "_s});
@@ -168,26 +185,77 @@ private Q_SLOTS:
     void cancellingChoosesNothing()
     {
         offerPortal();
-        choose(connected(u"program"_s));
+        choose(program());
         QTRY_VERIFY(!portal->handle.isEmpty());
         portal->answer(1, {});
         QTRY_COMPARE(choices, QStringList{u"chosen: "_s});
     }
 
-    void anUnexpectedEndIsAFailure()
+    void aDialogClosedOtherwiseIsCancelled_data()
+    {
+        QTest::addColumn<uint>("response");
+        QTest::newRow("Escape or a closed window") << 2U;
+        QTest::newRow("unknown") << 77U;
+    }
+    void aDialogClosedOtherwiseIsCancelled()
+    {
+        QFETCH(uint, response);
+        offerPortal();
+        choose(program());
+        QTRY_VERIFY(!portal->handle.isEmpty());
+        portal->answer(response, {});
+        QTRY_COMPARE(choices, QStringList{u"chosen: "_s});
+    }
+
+    void aPortalThatEndsWhileItsDialogIsOpenIsAFailure()
     {
         offerPortal();
-        choose(connected(u"program"_s));
+        choose(program());
         QTRY_VERIFY(!portal->handle.isEmpty());
-        portal->answer(2, {});
-        QTRY_COMPARE(choices, QStringList{u"failed: The file chooser came to an unexpected end."_s});
+        QVERIFY(portal->flush());
+        bus->connection(u"desktop"_s).unregisterService(service);
+        QTRY_COMPARE(choices, QStringList{u"failed: The file chooser came to an unexpected end"_s});
+        QCOMPARE(otherwise.asked, 0);
+    }
+
+    void aPortalThatNeverAnswersIsReplacedByTheOtherChooser()
+    {
+        offerPortal();
+        portal->isSilent = true;
+        choose(program(), FileChooser::Wanted::picture, std::chrono::milliseconds(100));
+        QTRY_COMPARE(otherwise.asked, 1);
+    }
+
+    void aLateDialogIsClosedAndItsAnswerIgnored()
+    {
+        offerPortal();
+        portal->isSilent = true;
+        choose(program(), FileChooser::Wanted::picture, std::chrono::milliseconds(100));
+        QTRY_COMPARE(otherwise.asked, 1);
+        QTRY_COMPARE(portal->dialogs.closed, QStringList{portal->handle});
+
+        portal->answer(0, {{u"uris"_s, QStringList{u"file:///late.png"_s}}});
+        otherwise.answer(Files{"/a.png"});
+        portal->answer(0, {{u"uris"_s, QStringList{u"file:///later.png"_s}}});
+        QVERIFY(portal->flush());
+        QCOMPARE(choices, QStringList{u"chosen: /a.png"_s});
+    }
+
+    void droppingTheRequestClosesTheDialog()
+    {
+        offerPortal();
+        choose(program());
+        QTRY_VERIFY(!portal->handle.isEmpty());
+        QVERIFY(portal->flush());
+        request = {};
+        QTRY_COMPARE(portal->dialogs.closed, QStringList{portal->handle});
     }
 
     void anAnswerUnderAnotherNameIsHeardToo()
     {
         offerPortal();
         portal->handleInstead = u"/org/freedesktop/portal/desktop/request/own_name"_s;
-        choose(connected(u"program"_s));
+        choose(program());
         QTRY_VERIFY(!portal->handle.isEmpty());
         // The program listens under that name once it has heard of it.
         QTRY_VERIFY((portal->answer(1, {}), !choices.isEmpty()));
@@ -196,8 +264,7 @@ private Q_SLOTS:
 
     void withoutAPortalTheOtherChooserIsShown()
     {
-        otherwise.asked = 0;
-        choose(connected(u"program"_s), FileChooser::Wanted::folder);
+        choose(program(), FileChooser::Wanted::folder);
         QTRY_COMPARE(otherwise.asked, 1);
         QCOMPARE(otherwise.wanted, FileChooser::Wanted::folder);
         otherwise.answer(Files{"/a.png"});
@@ -206,7 +273,6 @@ private Q_SLOTS:
 
     void withoutABusTheOtherChooserIsShown()
     {
-        otherwise.asked = 0;
         choose(QDBusConnection(u"nowhere"_s));
         QTRY_COMPARE(otherwise.asked, 1);
     }
