@@ -2,10 +2,10 @@
 #include "Platform/Tray/StatusNotifierItem.h"
 #include "Platform/Tray/Tray.h"
 #include "Platform/Tray/TrayTypes.h"
+#include "Platform/TrayWatcher.h"
 #include "Timers/TrayFace.h"
 #include "support/TestProgram.h"
 
-#include <QDBusContext>
 #include <QDBusInterface>
 #include <QDBusPendingReply>
 #include <QSignalSpy>
@@ -16,42 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-const QString watcherName = u"org.kde.StatusNotifierWatcher"_s;
-
-/// The part of a desktop that keeps the list of items.
-class Watcher : public QObject, protected QDBusContext
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
-    Q_PROPERTY(bool IsStatusNotifierHostRegistered MEMBER hasHost)
-
-public:
-    explicit Watcher(const QDBusConnection &bus) : m_bus(bus)
-    {
-        m_bus.registerObject(u"/StatusNotifierWatcher"_s, this, QDBusConnection::ExportAllContents);
-        m_bus.registerService(watcherName);
-    }
-    ~Watcher() override
-    {
-        m_bus.unregisterService(watcherName);
-        m_bus.unregisterObject(u"/StatusNotifierWatcher"_s);
-    }
-    Q_DISABLE_COPY_MOVE(Watcher)
-
-    bool hasHost = true;
-    QStringList items;
-
-public Q_SLOTS:
-    void RegisterStatusNotifierItem(const QString &service) { items.append(service); }
-
-Q_SIGNALS:
-    void StatusNotifierHostRegistered();
-    void StatusNotifierHostUnregistered();
-
-private:
-    QDBusConnection m_bus;
-};
-
 TrayFace running()
 {
     return {.isRunning = true,
@@ -121,7 +85,7 @@ private Q_SLOTS:
 
     void enrolsWhereThereIsATray()
     {
-        const Watcher watcher(m_bus->connection(u"host"_s));
+        const TrayWatcher watcher(m_bus->connection(u"host"_s));
         const QSignalSpy present(m_tray.get(), &Tray::isPresentChanged);
 
         m_tray->connectTo(m_bus->connection(u"pelko"_s));
@@ -137,7 +101,7 @@ private Q_SLOTS:
         QTest::qWait(50);
         QVERIFY(!m_tray->isPresent());
 
-        const Watcher watcher(m_bus->connection(u"host"_s));
+        const TrayWatcher watcher(m_bus->connection(u"host"_s));
 
         QTRY_VERIFY(m_tray->isPresent());
     }
@@ -153,40 +117,66 @@ private Q_SLOTS:
 
     void aListNobodyShowsIsNoTray()
     {
-        Watcher watcher(m_bus->connection(u"host"_s));
+        TrayWatcher watcher(m_bus->connection(u"host"_s));
         watcher.hasHost = false;
         m_tray->connectTo(m_bus->connection(u"pelko"_s));
         QTRY_COMPARE(watcher.items.size(), 1);
         QTest::qWait(50);
         QVERIFY(!m_tray->isPresent());
 
-        watcher.hasHost = true;
-        Q_EMIT watcher.StatusNotifierHostRegistered();
+        watcher.setHost(true);
         QTRY_VERIFY(m_tray->isPresent());
 
-        watcher.hasHost = false;
-        Q_EMIT watcher.StatusNotifierHostUnregistered();
+        watcher.setHost(false);
         QTRY_VERIFY(!m_tray->isPresent());
     }
 
     void enrolsAgainWhenTheTrayComesBack()
     {
         const QDBusConnection host = m_bus->connection(u"host"_s);
-        auto watcher = std::make_unique<Watcher>(host);
+        auto watcher = std::make_unique<TrayWatcher>(host);
         m_tray->connectTo(m_bus->connection(u"pelko"_s));
         QTRY_VERIFY(m_tray->isPresent());
 
         watcher.reset();
         QTRY_VERIFY(!m_tray->isPresent());
-        watcher = std::make_unique<Watcher>(host);
+        watcher = std::make_unique<TrayWatcher>(host);
 
         QTRY_VERIFY(m_tray->isPresent());
         QCOMPARE(watcher->items, QStringList{m_item});
     }
 
+    void registersWithAWatcherThatReplacesAnother()
+    {
+        const TrayWatcher first(m_bus->connection(u"first"_s));
+        m_tray->connectTo(m_bus->connection(u"pelko"_s));
+        QTRY_VERIFY(m_tray->isPresent());
+
+        const TrayWatcher second(m_bus->connection(u"second"_s));
+
+        QTRY_COMPARE(second.items, QStringList{m_item});
+        QTRY_VERIFY(m_tray->isPresent());
+    }
+
+    void aLateAnswerOfAReplacedWatcherIsIgnored()
+    {
+        TrayWatcher first(m_bus->connection(u"host"_s), TrayWatcher::Registration::unanswered);
+        m_tray->connectTo(m_bus->connection(u"pelko"_s));
+        QTRY_COMPARE(first.items.size(), 1);
+        const TrayWatcher second(m_bus->connection(u"second"_s));
+        QTRY_VERIFY(m_tray->isPresent());
+        const QSignalSpy changes(m_tray.get(), &Tray::isPresentChanged);
+
+        first.answer(TrayWatcher::Registration::refused);
+        QVERIFY(property(u"Id"_s).isValid()); // sent after the refusal, so that has arrived too
+        QCoreApplication::processEvents();
+
+        QCOMPARE(changes.count(), 0);
+    }
+
     void aBusThatDiesTakesTheTrayWithIt()
     {
-        const Watcher watcher(m_bus->connection(u"host"_s));
+        const TrayWatcher watcher(m_bus->connection(u"host"_s));
         m_tray->connectTo(m_bus->connection(u"pelko"_s));
         QTRY_VERIFY(m_tray->isPresent());
 
@@ -198,7 +188,7 @@ private Q_SLOTS:
 
     void tellsTheTimeInLabelAndToolTip()
     {
-        const Watcher watcher(m_bus->connection(u"host"_s));
+        const TrayWatcher watcher(m_bus->connection(u"host"_s));
         m_tray->connectTo(m_bus->connection(u"pelko"_s));
         QTRY_VERIFY(m_tray->isPresent());
         QCOMPARE(property(u"XAyatanaLabel"_s).toString(), QString());
@@ -213,7 +203,7 @@ private Q_SLOTS:
 
     void offersTheIconInSeveralSizes()
     {
-        const Watcher watcher(m_bus->connection(u"host"_s));
+        const TrayWatcher watcher(m_bus->connection(u"host"_s));
         m_tray->connectTo(m_bus->connection(u"pelko"_s));
         QTRY_VERIFY(m_tray->isPresent());
         m_tray->show(running());
@@ -248,7 +238,7 @@ private Q_SLOTS:
 
     void clicksArriveWithTheirPlace()
     {
-        const Watcher watcher(m_bus->connection(u"host"_s));
+        const TrayWatcher watcher(m_bus->connection(u"host"_s));
         m_tray->connectTo(m_bus->connection(u"pelko"_s));
         QTRY_VERIFY(m_tray->isPresent());
         const QSignalSpy activated(m_tray.get(), &Tray::activated);
@@ -266,7 +256,7 @@ private Q_SLOTS:
 
     void theMenuIsReadAndUsedOverTheBus()
     {
-        const Watcher watcher(m_bus->connection(u"host"_s));
+        const TrayWatcher watcher(m_bus->connection(u"host"_s));
         m_tray->connectTo(m_bus->connection(u"pelko"_s));
         QTRY_VERIFY(m_tray->isPresent());
         m_tray->show(running());
@@ -292,7 +282,7 @@ private Q_SLOTS:
 
     void aMenuThatChangesIsReadAgain()
     {
-        const Watcher watcher(m_bus->connection(u"host"_s));
+        const TrayWatcher watcher(m_bus->connection(u"host"_s));
         m_tray->connectTo(m_bus->connection(u"pelko"_s));
         QTRY_VERIFY(m_tray->isPresent());
         m_tray->show(running());

@@ -64,13 +64,18 @@ void Tray::connectTo(const QDBusConnection &bus)
     m_bus.registerObject(menuPath, m_menuObject, QDBusConnection::ExportAdaptors);
     m_bus.registerService(m_serviceName);
     m_bus.connect({}, u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s, u"Disconnected"_s,
-                  this, SLOT(loseBus()));
+                  this, SLOT(withdraw()));
     for (const QString &signal : {u"StatusNotifierHostRegistered"_s, u"StatusNotifierHostUnregistered"_s})
         m_bus.connect(watcherService, watcherPath, watcherService, signal, this, SLOT(askForHost()));
-    m_watcher =
+    const auto *watcher =
         new QDBusServiceWatcher(watcherService, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(m_watcher, &QDBusServiceWatcher::serviceRegistered, this, &Tray::enrol);
-    connect(m_watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] { setPresent(false); });
+    // The name may pass from one owner to another directly: then it is neither registered nor unregistered.
+    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString &, const QString &, const QString &newOwner) {
+                withdraw();
+                if (!newOwner.isEmpty())
+                    enrol();
+            });
     enrol();
 }
 
@@ -82,14 +87,17 @@ void Tray::show(const TrayFace &face)
 
 void Tray::enrol()
 {
+    m_enrolment = std::make_unique<QObject>(); // answers of an earlier owner come too late
+    m_isRegistered = false;
     QDBusMessage message = QDBusMessage::createMethodCall(watcherService, watcherPath, watcherService,
                                                           u"RegisterStatusNotifierItem"_s);
     message << m_serviceName;
-    call(m_bus, this, message, [this](const QDBusMessage &reply) {
+    call(m_bus, m_enrolment.get(), message, [this](const QDBusMessage &reply) {
         if (failed(reply)) {
             setPresent(false);
             return;
         }
+        m_isRegistered = true;
         askForHost();
         askWhetherLabelsAreDrawn();
     });
@@ -97,10 +105,12 @@ void Tray::enrol()
 
 void Tray::askForHost()
 {
+    if (!m_isRegistered) // it will be asked for
+        return;
     QDBusMessage message = QDBusMessage::createMethodCall(watcherService, watcherPath,
                                                           u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
     message << watcherService << u"IsStatusNotifierHostRegistered"_s;
-    call(m_bus, this, message, [this](const QDBusMessage &reply) {
+    call(m_bus, m_enrolment.get(), message, [this](const QDBusMessage &reply) {
         const auto answer = reply.arguments().value(0).value<QDBusVariant>();
         setPresent(!failed(reply) && answer.variant().toBool());
     });
@@ -109,16 +119,18 @@ void Tray::askForHost()
 void Tray::askWhetherLabelsAreDrawn()
 {
     // No property tells. Of the trays in use, the one inside this shell is known to draw them.
-    call(m_bus, this, ownerOf(u"org.gnome.Shell"_s), [this](const QDBusMessage &shell) {
-        call(m_bus, this, ownerOf(watcherService), [this, shell](const QDBusMessage &tray) {
+    call(m_bus, m_enrolment.get(), ownerOf(u"org.gnome.Shell"_s), [this](const QDBusMessage &shell) {
+        call(m_bus, m_enrolment.get(), ownerOf(watcherService), [this, shell](const QDBusMessage &tray) {
             const bool isSame = !failed(shell) && !failed(tray) && shell.arguments() == tray.arguments();
             m_item->setLabels(isSame ? TrayLabels::drawn : TrayLabels::ignored);
         });
     });
 }
 
-void Tray::loseBus()
+void Tray::withdraw()
 {
+    m_enrolment.reset();
+    m_isRegistered = false;
     setPresent(false);
 }
 

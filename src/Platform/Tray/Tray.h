@@ -6,12 +6,13 @@
 #include <QObject>
 #include <QPoint>
 
-class QDBusServiceWatcher;
+#include <memory>
+
 class StatusNotifierItem;
 class TrayMenu;
 
-/// The program's item in the tray of the desktop, over the session bus. It enrols itself wherever a tray
-/// comes up, as often as one does, and is quiet where there is none. Nothing here waits for the bus.
+/// The program's StatusNotifierItem on the session bus. It registers itself with each new owner of the
+/// watcher's name, and is quiet while there is none. Nothing here waits for the bus.
 class Tray : public QObject
 {
     Q_OBJECT
@@ -39,7 +40,8 @@ Q_SIGNALS:
 
 private Q_SLOTS:
     void askForHost();
-    void loseBus();
+    /// The watcher that had the item has gone, or the bus.
+    void withdraw();
 
 private:
     void enrol();
@@ -50,7 +52,8 @@ private:
     StatusNotifierItem *m_item;
     QObject *m_menuObject;
     TrayMenu *m_menu;
-    QDBusServiceWatcher *m_watcher = nullptr;
+    std::unique_ptr<QObject> m_enrolment; // owns the calls to the current watcher; null while there is none
+    bool m_isRegistered = false;
     QString m_serviceName;
     bool m_isPresent = false;
 };
