@@ -8,7 +8,9 @@ constexpr Timestamp referenceDate = 978'307'200; // of timestamps, as seconds si
 
 CalendarEvent eventFrom(const Occurrence &occurrence)
 {
-    CalendarEvent event{.title = occurrence.title, .start = Timestamp(occurrence.start) - referenceDate};
+    CalendarEvent event{.title = occurrence.title,
+                        .start = Timestamp(occurrence.start) - referenceDate,
+                        .end = Timestamp(occurrence.end) - referenceDate};
     if (!occurrence.identifier.isEmpty())
         event.identifier = QString::fromUtf8(occurrence.identifier);
     return event;

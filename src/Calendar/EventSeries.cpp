@@ -34,8 +34,9 @@ QList<Occurrence> EventSeries::occurrences(const Span &span, const IsGivenUp &is
     for (const CalendarEntry &change : m_changes) {
         const qint64 start = change.start.utc();
         if (!change.isCancelled)
-            addIfOverlapping(found, span, {start, change.title, identifierAt(change, start)},
-                             change.length().endUtc(change.start.wall, *change.start.zone));
+            addIfOverlapping(found, span,
+                             {start, change.length().endUtc(change.start.wall, *change.start.zone),
+                              change.title, identifierAt(change, start)});
     }
     std::ranges::stable_sort(found, {}, &Occurrence::start);
     const auto copies = std::ranges::unique(found);
@@ -56,8 +57,8 @@ void EventSeries::addRepeated(QList<Occurrence> &found, const CalendarEntry &ent
         const CalendarSpan length = change ? change->length() : instance.value();
         const qint64 start = entry.start.zone->utc(wall);
         addIfOverlapping(found, span,
-                         {start, change ? change->title : entry.title, identifierAt(entry, start)},
-                         length.endUtc(wall, *entry.start.zone));
+                         {start, length.endUtc(wall, *entry.start.zone), change ? change->title : entry.title,
+                          identifierAt(entry, start)});
     }
 }
 
@@ -95,10 +96,9 @@ EventSeries::Instances EventSeries::instances(const CalendarEntry &entry, const 
     return all;
 }
 
-void EventSeries::addIfOverlapping(QList<Occurrence> &found, const Span &span, const Occurrence &occurrence,
-                                   qint64 end)
+void EventSeries::addIfOverlapping(QList<Occurrence> &found, const Span &span, const Occurrence &occurrence)
 {
-    if (span.overlaps(occurrence.start, end))
+    if (span.overlaps(occurrence.start, occurrence.end))
         found.append(occurrence);
 }
 

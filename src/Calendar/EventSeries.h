@@ -19,6 +19,7 @@ struct Span {
 /// One time at which something takes place.
 struct Occurrence {
     qint64 start = 0;
+    qint64 end = 0;
     std::optional<QString> title = std::nullopt;
     QByteArray identifier = {};
 
@@ -45,8 +46,7 @@ private:
     Instances instances(const CalendarEntry &entry, const Span &span, const IsGivenUp &isGivenUp) const;
     void addRepeated(QList<Occurrence> &found, const CalendarEntry &entry, const Span &span,
                      const IsGivenUp &isGivenUp) const;
-    static void addIfOverlapping(QList<Occurrence> &found, const Span &span, const Occurrence &occurrence,
-                                 qint64 end);
+    static void addIfOverlapping(QList<Occurrence> &found, const Span &span, const Occurrence &occurrence);
     QByteArray identifierAt(const CalendarEntry &entry, qint64 start) const;
 
     QList<CalendarEntry> m_entries; // more than one only where somebody made a copy

@@ -9,10 +9,12 @@
 
 #include <optional>
 
-/// One thing in the user's calendars, at one time: what repeats is as many events.
+/// One occurrence in the user's calendars. Each occurrence of a recurring event is an event of its own.
 struct CalendarEvent {
     std::optional<QString> title = std::nullopt;
     Timestamp start = 0;
+    /// Not before the start, where it is known.
+    Timestamp end = 0;
     std::optional<QString> identifier = std::nullopt;
 
     bool operator==(const CalendarEvent &) const = default;

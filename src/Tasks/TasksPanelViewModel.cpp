@@ -126,7 +126,23 @@ int TasksPanelViewModel::taskNear(int row) const
     return below >= 0 ? below : m_tasks.taskFrom(std::min(row, m_tasks.rowCount() - 1), -1);
 }
 
+void TasksPanelViewModel::setSeen(bool isSeen)
+{
+    if (std::exchange(m_isSeen, isSeen) == isSeen || !isSeen)
+        return;
+    followClock();
+    m_upcomingEvents.fetchEvents();
+}
+
 void TasksPanelViewModel::tick()
+{
+    if (!m_isSeen)
+        return;
+    followClock();
+    m_upcomingEvents.followClock();
+}
+
+void TasksPanelViewModel::followClock()
 {
     m_currentTime = m_services.clock.now();
     m_zone = m_services.clock.timeZone();
@@ -164,7 +180,9 @@ void TasksPanelViewModel::followOpenDocument()
 
 void TasksPanelViewModel::followStreak()
 {
-    const qint64 streak =
-        WritingStreak::currentStreak(m_services.preferences, m_services.clock.now(), m_zone);
+    if (!m_isSeen)
+        return;
+    const qint64 streak = WritingStreak::currentStreak(m_services.preferences, m_services.clock.now(),
+                                                       m_services.clock.timeZone());
     ChangeScope(*this).assign(m_currentStreak, streak, &TasksPanelViewModel::currentStreakChanged);
 }

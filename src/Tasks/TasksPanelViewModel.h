@@ -9,8 +9,9 @@
 class AppState;
 
 /// What the tasks panel shows and can do, from its opening to its closing. It follows the store and, once a
-/// minute counted from its opening, the clock; so the minute it shows may be up to 59 seconds old. Whatever
-/// it changes is changed in the page as it was shown. Ids cross into QML as strings.
+/// minute counted from its opening, the clock; so the minute it shows may be up to 59 seconds old. While the
+/// panel is out of sight, the clock, the streak and the events wait. Whatever it changes is changed in the
+/// page as it was shown. Ids cross into QML as strings.
 class TasksPanelViewModel : public QObject
 {
     Q_OBJECT
@@ -55,9 +56,11 @@ public:
     qint64 currentStreak() const { return m_currentStreak; }
     /// "day" or "days".
     QString streakUnit() const;
-    /// Asked for once, when the panel opens.
+    /// Fetched when the panel comes into sight, and whenever they are outdated while it is.
     UpcomingEvents *upcomingEvents() { return &m_upcomingEvents; }
 
+    /// Whether the panel can be seen: its window is shown and the panel in it. A new panel counts as seen.
+    Q_INVOKABLE void setSeen(bool isSeen);
     /// The field holds `text` now.
     Q_INVOKABLE void typed(const QString &text);
     /// Adds what stands in the field and empties it, unless there are only blanks in it.
@@ -82,6 +85,7 @@ Q_SIGNALS:
 
 private:
     void tick();
+    void followClock();
     void followStore();
     void followOpenDocument();
     void followStreak();
@@ -96,6 +100,7 @@ private:
     QString m_newTaskText;
     qint64 m_wordTotal = 0;
     qint64 m_currentStreak = 0;
+    bool m_isSeen = true;
     Timestamp m_currentTime;
     UpcomingEvents m_upcomingEvents;
     QTimeZone m_zone;

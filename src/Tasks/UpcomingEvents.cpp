@@ -5,6 +5,7 @@
 #include "Tasks/ClockFace.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -24,27 +25,52 @@ UpcomingEvents::UpcomingEvents(CalendarStore &eventStore, const Clock &clock, co
 
 void UpcomingEvents::fetchEvents()
 {
-    const Timestamp now = m_clock.now();
-    const QTimeZone zone = m_clock.timeZone();
-    const QDateTime end = localTime(now, zone).addDays(1); // of the calendar: not always 24 hours
-    const CalendarWindow window{.from = now, .to = end.isValid() ? timestampOf(end) : now, .zone = zone};
+    m_fetchTime = m_clock.now();
+    if (std::exchange(m_fetchZone, m_clock.timeZone()) != m_fetchZone && rowCount() > 0)
+        Q_EMIT dataChanged(index(0), index(rowCount() - 1), {TimeRole});
+    const QDateTime end =
+        localTime(m_fetchTime, m_fetchZone).addDays(1); // of the calendar: not always 24 hours
+    const CalendarWindow window{
+        .from = m_fetchTime, .to = end.isValid() ? timestampOf(end) : m_fetchTime, .zone = m_fetchZone};
     m_fetch = m_eventStore.fetch(window, [this](const CalendarStore::Answer &answer) {
         if (answer)
             assign(*answer);
     });
 }
 
+void UpcomingEvents::followClock()
+{
+    if (isOutdated())
+        fetchEvents();
+}
+
+bool UpcomingEvents::isOutdated() const
+{
+    const Timestamp now = m_clock.now();
+    const QTimeZone zone = m_clock.timeZone();
+    return now < m_fetchTime || zone != m_fetchZone ||
+           localTime(now, zone).date() != localTime(m_fetchTime, zone).date() ||
+           std::ranges::any_of(
+               m_upcomingEvents,
+               [this, now](const CalendarEvent &event) {
+                   return event.end > m_fetchTime && event.end <= now;
+               });
+}
+
 void UpcomingEvents::assign(const QList<CalendarEvent> &events)
 {
-    QList<const CalendarEvent *> sorted;
+    QList<const CalendarEvent *> order;
     for (const CalendarEvent &event : events)
-        sorted.append(&event);
-    std::ranges::stable_sort(sorted, {}, &CalendarEvent::start);
+        order.append(&event);
+    std::ranges::stable_sort(order, {}, &CalendarEvent::start);
+    QList<CalendarEvent> sorted;
+    for (const CalendarEvent *event : std::as_const(order))
+        sorted.append(*event);
+    if (sorted == m_upcomingEvents)
+        return;
     const int before = total();
     beginResetModel();
-    m_upcomingEvents.clear();
-    for (const CalendarEvent *event : std::as_const(sorted))
-        m_upcomingEvents.append(*event);
+    m_upcomingEvents = std::move(sorted);
     endResetModel();
     if (total() != before)
         Q_EMIT totalChanged();

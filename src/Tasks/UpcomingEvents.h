@@ -7,9 +7,8 @@
 
 class Clock;
 
-/// What comes next in the user's calendars: the events of the day that begins at the moment of the fetch. Its
-/// rows, for QML, are the first three of them; the total counts all. Where calendars may not be read the list
-/// stays as it was, without a word.
+/// The events of the 24 hours after a fetch, sorted by start. The rows, for QML, are the first three; the
+/// total counts all. Where calendars cannot be read, the list silently stays as it was.
 class UpcomingEvents : public QAbstractListModel
 {
     Q_OBJECT
@@ -21,13 +20,17 @@ public:
     UpcomingEvents(CalendarStore &eventStore, const Clock &clock, const QLocale &locale,
                    QObject *parent = nullptr);
 
-    /// By their start; of the same start, as the store has them.
+    /// Sorted by start; events of the same start keep the order of the store.
     const QList<CalendarEvent> &upcomingEvents() const { return m_upcomingEvents; }
     int total() const { return static_cast<int>(m_upcomingEvents.size()); }
 
     /// Asks for access and, with it, for the events of the coming day. The list is replaced as a whole,
     /// later.
     void fetchEvents();
+
+    /// Fetches again if one of the events has ended, a day has begun, or the clock or the time zone was
+    /// changed since the last fetch.
+    void followClock();
 
     /// When it starts, like "9:30 AM", on whatever day that is.
     QString eventTimeString(const CalendarEvent &event) const;
@@ -41,10 +44,13 @@ Q_SIGNALS:
 
 private:
     void assign(const QList<CalendarEvent> &events);
+    bool isOutdated() const;
 
     CalendarStore &m_eventStore;
     const Clock &m_clock;
     QLocale m_locale;
     QList<CalendarEvent> m_upcomingEvents;
+    Timestamp m_fetchTime = 0;
+    QTimeZone m_fetchZone;
     ScheduledCall m_fetch;
 };

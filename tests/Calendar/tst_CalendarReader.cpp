@@ -95,13 +95,15 @@ private Q_SLOTS:
     void theEventsAreTakenInTheirOrder()
     {
         const QByteArray text = calendarText(eventText("SUMMARY:Late\r\nDTSTART:20261121T200000Z") +
-                                             eventText("SUMMARY:One\r\nUID:1\r\nDTSTART:20261121T100000Z") +
+                                             eventText("SUMMARY:One\r\nUID:1\r\nDTSTART:20261121T100000Z\r\n"
+                                                       "DURATION:PT1H") +
                                              eventText("SUMMARY:Other\r\nUID:2\r\nDTSTART:20261121T100000Z"));
         const Timestamp ten =
             CalendarDesk::timestamp(QDateTime(QDate(2026, 11, 21), QTime(10, 0), QTimeZone::utc()));
-        const QList<CalendarEvent> expected{{.title = u"Late"_s, .start = ten + 36000},
-                                            {.title = u"One"_s, .start = ten, .identifier = u"1"_s},
-                                            {.title = u"Other"_s, .start = ten, .identifier = u"2"_s}};
+        const QList<CalendarEvent> expected{
+            {.title = u"Late"_s, .start = ten + 36000, .end = ten + 36000},
+            {.title = u"One"_s, .start = ten, .end = ten + 3600, .identifier = u"1"_s},
+            {.title = u"Other"_s, .start = ten, .end = ten, .identifier = u"2"_s}};
         QCOMPARE(desk.events(text), expected);
     }
 

@@ -106,6 +106,8 @@ private Q_SLOTS:
     void anotherZoneIsAnotherTimeAndDay();
     void aPanelOpenedAgainHasNothingInItsField();
     void aPanelThatIsGoneNoLongerTicks();
+    void thePanelWaitsWhileItIsOutOfSight();
+    void theEventsAreFetchedWhenThePanelComesIntoSight();
 };
 
 void tst_TasksPanelViewModel::theListFollowsTheStore()
@@ -379,6 +381,36 @@ void tst_TasksPanelViewModel::aPanelThatIsGoneNoLongerTicks()
     desk.clock.time += 86400;
     desk.scheduler.advance(120s);
     QCOMPARE(desk.preferences.writes, 0);
+}
+
+void tst_TasksPanelViewModel::thePanelWaitsWhileItIsOutOfSight()
+{
+    PanelDesk desk;
+    PelkoDocument open = desk.add(u"Open"_s);
+    desk.panel->setSeen(false);
+    desk.clock.time += 86400;
+    desk.passMinutes(1);
+    open.blocks[0].content += u'x';
+    desk.appState.updateDocument(open);
+    QCOMPARE(desk.panel->currentStreak(), 1);
+    QCOMPARE(desk.calendars.windows.size(), 1);
+
+    const QSignalSpy told(desk.panel.get(), &TasksPanelViewModel::currentTimeChanged);
+    desk.panel->setSeen(true);
+    QCOMPARE(desk.panel->currentStreak(), 2);
+    QCOMPARE(told.count(), 1);
+}
+
+void tst_TasksPanelViewModel::theEventsAreFetchedWhenThePanelComesIntoSight()
+{
+    PanelDesk desk;
+    desk.panel->setSeen(true);
+    QCOMPARE(desk.calendars.windows.size(), 1);
+    desk.panel->setSeen(false);
+    desk.clock.time += 30;
+    desk.panel->setSeen(true);
+    QCOMPARE(desk.calendars.windows.size(), 2);
+    QCOMPARE(desk.calendars.windows.last().from, desk.clock.time);
 }
 
 PELKO_TEST(tst_TasksPanelViewModel)

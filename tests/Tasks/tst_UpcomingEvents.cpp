@@ -23,11 +23,21 @@ struct EventsDesk {
         clock.time = timestampOf(time);
     }
 
-    /// An event in so many minutes.
+    /// An event of half an hour in so many minutes.
     CalendarEvent event(const QString &title, int minutes) const
     {
-        return {.title = title, .start = clock.time + minutes * 60, .identifier = title};
+        const Timestamp start = clock.time + minutes * 60;
+        return {.title = title, .start = start, .end = start + 1800, .identifier = title};
     }
+
+    void passMinutes(int minutes)
+    {
+        for (int minute = 0; minute < minutes; ++minute) {
+            clock.time += 60;
+            events.followClock();
+        }
+    }
+    qsizetype fetches() const { return store.windows.size(); }
 
     void fetch(const CalendarStore::Answer &answer)
     {
@@ -169,12 +179,95 @@ private Q_SLOTS:
         QCOMPARE(window.zone, desk.clock.zone);
     }
 
-    void whoeverHasGoneIsNotAnswered()
+    void aDestroyedModelTakesItsRequestBack()
     {
         ManualClock clock;
         ManualCalendarStore store;
-        std::make_unique<UpcomingEvents>(store, clock, QLocale())->fetchEvents();
-        store.answer(QList{CalendarEvent{}});
+        auto events = std::make_unique<UpcomingEvents>(store, clock, QLocale());
+        events->fetchEvents();
+        QVERIFY(store.isWaitedFor());
+        events.reset();
+        QVERIFY(!store.isWaitedFor());
+    }
+
+    void theClockAloneFetchesNothing()
+    {
+        EventsDesk desk;
+        desk.fetch(QList{desk.event(u"Tea"_s, 600)});
+        desk.passMinutes(599);
+        QCOMPARE(desk.fetches(), 1);
+    }
+
+    void anEndedEventIsFetchedAway()
+    {
+        EventsDesk desk;
+        desk.fetch(QList{desk.event(u"Now"_s, -20), desk.event(u"Next"_s, 60)});
+        desk.passMinutes(9);
+        QCOMPARE(desk.fetches(), 1);
+        desk.passMinutes(1);
+        QCOMPARE(desk.fetches(), 2);
+        desk.store.answer(QList{desk.event(u"Next"_s, 50)});
+        QCOMPARE(desk.rows(), QStringList{u"Next 8:42 AM"_s});
+        desk.passMinutes(79);
+        QCOMPARE(desk.fetches(), 2);
+        desk.passMinutes(1);
+        QCOMPARE(desk.fetches(), 3);
+    }
+
+    void anEventThatStaysInTheAnswerIsNotFetchedForAgain()
+    {
+        EventsDesk desk;
+        const QList events{desk.event(u"Now"_s, -20)};
+        desk.fetch(events);
+        desk.passMinutes(10);
+        desk.store.answer(events); // by a calendar whose clock is slow
+        desk.passMinutes(10);
+        QCOMPARE(desk.fetches(), 2);
+    }
+
+    void aNewDayIsFetched()
+    {
+        EventsDesk desk;
+        desk.setTime(QDateTime(QDate(2025, 10, 16), QTime(23, 55), QTimeZone("Europe/Berlin")));
+        desk.fetch(QList<CalendarEvent>());
+        desk.passMinutes(4);
+        QCOMPARE(desk.fetches(), 1);
+        desk.passMinutes(1);
+        QCOMPARE(desk.fetches(), 2);
+        desk.passMinutes(5);
+        QCOMPARE(desk.fetches(), 2);
+    }
+
+    void aClockSetBackIsAReasonToFetch()
+    {
+        EventsDesk desk;
+        desk.fetch(QList<CalendarEvent>());
+        desk.clock.time -= 3600;
+        desk.passMinutes(1);
+        QCOMPARE(desk.fetches(), 2);
+    }
+
+    void theTimesFollowAChangeOfZone()
+    {
+        EventsDesk desk;
+        desk.fetch(QList{desk.event(u"Tea"_s, 60)});
+        const QSignalSpy changed(&desk.events, &UpcomingEvents::dataChanged);
+        desk.clock.zone = QTimeZone("Europe/Berlin");
+        desk.passMinutes(1);
+        QCOMPARE(desk.fetches(), 2); // all-day events begin at another moment
+        QCOMPARE(desk.store.windows.last().zone, desk.clock.zone);
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(desk.rows(), QStringList{u"Tea 10:42 AM"_s});
+    }
+
+    void theSameAnswerLeavesTheRowsAlone()
+    {
+        EventsDesk desk;
+        const QList events{desk.event(u"Tea"_s, 60)};
+        desk.fetch(events);
+        const QSignalSpy replaced(&desk.events, &UpcomingEvents::modelReset);
+        desk.fetch(events);
+        QCOMPARE(replaced.count(), 0);
     }
 
     void onlyTheLastFetchCounts()

@@ -70,6 +70,9 @@ public:
         m_calendars.answer(told);
     }
 
+    /// How often the calendars were asked.
+    Q_INVOKABLE int fetches() const { return int(m_calendars.windows.size()); }
+
     Q_INVOKABLE void passMinutes(int minutes)
     {
         for (int minute = 0; minute < minutes; ++minute) {

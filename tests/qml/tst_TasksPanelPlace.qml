@@ -205,6 +205,22 @@ Item {
             tryVerify(() => panel())
         }
 
+        function test_the_events_are_fetched_whenever_the_panel_comes_into_sight() {
+            bench.tasks.toggle()
+            tryCompare(panel(), "opacity", 1)
+            compare(bench.fetches(), 1)
+            bench.main.commands.run("focusMode")
+            tryVerify(() => panel() === null)
+            keyClick(Qt.Key_Escape)
+            tryVerify(() => panel())
+            compare(bench.fetches(), 2)
+            stage.Window.window.hide()
+            compare(bench.fetches(), 2)
+            stage.Window.window.show()
+            tryVerify(() => bench.fetches() === 3)
+            tryVerify(() => stage.Window.active)
+        }
+
         function test_little_motion_is_a_fade_in_place() {
             Motion.reduced = true
             bench.tasks.toggle()

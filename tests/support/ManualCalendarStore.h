@@ -2,6 +2,8 @@
 
 #include "Services/CalendarStore.h"
 
+#include <algorithm>
+
 /// Calendars that answer when a test says so.
 class ManualCalendarStore : public CalendarStore
 {
@@ -21,6 +23,11 @@ public:
             if (const auto request = waiting.lock())
                 (*request)(answer);
         }
+    }
+
+    bool isWaitedFor() const
+    {
+        return std::ranges::any_of(m_requests, [](const auto &request) { return !request.expired(); });
     }
 
     QList<CalendarWindow> windows;

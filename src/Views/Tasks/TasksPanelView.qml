@@ -9,6 +9,9 @@ FocusScope {
     required property TasksPanelViewModel panel
 
     readonly property Item focused: Window.activeFocusItem
+    // It is made before it is in a window, to be seen at once.
+    readonly property bool isSeen: !Window.window || (visible && Window.visibility !== Window.Hidden
+                                                      && Window.visibility !== Window.Minimized)
 
     /// Scrolls just as far as it takes to see what has the keyboard.
     function reveal() {
@@ -22,6 +25,7 @@ FocusScope {
     Accessible.role: Accessible.Pane
     implicitWidth: Metrics.panelWidth
     onFocusedChanged: if (activeFocus) reveal()
+    onIsSeenChanged: panel.setSeen(isSeen)
 
     Item {
         id: ground
