@@ -13,6 +13,15 @@ QString at(const char *title, const char *lines = "")
     return QString::fromUtf8(
         eventText("UID:"_ba + title + "\r\nSUMMARY:" + title + "\r\nDTSTART:20261121T100000Z\r\n" + lines));
 }
+
+/// So many events, each of them every day, none of whose names is part of another.
+QStringList daily(int count)
+{
+    QStringList events;
+    for (int index = 0; index < count; ++index)
+        events << at(("e" + QByteArray::number(index) + "e").constData(), "RRULE:FREQ=DAILY\r\n");
+    return events;
+}
 } // namespace
 
 /// The server of the desktop's calendars as it may behave, played by the test.
@@ -138,6 +147,50 @@ private Q_SLOTS:
     {
         startBus({.ownServices = {{u"org.gnome.evolution.dataserver.Sources5"_s, "/bin/false"}}});
         QCOMPARE(fetch(), u"Folder"_s);
+    }
+
+    void onlySoManyCallsWaitForTheServerAtTheSameTime()
+    {
+        startServer();
+        server->addCalendar(u"one"_s, daily(500));
+        QList<QDBusMessage> unanswered;
+        server->answers[u"GetObject"_s] = [&unanswered](const QDBusMessage &message) {
+            unanswered << message;
+            return std::nullopt;
+        };
+        std::optional<CalendarStore::Answer> answer;
+        auto calendars = store(60s);
+        const ScheduledCall request = calendars.fetch(
+            CalendarDesk().window(), [&answer](const CalendarStore::Answer &told) { answer = told; });
+        QTRY_VERIFY(!unanswered.isEmpty());
+        qsizetype most = 0;
+        while (!answer) {
+            most = std::max(most, unanswered.size());
+            for (const QDBusMessage &message : std::exchange(unanswered, {}))
+                bus->connection(u"server"_s).send(*server->ordinaryAnswer(message));
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        QCOMPARE((*answer)->size(), 500);
+        QVERIFY2(most <= 32, qPrintable(QString::number(most)));
+    }
+
+    void theEndDoesNotWaitForManyRepeatingEvents()
+    {
+        startServer();
+        server->addCalendar(u"one"_s, daily(20'000));
+        auto calendars =
+            std::make_unique<DesktopCalendarStore>(bus->connection(u"client"_s), home->folders(), 60s);
+        const ScheduledCall request = calendars->fetch(CalendarDesk().window(), [](const auto &) {});
+        QTRY_VERIFY_WITH_TIMEOUT(server->asked.count(u"GetObject"_s) > 0, 30'000);
+        QElapsedTimer timer;
+        timer.start();
+        calendars.reset();
+        QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+        // The bus has nothing more to carry for it: what was asked is all.
+        bus->connection(u"client"_s)
+            .call(QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/"_s,
+                                                 u"org.freedesktop.DBus.Peer"_s, u"Ping"_s));
+        QVERIFY(timer.elapsed() < 500);
     }
 
     void aFrozenServerIsNotWaitedForLongerThanItMayTake()

@@ -11,6 +11,9 @@ using namespace Qt::StringLiterals;
 namespace
 {
 const QString interfaceName = u"org.gnome.evolution.dataserver.Calendar"_s;
+/// Calls at the same time. A bus allows so many unanswered calls and no more, and what has been sent cannot
+/// be taken back when nobody waits for it any longer.
+constexpr int mostCalls = 32;
 
 /// What happens in the window and, because the server does not see what was moved there from elsewhere, all
 /// that repeats. A day more on either side: it has a mind of its own about zones and days, and we look again.
@@ -96,6 +99,8 @@ void EvolutionCalendar::readList(const QDBusMessage &answer)
         events << event.toUtf8();
     const CalendarNames names = CalendarNames::in(events.join("\r\n"));
     for (const QByteArray &event : std::as_const(events)) {
+        if (m_limit.isOver())
+            return;
         if (CalendarNames::in(event).repeatingUids.isEmpty())
             m_once << event;
     }
@@ -104,12 +109,22 @@ void EvolutionCalendar::readList(const QDBusMessage &answer)
 
 void EvolutionCalendar::askForParts(const CalendarNames &names)
 {
-    const auto keep = [this](const QDBusMessage &answer) {
+    // The zones first: without them, other events are at a wrong time.
+    for (const QByteArray &zone : names.foreignZones)
+        m_parts << (toCalendar(u"GetTimezone"_s) << QString::fromUtf8(zone));
+    for (const QByteArray &uid : names.repeatingUids)
+        m_parts << (toCalendar(u"GetObject"_s) << QString::fromUtf8(uid) << QString());
+    for (int count = 0; count < mostCalls; ++count)
+        askForNextPart();
+}
+
+void EvolutionCalendar::askForNextPart()
+{
+    if (m_parts.isEmpty() || m_limit.isOver())
+        return;
+    call(m_parts.takeFirst(), [this](const QDBusMessage &answer) {
         if (answer.signature() == "s"_L1)
             m_further << answer.arguments().first().toString().toUtf8();
-    };
-    for (const QByteArray &uid : names.repeatingUids)
-        call(toCalendar(u"GetObject"_s) << QString::fromUtf8(uid) << QString(), keep);
-    for (const QByteArray &zone : names.foreignZones)
-        call(toCalendar(u"GetTimezone"_s) << QString::fromUtf8(zone), keep);
+        askForNextPart();
+    });
 }

@@ -33,6 +33,7 @@ private:
     using Next = std::function<void(const QDBusMessage &)>;
 
     void call(const QDBusMessage &message, Next next);
+    void askForNextPart();
     QDBusMessage toCalendar(const QString &method) const;
     void open(const QDBusMessage &answer);
     void list();
@@ -45,7 +46,8 @@ private:
     const FetchLimit &m_limit;
     QString m_service;
     QString m_path;
-    QByteArrayList m_once;    // in the order in which they were told
-    QByteArrayList m_further; // zones, and what repeats
+    QByteArrayList m_once;       // in the order in which they were told
+    QByteArrayList m_further;    // zones, and what repeats
+    QList<QDBusMessage> m_parts; // still to be asked for
     int m_waiting = 0;
 };
