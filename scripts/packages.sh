@@ -6,7 +6,7 @@ set -euo pipefail
 build=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools qt6-shadertools-dev qt6-shader-baker qt6-svg-dev
-    libgl-dev libxcb1-dev libsimdjson-dev libical-dev
+    libgl-dev libxcb1-dev libsimdjson-dev
 )
 run=(
     qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript

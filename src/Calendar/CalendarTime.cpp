@@ -1,12 +1,11 @@
 #include "Calendar/CalendarTime.h"
 
-#include <QDate>
+#include "Calendar/WallDay.h"
 
 #include <algorithm>
 
 namespace
 {
-constexpr qint64 secondsOfDay = 86400;
 constexpr qint64 mostDays = 36525;
 
 std::optional<int> number(QByteArrayView digits)
@@ -37,7 +36,7 @@ std::optional<qint64> midnight(QByteArrayView digits)
     const auto day = number(digits.sliced(6, 2));
     if (!year || !month || !day || !QDate::isValid(*year, *month, *day))
         return std::nullopt;
-    return QDate(1970, 1, 1).daysTo(QDate(*year, *month, *day)) * secondsOfDay;
+    return wallOf(QDate(*year, *month, *day));
 }
 
 bool addPart(CalendarSpan &span, char unit, qint64 count)

@@ -1,10 +1,34 @@
 #pragma once
 
+#include "Calendar/RecurrenceParts.h"
+
 #include <QDate>
 
-struct icalrecurrencetype;
+#include <vector>
 
-/// Whether a monthly or yearly rule ever comes true for something that begins on a day. The library that
-/// works out its days would search for the first of them to the year 2582, within one call, and take seconds:
-/// "the 30th of February", "the sixth Monday".
-bool comesTrue(const icalrecurrencetype &rule, QDate start);
+/// Which days a rule names, by its parts that tell of days. What it leaves open, it takes from the first day.
+class RecurrenceDays
+{
+public:
+    /// `parts` have to live as long.
+    RecurrenceDays(const RecurrenceParts &parts, QDate start) : m_parts(parts), m_start(start) {}
+
+    /// Of a rule that repeats within a day or each so many days.
+    bool isOn(QDate day) const;
+    /// The days that the rule names in a week, month or year. A year of a rule with week numbers consists of
+    /// whole weeks.
+    std::vector<QDate> inWeek(QDate first) const;
+    std::vector<QDate> inMonth(int year, int month) const;
+    std::vector<QDate> inYear(int year) const;
+
+    /// The first day of the first week that has at least four days in that year.
+    QDate firstWeek(int year) const;
+
+private:
+    bool isLikeStart(QDate day) const;
+    bool isOnWeekDay(QDate day) const;
+    bool hasPosition(QDate day, int position) const;
+
+    const RecurrenceParts &m_parts;
+    QDate m_start;
+};

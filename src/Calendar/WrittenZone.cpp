@@ -32,21 +32,28 @@ std::optional<qint64> Observance::lastBeginning(qint64 utc) const
     if (rule) {
         const CalendarTime first{.wall = start, .zone = std::make_shared<FixedZone>(offsetBefore)};
         const qint64 end = std::min(wall, rule->until(first).value_or(wall));
-        const auto times = rule->times(first, {.from = end - twoYears, .to = end + 1}, [] { return false; });
-        if (!times.empty())
-            last = std::max(last, times.back());
+        const auto &times = timesAround(first, end);
+        const auto next = std::ranges::upper_bound(times, end);
+        if (next != times.begin())
+            last = std::max(last, *std::prev(next));
     }
     return last - offsetBefore;
+}
+
+const std::vector<qint64> &Observance::timesAround(const CalendarTime &first, qint64 wall) const
+{
+    const qint64 part = wall / twoYears - (wall % twoYears < 0 ? 1 : 0);
+    if (part != knownPart) {
+        knownTimes = rule->times(first, {.from = (part - 1) * twoYears, .to = (part + 1) * twoYears},
+                                 [] { return false; });
+        knownPart = part;
+    }
+    return knownTimes;
 }
 
 void WrittenZone::setObservances(std::vector<Observance> observances)
 {
     m_observances = std::move(observances);
-    // A zone is asked for every event; what never comes true is looked for once.
-    for (Observance &observance : m_observances) {
-        if (observance.rule && !observance.rule->comesTrue(observance.start))
-            observance.rule.reset();
-    }
     std::ranges::stable_sort(m_observances, {}, &Observance::start);
 }
 

@@ -2,6 +2,8 @@
 
 #include "Calendar/RecurrenceRule.h"
 
+#include <limits>
+
 /// A time of year with its own offset, summer or winter, as a calendar describes it.
 struct Observance {
     /// When it began first, as clocks showed it until then.
@@ -13,6 +15,12 @@ struct Observance {
 
     /// Its last beginning not after a moment.
     std::optional<qint64> lastBeginning(qint64 utc) const;
+
+    /// The times of the rule in the four years around a wall time. A zone is asked for every event, so they
+    /// are kept until another time is asked for.
+    const std::vector<qint64> &timesAround(const CalendarTime &first, qint64 wall) const;
+    mutable std::vector<qint64> knownTimes = {};
+    mutable qint64 knownPart = std::numeric_limits<qint64>::min();
 };
 
 /// A zone that only a calendar knows. One without any observance is the user's own.

@@ -40,8 +40,8 @@ QString runs(const QList<int> &days)
     return parts.join(u',');
 }
 
-/// "1997 Sep 2-11 Oct 4; 1998 Jan 1" of a list of times. Hours are told where a day has more than one:
-/// "1997 Sep 2 at 09:00,12:00".
+/// "1997 Sep 2-11 Oct 4; 1998 Jan 1" of a list of times. Hours are told where they are not
+/// nine o'clock alone: "1997 Sep 2 at 09:00,12:00".
 QString written(const std::vector<qint64> &times)
 {
     std::map<int, std::map<int, QList<int>>> years;
@@ -59,7 +59,7 @@ QString written(const std::vector<qint64> &times)
         for (const auto &[month, days] : months) {
             text += u' ' + QLocale::c().standaloneMonthName(month, QLocale::ShortFormat) + u' ' + runs(days);
             const QStringList &first = hours[QDate(year, month, days.first())];
-            if (first.size() > 1)
+            if (first != QStringList{u"09:00"_s})
                 text += u" at "_s + first.join(u',');
         }
         texts << text;
@@ -89,6 +89,7 @@ class TestRecurrenceRule : public QObject
     void addExamples();
     void addFurtherExamples();
     void addOwnRules();
+    void addUncommonRules();
 
 private Q_SLOTS:
     void aRuleComesTrueOnItsDays_data()
@@ -99,6 +100,7 @@ private Q_SLOTS:
         addExamples();
         addFurtherExamples();
         addOwnRules();
+        addUncommonRules();
     }
     void aRuleComesTrueOnItsDays()
     {
@@ -125,12 +127,29 @@ private Q_SLOTS:
 
     void whatIsNoRuleIsRefused()
     {
-        for (const char *rule :
-             {"", "FREQ", "FREQ=", "FREQ=OFTEN", "BYDAY=MO", "FREQ=DAILY;INTERVAL=0",
-              "FREQ=DAILY;INTERVAL=-1", "FREQ=DAILY;COUNT=0", "FREQ=DAILY;BYHOUR=25", "FREQ=YEARLY;BYDAY=XX",
-              "FREQ=YEARLY;RSCALE=HEBREW;BYMONTH=5L;SKIP=FORWARD", "FREQ=SECONDLY;BYMONTH=1",
-              "FREQ=SECONDLY;BYDAY=MO", "FREQ=SECONDLY;BYHOUR=3;BYMINUTE=7", "FREQ=MINUTELY;BYMONTHDAY=31",
-              "FREQ=HOURLY;BYYEARDAY=1", "FREQ=HOURLY;BYMONTH=2;BYMONTHDAY=30"})
+        for (const char *rule : {"",
+                                 "FREQ",
+                                 "FREQ=",
+                                 "FREQ=OFTEN",
+                                 "BYDAY=MO",
+                                 "FREQ=DAILY;INTERVAL=0",
+                                 "FREQ=DAILY;INTERVAL=-1",
+                                 "FREQ=DAILY;COUNT=0",
+                                 "FREQ=DAILY;BYHOUR=25",
+                                 "FREQ=YEARLY;BYDAY=XX",
+                                 "FREQ=YEARLY;RSCALE=HEBREW;BYMONTH=5L;SKIP=FORWARD",
+                                 "FREQ=WEEKLY;BYMONTHDAY=1",
+                                 "FREQ=WEEKLY;BYDAY=1MO",
+                                 "FREQ=DAILY;BYDAY=-1MO",
+                                 "FREQ=MONTHLY;BYWEEKNO=1",
+                                 "FREQ=MONTHLY;BYYEARDAY=1",
+                                 "FREQ=YEARLY;BYWEEKNO=1;BYDAY=1MO",
+                                 "FREQ=MONTHLY;BYMONTHDAY=0",
+                                 "FREQ=MONTHLY;BYDAY=0MO",
+                                 "FREQ=DAILY;UNTIL=soon",
+                                 "FREQ=DAILY;WKST=X",
+                                 "FREQ=YEARLY;BYMONTH=13",
+                                 "FREQ=DAILY;INTERVAL=99999999999"})
             QVERIFY2(!RecurrenceRule::parse(rule), rule);
     }
 
@@ -160,7 +179,10 @@ private Q_SLOTS:
                                  "FREQ=YEARLY;BYMONTH=4;BYMONTHDAY=31;BYHOUR=1,2,3,4,5,6;BYMINUTE=1,2,3,4",
                                  "FREQ=WEEKLY;BYMONTH=2;INTERVAL=32000;BYDAY=MO",
                                  "FREQ=YEARLY;INTERVAL=32000",
-                                 "FREQ=YEARLY;BYMONTH=13",
+                                 "FREQ=SECONDLY;BYMONTH=2;BYMONTHDAY=30;COUNT=2",
+                                 "FREQ=SECONDLY;INTERVAL=2;BYSECOND=9;COUNT=2",
+                                 "FREQ=YEARLY;INTERVAL=2147483647",
+                                 "FREQ=SECONDLY;INTERVAL=2147483647",
                                  "FREQ=DAILY;COUNT=2000000000;BYMONTH=1"})
             QTest::newRow(rule) << u"20210102T080000"_s;
         QTest::newRow("FREQ=WEEKLY") << u"00010102T080000"_s;
@@ -359,6 +381,81 @@ void TestRecurrenceRule::addOwnRules()
         u"2026 Nov 1-3 at 08:00,20:00"_s);
     row("FREQ=HOURLY;BYDAY=MO;BYHOUR=9,17", u"20261101T090000"_s, u"20261108T000000"_s,
         u"2026 Nov 2 at 09:00,17:00"_s);
+}
+
+/// Choices among the times of a period, week numbers, rules within a day, and values in disorder.
+void TestRecurrenceRule::addUncommonRules()
+{
+    row("FREQ=WEEKLY;BYDAY=MO,TU,WE,TH,FR;BYSETPOS=1", u"20261102T090000"_s, u"20261201T000000"_s,
+        u"2026 Nov 2,9,16,23,30"_s);
+    row("FREQ=WEEKLY;BYDAY=MO,TU,WE,TH,FR;BYSETPOS=-1", u"20261106T090000"_s, u"20261201T000000"_s,
+        u"2026 Nov 6,13,20,27"_s);
+    row("FREQ=WEEKLY;INTERVAL=2;BYDAY=MO,SU;WKST=SU;BYSETPOS=2", u"20261102T090000"_s, u"20261201T000000"_s,
+        u"2026 Nov 2,16,30"_s);
+    row("FREQ=DAILY;BYHOUR=9,12,15;BYSETPOS=2", u"20261101T120000"_s, u"20261104T000000"_s,
+        u"2026 Nov 1-3 at 12:00"_s);
+    row("FREQ=DAILY;COUNT=3;BYHOUR=9,17;BYSETPOS=-1", u"20261101T090000"_s, u"20261201T000000"_s,
+        u"2026 Nov 1-3 at 17:00"_s);
+    row("FREQ=HOURLY;INTERVAL=6;BYMINUTE=0,20,40;BYSETPOS=-1", u"20261101T090000"_s, u"20261102T000000"_s,
+        u"2026 Nov 1 at 09:40,15:40,21:40"_s);
+    row("FREQ=MINUTELY;INTERVAL=480;BYSECOND=0,30;BYSETPOS=1", u"20261101T090000"_s, u"20261102T000000"_s,
+        u"2026 Nov 1 at 09:00,17:00"_s);
+    row("FREQ=MONTHLY;BYDAY=MO;BYHOUR=9,17;BYSETPOS=-1", u"20261101T090000"_s, u"20270101T000000"_s,
+        u"2026 Nov 30 at 17:00 Dec 28 at 17:00"_s);
+    row("FREQ=MONTHLY;BYMONTHDAY=1;BYMINUTE=0,30;BYSETPOS=2", u"20261101T090000"_s, u"20270101T000000"_s,
+        u"2026 Nov 1 at 09:30 Dec 1 at 09:30"_s);
+    row("FREQ=YEARLY;BYMONTH=11;BYDAY=MO,TU,WE,TH,FR;BYSETPOS=-1", u"20261101T090000"_s, u"20290201T000000"_s,
+        u"2026 Nov 30; 2027 Nov 30; 2028 Nov 30"_s);
+    row("FREQ=YEARLY;BYWEEKNO=20", u"19970512T090000"_s, u"20000101T000000"_s,
+        u"1997 May 12; 1998 May 11; 1999 May 17"_s);
+    row("FREQ=YEARLY;BYWEEKNO=1", u"20251229T090000"_s, u"20290101T000000"_s,
+        u"2025 Dec 29; 2027 Jan 4; 2028 Jan 3"_s);
+    row("FREQ=YEARLY;BYWEEKNO=-1;BYDAY=FR", u"20261101T090000"_s, u"20290201T000000"_s,
+        u"2027 Jan 1 Dec 31; 2028 Dec 29"_s);
+    row("FREQ=YEARLY;BYWEEKNO=1,2;BYDAY=SU;WKST=SU", u"20260101T090000"_s, u"20280101T000000"_s,
+        u"2026 Jan 4,11; 2027 Jan 3,10"_s);
+    row("FREQ=DAILY;BYMONTHDAY=-1", u"20261130T090000"_s, u"20270401T000000"_s,
+        u"2026 Nov 30 Dec 31; 2027 Jan 31 Feb 28 Mar 31"_s);
+    row("FREQ=DAILY;INTERVAL=2;BYMONTHDAY=1,-1", u"20261101T090000"_s, u"20270401T000000"_s,
+        u"2026 Nov 1 Dec 1,31; 2027 Feb 1 Mar 1,31"_s);
+    row("FREQ=HOURLY;INTERVAL=5;BYHOUR=9,14", u"20261101T090000"_s, u"20261108T000000"_s,
+        u"2026 Nov 1,6 at 09:00,14:00"_s);
+    row("FREQ=HOURLY;INTERVAL=12;BYMINUTE=0,30", u"20261101T090000"_s, u"20261103T000000"_s,
+        u"2026 Nov 1,2 at 09:00,09:30,21:00,21:30"_s);
+    row("FREQ=MINUTELY;INTERVAL=45;BYHOUR=9", u"20261101T090000"_s, u"20261104T000000"_s,
+        u"2026 Nov 1-3 at 09:00,09:45"_s);
+    row("FREQ=MINUTELY;INTERVAL=7;BYHOUR=9;BYMINUTE=0,7,14,15", u"20261101T090000"_s, u"20261102T000000"_s,
+        u"2026 Nov 1 at 09:00,09:07,09:14"_s);
+    row("FREQ=MINUTELY;INTERVAL=480;BYMINUTE=0", u"20261101T090000"_s, u"20261102T000000"_s,
+        u"2026 Nov 1 at 09:00,17:00"_s);
+    row("FREQ=WEEKLY;BYDAY=FR,MO,MO,WE", u"20261102T090000"_s, u"20261116T000000"_s,
+        u"2026 Nov 2,4,6,9,11,13"_s);
+    row("FREQ=MONTHLY;BYMONTHDAY=20,10,10", u"20261101T090000"_s, u"20270101T000000"_s,
+        u"2026 Nov 10,20 Dec 10,20"_s);
+    row("FREQ=YEARLY;BYMONTH=12,3,3", u"20260301T090000"_s, u"20280101T000000"_s,
+        u"2026 Mar 1 Dec 1; 2027 Mar 1 Dec 1"_s);
+    row("FREQ=YEARLY;BYYEARDAY=200,1,200", u"20260101T090000"_s, u"20280101T000000"_s,
+        u"2026 Jan 1 Jul 19; 2027 Jan 1 Jul 19"_s);
+    row("FREQ=DAILY;BYHOUR=20,8,8", u"20261101T080000"_s, u"20261104T000000"_s,
+        u"2026 Nov 1-3 at 08:00,20:00"_s);
+    row("FREQ=DAILY;BYMINUTE=30,0,30", u"20261101T080000"_s, u"20261103T000000"_s,
+        u"2026 Nov 1,2 at 08:00,08:30"_s);
+    row("FREQ=MONTHLY;BYDAY=2TU,1MO,1MO", u"20261101T090000"_s, u"20270101T000000"_s,
+        u"2026 Nov 2,10 Dec 7,8"_s);
+    row("FREQ=MONTHLY;BYDAY=SU,2TU", u"20261101T090000"_s, u"20261201T000000"_s,
+        u"2026 Nov 1,8,10,15,22,29"_s);
+    row("FREQ=HOURLY;BYMONTHDAY=31;BYHOUR=9", u"20260101T090000"_s, u"20260601T000000"_s,
+        u"2026 Jan 31 Mar 31 May 31"_s);
+    row("FREQ=HOURLY;BYYEARDAY=1;BYHOUR=9", u"20260101T090000"_s, u"20280601T000000"_s,
+        u"2026 Jan 1; 2027 Jan 1; 2028 Jan 1"_s);
+    row("FREQ=MINUTELY;BYMONTH=12;BYMONTHDAY=24;BYHOUR=18;BYMINUTE=0", u"20251224T180000"_s,
+        u"20270101T000000"_s, u"2025 Dec 24 at 18:00; 2026 Dec 24 at 18:00"_s);
+    row("FREQ=SECONDLY;BYHOUR=3;BYMINUTE=7;BYSECOND=0", u"20261101T030700"_s, u"20261104T000000"_s,
+        u"2026 Nov 1-3 at 03:07"_s);
+    row(" FREQ = DAILY ; COUNT = 3  ", u"20261101T090000"_s, u"20261201T000000"_s, u"2026 Nov 1-3"_s);
+    row("FREQ=DAILY;UNTIL=20261103T090000 ", u"20261101T090000"_s, u"20261201T000000"_s, u"2026 Nov 1-3"_s);
+    row("FREQ=DAILY;COUNT=2;RSCALE=GREGORIAN;SKIP=OMIT", u"20261101T090000"_s, u"20261201T000000"_s,
+        u"2026 Nov 1,2"_s);
 }
 
 PELKO_TEST(TestRecurrenceRule)
