@@ -17,8 +17,9 @@ CalendarEvent eventFrom(const Occurrence &occurrence)
 }
 } // namespace
 
-CalendarContents::CalendarContents(const CalendarWindow &window)
-    : m_span{.from = window.from + referenceDate, .to = window.to + referenceDate}
+CalendarContents::CalendarContents(const CalendarWindow &window, QSet<QByteArray> except)
+    : m_except(std::move(except))
+    , m_span{.from = window.from + referenceDate, .to = window.to + referenceDate}
     , m_zones(window.zone)
     , m_reader(m_zones, [this](CalendarEntry &&entry) { keep(std::move(entry)); })
 {
@@ -31,7 +32,7 @@ void CalendarContents::read(QByteArrayView text)
 
 void CalendarContents::keep(CalendarEntry &&entry)
 {
-    if (!isNear(entry))
+    if (!isNear(entry) || m_except.contains(entry.uid))
         return;
     std::size_t place = m_series.size();
     if (!entry.uid.isEmpty())

@@ -4,12 +4,15 @@
 #include "Calendar/EventSeries.h"
 #include "Services/CalendarStore.h"
 
+#include <QSet>
+
 /// One calendar, read from one or many texts for the sake of a window of time: what has nothing to do with
 /// the window is not kept.
 class CalendarContents
 {
 public:
-    explicit CalendarContents(const CalendarWindow &window);
+    /// Leaves out events with the UIDs in `except`: they are known from another calendar.
+    explicit CalendarContents(const CalendarWindow &window, QSet<QByteArray> except = {});
     Q_DISABLE_COPY_MOVE(CalendarContents)
 
     void read(QByteArrayView text);
@@ -18,10 +21,14 @@ public:
     /// in which they were read. Those that are known by the time that all is given up, if it is.
     QList<CalendarEvent> events(const IsGivenUp &isGivenUp) const;
 
+    /// The UIDs of what was kept.
+    QSet<QByteArray> uids() const { return {m_places.keyBegin(), m_places.keyEnd()}; }
+
 private:
     void keep(CalendarEntry &&entry);
     bool isNear(const CalendarEntry &entry) const;
 
+    const QSet<QByteArray> m_except;
     Span m_span;
     ZoneTable m_zones;
     CalendarReader m_reader;

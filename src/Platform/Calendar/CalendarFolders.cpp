@@ -62,7 +62,12 @@ Listing listing(const fs::path &folder)
 class FolderReader
 {
 public:
-    FolderReader(const CalendarWindow &window, const FetchLimit &limit) : m_window(window), m_limit(limit) {}
+    FolderReader(const CalendarWindow &window, const FetchLimit &limit, const QSet<QByteArray> &except)
+        : m_window(window)
+        , m_limit(limit)
+        , m_except(except)
+    {
+    }
 
     void read(const fs::path &folder, int depth)
     {
@@ -83,7 +88,7 @@ private:
     void readCalendar(const std::vector<fs::path> &files)
     {
         const auto isGivenUp = [this] { return m_limit.isOver(); };
-        CalendarContents calendar(m_window);
+        CalendarContents calendar(m_window, m_except);
         for (const fs::path &file : files) {
             if (isGivenUp())
                 break;
@@ -94,6 +99,7 @@ private:
 
     const CalendarWindow &m_window;
     const FetchLimit &m_limit;
+    const QSet<QByteArray> &m_except;
     CalendarFile m_file;
     std::set<fs::path> m_known;
 };
@@ -127,12 +133,12 @@ std::vector<fs::path> CalendarFolders::folders(const UserFolders &user)
 }
 
 CalendarStore::Answer CalendarFolders::events(const UserFolders &user, const CalendarWindow &window,
-                                              const FetchLimit &limit)
+                                              const FetchLimit &limit, const QSet<QByteArray> &except)
 {
     const std::vector<fs::path> found = folders(user);
     if (found.empty())
         return std::nullopt;
-    FolderReader reader(window, limit);
+    FolderReader reader(window, limit, except);
     for (const fs::path &folder : found)
         reader.read(folder, 0);
     return reader.events;

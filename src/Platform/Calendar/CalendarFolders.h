@@ -3,6 +3,8 @@
 #include "Platform/Calendar/FetchLimit.h"
 #include "Services/CalendarStore.h"
 
+#include <QSet>
+
 #include <filesystem>
 #include <vector>
 
@@ -24,8 +26,10 @@ namespace CalendarFolders
 /// themselves.
 std::vector<std::filesystem::path> folders(const UserFolders &user);
 
-/// What is in them and up to three folders below. Nothing where there are no such folders. Files that cannot
-/// be read, that are none or that are larger than 16 megabytes are left out.
-CalendarStore::Answer events(const UserFolders &user, const CalendarWindow &window, const FetchLimit &limit);
+/// The events in them and up to three folders below. std::nullopt where there are no such folders. Files that
+/// cannot be read, that are none or that are larger than 16 megabytes are left out, and so are events with
+/// the UIDs in `except`.
+CalendarStore::Answer events(const UserFolders &user, const CalendarWindow &window, const FetchLimit &limit,
+                             const QSet<QByteArray> &except = {});
 
 } // namespace CalendarFolders

@@ -40,9 +40,11 @@ ScheduledCall DesktopCalendarStore::fetch(const CalendarWindow &window, Completi
     m_thread->start([waiting = std::weak_ptr(request), limit, window, bus = m_bus, folders = m_folders] {
         if (!limit.isWanted())
             return;
-        Answer answer = evolutionEvents(bus, window, limit);
-        if (!answer)
-            answer = CalendarFolders::events(folders, window, limit);
+        const auto server = evolutionEvents(bus, window, limit);
+        const QSet<QByteArray> known = server ? server->uids : QSet<QByteArray>();
+        Answer answer = CalendarFolders::events(folders, window, limit, known);
+        if (server)
+            answer = server->events + answer.value_or(QList<CalendarEvent>());
         if (!limit.isWanted())
             return;
         QMetaObject::invokeMethod(

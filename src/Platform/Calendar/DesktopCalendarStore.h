@@ -5,9 +5,9 @@
 #include <QDBusConnection>
 #include <QThreadPool>
 
-/// The calendars of this desktop, looked through on a thread of their own: those of Evolution Data Server, or
-/// where there are none in use the folders that other programs keep. Never both, which may mirror the same
-/// account. When the time is up the answer is what is known by then.
+/// The calendars of this desktop, looked through on a thread of their own: those of Evolution Data Server,
+/// then the folders that other programs keep. Both may mirror the same account, so a UID of the server is
+/// left out of the folders. When the time is up the answer is what is known by then.
 class DesktopCalendarStore : public CalendarStore
 {
 public:

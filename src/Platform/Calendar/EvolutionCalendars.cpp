@@ -64,8 +64,8 @@ std::vector<std::unique_ptr<EvolutionCalendar>> askAll(const QDBusConnection &bu
 }
 } // namespace
 
-CalendarStore::Answer evolutionEvents(const QDBusConnection &bus, const CalendarWindow &window,
-                                      const FetchLimit &limit)
+std::optional<FoundEvents> evolutionEvents(const QDBusConnection &bus, const CalendarWindow &window,
+                                           const FetchLimit &limit)
 {
     if (!bus.isConnected())
         return std::nullopt;
@@ -73,11 +73,12 @@ CalendarStore::Answer evolutionEvents(const QDBusConnection &bus, const Calendar
     const QStringList uids = enabledCalendars(evolutionSources(askForSources(bus, asking)));
     if (uids.isEmpty())
         return std::nullopt;
-    QList<CalendarEvent> events;
+    FoundEvents found;
     for (const auto &calendar : askAll(bus, uids, window, asking)) {
         CalendarContents contents(window);
         contents.read(calendar->text());
-        events += contents.events([&limit] { return limit.isOver(); });
+        found.events += contents.events([&limit] { return limit.isOver(); });
+        found.uids += contents.uids();
     }
-    return events;
+    return found;
 }
