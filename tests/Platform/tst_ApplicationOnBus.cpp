@@ -53,10 +53,17 @@ private Q_SLOTS:
         QCOMPARE(others.count(), 0);
     }
 
-    void withoutABusNothingHappens()
+    void aBusThatIsNotThereLeavesRoomForAnother()
     {
+        PrivateBus bus;
         ApplicationOnBus application;
+        const QSignalSpy opened(&application, &ApplicationOnBus::openRequested);
         application.connectTo(QDBusConnection(u"nowhere"_s));
+        QCOMPARE(opened.count(), 0);
+
+        application.connectTo(bus.connection(u"pelko"_s));
+        call(bus.connection(u"desktop"_s), u"Activate"_s, {QVariantMap()});
+        QTRY_COMPARE(opened.count(), 1);
     }
 };
 

@@ -86,13 +86,15 @@ private Q_SLOTS:
         QVERIFY(!launch.overlayVisible());
     }
 
-    void aSequenceThatDiesWhileWaitingIsNotCalled()
+    void aDestroyedSequenceTakesItsCallsBack()
     {
+        ManualScheduler scheduler;
         {
-            LaunchSequence launch(m_scheduler);
+            LaunchSequence launch(scheduler);
             launch.start();
+            QVERIFY(!scheduler.isIdle());
         }
-        m_scheduler.advance(2s);
+        QVERIFY(scheduler.isIdle());
     }
 
 private:

@@ -1,7 +1,5 @@
 #include "support/ManualScheduler.h"
 
-#include <algorithm>
-
 ScheduledCall ManualScheduler::after(Milliseconds delay, Action action)
 {
     return add(delay, Milliseconds::zero(), std::move(action));

@@ -2,6 +2,7 @@
 
 #include "Services/Scheduler.h"
 
+#include <algorithm>
 #include <vector>
 
 /// A scheduler whose time passes only when a test says so.
@@ -17,6 +18,11 @@ public:
     void advance(Milliseconds duration);
 
     Milliseconds now() const { return m_now; }
+    /// Whether no call is asked for any more.
+    bool isIdle() const
+    {
+        return std::ranges::all_of(m_entries, [](const Entry &entry) { return entry.token.expired(); });
+    }
 
 private:
     struct Entry {
