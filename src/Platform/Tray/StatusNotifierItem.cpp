@@ -1,5 +1,6 @@
 #include "Platform/Tray/StatusNotifierItem.h"
 
+#include "Platform/Tray/ClickPlace.h"
 #include "Platform/Tray/Tray.h"
 
 using namespace Qt::StringLiterals;
@@ -54,7 +55,7 @@ QDBusObjectPath StatusNotifierItem::menu() const
 
 void StatusNotifierItem::Activate(int x, int y)
 {
-    Q_EMIT m_tray.activated(QPoint(x, y));
+    Q_EMIT m_tray.activated(clickPlace(QPoint(x, y), scaledScreens()));
 }
 
 void StatusNotifierItem::SecondaryActivate(int, int)

@@ -32,7 +32,7 @@ public:
 
 Q_SIGNALS:
     void isPresentChanged();
-    /// The item was clicked, at that place of the desktop.
+    /// The item was clicked, at that place of the desktop, in device-independent pixels.
     void activated(const QPoint &place);
     /// The other click, that of the middle button.
     void secondaryActivated();
