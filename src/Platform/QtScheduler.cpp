@@ -33,6 +33,12 @@ private:
 };
 } // namespace
 
+std::chrono::milliseconds QtScheduler::now() const
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch());
+}
+
 ScheduledCall QtScheduler::after(std::chrono::milliseconds delay, Action action)
 {
     return ScheduledCall(std::make_shared<Timer>(delay, Repetition::once, std::move(action)));

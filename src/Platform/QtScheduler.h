@@ -6,6 +6,7 @@
 class QtScheduler : public Scheduler
 {
 public:
+    std::chrono::milliseconds now() const override;
     [[nodiscard]] ScheduledCall after(std::chrono::milliseconds delay, Action action) override;
     [[nodiscard]] ScheduledCall every(std::chrono::milliseconds interval, Action action) override;
 };

@@ -20,13 +20,16 @@ private:
     std::shared_ptr<void> m_token;
 };
 
-/// Makes calls later, on the interface thread.
+/// Makes calls later, on the interface thread, and measures how long something took.
 class Scheduler
 {
 public:
     using Action = std::function<void()>;
 
     virtual ~Scheduler() = default;
+
+    /// Time that has passed since some fixed moment. It never goes back, whatever the wall clock does.
+    virtual std::chrono::milliseconds now() const = 0;
 
     /// Calls `action` once when `delay` has passed. The request lives as long as what is returned.
     [[nodiscard]] virtual ScheduledCall after(std::chrono::milliseconds delay, Action action) = 0;

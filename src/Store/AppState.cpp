@@ -14,6 +14,8 @@ using namespace std::chrono_literals;
 namespace
 {
 constexpr auto saveDelay = 500ms;
+constexpr auto longestSaveDelay = 2s;
+constexpr int pausePerSave = 9; // times its duration: a tenth of the time goes into saving
 constexpr auto savedIndicatorTime = 1500ms;
 
 /// Stable, so that pages made in the same instant keep their order.
@@ -217,13 +219,17 @@ void AppState::moveBlock(const QUuid &documentID, qsizetype from, qsizetype to)
 void AppState::save()
 {
     confirmSave(); // the one before this
+    m_latestSave.reset();
     const auto produce = [this](ByteSink &sink) { return m_writer.write(m_documents, sink); };
-    if (const std::optional<FileError> error = m_file.replace(produce)) {
+    const auto start = m_scheduler.now();
+    const std::optional<FileError> error = m_file.replace(produce);
+    m_lastSaveDuration = m_scheduler.now() - start;
+    if (error) {
         saveFailed(*error);
         return;
     }
-    m_lastSaveError.reset();
     m_hasUnsavedChanges = false;
+    setLastSaveError(std::nullopt);
     m_savedIndicatorTask = m_scheduler.after(savedIndicatorTime, [this] {
         setShowSavedIndicator(false);
         confirmSave();
@@ -240,14 +246,17 @@ void AppState::confirmSave()
 void AppState::saveFailed(const FileError &error)
 {
     m_hasUnsavedChanges = true;
-    m_lastSaveError = u"Save failed: "_s + error.description;
-    setLastError(m_lastSaveError);
+    const QString words = u"Save failed: "_s + error.description;
+    setLastSaveError(words);
+    setLastError(words);
 }
 
 void AppState::saveChanges()
 {
-    if (m_hasUnsavedChanges)
-        save();
+    if (!m_hasUnsavedChanges)
+        return;
+    m_saveTimer.cancel();
+    save();
 }
 
 void AppState::load()
@@ -277,6 +286,13 @@ void AppState::debounceSave()
 {
     m_hasUnsavedChanges = true;
     m_saveTimer = m_scheduler.after(saveDelay, [this] { save(); });
+    if (!m_latestSave)
+        m_latestSave = m_scheduler.after(longestDelay(), [this] { saveChanges(); });
+}
+
+std::chrono::milliseconds AppState::longestDelay() const
+{
+    return std::max<std::chrono::milliseconds>(longestSaveDelay, pausePerSave * m_lastSaveDuration);
 }
 
 void AppState::announceReplaced(qsizetype row)
@@ -293,4 +309,9 @@ void AppState::setShowSavedIndicator(bool shown)
 void AppState::setLastError(std::optional<QString> error)
 {
     ChangeScope(*this).assign(m_lastError, std::move(error), &AppState::lastErrorChanged);
+}
+
+void AppState::setLastSaveError(std::optional<QString> error)
+{
+    ChangeScope(*this).assign(m_lastSaveError, std::move(error), &AppState::lastSaveErrorChanged);
 }

@@ -10,7 +10,9 @@ class Clock;
 class DocumentFile;
 
 /// The one store: every document, which of them is open, and the few flags that several views share. It
-/// alone reads and writes the data file. Half a second after the last change, the whole list is saved.
+/// alone reads and writes the data file. Half a second after the last change, and two seconds after the first
+/// one that is not saved, the whole list is saved; where a save is slow, the two seconds stretch, so that at
+/// most a tenth of the time goes into saving.
 /// Setting a value that is already held announces nothing. Interface thread only.
 class AppState : public QObject
 {
@@ -36,7 +38,8 @@ public:
     /// What went wrong, in words for the user, until it is dismissed.
     const std::optional<QString> &lastError() const { return m_lastError; }
 
-    /// What became of the last save, dismissed or not; nothing when it went well.
+    /// Why the last save failed, dismissed or not; std::nullopt when it went well. While it is set, the
+    /// documents hold changes that are not in the file.
     const std::optional<QString> &lastSaveError() const { return m_lastSaveError; }
 
     /// The document of that id, or nullptr. Valid until the documents next change.
@@ -97,6 +100,7 @@ Q_SIGNALS:
     void showTasksPanelChanged();
     void showAboutChanged();
     void lastErrorChanged();
+    void lastSaveErrorChanged();
 
 private:
     struct Replacement {
@@ -107,10 +111,12 @@ private:
     void load();
     void show(Space space, std::optional<QUuid> id);
     void debounceSave();
+    std::chrono::milliseconds longestDelay() const;
     void announceReplaced(qsizetype row);
     void saveFailed(const FileError &error);
     void setShowSavedIndicator(bool shown);
     void setLastError(std::optional<QString> error);
+    void setLastSaveError(std::optional<QString> error);
 
     Scheduler &m_scheduler;
     const Clock &m_clock;
@@ -131,6 +137,9 @@ private:
     std::optional<QString> m_lastError;
     std::optional<QString> m_lastSaveError;
     bool m_hasUnsavedChanges = false;
+    std::chrono::milliseconds m_lastSaveDuration{0};
     ScheduledCall m_saveTimer;
+    /// Set from the first unsaved change to the next save.
+    std::optional<ScheduledCall> m_latestSave;
     ScheduledCall m_savedIndicatorTask;
 };

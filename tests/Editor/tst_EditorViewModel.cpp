@@ -168,7 +168,7 @@ private Q_SLOTS:
     {
         edit({block('A')});
         QString text;
-        for (int key = 0; key < 20; ++key) {
+        for (int key = 0; key < 15; ++key) {
             text += u'x';
             editor->typed(id('A'), text, int(text.size()));
             scheduler.advance(100ms);

@@ -21,6 +21,18 @@ class TestAppStateSaving : public QObject
 
     void edit() { state->updateDocument(state->documents().first()); }
 
+    /// Eight keys a second, without a pause.
+    void typeFor(std::chrono::milliseconds duration)
+    {
+        for (const auto end = scheduler.now() + duration; scheduler.now() < end; scheduler.advance(125ms))
+            edit();
+    }
+
+    void savesTake(std::chrono::milliseconds duration)
+    {
+        file.whileWriting = [this, duration] { scheduler.block(duration); };
+    }
+
 private Q_SLOTS:
     void init()
     {
@@ -44,6 +56,76 @@ private Q_SLOTS:
         QCOMPARE(file.writes(), 1);
     }
 
+    void steadyTypingIsSavedTwoSecondsAfterTheFirstUnsavedChange()
+    {
+        edit();
+        for (int update = 0; update < 19; ++update) {
+            scheduler.advance(100ms);
+            edit();
+        }
+        scheduler.advance(99ms);
+        QCOMPARE(file.writes(), 0);
+        scheduler.advance(1ms);
+        QCOMPARE(file.writes(), 1);
+        QCOMPARE(readDocuments(*file.bytes), state->documents());
+    }
+
+    void typingForTwentySecondsIsSavedEveryTwo()
+    {
+        typeFor(20s);
+        QCOMPARE(file.writes(), 10);
+    }
+
+    void theSaveAfterTwoSecondsLeavesNothingForTheOneAfterThePause()
+    {
+        typeFor(2s);
+        QCOMPARE(file.writes(), 1);
+        scheduler.advance(10s);
+        QCOMPARE(file.writes(), 1);
+    }
+
+    void aSaveAfterAPauseStartsTheTwoSecondsAnew()
+    {
+        typeFor(1s);
+        scheduler.advance(500ms);
+        QCOMPARE(file.writes(), 1);
+        typeFor(1875ms);
+        QCOMPARE(file.writes(), 1);
+    }
+
+    void slowSavesTakeATenthOfTheTimeAtMost()
+    {
+        savesTake(1s);
+        const auto start = scheduler.now();
+        typeFor(100s);
+        const auto passed = scheduler.now() - start;
+        QVERIFY(file.writes() >= 9);
+        QVERIFY(file.writes() * 1s * 10 <= passed + 10s); // the first came after two seconds
+    }
+
+    void aFastSaveBringsTheTwoSecondsBack()
+    {
+        savesTake(1s);
+        state->save();
+        savesTake(0s);
+        state->save();
+        typeFor(2s);
+        QCOMPARE(file.writes(), 3);
+    }
+
+    void aFailedSaveIsNotTriedAgainBeforeTheNextChange()
+    {
+        file.writeError = u"No space left on device"_s;
+        int attempts = 0;
+        file.whileWriting = [&attempts] { ++attempts; };
+        typeFor(2s);
+        QCOMPARE(attempts, 1);
+        scheduler.advance(1h);
+        QCOMPARE(attempts, 1);
+        typeFor(2s);
+        QCOMPARE(attempts, 2);
+    }
+
     void changesAreSavedAheadOfTimeWhenAskedFor()
     {
         edit();
@@ -51,6 +133,23 @@ private Q_SLOTS:
         QCOMPARE(file.writes(), 1);
         state->saveChanges();
         QCOMPARE(file.writes(), 1);
+        scheduler.advance(10s);
+        QCOMPARE(file.writes(), 1);
+    }
+
+    void aFailedSaveIsKnownUntilOneSucceeds()
+    {
+        QSignalSpy changed(state.get(), &AppState::lastSaveErrorChanged);
+        file.writeError = u"No space left on device"_s;
+        state->save();
+        state->save();
+        state->clearLastError();
+        QCOMPARE(state->lastSaveError(), u"Save failed: No space left on device"_s);
+        QCOMPARE(changed.size(), 1);
+        file.writeError.reset();
+        state->saveChanges();
+        QCOMPARE(state->lastSaveError(), std::nullopt);
+        QCOMPARE(changed.size(), 2);
     }
 
     void aStoreWithoutChangesSavesNothing()

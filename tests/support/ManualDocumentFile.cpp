@@ -15,6 +15,7 @@ DocumentFile::Contents ManualDocumentFile::read()
 
 std::optional<FileError> ManualDocumentFile::replace(const Producer &produce)
 {
+    whileWriting();
     MemorySink sink;
     if (const std::optional<FileError> error = produce(sink))
         return error;

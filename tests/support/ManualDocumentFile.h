@@ -2,6 +2,8 @@
 
 #include "Services/DocumentFile.h"
 
+#include <functional>
+
 /// A file in memory that counts its writes and fails when a test tells it to.
 class ManualDocumentFile : public DocumentFile
 {
@@ -13,6 +15,8 @@ public:
     std::optional<QString> writeError;
     /// While set, a power cut would bring the old bytes back.
     std::optional<QString> confirmError;
+    /// Called during each replacement.
+    std::function<void()> whileWriting = [] {};
 
     /// The replacements that succeeded.
     int writes() const { return m_writes; }

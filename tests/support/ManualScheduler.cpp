@@ -25,7 +25,7 @@ void ManualScheduler::advance(Milliseconds duration)
         const auto next = std::ranges::min_element(m_entries, {}, &Entry::due);
         if (next == m_entries.end() || next->due > end)
             break;
-        m_now = next->due;
+        m_now = std::max(m_now, next->due);
         const Action action = next->action;
         if (next->interval > Milliseconds::zero())
             next->due += next->interval;
@@ -33,5 +33,5 @@ void ManualScheduler::advance(Milliseconds duration)
             m_entries.erase(next);
         action();
     }
-    m_now = end;
+    m_now = std::max(m_now, end);
 }

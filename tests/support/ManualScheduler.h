@@ -11,13 +11,16 @@ class ManualScheduler : public Scheduler
 public:
     using Milliseconds = std::chrono::milliseconds;
 
+    Milliseconds now() const override { return m_now; }
     ScheduledCall after(Milliseconds delay, Action action) override;
     ScheduledCall every(Milliseconds interval, Action action) override;
 
     /// Lets time pass, making every call that falls due, in the order of their times.
     void advance(Milliseconds duration);
 
-    Milliseconds now() const { return m_now; }
+    /// Lets time pass while the caller is busy: what falls due meanwhile is called by the next `advance`.
+    void block(Milliseconds duration) { m_now += duration; }
+
     /// Whether no call is asked for any more.
     bool isIdle() const
     {
