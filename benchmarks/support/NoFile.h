@@ -9,4 +9,5 @@ public:
     Contents read() override { return Missing{}; }
     std::optional<FileError> replace(const Producer &) override { return std::nullopt; }
     std::optional<FileError> confirm() override { return std::nullopt; }
+    bool canReplace() const override { return true; }
 };

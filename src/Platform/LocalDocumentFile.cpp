@@ -16,6 +16,7 @@ namespace fs = std::filesystem;
 namespace
 {
 constexpr qint64 longestReadable = std::numeric_limits<quint32>::max(); // the parser's own limit
+constexpr std::uintmax_t roomToSpare = 64 * 1024;                       // what is to be saved may have grown
 constexpr qsizetype parserPadding = 64; // room that a parser may look at, so that it need not copy the file
 
 DocumentFile::Contents readAll(int descriptor, qint64 expectedSize)
@@ -56,14 +57,21 @@ DocumentFile::Contents readFile(const fs::path &path)
     }
 }
 
-/// Failing is not told here: the reading or writing that follows will fail and say why.
-void createPrivateFolder(const fs::path &folder)
+std::optional<FileError> createPrivateFolder(const fs::path &folder)
 {
-    if (::mkdir(folder.c_str(), S_IRWXU) == 0 || errno != ENOENT)
-        return;
-    std::error_code ignored;
-    fs::create_directories(folder.parent_path(), ignored);
-    ::mkdir(folder.c_str(), S_IRWXU);
+    std::error_code error;
+    fs::create_directories(folder.parent_path(), error);
+    if (error)
+        return systemError(error.value());
+    const bool exists = ::mkdir(folder.c_str(), S_IRWXU) == 0 || errno == EEXIST;
+    return exists ? std::nullopt : std::optional(lastSystemError());
+}
+
+bool hasRoomFor(std::uintmax_t bytes, const fs::path &folder)
+{
+    std::error_code error;
+    const fs::space_info space = fs::space(folder, error);
+    return !error && space.available >= bytes + roomToSpare;
 }
 } // namespace
 
@@ -74,6 +82,7 @@ DocumentFile::Contents LocalDocumentFile::read()
     const auto file = path();
     if (!file)
         return systemError(ENOENT);
+    createPrivateFolder(file->parent_path()); // without one there is nothing to read; a save says why
     AtomicFile::removeAbandoned(*file);
     return readFile(*file);
 }
@@ -83,6 +92,8 @@ std::optional<FileError> LocalDocumentFile::replace(const Producer &produce)
     const auto target = path();
     if (!target)
         return systemError(ENOENT);
+    if (auto error = createPrivateFolder(target->parent_path()))
+        return error;
     auto file = std::make_shared<AtomicFile>();
     if (auto error = file->open(*target))
         return error;
@@ -102,12 +113,22 @@ std::optional<FileError> LocalDocumentFile::confirm()
     return m_settling.valid() ? m_settling.get() : std::nullopt;
 }
 
+bool LocalDocumentFile::canReplace() const
+{
+    const auto target = path();
+    if (!target || createPrivateFolder(target->parent_path()))
+        return false;
+    const auto isWritable = [](const fs::path &path) {
+        return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
+    };
+    std::error_code isMissing;
+    const std::uintmax_t size = fs::file_size(*target, isMissing);
+    return isWritable(target->parent_path()) && (isMissing || isWritable(*target)) &&
+           hasRoomFor(isMissing ? 0 : size, target->parent_path());
+}
+
 std::optional<fs::path> LocalDocumentFile::path() const
 {
     const auto support = m_location.applicationSupportDirectory();
-    if (!support)
-        return std::nullopt;
-    const fs::path folder = *support / "Pelko";
-    createPrivateFolder(folder);
-    return folder / "data.json";
+    return support ? std::optional(*support / "Pelko" / "data.json") : std::nullopt;
 }

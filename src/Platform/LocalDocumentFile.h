@@ -16,6 +16,8 @@ public:
     Contents read() override;
     [[nodiscard]] std::optional<FileError> replace(const Producer &produce) override;
     [[nodiscard]] std::optional<FileError> confirm() override;
+    /// Looks at the permissions and at the free space, for a file as large as the one that is there.
+    bool canReplace() const override;
 
 private:
     std::optional<std::filesystem::path> path() const;

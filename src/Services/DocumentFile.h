@@ -44,4 +44,7 @@ public:
     /// Waits until the last replacement is there to stay. The disk is at it already, so that after a moment
     /// there is nothing to wait for.
     [[nodiscard]] virtual std::optional<FileError> confirm() = 0;
+
+    /// Whether a replacement looks possible now. Cheap, and no promise.
+    virtual bool canReplace() const = 0;
 };

@@ -85,6 +85,7 @@ public:
         return error;
     }
     [[nodiscard]] std::optional<FileError> confirm() override { return m_file.confirm(); }
+    bool canReplace() const override { return m_file.canReplace(); }
 
 private:
     DocumentFile &m_file;

@@ -221,7 +221,35 @@ private Q_SLOTS:
         const Unprivileged user;
         QVERIFY(user.worked);
         QVERIFY(disk->isMissing());
-        QCOMPARE(disk->replace(), u"No such file or directory"_s);
+        QVERIFY(!LocalDocumentFile(*disk).canReplace());
+        QCOMPARE(disk->replace(), u"Permission denied"_s);
+    }
+
+    void aSupportFolderThatCannotBeMadeIsTheCauseThatIsTold()
+    {
+        fs::create_directories(disk->support);
+        disk->openToEverybody();
+        fs::permissions(disk->support, fs::perms(0555));
+        disk->support /= ".local/share";
+        const Unprivileged user;
+        QVERIFY(user.worked);
+        QCOMPARE(disk->replace(), u"Permission denied"_s);
+        disk->support = disk->support.parent_path().parent_path();
+    }
+
+    void aFolderWithRightsAndRoomLooksWritable()
+    {
+        QVERIFY(LocalDocumentFile(*disk).canReplace());
+        DataFolder::put(disk->file(), "old");
+        QVERIFY(LocalDocumentFile(*disk).canReplace());
+    }
+
+    void aFileThatFitsNoSecondTimeOnTheDiskLooksUnwritable()
+    {
+        DataFolder::put(disk->file(), "");
+        const fs::space_info space = fs::space(disk->folder());
+        fs::resize_file(disk->file(), space.available + 1024 * 1024); // takes no room itself
+        QVERIFY(!LocalDocumentFile(*disk).canReplace());
     }
 
     void aFolderThatBecomesWritableAgainTakesTheNextSave()
@@ -233,6 +261,7 @@ private Q_SLOTS:
             const Unprivileged user;
             QVERIFY(user.worked);
             QCOMPARE(disk->replace(), u"Permission denied"_s);
+            QVERIFY(!LocalDocumentFile(*disk).canReplace());
         }
         fs::permissions(disk->folder(), fs::perms(0777));
         fs::permissions(disk->file(), fs::perms(0666));

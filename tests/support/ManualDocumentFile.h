@@ -15,6 +15,7 @@ public:
     std::optional<QString> writeError;
     /// While set, a power cut would bring the old bytes back.
     std::optional<QString> confirmError;
+    bool looksWritable = true;
     /// Called during each replacement.
     std::function<void()> whileWriting = [] {};
 
@@ -24,6 +25,7 @@ public:
     Contents read() override;
     [[nodiscard]] std::optional<FileError> replace(const Producer &produce) override;
     [[nodiscard]] std::optional<FileError> confirm() override;
+    bool canReplace() const override { return looksWritable; }
 
 private:
     int m_writes = 0;
