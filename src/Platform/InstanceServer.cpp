@@ -13,6 +13,12 @@ namespace
 constexpr qsizetype longestRequest = 4 * 1024 * 1024; // more than a command line can hold
 constexpr int waitingLine = 64;
 
+ino_t inodeOf(const char *path)
+{
+    struct stat status = {};
+    return ::lstat(path, &status) == 0 ? status.st_ino : 0;
+}
+
 /// One caller: what it sends is gathered until it has sent all, then it gets its answer.
 class Caller : public QObject
 {
@@ -72,6 +78,12 @@ InstanceServer::InstanceServer(std::filesystem::path dataFolder, Answer answer, 
     , m_folder(std::move(dataFolder))
     , m_answer(std::move(answer))
 {
+    listen();
+}
+
+void InstanceServer::listen()
+{
+    m_notifier.reset();
     const InstanceSocket address(m_folder);
     ::unlink(address.path()); // left behind by one that was killed
     FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
@@ -81,14 +93,16 @@ InstanceServer::InstanceServer(std::filesystem::path dataFolder, Answer answer, 
     if (!isBound || ::listen(socket.number(), waitingLine) != 0)
         return;
     m_socket = std::move(socket);
+    m_socketFile = inodeOf(address.path());
     m_notifier = std::make_unique<QSocketNotifier>(m_socket.number(), QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &InstanceServer::accept);
 }
 
 InstanceServer::~InstanceServer()
 {
-    if (m_socket.isOpen())
-        ::unlink(InstanceSocket(m_folder).path());
+    const InstanceSocket address(m_folder);
+    if (m_socket.isOpen() && inodeOf(address.path()) == m_socketFile)
+        ::unlink(address.path());
 }
 
 void InstanceServer::accept()

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <sys/types.h>
 
 class QSocketNotifier;
 
@@ -23,11 +24,15 @@ public:
     InstanceServer(std::filesystem::path dataFolder, Answer answer, QObject *parent = nullptr);
     ~InstanceServer() override;
 
+    /// Listens in the folder that lies at the path now.
+    void listen();
+
 private:
     void accept();
 
     std::filesystem::path m_folder;
     Answer m_answer;
     FileDescriptor m_socket;
+    ino_t m_socketFile = 0; ///< that no other process's is removed in the end
     std::unique_ptr<QSocketNotifier> m_notifier;
 };

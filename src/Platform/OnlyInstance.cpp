@@ -54,13 +54,30 @@ std::optional<QString> OnlyInstance::warning() const
         .arg(QString::fromLocal8Bit(std::strerror(m_error)));
 }
 
+bool OnlyInstance::holdsFolder() const
+{
+    if (!isLocked())
+        return true;
+    struct stat held = {};
+    struct stat there = {};
+    return ::fstat(m_lock.number(), &held) == 0 && ::lstat(lockFile().c_str(), &there) == 0 &&
+           held.st_dev == there.st_dev && held.st_ino == there.st_ino;
+}
+
+std::optional<FileError> OnlyInstance::lockAgain()
+{
+    if (tryToLock() != Attempt::taken)
+        return std::nullopt; // without a lock, the reading or writing that follows says what is wrong
+    return FileError{u"Another Pelko has opened these documents."_s};
+}
+
 OnlyInstance::Attempt OnlyInstance::tryToLock()
 {
     std::error_code ignored;
     std::filesystem::create_directories(m_folder.parent_path(), ignored);
     ::mkdir(m_folder.c_str(), S_IRWXU);
-    FileDescriptor lock(::open((m_folder / "instance.lock").c_str(),
-                               O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
+    FileDescriptor lock(
+        ::open(lockFile().c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
     if (!lock.isOpen() || ::flock(lock.number(), LOCK_EX | LOCK_NB) != 0) {
         m_error = errno;
         return m_error == EWOULDBLOCK ? Attempt::taken : Attempt::impossible;

@@ -17,6 +17,14 @@ public:
 
     bool isLocked() const { return m_lock.isOpen(); }
 
+    /// Whether the folder at the path is still the one that this process has locked, and not missing or
+    /// another one in its place. True where there could be no lock to begin with.
+    bool holdsFolder() const;
+
+    /// Locks the folder that lies at the path now, and makes it where it is missing. An error when another
+    /// process has it.
+    [[nodiscard]] std::optional<FileError> lockAgain();
+
     /// A line for the user when this process is the one without a lock to show for it.
     std::optional<QString> warning() const;
 
@@ -24,6 +32,7 @@ private:
     enum class Attempt { locked, taken, impossible };
 
     Attempt tryToLock();
+    std::filesystem::path lockFile() const { return m_folder / "instance.lock"; }
 
     std::filesystem::path m_folder;
     FileDescriptor m_lock;

@@ -259,6 +259,27 @@ void AppState::saveChanges()
     save();
 }
 
+void AppState::adoptFile()
+{
+    DocumentFile::Contents contents = m_file.read();
+    QList<PelkoDocument> stored;
+    if (auto *bytes = std::get_if<QByteArray>(&contents)) {
+        std::optional<QList<PelkoDocument>> read = readDocuments(std::move(*bytes));
+        if (!read)
+            return;
+        stored = std::move(*read);
+    }
+    ChangeScope scope(*this);
+    for (const PelkoDocument &other : std::as_const(stored)) {
+        if (document(other.id))
+            continue;
+        m_documents.append(other);
+        scope.announce(&AppState::documentsChanged);
+    }
+    if (stored != m_documents)
+        m_hasUnsavedChanges = true;
+}
+
 void AppState::load()
 {
     DocumentFile::Contents contents = m_file.read();

@@ -84,6 +84,9 @@ public:
     /// Writes them if anything has changed that is not in the file yet. `lastSaveError` tells what came of
     /// it.
     void saveChanges();
+    /// The file is gone, or was replaced by another program: adds its documents that are not here, and notes
+    /// as unsaved what it lacks. One that cannot be read is left alone until the next save.
+    void adoptFile();
     /// Waits until the last save would outlive a power cut. A failure becomes `lastError`.
     void confirmSave();
 

@@ -235,6 +235,30 @@ private Q_SLOTS:
         QVERIFY(settled(ask(data.folder(), {})));
     }
 
+    void aFolderThatWasRemovedIsListenedInAgain()
+    {
+        const DataFolder data;
+        std::filesystem::create_directories(data.folder());
+        InstanceServer server(data.folder(), echo);
+        std::filesystem::remove_all(data.folder());
+        QVERIFY(!askRunningInstance(data.folder(), {}));
+        std::filesystem::create_directories(data.folder());
+        server.listen();
+
+        QVERIFY(settled(ask(data.folder(), {})));
+    }
+
+    void theSocketOfAnotherProcessIsNotRemoved()
+    {
+        const DataFolder data;
+        std::filesystem::create_directories(data.folder());
+        auto server = std::make_unique<InstanceServer>(data.folder(), echo);
+        const InstanceServer other(data.folder(), echo);
+        server.reset();
+
+        QVERIFY(settled(ask(data.folder(), {})));
+    }
+
     void theSocketIsForItsOwnerOnly()
     {
         const DataFolder data;

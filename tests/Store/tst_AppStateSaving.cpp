@@ -152,6 +152,56 @@ private Q_SLOTS:
         QCOMPARE(changed.size(), 2);
     }
 
+    void aFileThatIsGoneIsWrittenAgain()
+    {
+        file.bytes.reset();
+        state->adoptFile();
+        state->saveChanges();
+        QCOMPARE(readDocuments(file.bytes.value()), state->documents());
+    }
+
+    void documentsOfAnotherProgramAreAddedToTheListAndTheFile()
+    {
+        const PelkoDocument own = state->documents().first();
+        const PelkoDocument other(Space::ideas, 2);
+        file.bytes = dataFileText({other});
+        QSignalSpy changed(state.get(), &AppState::documentsChanged);
+        state->adoptFile();
+        QCOMPARE(state->documents(), (QList{own, other}));
+        QCOMPARE(changed.size(), 1);
+        state->saveChanges();
+        QCOMPARE(readDocuments(*file.bytes), state->documents());
+    }
+
+    void anOlderVersionInTheFileIsReplacedByTheOneInTheList()
+    {
+        edit();
+        state->save();
+        const QList<PelkoDocument> documents = state->documents();
+        PelkoDocument older = documents.first();
+        older.updatedAt = 1;
+        file.bytes = dataFileText({older});
+        state->adoptFile();
+        QCOMPARE(state->documents(), documents);
+        state->saveChanges();
+        QCOMPARE(readDocuments(*file.bytes), documents);
+    }
+
+    void aFileOfTheSameDocumentsLeavesNothingToSave()
+    {
+        state->adoptFile();
+        state->saveChanges();
+        QCOMPARE(file.writes(), 0);
+    }
+
+    void aForeignFileThatCannotBeReadIsLeftUntilTheNextSave()
+    {
+        file.bytes = "what cannot be read"_ba;
+        state->adoptFile();
+        state->saveChanges();
+        QCOMPARE(file.writes(), 0);
+    }
+
     void aStoreWithoutChangesSavesNothing()
     {
         file.bytes = "what cannot be read"_ba;

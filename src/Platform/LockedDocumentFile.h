@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Services/DocumentFile.h"
+
+#include <functional>
+
+class OnlyInstance;
+
+/// The data file in the folder that this process has locked. A folder that was removed, or replaced by
+/// another one, is locked again before anything is written into it; while another process has it, every save
+/// fails.
+class LockedDocumentFile : public DocumentFile
+{
+public:
+    /// Both must outlive this object.
+    LockedDocumentFile(DocumentFile &file, OnlyInstance &instance);
+
+    /// Called when another folder was locked, ahead of the write into it.
+    void onFolderChanged(std::function<void()> action) { m_folderChanged = std::move(action); }
+    /// Locks the folder again if it is another one than before.
+    [[nodiscard]] std::optional<FileError> followFolder();
+
+    Contents read() override;
+    [[nodiscard]] std::optional<FileError> replace(const Producer &produce) override;
+    /// An error also when the folder has gone with what was written.
+    [[nodiscard]] std::optional<FileError> confirm() override;
+    bool canReplace() const override;
+
+private:
+    DocumentFile &m_file;
+    OnlyInstance &m_instance;
+    std::function<void()> m_folderChanged = [] {};
+};
