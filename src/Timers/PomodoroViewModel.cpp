@@ -27,6 +27,7 @@ PomodoroViewModel::PomodoroViewModel(PomodoroTimer &timer, AppState &appState, P
 {
     followTimer();
     connect(&m_appState, &AppState::documentsChanged, this, &PomodoroViewModel::refreshSparks);
+    connect(&m_appState, &AppState::lastSaveErrorChanged, this, &PomodoroViewModel::followLastSave);
     refreshSparks();
 }
 
@@ -60,6 +61,11 @@ QString PomodoroViewModel::phase() const
     return m_timer.isFocusPhase() ? u"FOCUS"_s : u"BREAK"_s;
 }
 
+int PomodoroViewModel::sessionCount() const
+{
+    return int(m_timer.sessionCount());
+}
+
 int PomodoroViewModel::sessionDots() const
 {
     return int(std::min(m_timer.sessionCount(), dotLimit));
@@ -85,6 +91,7 @@ void PomodoroViewModel::startFresh()
 {
     m_delayedFocus.cancel();
     m_lastCapturedID.reset();
+    m_unsavedSpark.clear();
     refreshSparks();
     typed({});
     Q_EMIT startedFresh();
@@ -103,19 +110,56 @@ void PomodoroViewModel::resetTimer()
 void PomodoroViewModel::typed(const QString &text)
 {
     ChangeScope(*this).assign(m_quickNote, text, &PomodoroViewModel::quickNoteChanged);
+    refreshCaptureError();
 }
 
 void PomodoroViewModel::submitSpark()
 {
     if (!canSubmit())
         return;
-    const std::optional<PelkoDocument> spark = m_appState.captureSpark(m_quickNote.trimmed());
+    if (holdsUnsavedSpark())
+        m_appState.saveChanges(); // which clears the field when it succeeds
+    else
+        captureNote();
+    focusCaptureAfter(focusDelayAfterCapture);
+}
+
+void PomodoroViewModel::captureNote()
+{
+    const QString text = m_quickNote.trimmed();
+    const std::optional<PelkoDocument> spark = m_appState.captureSpark(text);
     if (!spark)
         return;
     m_lastCapturedID = spark->id;
     refreshSparks();
-    typed({});
-    focusCaptureAfter(focusDelayAfterCapture);
+    if (!m_appState.lastSaveError()) {
+        typed({});
+        return;
+    }
+    m_unsavedSpark = text;
+    refreshCaptureError();
+}
+
+bool PomodoroViewModel::holdsUnsavedSpark() const
+{
+    return !m_unsavedSpark.isEmpty() && m_quickNote.trimmed() == m_unsavedSpark;
+}
+
+void PomodoroViewModel::followLastSave()
+{
+    if (!m_appState.lastSaveError()) {
+        const bool isDone = holdsUnsavedSpark();
+        m_unsavedSpark.clear();
+        if (isDone)
+            typed({});
+    }
+    refreshCaptureError();
+}
+
+void PomodoroViewModel::refreshCaptureError()
+{
+    const QString error = holdsUnsavedSpark() ? m_appState.lastSaveError().value_or(QString()) : QString();
+    ChangeScope(*this).assign(m_captureError, error, &PomodoroViewModel::captureErrorChanged);
 }
 
 void PomodoroViewModel::copySpark(const QString &sparkID)

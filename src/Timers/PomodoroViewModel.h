@@ -17,9 +17,11 @@ class PomodoroViewModel : public QObject
     Q_PROPERTY(double progress READ progress NOTIFY timeChanged)
     Q_PROPERTY(bool isRunning READ isRunning NOTIFY isRunningChanged)
     Q_PROPERTY(QString phase READ phase NOTIFY phaseChanged)
+    Q_PROPERTY(int sessionCount READ sessionCount NOTIFY sessionsChanged)
     Q_PROPERTY(int sessionDots READ sessionDots NOTIFY sessionsChanged)
     Q_PROPERTY(QString moreSessions READ moreSessions NOTIFY sessionsChanged)
     Q_PROPERTY(QString quickNote READ quickNote NOTIFY quickNoteChanged)
+    Q_PROPERTY(QString captureError READ captureError NOTIFY captureErrorChanged)
     Q_PROPERTY(bool canSubmit READ canSubmit NOTIFY quickNoteChanged)
     Q_PROPERTY(int sparkCount READ sparkCount NOTIFY sparkCountChanged)
     Q_PROPERTY(QObject *sparks READ sparks CONSTANT)
@@ -34,6 +36,8 @@ public:
     bool isRunning() const;
     /// "FOCUS" or "BREAK".
     QString phase() const;
+    /// Of the completed sessions.
+    int sessionCount() const;
     /// One for each completed session, four at most.
     int sessionDots() const;
     /// "+N" for the sessions that have no dot; empty when all have.
@@ -41,6 +45,8 @@ public:
     /// What stands in the capture field.
     const QString &quickNote() const { return m_quickNote; }
     bool canSubmit() const;
+    /// Why the spark that stands in the field is not saved yet; otherwise empty.
+    const QString &captureError() const { return m_captureError; }
     /// Of all sparks.
     int sparkCount() const { return m_sparkCount; }
     QObject *sparks() { return &m_sparks; }
@@ -53,7 +59,8 @@ public:
     Q_INVOKABLE void resetTimer();
     /// The field holds `text` now.
     Q_INVOKABLE void typed(const QString &text);
-    /// Captures what stands in the field, unless that is blank.
+    /// Captures what stands in the field, unless that is blank. A spark that cannot be saved stays in the
+    /// field; the next submission of the same text tries to save it again, and captures it no second time.
     Q_INVOKABLE void submitSpark();
     /// Puts all of the spark's text on the pasteboard.
     Q_INVOKABLE void copySpark(const QString &sparkID);
@@ -65,6 +72,7 @@ Q_SIGNALS:
     void phaseChanged();
     void sessionsChanged();
     void quickNoteChanged();
+    void captureErrorChanged();
     void sparkCountChanged();
     void startedFresh();
     /// The capture field has to take the keyboard.
@@ -73,6 +81,10 @@ Q_SIGNALS:
 private:
     void followTimer();
     void refreshSparks();
+    void captureNote();
+    void followLastSave();
+    void refreshCaptureError();
+    bool holdsUnsavedSpark() const;
     void focusCaptureAfter(std::chrono::milliseconds delay);
 
     PomodoroTimer &m_timer;
@@ -83,5 +95,8 @@ private:
     int m_sparkCount = 0;
     QString m_quickNote;
     std::optional<QUuid> m_lastCapturedID;
+    /// The text of the last spark when it was captured but could not be saved.
+    QString m_unsavedSpark;
+    QString m_captureError;
     ScheduledCall m_delayedFocus;
 };

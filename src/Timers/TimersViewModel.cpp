@@ -67,7 +67,7 @@ void TimersViewModel::closePanel()
 
 void TimersViewModel::leavePanel()
 {
-    if (!m_isPanelOpen)
+    if (!m_isPanelOpen || m_panel.canSubmit())
         return;
     m_hasJustLeft = true;
     m_afterLeaving = m_scheduler.after(clickTime, [this] { m_hasJustLeft = false; });

@@ -42,8 +42,9 @@ public:
     /// Opens the panel at a place of the screen or closes the one that is open.
     Q_INVOKABLE void togglePanel(const QRect &opener);
     Q_INVOKABLE void closePanel();
-    /// Something else took the keyboard: the panel goes. What took it may be a press on the very label that
-    /// opened the panel, so the click that follows is not to open it again.
+    /// Something else took the keyboard: the panel goes, unless a spark is being written in it. What took it
+    /// may be a press on the very label that opened the panel, so the click that follows is not to open it
+    /// again.
     Q_INVOKABLE void leavePanel();
 
 Q_SIGNALS:

@@ -266,6 +266,65 @@ private Q_SLOTS:
         QCOMPARE(m_program->cards()[0].text, u"kept"_s);
         QVERIFY(m_program->appState.lastError());
     }
+
+    void whatFailsToBeSavedStaysInTheFieldWithTheReason()
+    {
+        m_program->file.writeError = u"No space left on device"_s;
+        const QSignalSpy told(&m_program->panel, &PomodoroViewModel::captureErrorChanged);
+        m_program->capture(u" kept "_s);
+        QCOMPARE(m_program->panel.quickNote(), u" kept "_s);
+        QCOMPARE(m_program->panel.captureError(), u"Save failed: No space left on device"_s);
+        QCOMPARE(told.count(), 1);
+    }
+
+    void whatFailedToBeSavedIsSavedByTheNextReturnAndNotCapturedTwice()
+    {
+        m_program->file.writeError = u"No space left on device"_s;
+        m_program->capture(u"kept"_s);
+        m_program->panel.submitSpark();
+        QCOMPARE(m_program->panel.quickNote(), u"kept"_s);
+        m_program->file.writeError.reset();
+        m_program->panel.submitSpark();
+        QCOMPARE(m_program->panel.quickNote(), QString());
+        QCOMPARE(m_program->panel.captureError(), QString());
+        QCOMPARE(m_program->panel.sparkCount(), 1);
+        QCOMPARE(m_program->file.writes(), 1);
+    }
+
+    void theFieldIsClearedWhenTheSparkIsSavedByOtherMeans()
+    {
+        m_program->file.writeError = u"No space left on device"_s;
+        m_program->capture(u"kept"_s);
+        m_program->file.writeError.reset();
+        m_program->appState.saveChanges();
+        QCOMPARE(m_program->panel.quickNote(), QString());
+        QCOMPARE(m_program->panel.captureError(), QString());
+    }
+
+    void anotherThoughtBehindOneThatFailedIsASparkOfItsOwn()
+    {
+        m_program->file.writeError = u"No space left on device"_s;
+        m_program->capture(u"first"_s);
+        m_program->panel.typed(u"second"_s);
+        QCOMPARE(m_program->panel.captureError(), QString());
+        m_program->file.writeError.reset();
+        m_program->appState.saveChanges();
+        QCOMPARE(m_program->panel.quickNote(), u"second"_s);
+        m_program->panel.submitSpark();
+        QCOMPARE(m_program->panel.sparkCount(), 2);
+        QCOMPARE(m_program->panel.quickNote(), QString());
+    }
+
+    void theNextOpeningKnowsNothingOfAFailedSpark()
+    {
+        m_program->file.writeError = u"No space left on device"_s;
+        m_program->capture(u"kept"_s);
+        m_program->panel.startFresh();
+        QCOMPARE(m_program->panel.quickNote(), QString());
+        QCOMPARE(m_program->panel.captureError(), QString());
+        m_program->capture(u"kept"_s);
+        QCOMPARE(m_program->panel.sparkCount(), 2);
+    }
 };
 
 PELKO_TEST(TestPomodoroViewModel)

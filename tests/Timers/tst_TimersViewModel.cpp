@@ -103,6 +103,26 @@ private Q_SLOTS:
         QVERIFY(m_program->timers.isPanelOpen());
     }
 
+    void aPanelWithAHalfTypedSparkStaysWhenTheKeyboardGoesElsewhere()
+    {
+        m_program->timers.togglePanel(label);
+        m_program->timers.panel().typed(u"half a thou"_s);
+        m_program->timers.leavePanel();
+        QVERIFY(m_program->timers.isPanelOpen());
+        QCOMPARE(m_program->timers.panel().quickNote(), u"half a thou"_s);
+
+        m_program->timers.togglePanel(label);
+        QVERIFY(!m_program->timers.isPanelOpen());
+    }
+
+    void aPanelOfBlanksGoesWithTheKeyboard()
+    {
+        m_program->timers.togglePanel(label);
+        m_program->timers.panel().typed(u"  "_s);
+        m_program->timers.leavePanel();
+        QVERIFY(!m_program->timers.isPanelOpen());
+    }
+
     void closedByItselfItOpensAgainAtOnce()
     {
         m_program->timers.togglePanel(label);

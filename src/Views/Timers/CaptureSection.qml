@@ -71,5 +71,17 @@ FocusScope {
                 onTriggered: root.panel.submitSpark()
             }
         }
+
+        Text {
+            Accessible.name: text
+            Accessible.role: Accessible.AlertMessage
+            color: FirePalette.destructive
+            font: Typography.sparkText
+            text: root.panel.captureError
+            textFormat: Text.PlainText
+            visible: text !== ""
+            width: parent.width
+            wrapMode: Text.Wrap
+        }
     }
 }

@@ -55,6 +55,6 @@ void PanelWindow::followActive()
 {
     // Before it has had the keyboard it cannot lose it.
     if (m_wasActive && !isActive())
-        Q_EMIT dismissed();
+        Q_EMIT left();
     m_wasActive = isActive();
 }

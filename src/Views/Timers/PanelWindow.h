@@ -4,7 +4,7 @@
 #include <QtQml/qqml.h>
 
 /// A small window without a frame that belongs to what opened it: it comes up beside that, stays inside the
-/// screen while it grows and shrinks, and asks to be dismissed once the keyboard has gone elsewhere.
+/// screen while it grows and shrinks, and tells when the keyboard has gone elsewhere.
 class PanelWindow : public QQuickWindow
 {
     Q_OBJECT
@@ -19,6 +19,7 @@ public:
     void openAt(const QRect &opener);
 
 Q_SIGNALS:
+    void left();
     void dismissed();
     void cornerRadiusChanged();
 

@@ -38,8 +38,10 @@ void PomodoroPanel::prepare()
     m_component.loadUrl(QUrl(u"qrc:/qt/qml/Pelko/Views/Timers/PomodoroWindow.qml"_s));
     m_window.reset(qobject_cast<PanelWindow *>(
         m_component.createWithInitialProperties({{u"panel"_s, QVariant::fromValue(&m_timers.panel())}})));
-    if (m_window)
-        connect(m_window.get(), &PanelWindow::dismissed, &m_timers, &TimersViewModel::leavePanel);
+    if (!m_window)
+        return;
+    connect(m_window.get(), &PanelWindow::left, &m_timers, &TimersViewModel::leavePanel);
+    connect(m_window.get(), &PanelWindow::dismissed, &m_timers, &TimersViewModel::closePanel);
 }
 
 void PomodoroPanel::open(const QRect &opener)

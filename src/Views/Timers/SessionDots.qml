@@ -7,12 +7,15 @@ import Pelko
 Row {
     id: root
 
+    /// Of the dots.
     required property int count
+    /// Of the sessions.
+    required property int total
     required property string more
 
     spacing: Metrics.space8
     Accessible.role: Accessible.StaticText
-    Accessible.name: count === 0 ? "" : qsTr("Sessions done: %1%2").arg(count).arg(more)
+    Accessible.name: total === 0 ? "" : qsTr("Sessions done: %1").arg(total)
     Accessible.ignored: count === 0
 
     Repeater {

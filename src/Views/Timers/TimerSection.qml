@@ -94,6 +94,7 @@ Column {
             height: parent.height
             count: root.panel.sessionDots
             more: root.panel.moreSessions
+            total: root.panel.sessionCount
         }
     }
 
