@@ -35,6 +35,21 @@ Item {
     }
 
     Component {
+        id: interruption
+
+        AlertDialog {
+            id: interruptionDialog
+
+            property int chosen: 0
+
+            title: "Flat tire."
+            message: "Save failed."
+            unasked: true
+            actions: DialogAction { name: "Got it"; cancels: true; onTriggered: interruptionDialog.chosen += 1 }
+        }
+    }
+
+    Component {
         id: danger
 
         AlertDialog {
@@ -59,6 +74,7 @@ Item {
 
         function init() {
             Motion.reduced = true
+            writing.clear()
             writing.forceActiveFocus()
             clicksBelow.clear()
             shortcutSpy.clear()
@@ -74,6 +90,75 @@ Item {
             dismissed.clear()
             dialog.open = true
             return dialog
+        }
+
+        function type(letters) {
+            Array.from(letters).forEach(letter => keyClick(letter))
+        }
+
+        function test_anUnaskedAlertLeavesTheKeysToTheWriter() {
+            type("The qui")
+            const dialog = show(interruption)
+            type("ck brown fox ")
+            keyClick(Qt.Key_Return)
+            type("jumps")
+            keyClick(Qt.Key_Escape)
+            compare(writing.text, "The quick brown fox \njumps")
+            verify(writing.activeFocus && dialog.open)
+            compare(dialog.chosen, 0)
+        }
+
+        function test_anUnaskedAlertTakesTheKeyboardAfterASecondWithoutAKey() {
+            const begin = Date.now()
+            const dialog = show(interruption)
+            verify(writing.activeFocus)
+            tryVerify(() => focusedName() === "Got it")
+            verify(Date.now() - begin >= 900) // the timers of views are a little inexact
+            keyClick(Qt.Key_Return)
+            compare(dialog.chosen, 1)
+            compare(dismissed.count, 1)
+            dialog.open = false
+            verify(writing.activeFocus)
+        }
+
+        function test_keysPutOffTheAlertThatWasNotAskedFor() {
+            show(interruption)
+            wait(700)
+            type("a")
+            wait(700)
+            verify(writing.activeFocus)
+            tryVerify(() => focusedName() === "Got it")
+        }
+
+        function test_whatIsWrittenGoesToThePageAlsoWhenTheAlertHasTheKeyboard() {
+            const dialog = show(interruption)
+            tryVerify(() => focusedName() === "Got it")
+            type(" jumps over")
+            compare(writing.text, " jumps over")
+            verify(writing.activeFocus && dialog.open)
+            compare(dialog.chosen, 0)
+            tryVerify(() => focusedName() === "Got it")
+        }
+
+        function test_anUnaskedAlertIsClosedByAClickAtOnce() {
+            const dialog = show(interruption)
+            mouseClick(dialog.card, dialog.card.width / 2, dialog.card.height - 40)
+            compare(dialog.chosen, 1)
+            dialog.open = false
+            verify(writing.activeFocus)
+            compare(clicksBelow.count, 0)
+        }
+
+        function test_anUnaskedAlertBelowAnotherOneWaits() {
+            const below = show(interruption)
+            below.covered = true
+            const above = show(interruption)
+            tryVerify(() => above.activeFocus)
+            wait(300)
+            verify(!below.activeFocus)
+            above.open = false
+            below.covered = false
+            tryVerify(() => below.activeFocus)
         }
 
         function focusedName() {

@@ -1,0 +1,36 @@
+#include "KeyWatcher.h"
+
+#include <QGuiApplication>
+#include <QQuickWindow>
+
+namespace
+{
+bool writesText(const QKeyEvent &event)
+{
+    const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const QString text = event.text();
+    return !isCommand && !text.isEmpty() && text.at(0).isPrint();
+}
+} // namespace
+
+void KeyWatcher::setActive(bool active)
+{
+    if (m_isActive == active)
+        return;
+    m_isActive = active;
+    // An input method sends its texts to the focused item itself, past the window.
+    if (active)
+        qGuiApp->installEventFilter(this);
+    else
+        qGuiApp->removeEventFilter(this);
+    Q_EMIT activeChanged();
+}
+
+bool KeyWatcher::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress && watched == window())
+        Q_EMIT pressed(writesText(*static_cast<QKeyEvent *>(event)));
+    else if (event->type() == QEvent::InputMethod && window() && watched == window()->activeFocusItem())
+        Q_EMIT pressed(true);
+    return false;
+}

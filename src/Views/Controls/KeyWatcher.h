@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QQuickItem>
+#include <QtQml/qqml.h>
+
+/// Tells of the keys that its window is given, whichever item takes them, while it is active. It takes none.
+class KeyWatcher : public QQuickItem
+{
+    Q_OBJECT
+    Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged)
+    QML_ELEMENT
+
+public:
+    explicit KeyWatcher(QQuickItem *parent = nullptr) : QQuickItem(parent) {}
+
+    bool isActive() const { return m_isActive; }
+    void setActive(bool active);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+Q_SIGNALS:
+    void activeChanged();
+    /// A key or a text from an input method is about to reach the item that has the keyboard. It `writes`
+    /// when it would put a character into a line of text.
+    void pressed(bool writes);
+
+private:
+    bool m_isActive = false;
+};
