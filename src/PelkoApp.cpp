@@ -22,9 +22,10 @@ namespace
 constexpr auto trayRestartTime = 5s;
 }
 
-PelkoApp::PelkoApp()
+PelkoApp::PelkoApp(OnlyInstance &instance) : m_documentFile(m_localFile, instance)
 {
     m_exports.bindTo(*m_main.commands()->list());
+    followDataFolder(instance);
     followRequests();
     followTimer();
     followTray();
@@ -57,13 +58,40 @@ QString PelkoApp::activeWindowName()
 
 PelkoApp::~PelkoApp()
 {
-    if (window())
-        takeDown(*window());
+    if (!window())
+        return;
+    window()->hide(); // while everybody who hears of it is there
+    takeDown(*window());
 }
 
 std::filesystem::path PelkoApp::dataFolder() const
 {
     return m_dataLocation.applicationSupportDirectory().value_or(std::filesystem::path()) / "Pelko";
+}
+
+/// The folder may be removed or moved while the program runs. It is made again at once, so that the next
+/// command line finds this process and not an empty folder.
+void PelkoApp::followDataFolder(const OnlyInstance &instance)
+{
+    m_documentFile.onFolderChanged([this] {
+        m_server.listen();
+        m_appState.adoptFile();
+        watchDataFolder();
+    });
+    QObject::connect(&m_folderWatcher, &QFileSystemWatcher::directoryChanged, &m_appState, [this, &instance] {
+        if (!instance.holdsFolder() && !m_documentFile.followFolder())
+            m_appState.saveChanges();
+    });
+    watchDataFolder();
+}
+
+void PelkoApp::watchDataFolder()
+{
+    // Of a folder that is moved, only the one above it tells.
+    const QStringList folders{QFile::decodeName(dataFolder().c_str()),
+                              QFile::decodeName(dataFolder().parent_path().c_str())};
+    m_folderWatcher.removePaths(folders); // which may stand for folders that are gone
+    m_folderWatcher.addPaths(folders);
 }
 
 QQuickWindow *PelkoApp::window() const
@@ -111,8 +139,32 @@ void PelkoApp::bringToFront()
         ::bringToFront(*window());
 }
 
+ProgramEnd::Answers PelkoApp::answersAtTheEnd()
+{
+    // Without a window there is nowhere to ask.
+    return {.mayEnd = [this] { return m_main.quitGuard()->mayQuit() || !window(); },
+            .save = [this] { return save(); },
+            .saveWithoutDisplay =
+                [this] {
+                    const QSignalBlocker blocker(m_appState);
+                    save();
+                },
+            .endsWithWindow = [this] { return !m_tray.isPresent(); }};
+}
+
+/// Returns what failed, in words for the user.
+QString PelkoApp::save()
+{
+    m_appState.saveChanges();
+    m_appState.confirmSave();
+    return m_appState.lastSaveError().value_or(QString());
+}
+
 void PelkoApp::followRequests()
 {
+    QObject::connect(m_main.quitGuard(), &QuitGuard::quitRequested, QCoreApplication::instance(),
+                     &QCoreApplication::quit, Qt::QueuedConnection);
+    QObject::connect(&m_end, &ProgramEnd::refused, &m_engine, [this] { bringToFront(); });
     QObject::connect(m_main.commands(), &ShellCommands::quitRequested, QCoreApplication::instance(),
                      &QCoreApplication::quit, Qt::QueuedConnection);
     QObject::connect(m_main.commands(), &ShellCommands::fullScreenToggled, &m_engine,
@@ -131,6 +183,7 @@ void PelkoApp::followWindow()
 {
     if (!window())
         return;
+    m_end.guard(*window());
     QObject::connect(window(), &QWindow::visibilityChanged, m_main.commands(),
                      [this] { m_main.commands()->setFullScreen(fillsScreen(*window())); });
     QObject::connect(window(), &QWindow::visibleChanged, &m_main, [this](bool isOpen) {
@@ -141,10 +194,11 @@ void PelkoApp::followWindow()
 
 void PelkoApp::followTimer()
 {
-    const auto show = [this] { m_tray.show(trayFace(m_pomodoroTimer)); };
+    const auto show = [this] { m_tray.show(trayFace(m_pomodoroTimer, m_main.saveError())); };
     QObject::connect(&m_pomodoroTimer, &PomodoroTimer::timeRemainingChanged, &m_tray, show);
     QObject::connect(&m_pomodoroTimer, &PomodoroTimer::isRunningChanged, &m_tray, show);
     QObject::connect(&m_pomodoroTimer, &PomodoroTimer::sessionCountChanged, &m_tray, show);
+    QObject::connect(&m_main, &MainViewModel::saveErrorChanged, &m_tray, show);
     show();
 }
 

@@ -7,8 +7,11 @@
 #include "Platform/LocalExportFolder.h"
 #include "Platform/LocalPictureFiles.h"
 #include "Platform/LocalPictureFolders.h"
+#include "Platform/LockedDocumentFile.h"
+#include "Platform/OnlyInstance.h"
 #include "Platform/PasteGuard.h"
 #include "Platform/PortalFileChooser.h"
+#include "Platform/ProgramEnd.h"
 #include "Platform/QtScheduler.h"
 #include "Platform/SystemClock.h"
 #include "Platform/SystemDataLocation.h"
@@ -21,12 +24,14 @@
 #include "Shell/LaunchSequence.h"
 #include "Shell/MainViewModel.h"
 #include "Shell/RemoteControl.h"
+#include "Shell/SaveRetry.h"
 #include "Store/AppState.h"
 #include "Tasks/TasksViewModel.h"
 #include "Timers/PomodoroTimer.h"
 #include "Timers/TimersViewModel.h"
 #include "Views/Timers/PomodoroPanel.h"
 
+#include <QFileSystemWatcher>
 #include <QQmlApplicationEngine>
 
 #include <memory>
@@ -38,7 +43,8 @@ class QQuickWindow;
 class PelkoApp
 {
 public:
-    PelkoApp();
+    /// `instance` has locked the data folder and must outlive the program.
+    explicit PelkoApp(OnlyInstance &instance);
     ~PelkoApp();
 
     /// Runs until the program is to end. Returns the exit code: 1 where the window's contents could not be
@@ -51,6 +57,10 @@ private:
     std::filesystem::path dataFolder() const;
     QQuickWindow *window() const;
     void bringToFront();
+    ProgramEnd::Answers answersAtTheEnd();
+    QString save();
+    void followDataFolder(const OnlyInstance &instance);
+    void watchDataFolder();
     void followRequests();
     void followWindow();
     void followTimer();
@@ -68,13 +78,15 @@ private:
     SystemPasteboard m_pasteboard;
     UserPreferences m_preferences;
     DesktopCalendarStore m_calendars{QDBusConnection::sessionBus(), UserFolders::ofThisUser()};
-    LocalDocumentFile m_documentFile{m_dataLocation};
+    LocalDocumentFile m_localFile{m_dataLocation};
+    LockedDocumentFile m_documentFile;
     LocalPictureFiles m_pictureFiles;
     LocalExportFolder m_exportFolder;
     LocalPictureFolders m_pictureFolders;
     FolderChooser m_folderChooser{m_pictureFolders};
     PortalFileChooser m_fileChooser{QDBusConnection::sessionBus(), activeWindowName, m_folderChooser};
     AppState m_appState{m_scheduler, m_clock, m_documentFile};
+    SaveRetry m_saveRetry{m_appState, m_documentFile, m_scheduler};
     MainViewModel m_main{
         m_appState, m_clock, {m_scheduler, m_pasteboard, m_fileChooser, m_pictureFiles}, menuPlace()};
     ExportViewModel m_exports{m_appState, {m_scheduler, m_fileChooser, m_exportFolder, m_pasteboard}};
@@ -92,4 +104,6 @@ private:
     RemoteControl m_remote{m_appState, m_pomodoroTimer};
     InstanceServer m_server{dataFolder(),
                             [this](const QStringList &arguments) { return m_remote.answer(arguments); }};
+    QFileSystemWatcher m_folderWatcher;
+    ProgramEnd m_end{answersAtTheEnd()};
 };

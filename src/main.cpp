@@ -1,6 +1,5 @@
 #include "PelkoApp.h"
 #include "Platform/LibraryExport.h"
-#include "Platform/OnlyInstance.h"
 #include "Platform/SceneGraphChoice.h"
 #include "Platform/SystemDataLocation.h"
 #include "Shell/RemoteControl.h"
@@ -45,11 +44,13 @@ int say(const CommandLineAnswer &answer)
 }
 
 /// Straight into the file. What cannot be read is not written over behind the writer's back.
-CommandLineAnswer captureIntoFile(const DataLocation &location, const SparkCommand &command)
+CommandLineAnswer captureIntoFile(const DataLocation &location, OnlyInstance &instance,
+                                  const SparkCommand &command)
 {
     QtScheduler scheduler;
     const SystemClock clock;
-    LocalDocumentFile file(location);
+    LocalDocumentFile localFile(location);
+    LockedDocumentFile file(localFile, instance);
     AppState appState(scheduler, clock, file);
     if (const std::optional<QString> &error = appState.lastError())
         return {u"pelko: %1\n"_s.arg(*error), 1};
@@ -64,13 +65,13 @@ void describe(QGuiApplication &application)
     application.setWindowIcon(QIcon(u":/app.pelko.Pelko.svg"_s));
 }
 
-int showWindow(int argc, char *argv[])
+int showWindow(int argc, char *argv[], OnlyInstance &instance)
 {
     if (prefersSoftwareSceneGraph(QProcessEnvironment::systemEnvironment(), QDir(u"/dev/dri"_s)))
         QQuickWindow::setSceneGraphBackend(u"software"_s);
     QGuiApplication application(argc, argv);
     describe(application);
-    return PelkoApp().run();
+    return PelkoApp(instance).run();
 }
 } // namespace
 
@@ -102,7 +103,7 @@ int main(int argc, char *argv[])
         return say({u"pelko: Pelko is not running.\n"_s, 1});
     if (const auto *spark = std::get_if<SparkCommand>(&commandLine)) {
         const QCoreApplication application(argc, argv);
-        return say(captureIntoFile(location, *spark));
+        return say(captureIntoFile(location, instance, *spark));
     }
-    return showWindow(argc, argv);
+    return showWindow(argc, argv, instance);
 }

@@ -15,6 +15,7 @@ MainViewModel::MainViewModel(AppState &appState, const Clock &clock, const Edito
     , m_services(services)
     , m_navigation(appState, clock)
     , m_commands(appState, m_navigation, menuPlace)
+    , m_quitGuard(appState)
 {
     greet();
     followStore();
@@ -27,6 +28,8 @@ void MainViewModel::followStore()
     connect(&m_appState, &AppState::openDocumentIDChanged, this, &MainViewModel::followOpenDocument);
     connect(&m_appState, &AppState::documentsChanged, this, &MainViewModel::followOpenDocument);
     connect(&m_appState, &AppState::lastErrorChanged, this, &MainViewModel::followError);
+    connect(&m_appState, &AppState::lastSaveErrorChanged, this, &MainViewModel::followLastSave);
+    connect(&m_commands, &ShellCommands::saveRequested, this, &MainViewModel::save);
     connect(&m_appState, &AppState::currentSpaceChanged, this, &MainViewModel::followOpenDocument);
     connect(&m_appState, &AppState::focusModeChanged, this, &MainViewModel::followFocusMode);
     connect(&m_appState, &AppState::showNavChanged, this, &MainViewModel::showNavChanged);
@@ -104,6 +107,7 @@ void MainViewModel::dismissAbout()
 
 void MainViewModel::dismissError()
 {
+    m_knownSaveError = m_appState.lastSaveError();
     m_appState.clearLastError();
 }
 
@@ -136,12 +140,13 @@ void MainViewModel::cancelDelete()
 void MainViewModel::followOpenDocument()
 {
     const std::optional<PelkoDocument> open = m_appState.openDocument();
+    const bool emptyStateComesUp = !open && (m_emptyMessage.isEmpty() || !m_openDocumentID.isEmpty());
     ChangeScope changes(*this);
     changes.assign(m_openDocumentID, open ? open->id.toString(QUuid::WithoutBraces) : QString(),
                    &MainViewModel::openDocumentIDChanged);
     changes.assign(m_windowTitle, ::windowTitle(open ? open->title() : QString()),
                    &MainViewModel::windowTitleChanged);
-    if (!open)
+    if (emptyStateComesUp)
         changes.assign(m_emptyMessage, PelkoVoice::pick(PelkoVoice::emptyNotesPool(), u"emptyNotes"_s),
                        &MainViewModel::emptyMessageChanged);
     followFocusMode();
@@ -155,7 +160,11 @@ void MainViewModel::followFocusMode()
 
 void MainViewModel::followError()
 {
-    const std::optional<QString> &error = m_appState.lastError();
+    const std::optional<QString> error = m_appState.lastError();
+    if (error && error == m_knownSaveError) {
+        m_appState.clearLastError(); // told already; the mark at the title stays
+        return;
+    }
     ChangeScope changes(*this);
     if (error) {
         changes.assign(m_errorTitle, PelkoVoice::pick(PelkoVoice::errorPool(), u"error"_s),
@@ -163,4 +172,23 @@ void MainViewModel::followError()
         changes.assign(m_errorText, *error, &MainViewModel::errorTextChanged);
     }
     changes.assign(m_showError, error.has_value(), &MainViewModel::showErrorChanged);
+}
+
+QString MainViewModel::saveError() const
+{
+    return m_appState.lastSaveError().value_or(QString());
+}
+
+void MainViewModel::followLastSave()
+{
+    if (!m_appState.lastSaveError())
+        m_knownSaveError.reset();
+    Q_EMIT saveErrorChanged();
+}
+
+/// Who asks wants an answer, even if it is the same as before.
+void MainViewModel::save()
+{
+    m_knownSaveError.reset();
+    m_appState.saveChanges();
 }

@@ -3,6 +3,7 @@
 #include "Editor/EditorViewModel.h"
 #include "Models/PelkoDocument.h"
 #include "Navigation/NavigationViewModel.h"
+#include "Shell/QuitGuard.h"
 #include "Shell/ShellCommands.h"
 
 #include <QObject>
@@ -31,6 +32,8 @@ class MainViewModel : public QObject
     Q_PROPERTY(bool showError READ showError NOTIFY showErrorChanged)
     Q_PROPERTY(QString errorTitle READ errorTitle NOTIFY errorTitleChanged)
     Q_PROPERTY(QString errorText READ errorText NOTIFY errorTextChanged)
+    Q_PROPERTY(QString saveError READ saveError NOTIFY saveErrorChanged)
+    Q_PROPERTY(QuitGuard *quitGuard READ quitGuard CONSTANT)
     Q_PROPERTY(bool showDeleteConfirmation READ showDeleteConfirmation NOTIFY docToDeleteChanged)
     Q_PROPERTY(QString deleteConfirmText READ deleteConfirmText NOTIFY deleteConfirmTextChanged)
     Q_PROPERTY(ShellCommands *commands READ commands CONSTANT)
@@ -47,7 +50,7 @@ public:
     QString windowTitle() const { return m_windowTitle; }
     /// The greeting of the window, the same for as long as it is open.
     QString topMessage() const { return m_topMessage; }
-    /// Picked again whenever the empty state comes up or the library changes behind it.
+    /// Picked again whenever the empty state comes up, and stays while it is read.
     QString emptyMessage() const { return m_emptyMessage; }
     /// Nothing but the page is to be seen. Without a page there is nothing to focus on.
     bool isFocused() const { return m_isFocused; }
@@ -59,6 +62,9 @@ public:
     /// Both keep their last words while the alert goes away.
     QString errorTitle() const { return m_errorTitle; }
     QString errorText() const { return m_errorText; }
+    /// Why the last save failed; empty while all is well.
+    QString saveError() const;
+    QuitGuard *quitGuard() { return &m_quitGuard; }
     const std::optional<PelkoDocument> &docToDelete() const { return m_docToDelete; }
     bool showDeleteConfirmation() const { return m_docToDelete.has_value(); }
     /// Keeps its last value after the alert is gone.
@@ -97,6 +103,7 @@ Q_SIGNALS:
     void showErrorChanged();
     void errorTitleChanged();
     void errorTextChanged();
+    void saveErrorChanged();
     void docToDeleteChanged();
     void deleteConfirmTextChanged();
 
@@ -105,11 +112,14 @@ private:
     void followOpenDocument();
     void followFocusMode();
     void followError();
+    void followLastSave();
+    void save();
 
     AppState &m_appState;
     const EditorServices m_services;
     NavigationViewModel m_navigation;
     ShellCommands m_commands;
+    QuitGuard m_quitGuard;
     QPointer<EditorViewModel> m_editor;
     QString m_openDocumentID;
     QString m_windowTitle;
@@ -119,6 +129,8 @@ private:
     bool m_showError = false;
     QString m_errorTitle;
     QString m_errorText;
+    /// A failure of saving that was dismissed and has not changed since.
+    std::optional<QString> m_knownSaveError;
     std::optional<PelkoDocument> m_docToDelete;
     QString m_deleteConfirmText;
 };

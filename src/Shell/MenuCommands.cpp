@@ -12,6 +12,7 @@ const QList<MenuCommand> &menuCommands()
     static const QList<MenuCommand> commands{
         {u"newDocument"_s, u"New Document"_s, u"plus"_s, u"Ctrl+N"_s, Group::documents},
         {u"goTo"_s, u"Go to…"_s, u"rectangle.stack"_s, u"Ctrl+K"_s, Group::documents},
+        {u"save"_s, u"Save"_s, u"square.and.arrow.down"_s, u"Ctrl+S"_s, Group::documents},
         {u"ideas"_s, u"Ideas"_s, u"lightbulb"_s, u"Ctrl+1"_s, Group::spaces},
         {u"work"_s, u"Work"_s, u"briefcase"_s, u"Ctrl+2"_s, Group::spaces},
         {u"journal"_s, u"Journal"_s, u"book.closed"_s, u"Ctrl+3"_s, Group::spaces},

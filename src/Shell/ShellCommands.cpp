@@ -55,6 +55,7 @@ void ShellCommands::bindRequests()
     bind(u"pomodoro"_s, {.run = [this] { Q_EMIT pomodoroRequested(); }});
     bind(u"fullScreen"_s,
          {.run = [this] { Q_EMIT fullScreenToggled(); }, .isTicked = [this] { return m_isFullScreen; }});
+    bind(u"save"_s, {.run = [this] { Q_EMIT saveRequested(); }});
     bind(u"quit"_s, {.run = [this] { Q_EMIT quitRequested(); }});
 }
 

@@ -49,6 +49,7 @@ Q_SIGNALS:
     void menuRequested();
     void pomodoroRequested();
     void fullScreenToggled();
+    void saveRequested();
     void quitRequested();
 
 private:

@@ -16,8 +16,22 @@ int minutesLeft(const PomodoroTimer &timer)
 
 QString timeLeftInWords(const PomodoroTimer &timer)
 {
-    const char *words = timer.isFocusPhase() ? "%1 of focus left" : "%1 of break left";
-    return QCoreApplication::translate("PomodoroTimer", words).arg(timer.displayTime());
+    const QString words = timer.isFocusPhase()
+                              ? QCoreApplication::translate("PomodoroTimer", "%1 of focus left")
+                              : QCoreApplication::translate("PomodoroTimer", "%1 of break left");
+    return words.arg(timer.displayTime());
+}
+
+QString stateInWords(const PomodoroTimer &timer)
+{
+    if (timer.isRunning())
+        return timeLeftInWords(timer);
+    if (timer.timeRemaining() < timer.phaseLength())
+        return QCoreApplication::translate("PomodoroTimer", "Paused, %1").arg(timeLeftInWords(timer));
+    const QString words = timer.isFocusPhase()
+                              ? QCoreApplication::translate("PomodoroTimer", "Ready for %1 of focus")
+                              : QCoreApplication::translate("PomodoroTimer", "Ready for %1 of break");
+    return words.arg(timer.displayTime());
 }
 
 void startOrPause(PomodoroTimer &timer)

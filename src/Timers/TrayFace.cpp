@@ -36,14 +36,14 @@ double flameOpacity(const PomodoroTimer &timer)
 }
 } // namespace
 
-TrayFace trayFace(const PomodoroTimer &timer)
+TrayFace trayFace(const PomodoroTimer &timer, const QString &saveError)
 {
     return {.isRunning = timer.isRunning(),
             .flameOpacity = flameOpacity(timer),
             .progress = phaseProgress(timer),
             .minutesLeft = minutesLeft(timer),
             .label = timer.isRunning() ? timer.displayTime() : QString(),
-            .toolTipTitle = timeLeftInWords(timer),
-            .toolTipText = sessionsDone(timer.sessionCount()),
+            .toolTipTitle = stateInWords(timer),
+            .toolTipText = saveError.isEmpty() ? sessionsDone(timer.sessionCount()) : saveError,
             .menu = trayMenu(timer)};
 }

@@ -31,4 +31,5 @@ struct TrayFace {
     bool operator==(const TrayFace &) const = default;
 };
 
-TrayFace trayFace(const PomodoroTimer &timer);
+/// `saveError` tells why the last save failed, empty when it did not; the tool tip says so as well.
+TrayFace trayFace(const PomodoroTimer &timer, const QString &saveError = {});

@@ -79,6 +79,13 @@ struct FolderChooserForQml {
     QML_UNCREATABLE("Handed in by the program.")
 };
 
+struct QuitGuardForQml {
+    Q_GADGET
+    QML_FOREIGN(QuitGuard)
+    QML_NAMED_ELEMENT(QuitGuard)
+    QML_UNCREATABLE("Part of the main window.")
+};
+
 struct ShellCommandsForQml {
     Q_GADGET
     QML_FOREIGN(ShellCommands)

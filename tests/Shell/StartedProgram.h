@@ -32,6 +32,16 @@ struct StartedProgram {
         }
     }
 
+    /// Changes a page, and waits until that is saved or has failed to be.
+    void typeAndPause()
+    {
+        if (!appState.openDocument())
+            createDocuments(1);
+        clock.time += 1;
+        appState.updateDocument(*appState.openDocument());
+        scheduler.advance(std::chrono::milliseconds(500));
+    }
+
     void callOpenPage(const QString &title)
     {
         PelkoDocument document = *appState.openDocument();

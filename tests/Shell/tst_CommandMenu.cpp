@@ -30,7 +30,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("wanted");
         QTest::newRow("File") << QStringList{
-            u"New Document"_s,         u"Go to…"_s, u"-"_s, u"Export…"_s, u"Export everything…"_s,
+            u"New Document"_s,         u"Go to…"_s, u"Save"_s, u"-"_s, u"Export…"_s, u"Export everything…"_s,
             u"Copy page as Markdown"_s};
         QTest::newRow("Spaces") << QStringList{u"Ideas"_s, u"Work"_s, u"Journal"_s};
         QTest::newRow("View") << QStringList{u"Tasks"_s, u"Pomodoro"_s, u"Focus mode"_s, u"Full screen"_s};

@@ -17,6 +17,13 @@ ManualDocumentFile brokenFile()
     file.bytes = "not a library";
     return file;
 }
+
+ManualDocumentFile fullDisk()
+{
+    ManualDocumentFile file;
+    file.writeError = u"No space left on device"_s;
+    return file;
+}
 } // namespace
 
 /// What the main window asks and tells.
@@ -72,6 +79,72 @@ private Q_SLOTS:
         QVERIFY(!program.appState.lastError());
     }
 
+    void aFailureThatWasDismissedIsNotToldAgainByTheNextPause()
+    {
+        StartedProgram program(fullDisk());
+        program.typeAndPause();
+        QVERIFY(program.main.showError());
+        program.main.dismissError();
+        program.typeAndPause();
+        QVERIFY(!program.main.showError());
+        QVERIFY(!program.appState.lastError());
+        QCOMPARE(program.main.saveError(), u"Save failed: No space left on device"_s);
+    }
+
+    void anotherFailureIsTold()
+    {
+        StartedProgram program(fullDisk());
+        program.typeAndPause();
+        program.main.dismissError();
+        program.file.writeError = u"Input/output error"_s;
+        program.typeAndPause();
+        QVERIFY(program.main.showError());
+        QCOMPARE(program.main.errorText(), u"Save failed: Input/output error"_s);
+    }
+
+    void theSameFailureIsToldAgainAfterASaveHasSucceeded()
+    {
+        StartedProgram program(fullDisk());
+        program.typeAndPause();
+        program.main.dismissError();
+        program.file.writeError.reset();
+        program.typeAndPause();
+        QCOMPARE(program.main.saveError(), QString());
+        program.file.writeError = u"No space left on device"_s;
+        program.typeAndPause();
+        QVERIFY(program.main.showError());
+    }
+
+    void theWriterWhoAsksForASaveIsToldAgain()
+    {
+        StartedProgram program(fullDisk());
+        program.typeAndPause();
+        program.main.dismissError();
+        program.main.commands()->run(u"save"_s);
+        QVERIFY(program.main.showError());
+        program.file.writeError.reset();
+        program.main.commands()->run(u"save"_s);
+        QCOMPARE(program.file.writes(), 1);
+        QCOMPARE(program.main.saveError(), QString());
+    }
+
+    void theSaveCommandSavesAtOnce()
+    {
+        StartedProgram program;
+        program.createDocuments(1);
+        program.main.commands()->run(u"save"_s);
+        QCOMPARE(program.file.writes(), 1);
+        program.scheduler.advance(10s);
+        QCOMPARE(program.file.writes(), 1);
+    }
+
+    void theSaveCommandLeavesAFileThatCouldNotBeRead()
+    {
+        StartedProgram program(brokenFile());
+        program.main.commands()->run(u"save"_s);
+        QCOMPARE(program.file.writes(), 0);
+    }
+
     void dismissingNoErrorChangesNothing()
     {
         StartedProgram program;
@@ -84,11 +157,11 @@ private Q_SLOTS:
     void twoErrorsInARowHaveDifferentTitles()
     {
         StartedProgram program;
-        program.file.writeError = u"No space left on device"_s;
         QString previous;
         for (int i = 0; i < 30; ++i) {
+            program.file.writeError = i % 2 == 0 ? u"No space left on device"_s : u"Input/output error"_s;
             program.appState.save();
-            QCOMPARE(program.main.errorText(), u"Save failed: No space left on device"_s);
+            QCOMPARE(program.main.errorText(), u"Save failed: "_s + *program.file.writeError);
             QVERIFY(program.main.errorTitle() != previous);
             previous = program.main.errorTitle();
             program.main.dismissError();

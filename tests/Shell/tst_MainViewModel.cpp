@@ -161,6 +161,15 @@ private Q_SLOTS:
         }
     }
 
+    void theEmptyMessageStaysWhileItIsRead()
+    {
+        StartedProgram program;
+        const QSignalSpy changes(&program.main, &MainViewModel::emptyMessageChanged);
+        for (int i = 0; i < 5; ++i)
+            program.appState.captureSpark(u"from a key binding"_s);
+        QCOMPARE(changes.count(), 0);
+    }
+
     void theNewMessageIsThereBeforeTheEmptyStateIsShown()
     {
         StartedProgram program;

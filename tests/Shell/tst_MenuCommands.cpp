@@ -17,10 +17,11 @@ private Q_SLOTS:
         for (const MenuCommand &command : menuCommands())
             titles << command.title;
 
-        QCOMPARE(titles, (QStringList{u"New Document"_s, u"Go to…"_s, u"Ideas"_s, u"Work"_s, u"Journal"_s,
-                                      u"Tasks"_s, u"Pomodoro"_s, u"Focus mode"_s, u"Full screen"_s,
-                                      u"Export…"_s, u"Export everything…"_s, u"Copy page as Markdown"_s,
-                                      u"Keyboard Shortcuts"_s, u"About Pelko"_s, u"Quit"_s, u"App menu"_s}));
+        QCOMPARE(titles,
+                 (QStringList{u"New Document"_s, u"Go to…"_s, u"Save"_s, u"Ideas"_s, u"Work"_s, u"Journal"_s,
+                              u"Tasks"_s, u"Pomodoro"_s, u"Focus mode"_s, u"Full screen"_s, u"Export…"_s,
+                              u"Export everything…"_s, u"Copy page as Markdown"_s, u"Keyboard Shortcuts"_s,
+                              u"About Pelko"_s, u"Quit"_s, u"App menu"_s}));
     }
 
     void newDocumentHasThePlatformsNewShortcut()

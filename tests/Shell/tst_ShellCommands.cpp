@@ -33,7 +33,7 @@ public:
     {
         for (const auto asked : {&ShellCommands::menuRequested, &ShellCommands::pomodoroRequested,
                                  &ShellCommands::fullScreenToggled, &ShellCommands::quitRequested,
-                                 &ShellCommands::showShortcutsChanged})
+                                 &ShellCommands::saveRequested, &ShellCommands::showShortcutsChanged})
             QObject::connect(&program.commands, asked, &m_context, [this] { ++count; });
         for (const auto changed :
              {&AppState::documentsChanged, &AppState::currentSpaceChanged, &AppState::focusModeChanged,

@@ -20,7 +20,7 @@ private Q_SLOTS:
         QVERIFY(!face.isRunning);
         QCOMPARE(face.flameOpacity, 0.8);
         QCOMPARE(face.label, QString());
-        QCOMPARE(face.toolTipTitle, u"25:00 of focus left"_s);
+        QCOMPARE(face.toolTipTitle, u"Ready for 25:00 of focus"_s);
         QCOMPARE(face.toolTipText, u"No session done yet"_s);
     }
 
@@ -77,6 +77,28 @@ private Q_SLOTS:
         QCOMPARE(face.toolTipTitle, u"02:30 of break left"_s);
         QCOMPARE(face.toolTipText, u"1 session done"_s);
         QCOMPARE(face.progress, 0.5);
+    }
+
+    void theToolTipTellsARunningTimerFromAPausedAndAWaitingOne()
+    {
+        ManualScheduler scheduler;
+        PomodoroTimer timer(scheduler);
+        timer.start();
+        QCOMPARE(trayFace(timer).toolTipTitle, u"25:00 of focus left"_s);
+        scheduler.advance(60s);
+        timer.pause();
+        QCOMPARE(trayFace(timer).toolTipTitle, u"Paused, 24:00 of focus left"_s);
+        timer.start();
+        scheduler.advance(1441s);
+        QCOMPARE(trayFace(timer).toolTipTitle, u"Ready for 05:00 of break"_s);
+    }
+
+    void theToolTipTellsOfAFailedSave()
+    {
+        ManualScheduler scheduler;
+        const PomodoroTimer timer(scheduler);
+        QCOMPARE(trayFace(timer, u"Save failed: No space left on device"_s).toolTipText,
+                 u"Save failed: No space left on device"_s);
     }
 
     void theMenuOffersWhatCanBeDone()

@@ -46,7 +46,7 @@ def broken_file(pelko):
     pelko.keys("ctrl+n")
     first = pelko.wait_alert("Save failed: ").get_name()
     assert first in TITLES, first
-    pelko.close()
+    pelko.close_and_lose_changes()
 
 
 journey.run(broken_file)

@@ -4,6 +4,7 @@ import contextlib
 import resource
 import signal
 import subprocess
+import time
 
 import journey
 import library
@@ -31,6 +32,23 @@ def limit_file_size():
     resource.setrlimit(resource.RLIMIT_FSIZE, (2000, 2000))
 
 
+def told_once(pelko):
+    pelko.wait_for("Not saved")
+    pelko.type(".")
+    time.sleep(2)
+    assert not pelko.alert(), "the same failure is not told twice"
+
+
+def asks_before_it_loses_words(pelko):
+    pelko.keys("ctrl+q")
+    alert = pelko.wait_alert("Save failed: ")
+    assert alert.get_name() == journey.UNSAVED
+    pelko.wait_focus_on("Stay")
+    pelko.keys("Return")
+    pelko.wait_no_alert()
+    assert pelko.process.poll() is None
+
+
 def full_disk(pelko):
     with small_disk(pelko.data_file.parent) as mounted:
         pelko.write_library(library.as_text())
@@ -43,24 +61,30 @@ def full_disk(pelko):
             pelko.start()
         else:
             pelko.start(before=limit_file_size)
-        pelko.type("Words without room")
+        text = "Words without room: the alert comes up while they are typed, and takes none of their letters"
+        pelko.type(text)
         alert = pelko.wait_alert("Save failed: ")
         assert len(alert.get_description()) > len("Save failed: "), "the system's own words follow"
         pelko.keys("Return")
         pelko.wait_no_alert()
         assert pelko.data_file.read_bytes() == before, "the old file is whole"
-        assert "Words without room" in [screen_reader().text_of(node) for node in pelko.fields()]
+        assert text in [screen_reader().text_of(node) for node in pelko.fields()]
+        told_once(pelko)
+        asks_before_it_loses_words(pelko)
 
         if mounted:
             room.unlink()
-            pelko.type(" until now")
+            pelko.keys("ctrl+s")
             pelko.wait_saved(
-                lambda saved: ("textSmall", "Words without room until now") in library.outline(library.page(saved)),
+                lambda saved: ("textSmall", text + ".") in library.outline(library.page(saved)),
                 "the words, once there is room",
             )
+            pelko.wait_gone("Not saved")
             names = {path.name for path in pelko.data_file.parent.iterdir()}
             assert names - {"instance.lock", "instance.socket"} == {"data.json"}, "nothing is left behind"
-        pelko.close()
+            pelko.close()
+        else:
+            pelko.close_and_lose_changes()
 
 
 journey.run(full_disk)

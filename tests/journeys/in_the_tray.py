@@ -20,7 +20,7 @@ def timer_by_menu(pelko, tray):
     tray.click("SecondaryActivate", 0, 0)
     until(lambda: tray.property("XAyatanaLabel") != "", "the middle button starts")
     tray.choose("Reset")
-    until(lambda: tray.property("ToolTip")[2] == "25:00 of focus left", "the timer is reset")
+    until(lambda: tray.property("ToolTip")[2] == "Ready for 25:00 of focus", "the timer is reset")
 
 
 def panel_at_the_item(pelko, tray):

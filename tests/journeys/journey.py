@@ -21,6 +21,9 @@ from desktop import shown, until
 HARMLESS = ("OpenType support missing for", "qt.accessibility.atspi: Could not find accessible on path")
 
 
+UNSAVED = "Your last changes are not saved."
+
+
 class Pelko:
     """The program with its folders on the journey's own desktop."""
 
@@ -65,9 +68,22 @@ class Pelko:
                 restore_signals=before is None,
             )
 
+    def close_and_lose_changes(self):
+        """Closes the window while the last save has failed, and agrees to lose what it did not save."""
+        self.keys("alt+F4")
+        until(lambda: self.alert() and self.alert().get_name() == UNSAVED, "the program asks")
+        self.wait_focus_on("Stay")
+        self.keys("Tab")
+        self.wait_focus_on("Quit and lose them")
+        self.keys("Return")
+        self.wait_end()
+
     def close(self):
         """Closes the window as a user does and waits for the end."""
         self.keys("alt+F4")
+        self.wait_end()
+
+    def wait_end(self):
         code = self.process.wait(timeout=30)
         assert code == 0, f"Pelko ended with {code}"
         self.root = None
@@ -150,7 +166,8 @@ class Pelko:
             lambda: (found := self.alert()) and found.get_description().startswith(message) and found,
             f"an alert says “{message}”",
         )
-        until(self.focused, "something in the alert has the focus")
+        inside = screen_reader().walk
+        until(lambda: any(map(screen_reader().is_focused, inside(alert))), "something in the alert has the focus")
         return alert
 
     def wait_focus_on(self, name):

@@ -74,6 +74,7 @@ private Q_SLOTS:
         QCOMPARE(shown, (QStringList{u"File:"_s,
                                      u"New Document"_s,
                                      u"Go to…"_s,
+                                     u"Save"_s,
                                      u"-"_s,
                                      u"Export…"_s,
                                      u"Export everything…"_s,

@@ -83,6 +83,12 @@ public:
         m_appState.save();
     }
 
+    Q_INVOKABLE void saveAgain()
+    {
+        m_file.writeError.reset();
+        m_appState.saveChanges();
+    }
+
     Q_INVOKABLE void requestDelete() { m_main.requestDelete(m_main.openDocumentID()); }
 
 private:

@@ -89,6 +89,7 @@ Item {
             bench.succeed()
             const alert = shown("Exported.")
             compare(alert.Accessible.description, "1 page in “Notes”. Plain Markdown, yours to keep.")
+            tryVerify(() => named("Got it").activeFocus)
             keyClick(Qt.Key_Return)
             gone("Exported.")
         }

@@ -76,7 +76,7 @@ Item {
         function test_aMenuForEachTitle() {
             compare(menus().map(menu => menu.title), ["File", "Spaces", "View", "Help"])
             compare(menus().map(menu => Array.from(menu.items).map(row => row.separator ? "-" : row.text)),
-                    [["New Document", "Go to…", "-", "Export…", "Export everything…", "Copy page as Markdown"],
+                    [["New Document", "Go to…", "Save", "-", "Export…", "Export everything…", "Copy page as Markdown"],
                      ["Ideas", "Work", "Journal"],
                      ["Tasks", "Pomodoro", "Focus mode", "Full screen"],
                      ["Keyboard Shortcuts", "About Pelko", "Quit"]])

@@ -17,6 +17,7 @@ Item {
         FocusScope {
             readonly property alias program: program
             readonly property alias alerts: alerts
+            readonly property alias unsavedAlerts: unsavedAlerts
 
             anchors.fill: parent
             focus: true
@@ -24,6 +25,7 @@ Item {
             MainView { anchors.fill: parent; focus: true; main: program.main }
             CommandKeys { commands: program.main.commands }
             Alerts { id: alerts; anchors.fill: parent; main: program.main }
+            UnsavedAlerts { id: unsavedAlerts; anchors.fill: parent; main: program.main }
 
             // Stands last so that it outlives the views.
             ShellFixture { id: program }
@@ -53,6 +55,17 @@ Item {
                 return item.visible ? item : null
             for (const child of Array.from(item.children)) {
                 const found = named(child, name)
+                if (found)
+                    return found
+            }
+            return null
+        }
+
+        function accessiblyNamed(item, name) {
+            if (!item.visible || item.Accessible.name === name)
+                return item.visible ? item : null
+            for (const child of Array.from(item.children)) {
+                const found = accessiblyNamed(child, name)
                 if (found)
                     return found
             }
@@ -112,16 +125,14 @@ Item {
                 { tag: "limit", raise: () => app.createDocuments(6), title: "Five is the limit.", button: "Fine",
                   message: "You've got 5 docs in this space. Archive one first. Constraints breed creativity." },
                 { tag: "about", raise: () => app.main.commands.run("about"), title: "Pelko", button: "Close",
-                  message: "Built by Dravel. Fueled by espresso and poor decisions." },
-                { tag: "error", raise: () => app.failToSave(), title: "", button: "Got it",
-                  message: "Save failed: No space left on device" }
+                  message: "Built by Dravel. Fueled by espresso and poor decisions." }
             ]
         }
 
         function test_oneButtonAlerts(row) {
             for (const key of [Qt.Key_Return, Qt.Key_Space, Qt.Key_Escape]) {
                 row.raise()
-                verify(reading(root, row.title === "" ? app.main.errorTitle : row.title))
+                verify(reading(root, row.title))
                 verify(reading(root, row.message))
                 verify(named(root.alerts, row.button).activeFocus)
                 keyClick(key)
@@ -129,11 +140,52 @@ Item {
             }
         }
 
+        function test_anErrorIsToldWhenTheWriterPauses() {
+            for (const key of [Qt.Key_Return, Qt.Key_Escape]) {
+                app.failToSave()
+                verify(reading(root, app.main.errorTitle))
+                verify(reading(root, "Save failed: No space left on device"))
+                tryVerify(() => named(root.unsavedAlerts, "Got it").activeFocus)
+                keyClick(key)
+                tryVerify(() => !reading(root.unsavedAlerts, "Save failed: No space left on device"))
+                app.saveAgain()
+            }
+        }
+
+        function test_wordsThatCouldNotBeSavedAreMarkedAtTheTitle() {
+            app.createDocuments(1)
+            app.advance(1000)
+            verify(!accessiblyNamed(root, "Not saved"))
+            app.failToSave()
+            const mark = accessiblyNamed(root, "Not saved")
+            verify(mark)
+            compare(mark.Accessible.description, "Save failed: No space left on device")
+            app.main.dismissError()
+            verify(mark.visible)
+            app.saveAgain()
+            verify(!mark.visible)
+        }
+
+        function test_theProgramAsksBeforeItLosesWords() {
+            app.createDocuments(1)
+            app.failToSave()
+            verify(!app.main.quitGuard.mayQuit())
+            verify(!app.main.showError)
+            verify(named(root, "Stay").activeFocus)
+            keyClick(Qt.Key_Return)
+            verify(!app.main.quitGuard.asks)
+            verify(!app.main.quitGuard.mayQuit())
+            keyClick(Qt.Key_Tab)
+            verify(named(root, "Quit and lose them").activeFocus)
+            keyClick(Qt.Key_Return)
+            verify(app.main.quitGuard.mayQuit())
+        }
+
         function test_aPictureThatCouldNotBeChosenIsTold() {
             app.openPage(["textSmall", "image"])
             app.advance(1000)
             tryVerify(() => named(root, "Add image"))
-            for (const key of [Qt.Key_Return, Qt.Key_Space, Qt.Key_Escape]) {
+            for (const key of [Qt.Key_Return, Qt.Key_Escape]) {
                 const add = named(root, "Add image")
                 add.forceActiveFocus(Qt.TabFocusReason)
                 keyClick(Qt.Key_Return)
@@ -141,7 +193,7 @@ Item {
                 const alert = reading(root.alerts, "Couldn't import image.")
                 verify(alert)
                 verify(reading(root.alerts, "The file chooser of the desktop is gone."))
-                verify(named(root.alerts, "OK").activeFocus)
+                tryVerify(() => named(root.alerts, "OK").activeFocus)
                 keyClick(key)
                 tryVerify(() => !reading(root.alerts, "Couldn't import image."))
                 verify(add.activeFocus)
@@ -246,7 +298,7 @@ Item {
         function test_theMenuListsTheCommands() {
             mouseClick(named(root, "Menu"))
             const titles = menuRows().map(row => row.name)
-            compare(titles, ["New Document", "Go to…", "Ideas", "Work", "Journal", "Tasks", "Pomodoro", "Focus mode", "Full screen",
+            compare(titles, ["New Document", "Go to…", "Save", "Ideas", "Work", "Journal", "Tasks", "Pomodoro", "Focus mode", "Full screen",
                              "Export…", "Export everything…", "Copy page as Markdown", "Keyboard Shortcuts", "About Pelko", "Quit"])
             mouseClick(named(root, "About Pelko"))
             verify(app.main.showAbout)

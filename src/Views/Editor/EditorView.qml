@@ -10,6 +10,8 @@ FocusScope {
     property TasksViewModel tasks: null
     /// Whether the page was just saved.
     property bool saved: false
+    /// Why the last save failed; empty while all is well.
+    property string saveError: ""
     property bool navigationShown: false
     property FocusFade focusFade: FocusFade {}
 
@@ -37,7 +39,7 @@ FocusScope {
         id: head
 
         anchors { horizontalCenter: page.horizontalCenter; top: parent.top; topMargin: (Metrics.stripHeight - height) / 2 }
-        opacity: root.focusFade.chrome
+        opacity: root.saveError === "" ? root.focusFade.chrome : 1
         spacing: Metrics.space6
         visible: opacity > 0
         z: 1
@@ -46,6 +48,7 @@ FocusScope {
             backdrop: page
             maximumWidth: page.width - 2 * Metrics.titleMargin - head.spacing - navigationButton.width
             saved: root.saved
+            saveError: root.saveError
             title: root.editor.title
         }
 
@@ -54,6 +57,8 @@ FocusScope {
 
             active: root.navigationShown
             backdrop: page
+            opacity: root.saveError === "" ? 1 : root.focusFade.chrome
+            visible: opacity > 0
             onTriggered: root.navigationRequested()
         }
     }

@@ -2,14 +2,18 @@ import QtQuick
 import Pelko
 
 /// The title of the page in a capsule of glass that floats over it. A tick comes and goes quietly when the page was
-/// saved: it is news for nobody who does not look for it, so it is not read out.
+/// saved: it is news for nobody who does not look for it, so it is not read out. While the page holds changes that
+/// could not be saved, a sign of warning stands in its place.
 GlassSurface {
     id: root
 
     required property string title
     required property real maximumWidth
     property bool saved: false
-    readonly property real tickWidth: tick.opacity * (Metrics.savedTick + Metrics.space8)
+    /// Why the last save failed; empty while all is well.
+    property string saveError: ""
+    readonly property bool isUnsaved: saveError !== ""
+    readonly property real tickWidth: Math.max(tick.opacity, isUnsaved ? 1 : 0) * (Metrics.savedTick + Metrics.space8)
 
     implicitHeight: Metrics.capsuleHeight
     kind: Glass.capsule
@@ -52,12 +56,23 @@ GlassSurface {
         anchors { right: parent.right; rightMargin: Metrics.space12; verticalCenter: parent.verticalCenter }
         color: FirePalette.amberSoft
         name: "checkmark"
-        opacity: root.saved ? 1 : 0
+        opacity: root.saved && !root.isUnsaved ? 1 : 0
         size: Metrics.savedTick
         visible: opacity > 0
 
         Behavior on opacity {
             NumberAnimation { duration: root.saved ? Motion.savedIn : Motion.savedOut }
         }
+    }
+
+    SymbolIcon {
+        Accessible.description: root.saveError
+        Accessible.name: qsTr("Not saved")
+        Accessible.role: Accessible.Graphic
+        anchors { right: parent.right; rightMargin: Metrics.space12; verticalCenter: parent.verticalCenter }
+        color: FirePalette.destructive
+        name: "exclamationmark.triangle"
+        size: Metrics.savedTick
+        visible: root.isUnsaved
     }
 }

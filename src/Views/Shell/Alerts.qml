@@ -1,12 +1,14 @@
 import QtQuick
 import Pelko
 
-/// The alerts of the whole window, each shown exactly while its reason lasts.
+/// The alerts of the whole window but those of `UnsavedAlerts`, each shown exactly while its reason lasts.
 Item {
     id: root
 
     required property MainViewModel main
     property Item backdrop: null
+    /// Another alert lies over these.
+    property bool covered: false
     readonly property ImageImport imageImport: main.editor?.imageImport ?? null
 
     AlertDialog {
@@ -30,17 +32,9 @@ Item {
     }
 
     AlertDialog {
-        open: root.main.showError
-        backdrop: root.backdrop
-        symbol: "exclamationmark.triangle"
-        title: root.main.errorTitle
-        message: root.main.errorText
-        actions: DialogAction { name: "Got it"; cancels: true }
-        onDismissed: root.main.dismissError()
-    }
-
-    AlertDialog {
         open: root.imageImport?.showImageImportError ?? false
+        unasked: true
+        covered: root.covered
         backdrop: root.backdrop
         symbol: "photo"
         title: "Couldn't import image."

@@ -7,9 +7,13 @@ Item {
 
     required property ExportViewModel exports
     property Item backdrop: null
+    /// Another alert lies over these.
+    property bool covered: false
 
     AlertDialog {
         open: root.exports.showProgress
+        unasked: true
+        covered: root.covered
         backdrop: root.backdrop
         symbol: "square.and.arrow.up"
         symbolColor: FirePalette.amberSoft
@@ -33,6 +37,8 @@ Item {
 
     AlertDialog {
         open: root.exports.showResult
+        unasked: true
+        covered: root.covered
         backdrop: root.backdrop
         symbol: root.exports.hasFailed ? "exclamationmark.triangle" : "square.and.arrow.up"
         symbolColor: root.exports.hasFailed ? FirePalette.destructive : FirePalette.amberSoft

@@ -70,6 +70,7 @@ FocusScope {
         EditorView {
             navigationShown: root.main.showNav
             saved: root.main.showSavedIndicator
+            saveError: root.main.saveError
             onNavigationRequested: root.main.toggleNav()
         }
     }

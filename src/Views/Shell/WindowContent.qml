@@ -14,6 +14,7 @@ FocusScope {
     property TasksViewModel tasks: null
     required property ExportViewModel exports
     required property FolderChooser folderChooser
+    readonly property bool tellsOfUnsaved: main.showError || main.quitGuard.asks
 
     anchors.fill: parent
     focus: true
@@ -44,18 +45,26 @@ FocusScope {
         anchors.fill: parent
         main: root.main
         backdrop: launchView
+        covered: root.tellsOfUnsaved
     }
 
     ExportAlerts {
         anchors.fill: parent
         exports: root.exports
         backdrop: launchView
+        covered: root.tellsOfUnsaved
     }
 
     ShortcutSheet {
         anchors.fill: parent
         backdrop: launchView
         commands: root.main.commands
+    }
+
+    UnsavedAlerts {
+        anchors.fill: parent
+        main: root.main
+        backdrop: launchView
     }
 
     WindowEdges {

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QObject>
+
+class AppState;
+
+/// Saves before the program ends. Where that fails it keeps the program running and asks the writer once
+/// whether the unsaved changes may be lost.
+class QuitGuard : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool asks READ asks NOTIFY asksChanged)
+    Q_PROPERTY(QString reason READ reason NOTIFY reasonChanged)
+
+public:
+    explicit QuitGuard(AppState &appState, QObject *parent = nullptr);
+
+    /// The question is on show.
+    bool asks() const { return m_asks; }
+    /// Why the changes could not be saved. Keeps its last words while the question goes away.
+    QString reason() const { return m_reason; }
+
+    /// Saves the changes. Returns whether the program may end; if not, the question is on show.
+    Q_INVOKABLE bool mayQuit();
+    /// Ends the program without the changes that could not be saved.
+    Q_INVOKABLE void quitAnyway();
+    Q_INVOKABLE void stay();
+
+Q_SIGNALS:
+    void asksChanged();
+    void reasonChanged();
+    void quitRequested();
+
+private:
+    AppState &m_appState;
+    QString m_reason;
+    bool m_asks = false;
+    bool m_mayLoseChanges = false;
+};
