@@ -5,6 +5,7 @@
 #include "Front/RunningInstance.h"
 #include "Front/UserDataFolder.h"
 
+#include <algorithm>
 #include <climits>
 #include <cstdio>
 #include <cstring>
@@ -18,6 +19,14 @@ std::string ownFolder()
     const ssize_t length = ::readlink("/proc/self/exe", path, sizeof path);
     const std::string program(path, std::size_t(length > 0 ? length : 0));
     return program.substr(0, program.rfind('/'));
+}
+
+/// Help and version need no other Pelko, which may be of another version.
+bool asksAboutTheProgram(const std::vector<std::string> &arguments)
+{
+    return std::any_of(arguments.begin(), arguments.end(), [](const std::string &argument) {
+        return argument == "--help" || argument == "-h" || argument == "--version" || argument == "-v";
+    });
 }
 
 /// Beside this one where both are built, below libexec where they are installed.
@@ -34,7 +43,7 @@ int becomeTheProgram(char *argv[])
 int main(int argc, char *argv[])
 {
     const std::vector<std::string> arguments(argv + (argc > 0), argv + argc);
-    if (const auto folder = userDataFolder()) {
+    if (const auto folder = asksAboutTheProgram(arguments) ? std::nullopt : userDataFolder()) {
         const auto answer = askRunningInstance(*folder + "/Pelko", arguments);
         if (answer && answer->exitCode != InstanceAnswer::yours) {
             std::fputs(answer->text.c_str(), answer->exitCode == 0 ? stdout : stderr);

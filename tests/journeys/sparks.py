@@ -1,5 +1,6 @@
 """Sparks from the panel and from the command line, the pomodoro by its words, one instance for one data folder."""
 
+import socket
 import subprocess
 
 import journey
@@ -38,6 +39,22 @@ def without_a_window(pelko):
     assert pelko_says(pelko, "--spark", "lost?") == (1, "", "pelko: Failed to load your documents.\n")
     assert pelko.data_file.read_bytes() == b"[not json", "what cannot be read is not written over"
     pelko.data_file.write_bytes(kept)
+
+
+def version_without_the_other(pelko):
+    """Even beside a program that listens and never answers."""
+    address = pelko.data_file.parent / "instance.socket"
+    with socket.socket(socket.AF_UNIX) as other:
+        other.bind(str(address))
+        other.listen()
+        other.setblocking(False)
+        for option in ("--version", "--help"):
+            assert pelko_says(pelko, option)[0] == 0
+        try:
+            assert not other.accept(), "the other Pelko was asked"
+        except BlockingIOError:
+            pass
+    address.unlink()
 
 
 def sparks_of_both_kinds(pelko):
@@ -102,6 +119,7 @@ def second_start_raises(pelko):
 
 def sparks(pelko):
     without_a_window(pelko)
+    version_without_the_other(pelko)
     pelko.start()
     sparks_of_both_kinds(pelko)
     copy_and_delete(pelko)
