@@ -36,8 +36,15 @@ Item {
             const view = createTemporaryObject(launchView, stage)
             tryVerify(() => program.launch.showFlame && program.launch.showTitle)
             verify(program.launch.overlayVisible)
+            view.forceActiveFocus()
+            keyClick(Qt.Key_Return)
+            mouseClick(view, view.width / 2, view.height / 2, Qt.RightButton)
+            mouseWheel(view, view.width / 2, view.height / 2, 0, -120)
+            compare(program.documentCount(), 0)
             program.advance(1000)
             verify(!program.launch.overlayVisible)
+            keyClick(Qt.Key_Return)
+            compare(program.documentCount(), 1)
             tryVerify(() => view.children[view.children.length - 1].visible === false)
         }
     }

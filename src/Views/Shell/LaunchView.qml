@@ -20,6 +20,7 @@ FocusScope {
 
     MainView {
         anchors.fill: parent
+        enabled: !root.launch.overlayVisible // what cannot be seen takes no keys, clicks or wheel
         focus: true
         main: root.main
         timers: root.timers
