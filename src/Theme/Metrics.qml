@@ -86,6 +86,8 @@ QtObject {
     readonly property int spaceCapsuleHeight: 22
     readonly property int navigationGlyph: 13
     readonly property int savedTick: 10
+    /// The opacity of a running timer in focus mode.
+    readonly property real quietTimer: 0.6
 
     readonly property int timerPanelWidth: 300
     readonly property int timerPanelPadding: 18

@@ -37,15 +37,17 @@ Item {
 
         Item {
             readonly property alias bench: bench
+            readonly property alias strip: topStrip
 
             anchors.fill: parent
 
-            TopStrip { width: parent.width; timers: bench.timers }
+            TopStrip { id: topStrip; width: parent.width; timers: bench.timers }
             TimersBench { id: bench }
         }
     }
 
     SignalSpy { id: opened; signalName: "panelOpened" }
+    SignalSpy { id: ended; signalName: "clickedWhileCovered" }
 
     TestCase {
         name: "MenuBarTimerLabel"
@@ -111,11 +113,34 @@ Item {
 
         function test_sitsInTheStripOnlyWithoutATray() {
             const made = createTemporaryObject(strip, stage)
-            verify(labelIn(made))
+            verify(labelIn(made).visible)
             made.bench.setInTray(true)
-            tryVerify(() => !labelIn(made))
+            verify(!labelIn(made).visible)
+            made.bench.panel.toggleTimer()
             made.bench.setInTray(false)
-            verify(labelIn(made))
+            verify(labelIn(made).visible)
+            verify(labelIn(made).pulse)
+        }
+
+        function test_staysToBeSeenInFocusModeWhileTheTimerRuns() {
+            const made = createTemporaryObject(strip, stage)
+            mouseMove(stage, 200, stage.height - 1) // the strip comes back under the pointer
+            made.strip.focusFade.focused = true
+            tryVerify(() => !labelIn(made).visible)
+            made.bench.panel.toggleTimer()
+            verify(labelIn(made).visible)
+            verify(labelIn(made).opacity > 0.5)
+        }
+
+        function test_aClickUnderTheNavigationEndsThat() {
+            const made = createTemporaryObject(strip, stage)
+            made.strip.covered = true
+            ended.target = made.strip
+            ended.clear()
+            mouseClick(labelIn(made))
+            mouseClick(made.strip.menuButton)
+            compare(ended.count, 2)
+            verify(!made.bench.timers.isPanelOpen)
         }
     }
 }

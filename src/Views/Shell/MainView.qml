@@ -22,6 +22,7 @@ FocusScope {
     }
 
     function toggleMenu() {
+        main.dismissNav()
         menu.open ? menu.close() : menu.popUpBelow(strip.menuButton)
     }
 
@@ -36,7 +37,10 @@ FocusScope {
     Connections {
         target: root.main.commands
         function onMenuRequested() { root.toggleMenu() }
-        function onPomodoroRequested() { root.timers?.togglePanel(strip.timerPlace()) }
+        function onPomodoroRequested() {
+            root.main.dismissNav()
+            root.timers?.togglePanel(strip.timerPlace())
+        }
     }
 
     FocusFade {
@@ -108,6 +112,8 @@ FocusScope {
         menuOpen: menu.open
         offersMenu: !root.main.commands.hasMenuBar
         timers: root.timers
+        covered: root.main.showNav
+        onClickedWhileCovered: root.main.dismissNav()
         onFullScreenLeft: root.main.commands.run("fullScreen")
         onMenuRequested: root.toggleMenu()
     }

@@ -12,6 +12,8 @@ Item {
 
     property bool menuOpen: false
     property bool offersMenu: true
+    /// Something lies over the window's content: a click ends that instead of reaching menu and timer.
+    property bool covered: false
     property TimersViewModel timers: null
     property FocusFade focusFade: FocusFade {}
     readonly property alias menuButton: menuButton
@@ -20,6 +22,7 @@ Item {
 
     signal menuRequested()
     signal fullScreenLeft()
+    signal clickedWhileCovered()
 
     function changeSize() {
         if (fullScreen)
@@ -30,7 +33,8 @@ Item {
 
     /// Where on the screen the pomodoro panel belongs.
     function timerPlace() : rect {
-        const opener = (timerLabels.itemAt(0) ?? menuButton) as Item
+        const label = timerLabels.itemAt(0) as Item
+        const opener = label?.visible ? label : menuButton
         const corner = opener.mapToGlobal(0, 0)
         return Qt.rect(corner.x, corner.y, opener.width, opener.height)
     }
@@ -47,10 +51,9 @@ Item {
         id: buttons
 
         property real shown: hover.hovered || strip.menuOpen ? 1 : 0
+        readonly property real seen: Math.max(shown, strip.focusFade.chrome)
 
         anchors.fill: parent
-        opacity: Math.max(shown, strip.focusFade.chrome)
-        visible: opacity > 0
 
         Behavior on shown {
             NumberAnimation { duration: Motion.fade }
@@ -64,26 +67,33 @@ Item {
             name: "Menu"
             icon.name: "line.3.horizontal"
             active: strip.menuOpen
-            visible: strip.offersMenu
+            opacity: buttons.seen
+            visible: strip.offersMenu && opacity > 0
             onTriggered: strip.menuRequested()
             Accessible.role: Accessible.ButtonMenu
         }
 
-        // A tray shows it where there is one.
+        // A tray shows it where there is one. Elsewhere a running timer stays to be seen in focus mode too.
         Repeater {
             id: timerLabels
 
-            model: strip.timers && !strip.timers.isInTray ? [strip.timers] : []
+            model: strip.timers ? [strip.timers] : []
 
             MenuBarTimerLabel {
                 required property TimersViewModel modelData
 
                 anchors { left: menuButton.right; leftMargin: Metrics.space8; verticalCenter: menuButton.verticalCenter }
+                opacity: Math.max(buttons.seen, modelData.isRunning ? Metrics.quietTimer : 0)
                 timers: modelData
+                visible: !modelData.isInTray && opacity > 0
             }
         }
 
         Row {
+            id: captions
+
+            opacity: buttons.seen
+            visible: opacity > 0
             anchors { right: parent.right; rightMargin: Metrics.captionEdge }
             y: Metrics.captionTop
             spacing: Metrics.captionSpacing
@@ -107,5 +117,13 @@ Item {
                 onTriggered: strip.Window.window.close()
             }
         }
+    }
+
+    MouseArea {
+        acceptedButtons: Qt.AllButtons
+        anchors { left: parent.left; right: parent.right; rightMargin: captions.width + 2 * Metrics.captionEdge }
+        height: parent.height
+        visible: strip.covered
+        onClicked: strip.clickedWhileCovered()
     }
 }

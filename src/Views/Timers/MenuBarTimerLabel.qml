@@ -34,7 +34,7 @@ PressableControl {
     }
 
     SequentialAnimation {
-        running: label.pulse && !Motion.reduced && label.Window.visibility !== Window.Hidden
+        running: label.pulse && label.visible && !Motion.reduced && label.Window.visibility !== Window.Hidden
                  && label.Window.visibility !== Window.Minimized
         loops: Animation.Infinite
         onStopped: label.flameOpacity = Qt.binding(() => label.timers.isRunning ? 1 : 0.8)
