@@ -7,8 +7,8 @@ namespace
 {
 constexpr QSize usualSize(560, 220);
 constexpr int margin = 32;
-constexpr QColor ground(0x14, 0x10, 0x0e);
-constexpr QColor ink(0xf4, 0xec, 0xe4);
+constexpr QColor windowColour(0x14, 0x10, 0x0e);
+constexpr QColor textColour(0xf4, 0xec, 0xe4);
 } // namespace
 
 TextWindow::TextWindow(const QString &title, QString text) : m_text(std::move(text))
@@ -21,8 +21,8 @@ void TextWindow::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     const QRect area(QPoint(), size());
-    painter.fillRect(area, ground);
-    painter.setPen(ink);
+    painter.fillRect(area, windowColour);
+    painter.setPen(textColour);
     painter.drawText(area.marginsRemoved({margin, margin, margin, margin}),
                      Qt::AlignCenter | Qt::TextWordWrap, m_text);
 }
