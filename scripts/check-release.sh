@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# Builds what is shipped with warnings as errors, each file alone, and checks that the programs are hardened.
+set -euo pipefail
+
+cd "$(dirname "$0")/.."
+scripts/build.sh release-check
+
+fail() {
+    echo "$1: $2" >&2
+    exit 1
+}
+
+# expect PROGRAM WHAT PATTERN READELF_OPTIONS
+expect() {
+    readelf --wide "$4" "$1" | grep -qE "$3" || fail "$1" "no $2"
+}
+
+for program in build/release-check/pelko build/release-check/pelko-window; do
+    expect $program "position-independent code" 'Type: +DYN' --file-header
+    expect $program "read-only relocations (RELRO)" 'GNU_RELRO' --program-headers
+    expect $program "binding at start (BIND_NOW)" 'BIND_NOW|FLAGS.*NOW' --dynamic
+    expect $program "stack protector" '__stack_chk_fail' --dyn-syms
+    expect $program "checked functions (FORTIFY_SOURCE)" '__[a-z]+_chk' --dyn-syms
+    if [ "$(uname -m)" = x86_64 ]; then
+        expect $program "control-flow protection (CET)" 'IBT, SHSTK' --notes
+    fi
+    # The stack must not be executable.
+    ! readelf --wide --program-headers $program | grep -qE 'GNU_STACK.*RWE' || fail $program "executable stack"
+    ! readelf --wide --dyn-syms $program | grep -q '__assert_fail\|qt_assert' || fail $program "assertions are compiled in"
+done
