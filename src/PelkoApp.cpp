@@ -3,6 +3,7 @@
 #include "Platform/WindowStates.h"
 #include "Shell/StartFailure.h"
 #include "Timers/PomodoroReading.h"
+#include "Views/Controls/Composition.h"
 #include "Views/TakeDown.h"
 
 #include <QGuiApplication>
@@ -20,7 +21,13 @@ using namespace std::chrono_literals;
 namespace
 {
 constexpr auto trayRestartTime = 5s;
+
+/// What an input method is composing is shown on the page, but it is not in the document yet.
+void settleComposition()
+{
+    Composition::settle(qobject_cast<QQuickItem *>(QGuiApplication::focusObject()));
 }
+} // namespace
 
 PelkoApp::PelkoApp(OnlyInstance &instance) : m_documentFile(m_localFile, instance)
 {
@@ -142,8 +149,16 @@ void PelkoApp::bringToFront()
 ProgramEnd::Answers PelkoApp::answersAtTheEnd()
 {
     // Without a window there is nowhere to ask.
-    return {.mayEnd = [this] { return m_main.quitGuard()->mayQuit() || !window(); },
-            .save = [this] { return save(); },
+    return {.mayEnd =
+                [this] {
+                    settleComposition();
+                    return m_main.quitGuard()->mayQuit() || !window();
+                },
+            .save =
+                [this] {
+                    settleComposition();
+                    return save();
+                },
             .saveWithoutDisplay =
                 [this] {
                     const QSignalBlocker blocker(m_appState);

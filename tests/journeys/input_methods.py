@@ -5,6 +5,8 @@ from desktop import shown, until
 WORD = "日本"
 PLAIN = " is plain"
 TEXT = WORD + PLAIN
+COMPOSED_KEYS = "kana"
+COMPOSED = "かな"
 PAGE = [("textLarge", TEXT), ("textSmall", TEXT), ("sticky", [TEXT, TEXT]), ("textSmall", "")]
 
 
@@ -49,5 +51,9 @@ def write_and_quit(pelko, turn, **environment):
     pelko.wait_focus_on("Heading")
     write_page(pelko, turn)
     pelko.wait_saved(lambda saved: saved and outline(saved[0]) == PAGE, "the page")
+    # Quit in the middle of a composition: what it shows is kept.
+    turn(True)
+    pelko.type(COMPOSED_KEYS)
     pelko.close()
-    assert outline(pelko.saved()[0]) == PAGE, pelko.saved()
+    entries = pelko.saved()[0]["blocks"][2]["todos"]
+    assert [entry["text"] for entry in entries] == [TEXT, TEXT + COMPOSED], pelko.saved()
