@@ -1,0 +1,114 @@
+#include "writer/PageModel.h"
+
+#include <algorithm>
+#include <numeric>
+
+// What buttons, drags and the tasks panel do to whole blocks and to the entries of checklists. The caret
+// stays with the words it stands in.
+
+void PageModel::addBlock(BlockType kind)
+{
+    PlainBlock added{.kind = kind};
+    if (kind == BlockType::sticky)
+        added.entries = QList<PlainEntry>{{}};
+    m_page.append(added);
+    const Spot caret{.block = int(m_page.size()) - 1};
+    settle(isTextLike(kind) ? std::optional(caret) : m_marked ? std::optional(m_marked->head) : std::nullopt);
+}
+
+void PageModel::deleteBlock(int block)
+{
+    if (m_page.size() < 2)
+        return;
+    m_page.removeAt(block);
+    std::optional<Spot> caret = m_marked ? std::optional(m_marked->head) : std::nullopt;
+    if (caret && caret->block == block)
+        caret.reset();
+    else if (caret && caret->block > block)
+        --caret->block;
+    settle(caret);
+}
+
+void PageModel::moveBlock(int from, int to)
+{
+    to = std::clamp(to, 0, int(m_page.size()) - 1);
+    if (from == to)
+        return;
+    QList<int> order(m_page.size());
+    std::iota(order.begin(), order.end(), 0);
+    order.move(from, to);
+    m_page.move(from, to);
+    std::optional<Spot> caret = m_marked ? std::optional(m_marked->head) : std::nullopt;
+    if (caret)
+        caret->block = int(order.indexOf(caret->block));
+    settle(caret);
+}
+
+void PageModel::toggleBanner(int block)
+{
+    const bool was = m_page.at(block).isFullWidth.value_or(false);
+    m_page[block].isFullWidth = !was;
+    if (was) {
+        if (m_page.first().kind != BlockType::textLarge)
+            m_page.prepend({.kind = BlockType::textLarge});
+        return settle(std::nullopt);
+    }
+    const auto isBlank = [](QChar c) { return c == u' ' || c == u'\t'; };
+    const PlainBlock &first = m_page.first();
+    if (block > 0 && first.kind == BlockType::textLarge && std::ranges::all_of(first.text, isBlank)) {
+        m_page.removeFirst();
+        --block;
+    }
+    m_page.move(block, 0);
+    settle(std::nullopt);
+}
+
+void PageModel::addEntry(int block)
+{
+    PlainBlock &at = m_page[block];
+    at.entries = at.entries.value_or(QList<PlainEntry>()) << PlainEntry();
+    settle(Spot{.block = block, .entry = int(at.entries->size()) - 1});
+}
+
+void PageModel::toggleEntry(int block, int entry)
+{
+    bool &done = (*m_page[block].entries)[entry].done;
+    done = !done;
+    settle(m_marked ? std::optional(m_marked->head) : std::nullopt);
+}
+
+void PageModel::removeEntry(int block, int entry)
+{
+    m_page[block].entries->removeAt(entry);
+    std::optional<Spot> caret = m_marked ? std::optional(m_marked->head) : std::nullopt;
+    if (caret && caret->block == block && caret->entry == entry)
+        caret.reset();
+    else if (caret && caret->block == block && caret->entry > entry)
+        --caret->entry;
+    settle(caret);
+}
+
+void PageModel::insertPicture(int behind)
+{
+    m_page.insert(behind + 1, {.kind = BlockType::image, .hasPicture = true});
+    std::optional<Spot> caret = m_marked ? std::optional(m_marked->head) : std::nullopt;
+    if (caret && caret->block > behind)
+        ++caret->block;
+    settle(caret);
+}
+
+void PageModel::setPicture(int block)
+{
+    m_page[block].hasPicture = true;
+    settle(m_marked ? std::optional(m_marked->head) : std::nullopt);
+}
+
+void PageModel::quickAdd(const QString &text)
+{
+    const auto sticky = std::ranges::find(m_page, BlockType::sticky, &PlainBlock::kind);
+    if (sticky == m_page.end())
+        m_page.append({.kind = BlockType::sticky, .entries = QList<PlainEntry>{{.text = text}}});
+    else
+        sticky->entries = sticky->entries.value_or(QList<PlainEntry>()) << PlainEntry{.text = text};
+    settle(m_marked ? std::optional(m_marked->head) : std::nullopt);
+}

@@ -1,0 +1,105 @@
+#include "writer/RandomRuns.h"
+
+#include "writer/RecordedRun.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int longestStart = 120'000;
+constexpr int longestReplay = 120'000;
+constexpr int mostReplays = 150;
+
+void say(const QString &text)
+{
+    std::printf("%s\n", qPrintable(text));
+    std::fflush(stdout);
+}
+
+/// What of its own stack an address sanitizer tells, or its last words.
+QString lastWords(const QByteArray &errors)
+{
+    QStringList told;
+    for (const QByteArray &line : errors.split('\n')) {
+        const bool isOurs = line.contains("ERROR") || line.contains("runtime error") ||
+                            line.contains("ASSERT") ||
+                            (line.contains("    #") && (line.contains("/src/") || told.size() < 6));
+        if (isOurs && told.size() < 24)
+            told.append(QString::fromUtf8(line));
+    }
+    return told.join(u'\n');
+}
+
+/// The fault of a run that another process performs; empty where there was none.
+QString perform(const QStringList &arguments, const QString &record, int longest)
+{
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedOutputChannel);
+    process.start(QCoreApplication::applicationFilePath(), arguments + QStringList{u"--record"_s, record});
+    if (!process.waitForFinished(longest)) {
+        process.kill();
+        process.waitForFinished();
+        return u"hang: the program did not come to an end"_s;
+    }
+    if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
+        return {};
+    const auto run = readRun(record);
+    return run && !run->fault.isEmpty() ? run->fault
+                                        : u"crash: "_s + lastWords(process.readAllStandardError());
+}
+
+void report(const QString &title, const RecordedRun &run)
+{
+    say(u"\n%1, on the pages \"%2\":"_s.arg(title, run.startPages));
+    for (const Action &action : run.actions)
+        say(u"    "_s + QString::fromUtf8(lineOf(action)));
+    say(run.fault);
+}
+
+void shrinkAndReport(const QString &seed, RecordedRun run, const QString &record, const QStringList &options)
+{
+    say(u"Seed %1 failed after %2 actions: %3"_s.arg(seed).arg(run.actions.size()).arg(run.kindOfFault()));
+    const auto fails = [&](const QList<Action> &actions) {
+        RecordedRun shorter{.startPages = run.startPages, .actions = actions, .fault = {}};
+        writeRun(record, shorter);
+        shorter.fault = perform(QStringList{u"--replay"_s} + options, record, longestReplay);
+        if (shorter.fault.isEmpty() || shorter.kindOfFault() != run.kindOfFault())
+            return false;
+        run.fault = shorter.fault;
+        return true;
+    };
+    run.actions = shrink(run.actions, fails, mostReplays);
+    report(u"Seed %1, shrunk to %2 actions"_s.arg(seed).arg(run.actions.size()), run);
+}
+
+} // namespace
+
+bool writeAtRandom(const QStringList &seeds, int seconds, const QStringList &options)
+{
+    const QTemporaryDir folder;
+    const QString record = folder.filePath(u"run"_s);
+    const int share = std::max(1, seconds / int(seeds.size()));
+    for (const QString &named : seeds) {
+        const QString seed =
+            named == u"new" ? QString::number(QRandomGenerator::global()->bounded(1'000'000)) : named;
+        say(u"seed %1"_s.arg(seed));
+        const QStringList work{u"--write"_s, u"--seeds"_s, seed, u"--seconds"_s, QString::number(share)};
+        const QString fault = perform(work + options, record, share * 1000 + longestStart);
+        if (fault.isEmpty())
+            continue;
+        RecordedRun run = readRun(record).value_or(RecordedRun());
+        run.fault = fault;
+        shrinkAndReport(seed, run, record, options);
+        return false;
+    }
+    return true;
+}

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "Platform/SystemPasteboard.h"
+#include "Shell/ExportViewModel.h"
+#include "Shell/FolderChooser.h"
+#include "Shell/LaunchSequence.h"
+#include "Shell/MainViewModel.h"
+#include "Shell/SaveRetry.h"
+#include "Store/AppState.h"
+#include "Tasks/TasksViewModel.h"
+#include "Timers/PomodoroTimer.h"
+#include "Timers/TimersViewModel.h"
+#include "support/ManualCalendarStore.h"
+#include "support/ManualClock.h"
+#include "support/ManualDesktop.h"
+#include "support/ManualDocumentFile.h"
+#include "support/ManualExportFolder.h"
+#include "support/ManualPictureFolders.h"
+#include "support/ManualPreferences.h"
+#include "support/ManualScheduler.h"
+
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+
+/// The system under a program in a test: its time passes when it is told to, its disk is memory, and its
+/// clipboard is that of the platform. It outlives the programs that are started on it.
+struct ManualSystem {
+    ManualScheduler scheduler;
+    ManualClock clock;
+    ManualDocumentFile file;
+    ManualPreferences preferences;
+    ManualCalendarStore calendars;
+    ManualFileChooser fileChooser;
+    ManualPictureFiles pictureFiles;
+    ManualPictureFolders pictureFolders;
+    ManualExportFolder exportFolder;
+    SystemPasteboard pasteboard;
+};
+
+/// The program with its real window, store and view models. Making it loads the documents and waits until
+/// the launch card has gone.
+class RunningProgram
+{
+public:
+    explicit RunningProgram(ManualSystem &system);
+    ~RunningProgram();
+    Q_DISABLE_COPY_MOVE(RunningProgram)
+
+    AppState &store() { return m_appState; }
+    MainViewModel &main() { return m_main; }
+    /// The tasks panel, on screen or not.
+    TasksPanelViewModel &tasksPanel() { return m_tasksPanel; }
+    QQuickWindow &window() { return *m_window; }
+
+    /// Lets time pass for the program, its animations included. Scenes are laid out and drawn at the end.
+    void pass(std::chrono::milliseconds time);
+
+private:
+    ManualSystem &m_system;
+    FlowTimer m_flow{m_system.scheduler};
+    AppState m_appState{m_system.scheduler, m_system.clock, m_system.file};
+    SaveRetry m_saveRetry{m_appState, m_system.file, m_system.scheduler};
+    FolderChooser m_folderChooser{m_system.pictureFolders};
+    MainViewModel m_main{
+        m_appState,
+        m_system.clock,
+        {m_system.scheduler, m_system.pasteboard, m_system.fileChooser, m_system.pictureFiles}};
+    ExportViewModel m_exports{
+        m_appState, {m_system.scheduler, m_system.fileChooser, m_system.exportFolder, m_system.pasteboard}};
+    LaunchSequence m_launch{m_system.scheduler};
+    PomodoroTimer m_pomodoro{m_system.scheduler};
+    TimersViewModel m_timers{m_pomodoro, m_flow, m_appState, m_system.pasteboard, m_system.scheduler};
+    TasksServices m_tasksServices{m_system.scheduler, m_system.clock, m_system.preferences,
+                                  m_system.calendars};
+    TasksViewModel m_tasks{m_appState, m_tasksServices};
+    TasksPanelViewModel m_tasksPanel{m_appState, m_tasksServices};
+    QQmlApplicationEngine m_engine;
+    QQuickWindow *m_window = nullptr;
+};
