@@ -5,11 +5,27 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace
 {
 constexpr qint64 day = 86400;
+
+/// Sorts pointers: sorting the values makes GCC warn of an uninitialised title, which is optional.
+QList<Occurrence> byStartWithoutDuplicates(const QList<Occurrence> &occurrences)
+{
+    QList<const Occurrence *> order;
+    for (const Occurrence &occurrence : occurrences)
+        order.append(&occurrence);
+    std::ranges::stable_sort(order, {}, &Occurrence::start);
+    QList<Occurrence> sorted;
+    for (const Occurrence *occurrence : std::as_const(order)) {
+        if (sorted.isEmpty() || sorted.last() != *occurrence)
+            sorted.append(*occurrence);
+    }
+    return sorted;
 }
+} // namespace
 
 void EventSeries::add(CalendarEntry entry)
 {
@@ -38,10 +54,7 @@ QList<Occurrence> EventSeries::occurrences(const Span &span, const IsGivenUp &is
                              {start, change.length().endUtc(change.start.wall, *change.start.zone),
                               change.title, identifierAt(change, start)});
     }
-    std::ranges::stable_sort(found, {}, &Occurrence::start);
-    const auto copies = std::ranges::unique(found);
-    found.erase(copies.begin(), copies.end());
-    return found;
+    return byStartWithoutDuplicates(found);
 }
 
 void EventSeries::addRepeated(QList<Occurrence> &found, const CalendarEntry &entry, const Span &span,
