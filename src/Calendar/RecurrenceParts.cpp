@@ -79,9 +79,11 @@ bool readWeekDays(std::vector<RecurrenceParts::WeekDay> &list, QByteArrayView te
 template <typename Value, typename Found>
 bool take(Value &value, const std::optional<Found> &found)
 {
-    if (found)
-        value = *found;
-    return found.has_value();
+    if (!found)
+        return false;
+    const Found &read = *found;
+    value = read;
+    return true;
 }
 
 bool readLimit(RecurrenceParts &parts, QByteArrayView name, QByteArrayView value)

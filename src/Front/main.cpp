@@ -24,7 +24,7 @@ std::string ownFolder()
 /// Help and version need no other Pelko, which may be of another version.
 bool asksAboutTheProgram(const std::vector<std::string> &arguments)
 {
-    return std::any_of(arguments.begin(), arguments.end(), [](const std::string &argument) {
+    return std::ranges::any_of(arguments, [](const std::string &argument) {
         return argument == "--help" || argument == "-h" || argument == "--version" || argument == "-v";
     });
 }
