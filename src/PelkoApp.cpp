@@ -6,6 +6,7 @@
 #include "Views/Controls/Composition.h"
 #include "Views/TakeDown.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QOperatingSystemVersion>
 #include <QQuickWindow>
