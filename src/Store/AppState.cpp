@@ -4,52 +4,20 @@
 #include "Services/DocumentFile.h"
 #include "Store/ChangeScope.h"
 #include "Store/DocumentReader.h"
+#include "Store/NewestFirst.h"
 
 #include <algorithm>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-namespace
-{
-constexpr auto saveDelay = 500ms;
-constexpr auto longestSaveDelay = 2s;
-constexpr int pausePerSave = 9; // times its duration: a tenth of the time goes into saving
 constexpr auto savedIndicatorTime = 1500ms;
-
-/// Stable, so that pages made in the same instant keep their order.
-QList<PelkoDocument> newestFirst(const QList<PelkoDocument> &documents, Space space)
-{
-    std::vector<const PelkoDocument *> found; // ten thousand of them are sorted in less than a frame
-    for (const PelkoDocument &document : documents) {
-        if (document.space == space)
-            found.push_back(&document);
-    }
-    std::ranges::stable_sort(found, std::ranges::greater(), &PelkoDocument::createdAt);
-    QList<PelkoDocument> newest;
-    newest.reserve(std::ssize(found));
-    for (const PelkoDocument *document : found)
-        newest.append(*document);
-    return newest;
-}
-
-/// Of pages made in the same instant the first in the list, as in a list of the newest first.
-std::optional<QUuid> newestOf(const QList<PelkoDocument> &documents, Space space)
-{
-    const PelkoDocument *newest = nullptr;
-    for (const PelkoDocument &document : documents) {
-        if (document.space == space && (!newest || document.createdAt > newest->createdAt))
-            newest = &document;
-    }
-    return newest ? std::optional(newest->id) : std::nullopt;
-}
-} // namespace
 
 AppState::AppState(Scheduler &scheduler, const Clock &clock, DocumentFile &file)
     : m_scheduler(scheduler)
     , m_clock(clock)
     , m_file(file)
+    , m_saveSchedule(scheduler, [this] { save(); })
 {
     // The first to hear of a change, so that everybody else finds it counted.
     connect(this, &AppState::documentsChanged, this, [this] { ++m_changeCount; });
@@ -219,11 +187,10 @@ void AppState::moveBlock(const QUuid &documentID, qsizetype from, qsizetype to)
 void AppState::save()
 {
     confirmSave(); // the one before this
-    m_latestSave.reset();
     const auto produce = [this](ByteSink &sink) { return m_writer.write(m_documents, sink); };
     const auto start = m_scheduler.now();
     const std::optional<FileError> error = m_file.replace(produce);
-    m_lastSaveDuration = m_scheduler.now() - start;
+    m_saveSchedule.saved(m_scheduler.now() - start);
     if (error) {
         saveFailed(*error);
         return;
@@ -255,7 +222,7 @@ void AppState::saveChanges()
 {
     if (!m_hasUnsavedChanges)
         return;
-    m_saveTimer.cancel();
+    m_saveSchedule.cancel();
     save();
 }
 
@@ -306,14 +273,7 @@ void AppState::show(Space space, std::optional<QUuid> id)
 void AppState::debounceSave()
 {
     m_hasUnsavedChanges = true;
-    m_saveTimer = m_scheduler.after(saveDelay, [this] { save(); });
-    if (!m_latestSave)
-        m_latestSave = m_scheduler.after(longestDelay(), [this] { saveChanges(); });
-}
-
-std::chrono::milliseconds AppState::longestDelay() const
-{
-    return std::max<std::chrono::milliseconds>(longestSaveDelay, pausePerSave * m_lastSaveDuration);
+    m_saveSchedule.changed();
 }
 
 void AppState::announceReplaced(qsizetype row)

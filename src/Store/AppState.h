@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Models/PelkoDocument.h"
-#include "Services/Scheduler.h"
 #include "Store/DocumentWriter.h"
+#include "Store/SaveSchedule.h"
 
 #include <QObject>
 
@@ -10,9 +10,7 @@ class Clock;
 class DocumentFile;
 
 /// The one store: every document, which of them is open, and the few flags that several views share. It
-/// alone reads and writes the data file. Half a second after the last change, and two seconds after the first
-/// one that is not saved, the whole list is saved; where a save is slow, the two seconds stretch, so that at
-/// most a tenth of the time goes into saving.
+/// alone reads and writes the data file. The whole list is saved when `SaveSchedule` says so.
 /// Setting a value that is already held announces nothing. Interface thread only.
 class AppState : public QObject
 {
@@ -114,7 +112,6 @@ private:
     void load();
     void show(Space space, std::optional<QUuid> id);
     void debounceSave();
-    std::chrono::milliseconds longestDelay() const;
     void announceReplaced(qsizetype row);
     void saveFailed(const FileError &error);
     void setShowSavedIndicator(bool shown);
@@ -140,9 +137,6 @@ private:
     std::optional<QString> m_lastError;
     std::optional<QString> m_lastSaveError;
     bool m_hasUnsavedChanges = false;
-    std::chrono::milliseconds m_lastSaveDuration{0};
-    ScheduledCall m_saveTimer;
-    /// Set from the first unsaved change to the next save.
-    std::optional<ScheduledCall> m_latestSave;
+    SaveSchedule m_saveSchedule;
     ScheduledCall m_savedIndicatorTask;
 };
