@@ -24,7 +24,7 @@ public:
     {
         const auto changes = RowDiff::between(keys(m_rows), keys(rows));
         if (!changes) {
-            reset(std::move(rows));
+            replaceAll(std::move(rows));
             return;
         }
         for (const RowChange &change : *changes)
@@ -34,12 +34,20 @@ public:
     }
 
 protected:
-    /// For rows that have nothing to do with those before.
-    void reset(QList<Row> rows)
+    /// For rows that have nothing to do with those before. Not as a reset of the model: after one, a ListView
+    /// that is creating a delegate ahead asks for its old index, which may be out of range by then.
+    void replaceAll(QList<Row> rows)
     {
-        beginResetModel();
+        if (!m_rows.isEmpty()) {
+            beginRemoveRows({}, 0, rowCount() - 1);
+            m_rows.clear();
+            endRemoveRows();
+        }
+        if (rows.isEmpty())
+            return;
+        beginInsertRows({}, 0, static_cast<int>(rows.size()) - 1);
         m_rows = std::move(rows);
-        endResetModel();
+        endInsertRows();
     }
 
     /// Puts a row of the same key in the place of another and tells what differs.

@@ -28,7 +28,7 @@ public:
     void begin(QList<PageRow> rows, Timestamp now, const QTimeZone &zone);
 
     /// For rows that have hardly any in common with those before: ten thousand are not put in one by one.
-    void replace(QList<PageRow> rows) { reset(std::move(rows)); }
+    void replace(QList<PageRow> rows) { replaceAll(std::move(rows)); }
 
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;

@@ -4,9 +4,17 @@
 
 void FolderEntryModel::setEntries(QList<PictureFolders::Entry> entries)
 {
-    beginResetModel();
+    // Not as a reset, for the reason given at IdListModel::replaceAll.
+    if (!m_entries.isEmpty()) {
+        beginRemoveRows({}, 0, rowCount() - 1);
+        m_entries.clear();
+        endRemoveRows();
+    }
+    if (entries.isEmpty())
+        return;
+    beginInsertRows({}, 0, static_cast<int>(entries.size()) - 1);
     m_entries = std::move(entries);
-    endResetModel();
+    endInsertRows();
 }
 
 int FolderEntryModel::rowStartingWith(const QString &text, int from) const

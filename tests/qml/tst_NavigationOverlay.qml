@@ -101,6 +101,24 @@ Item {
             tryVerify(() => !overlay())
         }
 
+        function test_rowsThatAreBeingMadeGiveWayToFewer_data() {
+            return Array.from({ length: 12 }, (_, turns) => ({ tag: turns + " turns", turns }))
+        }
+
+        // The list makes the rows below its edge between two frames.
+        function test_rowsThatAreBeingMadeGiveWayToFewer(row) {
+            failOnWarning(/DelegateModel/)
+            library()
+            for (let i = 0; i < 40; ++i)
+                app.addSpark("a quarter of an hour, and then the next: " + i)
+            open()
+            app.main.navigation.search("quarter")
+            for (let turn = 0; turn < row.turns; ++turn)
+                wait(1)
+            app.main.navigation.search("")
+            tryVerify(() => titles().length === 2)
+        }
+
         function test_itLiesOverThePage_data() {
             return [{ tag: "alone", pageWidth: 1100, middle: 550 }, { tag: "beside a panel", pageWidth: 860, middle: 430 },
                 { tag: "too narrow", pageWidth: 560, middle: 550 }]
