@@ -1,17 +1,104 @@
 #include "Editor/TodoListModel.h"
 
+#include <QScopedValueRollback>
+
+#include <cmath>
+#include <utility>
+
+namespace
+{
+// Scrolling by less than a step makes no rows.
+constexpr qreal step = 200;
+constexpr qreal margin = 400;
+} // namespace
+
+void TodoListModel::publish(const QList<TodoItem> &items)
+{
+    m_items = items;
+    publishRows();
+}
+
+void TodoListModel::setView(qreal top, qreal bottom, qreal usualHeight)
+{
+    const qreal from = std::floor((top - margin) / step) * step;
+    const qreal to = std::ceil((bottom + margin) / step) * step;
+    if (m_top == from && m_bottom == to && m_usualHeight == usualHeight)
+        return;
+    m_top = from;
+    m_bottom = to;
+    m_usualHeight = usualHeight;
+    if (m_items.size() > shortList)
+        publishRows();
+}
+
+void TodoListModel::keep(const QString &todoID)
+{
+    const QUuid kept(todoID);
+    if (m_kept == kept)
+        return;
+    m_kept = kept;
+    if (m_items.size() > shortList)
+        publishRows();
+}
+
+void TodoListModel::setHeight(const QString &todoID, qreal height)
+{
+    m_heights.insert(QUuid(todoID), height);
+}
+
+bool TodoListModel::isShown(const TodoItem &item, qreal top, qreal bottom) const
+{
+    const bool isNear = bottom >= m_top && top <= m_bottom;
+    return isNear || m_items.size() <= shortList || item.id == m_kept;
+}
+
+void TodoListModel::publishRows()
+{
+    // Rows that come and go can scroll the view that asks for them.
+    m_isStale = true;
+    if (m_isPublishing)
+        return;
+    const QScopedValueRollback publishing(m_isPublishing, true);
+    const std::pair before(m_isEmpty, m_gapBelow);
+    while (std::exchange(m_isStale, false))
+        IdListModel::publish(shownRows());
+    m_isEmpty = m_items.isEmpty();
+    if (before != std::pair(m_isEmpty, m_gapBelow))
+        Q_EMIT entriesChanged();
+}
+
+/// Also finds out what is left below them.
+QList<TodoEntry> TodoListModel::shownRows()
+{
+    QList<TodoEntry> rows;
+    qreal top = 0;
+    qreal shownEnd = 0;
+    for (const TodoItem &item : std::as_const(m_items)) {
+        const qreal bottom = top + m_heights.value(item.id, m_usualHeight);
+        if (isShown(item, top, bottom)) {
+            rows.append({.item = item, .gap = top - shownEnd});
+            shownEnd = bottom;
+        }
+        top = bottom;
+    }
+    m_gapBelow = top - shownEnd;
+    return rows;
+}
+
 QVariant TodoListModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const TodoItem &item = rows().at(index.row());
+    const TodoEntry &entry = rows().at(index.row());
     switch (role) {
     case TodoIDRole:
-        return item.id.toString(QUuid::WithoutBraces);
+        return entry.item.id.toString(QUuid::WithoutBraces);
     case TextRole:
-        return item.text;
+        return entry.item.text;
     case DoneRole:
-        return item.done;
+        return entry.item.done;
+    case GapRole:
+        return entry.gap;
     default:
         return {};
     }
@@ -19,15 +106,17 @@ QVariant TodoListModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> TodoListModel::roleNames() const
 {
-    return {{TodoIDRole, "todoID"}, {TextRole, "text"}, {DoneRole, "done"}};
+    return {{TodoIDRole, "todoID"}, {TextRole, "text"}, {DoneRole, "done"}, {GapRole, "gap"}};
 }
 
-QList<int> TodoListModel::changedRoles(const TodoItem &before, const TodoItem &after) const
+QList<int> TodoListModel::changedRoles(const TodoEntry &before, const TodoEntry &after) const
 {
     QList<int> roles;
-    if (before.text != after.text)
+    if (before.item.text != after.item.text)
         roles.append(TextRole);
-    if (before.done != after.done)
+    if (before.item.done != after.item.done)
         roles.append(DoneRole);
+    if (before.gap != after.gap)
+        roles.append(GapRole);
     return roles;
 }

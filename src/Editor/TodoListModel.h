@@ -3,24 +3,71 @@
 #include "Editor/IdListModel.h"
 #include "Models/TodoItem.h"
 
-inline QUuid rowKey(const TodoItem &item)
+/// An entry of a checklist that has a delegate.
+struct TodoEntry {
+    TodoItem item;
+    /// The height of the entries without delegates between this one and the entry shown above it.
+    qreal gap = 0;
+};
+
+inline QUuid rowKey(const TodoEntry &entry)
 {
-    return item.id;
+    return entry.item.id;
 }
 
-/// The entries of one checklist for QML.
-class TodoListModel : public IdListModel<TodoItem>
+/// The entries of one checklist for QML. Of a long checklist the rows are only the entries in sight and near
+/// it, and the one that has the focus; heights are in device-independent pixels, and places are counted from
+/// the top of the first entry.
+class TodoListModel : public IdListModel<TodoEntry>
 {
     Q_OBJECT
+    Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY entriesChanged)
+    Q_PROPERTY(qreal gapBelow READ gapBelow NOTIFY entriesChanged)
 
 public:
-    enum Role { TodoIDRole = Qt::UserRole, TextRole, DoneRole };
+    enum Role { TodoIDRole = Qt::UserRole, TextRole, DoneRole, GapRole };
+
+    /// A checklist of so many entries has all of them as rows.
+    static constexpr qsizetype shortList = 100;
 
     using IdListModel::IdListModel;
+
+    bool isEmpty() const { return m_isEmpty; }
+    /// The height of the entries without delegates behind the last row.
+    qreal gapBelow() const { return m_gapBelow; }
+
+    void publish(const QList<TodoItem> &items);
+
+    /// The part of the checklist that is in sight; `usualHeight` is taken for entries that were never
+    /// measured.
+    Q_INVOKABLE void setView(qreal top, qreal bottom, qreal usualHeight);
+    /// The entry keeps its row wherever it is, until another one is kept.
+    Q_INVOKABLE void keep(const QString &todoID);
+    /// Remembers the height of an entry for the time when it has no delegate.
+    Q_INVOKABLE void setHeight(const QString &todoID, qreal height);
 
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
+Q_SIGNALS:
+    void entriesChanged();
+
 protected:
-    QList<int> changedRoles(const TodoItem &before, const TodoItem &after) const override;
+    QList<int> changedRoles(const TodoEntry &before, const TodoEntry &after) const override;
+
+private:
+    void publishRows();
+    QList<TodoEntry> shownRows();
+    bool isShown(const TodoItem &item, qreal top, qreal bottom) const;
+
+    QList<TodoItem> m_items;
+    QHash<QUuid, qreal> m_heights;
+    QUuid m_kept;
+    qreal m_top = 0;
+    qreal m_bottom = 0;
+    qreal m_usualHeight = 1;
+    qreal m_gapBelow = 0;
+    bool m_isEmpty = true;
+    bool m_isPublishing = false;
+    bool m_isStale = false;
 };

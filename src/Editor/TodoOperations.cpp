@@ -34,8 +34,9 @@ Edit breakUp(PelkoDocument document, Place place, const QString &text, int caret
     Block &block = document.blocks[place.block];
     const QStringList lines = text.split(u'\n');
     (*block.todos)[place.todo].text = lines.first();
+    block.todos->insert(place.todo + 1, lines.size() - 1, TodoItem());
     for (qsizetype line = 1; line < lines.size(); ++line)
-        block.todos->insert(place.todo + line, TodoItem{.text = lines.at(line)});
+        (*block.todos)[place.todo + line] = TodoItem{.text = lines.at(line)};
 
     const TodoItem &last = block.todos->at(place.todo + lines.size() - 1);
     const auto lastStart = static_cast<int>(text.size() - last.text.size());

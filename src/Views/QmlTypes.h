@@ -24,6 +24,13 @@ struct EditorViewModelForQml {
     QML_UNCREATABLE("Handed in by the program.")
 };
 
+struct TodoListModelForQml {
+    Q_GADGET
+    QML_FOREIGN(TodoListModel)
+    QML_NAMED_ELEMENT(TodoListModel)
+    QML_UNCREATABLE("Part of an editor.")
+};
+
 struct BlockDragForQml {
     Q_GADGET
     QML_FOREIGN(BlockDrag)

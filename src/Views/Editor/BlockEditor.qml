@@ -14,6 +14,9 @@ FocusScope {
     /// The keyboard walked here, so the place of the focus has to be plain to see.
     property bool walkedTo: false
 
+    /// Makes the field of an entry that is not in sight; other kinds have their field always.
+    function makeField(todoID: string) {}
+
     /// Takes the keyboard focus; `todoID` names an entry where the kind has any, `caret` -1 is the end.
     function takeFocus(todoID: string, caret: int) {
         walkedTo = true

@@ -15,26 +15,33 @@ FocusScope {
 
     readonly property alias atTop: list.atYBeginning
 
+    /// The view jumps and comes back.
+    property bool isSettingCurrent: false
+
     /// The keyboard walks out of the page.
     signal walkedOut(bool forward)
 
     function focusBlock(blockID: string, todoID: string, caret: int) {
         list.forceLayout()
-        makeRow(blockID)
+        makeRow(blockID, todoID)
         list.currentRow?.block.takeFocus(todoID, caret)
     }
 
-    /// Creates the row of that block, and scrolls there if it is too far away to have been laid out.
-    function makeRow(blockID: string) {
+    /// Creates the row of that block, and the field of that entry if there is one. Scrolls there if the row is too far
+    /// away to have been laid out.
+    function makeRow(blockID: string, todoID: string) {
         setCurrent(editor.rowOf(blockID))
         layOutCurrent()
+        list.currentRow?.block.makeField(todoID)
     }
 
     /// The view by itself would scroll to the top of the row.
     function setCurrent(row: int) {
         const place = list.contentY
+        isSettingCurrent = true
         list.currentIndex = row
         list.contentY = place
+        isSettingCurrent = false
     }
 
     /// Only near the view do rows have a place; a glide leads to one.
@@ -114,10 +121,20 @@ FocusScope {
         editor: root.editor
         images: ImageCache {}
         measure: Math.min(Metrics.measure, root.width - 2 * Metrics.pageMargin)
+        viewHeight: list.height
         onFocusEntered: row => root.setCurrent(row)
         onMenuRequested: (row, item, position) => root.openMenu(row as BlockRow, item, position)
         onRevealRequested: reveal.start()
         onWalkedOut: (row, forward) => root.walkFrom(row, forward)
+    }
+
+    // A long checklist would drop the row that just gets the focus while the view has jumped.
+    Binding {
+        property: "viewTop"
+        restoreMode: Binding.RestoreNone
+        target: context
+        value: list.contentY
+        when: !root.isSettingCurrent
     }
 
     PageCaret {
@@ -127,7 +144,7 @@ FocusScope {
         selection: root.editor.selection
         view: list
         onKeyPressed: reveal.start()
-        onRowNeeded: blockID => root.makeRow(blockID)
+        onRowNeeded: (blockID, todoID) => root.makeRow(blockID, todoID)
         onScrollRequested: distance => root.scrollBy(distance)
         onShowRequested: item => scroll.show(list.contentItem.mapFromItem(item, 0, 0, item.width, item.height))
     }

@@ -53,7 +53,8 @@ FieldCaret *PageCaret::field(const PassageID &passage)
 {
     if (FieldCaret *found = m_fields.find(passage))
         return found;
-    Q_EMIT rowNeeded(passage.blockID.toString(QUuid::WithoutBraces));
+    Q_EMIT rowNeeded(passage.blockID.toString(QUuid::WithoutBraces),
+                     passage.todoID ? passage.todoID->toString(QUuid::WithoutBraces) : QString());
     return m_fields.find(passage);
 }
 

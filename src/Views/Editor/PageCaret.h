@@ -67,8 +67,9 @@ public:
 Q_SIGNALS:
     void selectionChanged();
     void pullChanged();
-    /// The row of that block has to be made and brought into sight.
-    void rowNeeded(const QString &blockID);
+    /// The row of that block, and the field of that entry if there is one, have to be made and brought into
+    /// sight.
+    void rowNeeded(const QString &blockID, const QString &todoID);
     void showRequested(QQuickItem *item);
     void scrollRequested(qreal distance);
     /// The writer pressed a key, so the caret has to be in sight.

@@ -9,6 +9,9 @@ QtObject {
     property bool quiet: false
     /// The width of the text column.
     required property real measure
+    /// The part of the page that is in sight, in the coordinates of the rows.
+    property real viewTop: 0
+    required property real viewHeight
     /// The decoded pictures of this page.
     required property ImageCache images
 

@@ -9,12 +9,25 @@ BlockEditor {
 
     required property string blockID
     required property EditorViewModel editor
-    required property QtObject todos
+    required property TodoListModel todos
+    /// The part of this item that is in sight.
+    required property real seenFrom
+    required property real seenHeight
     /// Its entries show nothing but themselves, whatever is pointed at.
     property bool quiet: false
 
-    function takeFocus(todoID: string, caret: int) {
+    function makeField(todoID: string) {
+        if (todoID !== "")
+            todos?.keep(todoID)
         column.forceLayout() // entries that were just created have no place yet
+    }
+
+    function showPart() {
+        todos?.setView(seenFrom, seenFrom + seenHeight, Typography.checklistRow)
+    }
+
+    function takeFocus(todoID: string, caret: int) {
+        makeField(todoID)
         control?.forceActiveFocus(Qt.TabFocusReason)
         for (let row = 0; row < entries.count; ++row) {
             const entry = entries.itemAt(row) as TodoRow
@@ -28,6 +41,8 @@ BlockEditor {
     control: entries.count === 0 ? first : null
     firstLine: column.y + Typography.stickyLabel.pixelSize / 2
     implicitHeight: column.implicitHeight + 2 * Metrics.space14
+    onSeenFromChanged: showPart()
+    onSeenHeightChanged: showPart()
 
     Rectangle {
         anchors.fill: parent
@@ -58,17 +73,25 @@ BlockEditor {
                 keys: root.keys
                 quiet: root.quiet
                 width: column.width
+                onActiveFocusChanged: if (activeFocus) root.todos?.keep(todoID)
+                onEntryHeightChanged: root.todos?.setHeight(todoID, entryHeight)
+                Component.onCompleted: root.todos?.setHeight(todoID, entryHeight)
                 onEdited: (value, caret) => root.editor.typedTodo(root.blockID, todoID, value, caret)
                 onRemoved: root.editor.removeTodo(root.blockID, todoID)
                 onToggled: root.editor.toggleTodo(root.blockID, todoID)
             }
         }
 
+        Item {
+            height: root.todos?.gapBelow ?? 0
+            width: 1
+        }
+
         FirstTodoButton {
             id: first
 
             Keys.forwardTo: [root.keys]
-            visible: entries.count === 0
+            visible: root.todos?.isEmpty ?? true
             width: column.width
             onTriggered: root.editor.appendTodo(root.blockID)
         }

@@ -5,7 +5,7 @@ import Pelko
 BlockRow {
     id: root
 
-    required property QtObject todos
+    required property TodoListModel todos
 
     block: sticky
 
@@ -18,6 +18,8 @@ BlockRow {
         focus: true
         keys: root
         quiet: root.page.quiet
+        seenFrom: root.page.viewTop - root.y
+        seenHeight: root.page.viewHeight
         todos: root.todos
     }
 }

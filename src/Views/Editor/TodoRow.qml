@@ -9,8 +9,12 @@ FocusScope {
     required property string todoID
     required property string text
     required property bool done
+    /// Room above for the entries that are not made.
+    required property real gap
     required property Item keys
     required property bool quiet
+
+    readonly property real entryHeight: Math.max(Typography.checklistRow, field.implicitHeight + Metrics.space6)
 
     signal toggled
     signal removed
@@ -27,7 +31,7 @@ FocusScope {
         removed()
     }
 
-    implicitHeight: Math.max(Typography.checklistRow, field.implicitHeight + Metrics.space6)
+    implicitHeight: gap + entryHeight
 
     HoverHandler {
         id: hover
@@ -39,7 +43,7 @@ FocusScope {
         Keys.forwardTo: [root.keys]
         done: root.done
         label: root.text
-        y: (Typography.checklistRow - height) / 2
+        y: root.gap + (Typography.checklistRow - height) / 2
         onTriggered: root.toggled()
     }
 
@@ -57,7 +61,7 @@ FocusScope {
         lineHeight: Metrics.todoLine
         placeholder: qsTr("To do...")
         todoID: root.todoID
-        y: (Typography.checklistRow - Metrics.todoLine) / 2
+        y: root.gap + (Typography.checklistRow - Metrics.todoLine) / 2
         onEdited: (value, caret) => root.edited(value, caret)
     }
 
