@@ -35,6 +35,13 @@ QFont Typography::face(const QString &family, qreal pixels, int weight, qreal tr
     return font;
 }
 
+QFont Typography::unshaped(QFont font)
+{
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    font.setKerning(false);
+    return font;
+}
+
 qreal Typography::pixelsPerPoint() const
 {
     const QScreen *screen = QGuiApplication::primaryScreen();

@@ -134,6 +134,8 @@ public:
 
     /// A face of the given height in pixels, with `tracking` pixels added after each letter.
     Q_INVOKABLE QFont face(const QString &family, qreal pixels, int weight, qreal tracking = 0) const;
+    /// The face without kerning and ligatures, which lays out a long text in a fraction of the time.
+    Q_INVOKABLE static QFont unshaped(QFont font);
     /// What a point measures on this desktop.
     Q_INVOKABLE qreal pixelsPerPoint() const;
 

@@ -9,6 +9,7 @@ TextInput {
     required property string name
     required property string placeholder
     required property string content
+    property font face: Typography.message
 
     signal edited(string text)
 
@@ -58,7 +59,8 @@ TextInput {
     clip: true
     activeFocusOnTab: true
     selectByMouse: true
-    font: Typography.message
+    // With each key all of the text is laid out.
+    font: content.length > 10000 ? Typography.unshaped(face) : face
     color: FirePalette.white(0.92)
     selectionColor: FirePalette.selection
     selectedTextColor: color

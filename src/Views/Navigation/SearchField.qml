@@ -38,7 +38,7 @@ FieldPlate {
         color: FirePalette.inkBody
         content: root.navigation.query
         focus: true
-        font: Typography.checklist
+        face: Typography.checklist
         name: qsTr("Find")
         placeholder: qsTr("Find a page, a word, a spark")
         onAccepted: root.navigation.openChosen()

@@ -31,7 +31,7 @@ FieldPlate {
         anchors.verticalCenter: parent.verticalCenter
         color: FirePalette.white(0.8)
         content: plate.panel.newTaskText
-        font: Typography.capsule
+        face: Typography.capsule
         name: qsTr("Add task")
         placeholder: qsTr("Add task...")
         onAccepted: plate.panel.submitNewTask()
