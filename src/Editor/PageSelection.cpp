@@ -134,11 +134,24 @@ void PageSelection::paste()
     });
 }
 
-void PageSelection::copyText(const BlockSelection &selected) const
+QString PageSelection::textOf(const BlockSelection &selected) const
 {
     const QList<SelectedPart> parts = SelectedParts(passages(), selected).all();
-    if (!parts.isEmpty())
-        m_pasteboard.put({.text = parts.first().text().value_or(QString())});
+    return parts.isEmpty() ? QString() : parts.first().text().value_or(QString());
+}
+
+void PageSelection::offerText(const BlockSelection &selected) const
+{
+    const QString text = textOf(selected);
+    if (!text.isEmpty())
+        m_pasteboard.putSelectedText(text);
+}
+
+void PageSelection::copyText(const BlockSelection &selected) const
+{
+    const QString text = textOf(selected);
+    if (!text.isEmpty())
+        m_pasteboard.put({.text = text});
 }
 
 void PageSelection::cutText(const BlockSelection &selected)

@@ -56,11 +56,15 @@ public:
     bool pasteSelectedText(const PagePosition &place);
     /// Offers the text of the selection to the middle button.
     void offer() const;
+    /// The same for what is selected within one text; nothing if that is empty.
+    void offerText(const BlockSelection &selected) const;
 
 Q_SIGNALS:
     void changed();
 
 private:
+    /// What is selected within one text.
+    QString textOf(const BlockSelection &selected) const;
     bool insert(QString text, const BlockSelection &selected);
 
     Pasteboard &m_pasteboard;

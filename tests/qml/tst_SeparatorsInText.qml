@@ -111,6 +111,18 @@ Item {
             compare(fields()[0].height, fields()[1].height)
         }
 
+        function test_the_middle_button_gets_the_stored_text_data() {
+            return separators()
+        }
+
+        function test_the_middle_button_gets_the_stored_text(row) {
+            open([{ type: "textLarge", content: "head" }, { type: "textSmall", content: row.text }])
+            const field = fields()[1]
+            field.takeFocus(0)
+            keySequence("Ctrl+A")
+            tryVerify(() => bench.offered() === row.text)
+        }
+
         function test_pasted_separators_stay_as_they_are_data() {
             return [
                 { tag: "U+2028", text: "1\u20282" },

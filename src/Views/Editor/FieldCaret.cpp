@@ -6,6 +6,8 @@
 
 #include <QTextDocument>
 
+#include <utility>
+
 namespace
 {
 
@@ -119,6 +121,21 @@ void FieldCaret::takeFocus()
     field().forceActiveFocus(Qt::OtherFocusReason);
 }
 
+// With the same event the field offers what it shows, which is not always what is stored.
+void FieldCaret::offerSelectionLater()
+{
+    QMetaObject::invokeMethod(this, &FieldCaret::offerSelection, Qt::QueuedConnection);
+}
+
+void FieldCaret::offerSelection()
+{
+    if (!isOnPage() || m_page->selection()->isCrossing())
+        return;
+    const BlockSelection selected = selection();
+    if (std::exchange(m_offered, selected) != selected)
+        m_page->selection()->offerText(selected);
+}
+
 bool FieldCaret::eventFilter(QObject *, QEvent *event)
 {
     if (!m_page)
@@ -127,6 +144,7 @@ bool FieldCaret::eventFilter(QObject *, QEvent *event)
     case QEvent::KeyPress:
         if (!isModifier(static_cast<QKeyEvent *>(event)->key()))
             Q_EMIT m_page->keyPressed();
+        offerSelectionLater();
         return m_page->keys().pressed(*this, *static_cast<QKeyEvent *>(event));
     case QEvent::InputMethod:
         return m_page->keys().composed(*static_cast<QInputMethodEvent *>(event));
@@ -137,6 +155,7 @@ bool FieldCaret::eventFilter(QObject *, QEvent *event)
     case QEvent::MouseMove:
         return m_page->pointer().moved(*this, *static_cast<QMouseEvent *>(event));
     case QEvent::MouseButtonRelease:
+        offerSelectionLater();
         return m_page->pointer().pastes(*this, *static_cast<QMouseEvent *>(event)) ||
                m_page->pointer().released();
     case QEvent::UngrabMouse:

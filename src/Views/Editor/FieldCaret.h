@@ -61,9 +61,13 @@ Q_SIGNALS:
 private:
     void showPart(const SelectedPart &part, const std::optional<BlockSelection> &selection);
     void setSelectedEmpty(bool selected);
+    void offerSelectionLater();
+    void offerSelection();
 
     QPointer<PageCaret> m_page;
     QString m_blockID;
     QString m_todoID;
     bool m_isSelectedEmpty = false;
+    /// What was selected when it was offered to the middle button last.
+    std::optional<BlockSelection> m_offered;
 };
