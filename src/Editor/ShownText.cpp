@@ -1,6 +1,5 @@
 #include "Editor/ShownText.h"
 
-#include "Editor/TextChange.h"
 #include "Models/LineBreaks.h"
 
 #include <algorithm>
@@ -41,9 +40,4 @@ QString ShownText::of(const QString &stored)
     for (qsizetype index = 0; index < shown.size(); ++index)
         shown[index] = shownAs(stored.at(index), index + 1 < stored.size() ? stored.at(index + 1) : QChar());
     return shown;
-}
-
-QString ShownText::changed(const QString &stored, const QString &shown, qsizetype caret)
-{
-    return TextChange::between(of(stored), shown, caret).applied(stored);
 }

@@ -12,8 +12,4 @@ namespace ShownText
 /// U+FFFD. The CR of a CR LF is a zero width space.
 QString of(const QString &stored);
 
-/// The stored text after the writer has changed what is shown of it to `shown`. Only what was changed is
-/// replaced. `caret` is where the caret stands in `shown`.
-QString changed(const QString &stored, const QString &shown, qsizetype caret);
-
 } // namespace ShownText

@@ -1,4 +1,5 @@
 #include "Editor/ShownText.h"
+#include "Editor/TextChange.h"
 #include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
@@ -56,7 +57,8 @@ private Q_SLOTS:
         QFETCH(QString, shown);
         const qsizetype caret = shown.indexOf(u'|');
         shown.remove(caret, 1);
-        QTEST(ShownText::changed(stored, shown, caret), "changed");
+        const auto change = TextChange::between(ShownText::of(stored), shown, caret);
+        QTEST(change.applied(stored), "changed");
     }
 };
 

@@ -1,12 +1,28 @@
 #include "BlockText.h"
 
 #include "Editor/ShownText.h"
-#include "Editor/TextChange.h"
 
 #include <QScopedValueRollback>
 #include <QTextBlockFormat>
+#include <QTextCharFormat>
 #include <QTextCursor>
 #include <QTextDocument>
+
+#include <utility>
+
+namespace
+{
+/// To shape letters takes five times as long as to lay them out.
+QTextCharFormat formatOf(bool isPlain)
+{
+    QTextCharFormat format;
+    if (isPlain) {
+        format.setFontStyleStrategy(QFont::PreferNoShaping);
+        format.setFontKerning(false);
+    }
+    return format;
+}
+} // namespace
 
 QTextDocument *BlockText::text() const
 {
@@ -21,12 +37,18 @@ QString BlockText::shown() const
     return plain;
 }
 
+QString BlockText::toShow() const
+{
+    return m_breaks.applied(ShownText::of(m_content));
+}
+
 void BlockText::setDocument(QQuickTextDocument *document)
 {
     if (m_document == document)
         return;
     m_document = document;
     if (text()) {
+        const QScopedValueRollback updating(m_isUpdating, true);
         // Undo belongs to the page, not to one field.
         text()->setUndoRedoEnabled(false);
         applyLineHeight();
@@ -39,9 +61,22 @@ void BlockText::setContent(const QString &content)
 {
     if (m_content == content)
         return;
-    m_content = content;
+    follow(std::exchange(m_content, content));
     show();
     Q_EMIT contentChanged();
+}
+
+// Before the field knows its width and its font, a text would be laid out in vain.
+void BlockText::componentComplete()
+{
+    m_isComplete = true;
+    show();
+}
+
+void BlockText::follow(const QString &before)
+{
+    const bool isAsTyped = m_typed && m_typed->applied(before) == m_content;
+    m_breaks.follow(isAsTyped ? *m_typed : TextChange::between(before, m_content), m_content);
 }
 
 void BlockText::setLineHeight(qreal lineHeight)
@@ -49,37 +84,69 @@ void BlockText::setLineHeight(qreal lineHeight)
     if (m_lineHeight == lineHeight)
         return;
     m_lineHeight = lineHeight;
+    const QScopedValueRollback updating(m_isUpdating, true);
     applyLineHeight();
     Q_EMIT lineHeightChanged();
 }
 
 void BlockText::report(int caret)
 {
-    if (!text() || m_isUpdating)
+    if (!text() || !m_isComplete || m_isUpdating)
         return;
+    const QString before = toShow();
     const QString value = shown();
-    if (value == ShownText::of(m_content))
+    if (value == before)
         return;
     // While the store answers, the field passes through states that nobody typed.
     const QScopedValueRollback updating(m_isUpdating, true);
-    Q_EMIT edited(ShownText::changed(m_content, value, caret));
+    m_typed = TextChange::between(before, value, caret);
+    Q_EMIT edited(m_typed->applied(m_content));
+    m_typed.reset();
     show();
 }
 
 void BlockText::show()
 {
-    if (!text())
-        return;
-    const QString before = shown();
-    const QString after = ShownText::of(m_content);
-    if (before == after)
+    if (!text() || !m_isComplete)
         return;
     const QScopedValueRollback updating(m_isUpdating, true);
+    // What takes long is laid out in the quick way only: that begins before the text comes and ends when it
+    // has gone.
+    const bool hasLongWord = SoftBreaks::hasLongWord(m_content);
+    setPlain(m_isPlain || SoftBreaks::isLong(m_content));
+    setHasLongWord(m_hasLongWord || hasLongWord);
+    replaceShown(shown(), toShow());
+    setPlain(SoftBreaks::isLong(m_content));
+    setHasLongWord(hasLongWord);
+}
+
+void BlockText::replaceShown(const QString &before, const QString &after)
+{
+    if (before == after)
+        return;
     const TextChange change = TextChange::between(before, after);
     QTextCursor cursor(text());
     cursor.setPosition(static_cast<int>(change.position));
     cursor.setPosition(static_cast<int>(change.position + change.removed.size()), QTextCursor::KeepAnchor);
-    cursor.insertText(change.inserted);
+    cursor.insertText(change.inserted, formatOf(m_isPlain));
+}
+
+void BlockText::setHasLongWord(bool hasLongWord)
+{
+    if (std::exchange(m_hasLongWord, hasLongWord) != hasLongWord)
+        Q_EMIT hasLongWordChanged();
+}
+
+void BlockText::setPlain(bool isPlain)
+{
+    if (std::exchange(m_isPlain, isPlain) == isPlain)
+        return;
+    QTextCursor all(text());
+    all.select(QTextCursor::Document);
+    all.setCharFormat(formatOf(isPlain));
+    // Draws only what is in sight.
+    if (auto *const field = qobject_cast<QQuickItem *>(m_document->parent()))
+        field->setFlag(QQuickItem::ItemObservesViewport, isPlain);
 }
 
 void BlockText::applyLineHeight()

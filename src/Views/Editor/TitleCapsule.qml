@@ -42,7 +42,8 @@ GlassSurface {
             font: Typography.capsule
             maximumLineCount: 1
             renderType: Text.NativeRendering
-            text: root.title.replace(/\s*[\n-\r\u0085\u2028\u2029]\s*/g, " ")
+            // A heading can be a megabyte; this is more of it than fits.
+            text: root.title.slice(0, 500).replace(/\s*[\n-\r\u0085\u2028\u2029]\s*/g, " ")
             textFormat: Text.PlainText
             width: Math.min(implicitWidth, root.maximumWidth - 2 * Metrics.space12 - Metrics.capsuleDot - Metrics.space8
                             - root.tickWidth)

@@ -60,7 +60,7 @@ TextEdit {
     selectedTextColor: color
     selectionColor: FirePalette.selection
     textFormat: TextEdit.PlainText
-    wrapMode: TextEdit.Wrap
+    wrapMode: bridge.hasLongWord ? TextEdit.WrapAnywhere : TextEdit.Wrap
     onActiveFocusChanged: {
         activeFocus ? reportCaret() : Composition.settle(root)
         reveal()

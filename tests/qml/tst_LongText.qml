@@ -1,0 +1,192 @@
+import QtQuick
+import QtTest
+import Pelko
+import PelkoTest
+
+Item {
+    id: root
+
+    width: 900
+    height: 640
+
+    EditorBench { id: bench }
+
+    Component {
+        id: view
+
+        EditorView {
+            anchors.fill: parent
+            editor: bench.editor
+            focus: true
+        }
+    }
+
+    TestCase {
+        id: test
+
+        readonly property string words: "every word counts ".repeat(6000)
+        property EditorView page
+
+        name: "LongText"
+        when: windowShown
+
+        function open(text) {
+            bench.open([{ type: "textLarge", content: "Head" }, { type: "textSmall", content: text }])
+            page = createTemporaryObject(view, root)
+            page.forceActiveFocus()
+            bench.advance(0)
+            waitForRendering(page)
+        }
+
+        function everything(item) {
+            return [item].concat(...Array.from(item.children).map(child => everything(child)))
+        }
+
+        function field() {
+            const fields = everything(page).filter(item => item.Accessible.role === Accessible.EditableText)
+            return fields.find(item => item.length > 1000)
+        }
+
+        function shown() {
+            return field().getText(0, field().length)
+        }
+
+        function stored() {
+            return bench.blocks()[1].content
+        }
+
+        /// Where the first space is that is shown as a line break.
+        function firstBreak() {
+            return shown().indexOf("\n")
+        }
+
+        function go(caret) {
+            field().cursorPosition = caret
+            field().forceActiveFocus()
+        }
+
+        function test_its_paragraphs_are_short() {
+            open(words)
+            const longest = Math.max(...shown().split("\n").map(paragraph => paragraph.length))
+            verify(longest <= 8000, longest)
+            compare(shown().replace(/\n/g, " "), words)
+        }
+
+        function test_an_ordinary_text_is_shown_as_it_is() {
+            open("every word counts ".repeat(200))
+            compare(shown(), stored())
+        }
+
+        function longTexts() {
+            return [
+                { tag: "words", text: words },
+                { tag: "a megabyte of words", text: "every word counts ".repeat(58000) },
+                { tag: "200 KB without a space", text: "abcdefghij".repeat(20000) },
+                { tag: "lines and characters that are shown as others", text: "one two\r\nthree\u2028four\ufffc ".repeat(4000) },
+            ]
+        }
+
+        function test_showing_it_changes_nothing_data() {
+            return longTexts()
+        }
+
+        function test_showing_it_changes_nothing(row) {
+            open(row.text)
+            bench.advance(10000)
+            const saves = bench.saves()
+            const pageBefore = JSON.stringify(bench.blocks())
+            bench.advance(10000)
+            verify(stored() === row.text)
+            verify(JSON.stringify(bench.blocks()) === pageBefore)
+            compare(bench.saves(), saves)
+        }
+
+        function test_a_letter_in_its_middle_changes_only_that_letter_data() {
+            return longTexts()
+        }
+
+        function test_a_letter_in_its_middle_changes_only_that_letter(row) {
+            open(row.text)
+            const middle = row.text.length / 2
+            go(middle)
+            keyClick(Qt.Key_X)
+            verify(stored() === row.text.slice(0, middle) + "x" + row.text.slice(middle))
+            compare(field().cursorPosition, middle + 1)
+            keyClick(Qt.Key_Backspace)
+            verify(stored() === row.text)
+        }
+
+        function test_the_clipboard_gets_the_stored_text() {
+            open(words)
+            go(0)
+            keyClick(Qt.Key_A, Qt.ControlModifier)
+            keyClick(Qt.Key_C, Qt.ControlModifier)
+            verify(bench.copied() === words)
+            bench.copy("")
+            keyClick(Qt.Key_X, Qt.ControlModifier)
+            verify(bench.copied() === words)
+            compare(stored(), "")
+            keyClick(Qt.Key_V, Qt.ControlModifier)
+            verify(stored() === words)
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            compare(stored(), "")
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            verify(stored() === words)
+        }
+
+        function test_the_middle_button_gets_the_stored_text() {
+            open(words)
+            go(0)
+            keyClick(Qt.Key_A, Qt.ControlModifier)
+            tryVerify(() => bench.offered() === words)
+            const place = firstBreak() - 1
+            go(place)
+            for (let step = 0; step < 3; ++step)
+                keyClick(Qt.Key_Right, Qt.ShiftModifier)
+            tryVerify(() => bench.offered() === words.slice(place, place + 3))
+        }
+
+        function test_a_key_at_a_break_changes_what_is_stored_there_data() {
+            return [
+                { tag: "letter before it", key: Qt.Key_X, offset: 0, removed: 0, typed: "x" },
+                { tag: "letter behind it", key: Qt.Key_X, offset: 1, removed: 0, typed: "x" },
+                { tag: "space before it", key: Qt.Key_Space, offset: 0, removed: 0, typed: " " },
+                { tag: "Backspace behind it", key: Qt.Key_Backspace, offset: 1, removed: 1, typed: "" },
+            ]
+        }
+
+        function test_a_key_at_a_break_changes_what_is_stored_there(row) {
+            open(words)
+            const place = firstBreak() + row.offset
+            go(place)
+            keyClick(row.key)
+            verify(stored() === words.slice(0, place - row.removed) + row.typed + words.slice(place))
+            compare(field().cursorPosition, place - row.removed + row.typed.length)
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            verify(stored() === words)
+            compare(shown().length, words.length)
+        }
+
+        function test_a_text_can_become_long_and_short_again() {
+            open("every word counts ".repeat(2000))
+            go(10)
+            bench.copy(words)
+            keyClick(Qt.Key_V, Qt.ControlModifier)
+            compare(stored().length, 36000 + words.length)
+            verify(firstBreak() > 0)
+            compare(field().cursorPosition, 10 + words.length)
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            compare(stored().length, 36000)
+            compare(shown(), stored())
+        }
+
+        function test_a_long_word_wraps_anywhere() {
+            open("abcdefghij".repeat(1000))
+            compare(field().wrapMode, TextEdit.WrapAnywhere)
+            go(0)
+            field().selectAll()
+            keyClick(Qt.Key_A)
+            compare(stored(), "a")
+        }
+    }
+}
