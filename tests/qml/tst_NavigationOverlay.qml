@@ -90,6 +90,21 @@ Item {
             app.open(0)
         }
 
+        function test_quickSearchesAreNoTroubleForTheList() {
+            for (let spark = 0; spark < 60; ++spark)
+                app.addSpark("an hour of " + spark)
+            library()
+            for (let round = 0; round < 3; ++round) {
+                open()
+                for (const letter of ["h", "o", "u", "r", "q"]) {
+                    keyClick(letter)
+                    waitForRendering(root)
+                }
+                keyClick(Qt.Key_Escape)
+                tryVerify(() => !overlay())
+            }
+        }
+
         function test_oneKeyOpensAndClosesIt() {
             library()
             open()

@@ -56,6 +56,8 @@ FocusScope {
         activeFocusOnTab: true
         anchors { fill: parent; margins: Metrics.space6; bottomMargin: note.overRows ? root.height - note.y : Metrics.space6 }
         boundsBehavior: Flickable.StopAtBounds
+        // Rows made ahead of time are cancelled too late when the model shrinks: Qt complains.
+        cacheBuffer: 0
         clip: true
         focus: true
         highlightMoveDuration: 0

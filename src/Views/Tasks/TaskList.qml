@@ -43,6 +43,8 @@ Item {
         anchors.fill: parent
         bottomMargin: root.air
         boundsBehavior: Flickable.StopAtBounds
+        // Rows made ahead of time are cancelled too late when the model shrinks: Qt complains.
+        cacheBuffer: 0
         clip: true
         highlightFollowsCurrentItem: false
         interactive: contentHeight > Metrics.taskListHeight
