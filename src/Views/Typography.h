@@ -79,7 +79,9 @@ public:
     QFont bannerTitle() const { return face(m_displayFamily, 38, QFont::Bold, -0.7); }
     QFont heading() const { return face(m_displayFamily, 34, QFont::Bold, -0.5); }
     QFont body() const { return face(m_textFamily, 16.5, QFont::Normal); }
-    QFont quote() const { return italic(face(m_displayFamily, 18, QFont::Normal)); }
+    /// Of the text family, as a quote is read and not looked at; the display family's italic q is broken in
+    /// Debian 12.
+    QFont quote() const { return italic(face(m_textFamily, 18, QFont::Normal)); }
     QFont code() const { return face(m_monoFamily, 13.5, QFont::Normal); }
     QFont checklist() const { return face(m_textFamily, 15, QFont::Normal); }
     QFont stickyLabel() const { return face(m_textFamily, 11, QFont::DemiBold, 0.3); }

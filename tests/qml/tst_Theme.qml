@@ -56,4 +56,9 @@ TestCase {
         fuzzyCompare(Typography.body.pointSize * Typography.pixelsPerPoint(), 16.5, 0.01)
         compare(Typography.heading.weight, Font.Bold)
     }
+
+    function test_aQuoteIsSetInTheItalicOfTheText() {
+        compare(Typography.quote.family, Typography.body.family)
+        verify(Typography.quote.italic)
+    }
 }
