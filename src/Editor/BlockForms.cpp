@@ -1,8 +1,8 @@
 #include "Editor/BlockForms.h"
 
-#include <QStringList>
+#include "Models/CodeFence.h"
 
-#include <algorithm>
+#include <QStringList>
 
 using namespace Qt::StringLiterals;
 
@@ -64,24 +64,6 @@ std::optional<QString> plainForm(const Block &block)
     default:
         return block.content;
     }
-}
-
-qsizetype longestRun(const QString &text, QChar mark)
-{
-    qsizetype longest = 0;
-    qsizetype run = 0;
-    for (const QChar c : text) {
-        run = c == mark ? run + 1 : 0;
-        longest = std::max(longest, run);
-    }
-    return longest;
-}
-
-QString fenced(const QString &code)
-{
-    // A fence has to be longer than any in the code.
-    const QString fence(std::max<qsizetype>(3, longestRun(code, u'`') + 1), u'`');
-    return fence + u'\n' + code + u'\n' + fence;
 }
 
 QString withHardBreaks(const QString &text, const QString &nextLine)

@@ -7,12 +7,12 @@
 namespace
 {
 
-struct Place {
+struct TodoPlace {
     qsizetype block;
     qsizetype todo;
 };
 
-std::optional<Place> find(const PelkoDocument &document, const QUuid &blockID, const QUuid &todoID)
+std::optional<TodoPlace> find(const PelkoDocument &document, const QUuid &blockID, const QUuid &todoID)
 {
     const qsizetype block = BlockOperations::indexOf(document, blockID);
     if (block < 0 || !document.blocks.at(block).todos)
@@ -21,15 +21,15 @@ std::optional<Place> find(const PelkoDocument &document, const QUuid &blockID, c
     const auto found = std::ranges::find(todos, todoID, &TodoItem::id);
     if (found == todos.end())
         return std::nullopt;
-    return Place{block, found - todos.begin()};
+    return TodoPlace{block, found - todos.begin()};
 }
 
-TodoItem &itemAt(PelkoDocument &document, Place place)
+TodoItem &itemAt(PelkoDocument &document, TodoPlace place)
 {
     return (*document.blocks[place.block].todos)[place.todo];
 }
 
-Edit breakUp(PelkoDocument document, Place place, const QString &text, int caret)
+Edit breakUp(PelkoDocument document, TodoPlace place, const QString &text, int caret)
 {
     Block &block = document.blocks[place.block];
     const QStringList lines = text.split(u'\n');

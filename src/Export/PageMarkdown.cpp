@@ -1,10 +1,9 @@
 #include "Export/PageMarkdown.h"
 
 #include "Export/MarkdownText.h"
+#include "Models/CodeFence.h"
 
 #include <QStringList>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using MarkdownText::Place;
@@ -26,23 +25,10 @@ QString quote(const QString &text)
     return "> "_L1 + MarkdownText::escaped(text, Place::line, u"> "_s);
 }
 
-qsizetype longestRun(const QString &text, QChar mark)
-{
-    qsizetype longest = 0;
-    qsizetype run = 0;
-    for (const QChar c : text) {
-        run = c == mark ? run + 1 : 0;
-        longest = std::max(longest, run);
-    }
-    return longest;
-}
-
 QString code(QString text)
 {
     text.replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n');
-    // A fence has to be longer than any in the code.
-    const QString fence(std::max<qsizetype>(3, longestRun(text, u'`') + 1), u'`');
-    return fence + u'\n' + text + u'\n' + fence;
+    return fenced(text);
 }
 
 QString checklist(const QList<TodoItem> &todos, QChar bullet)

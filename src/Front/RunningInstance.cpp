@@ -8,7 +8,7 @@
 
 namespace
 {
-constexpr timeval patience{.tv_sec = 10, .tv_usec = 0};
+constexpr timeval answerTime{.tv_sec = 10, .tv_usec = 0};
 const InstanceAnswer noAnswer{1, "pelko: The running Pelko does not answer.\n"};
 
 std::string activationToken()
@@ -47,8 +47,8 @@ std::optional<std::string> receiveAll(int socket)
 
 InstanceAnswer ask(int socket, const std::string &request)
 {
-    ::setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
-    ::setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof patience);
+    ::setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &answerTime, sizeof answerTime);
+    ::setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &answerTime, sizeof answerTime);
     if (!sendAll(socket, request))
         return noAnswer;
     const std::optional<std::string> reply = receiveAll(socket);

@@ -19,9 +19,9 @@ constexpr std::string_view uniquePart = "XXXXXX";
 /// The file itself, also behind links to files that do not exist yet.
 fs::path behindLinks(fs::path path)
 {
-    constexpr int patience = 40; // as the kernel's own
+    constexpr int mostLinks = 40; // as the kernel's own
     std::error_code ignored;
-    for (int step = 0; step < patience && fs::is_symlink(fs::symlink_status(path, ignored)); ++step)
+    for (int step = 0; step < mostLinks && fs::is_symlink(fs::symlink_status(path, ignored)); ++step)
         path = path.parent_path() / fs::read_symlink(path, ignored);
     return path;
 }

@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 
 namespace
 {
-constexpr auto patience = 200ms;
+constexpr auto answerTime = 200ms;
 
 struct Free {
     void operator()(void *reply) const { std::free(reply); }
@@ -98,7 +98,7 @@ bool ClipboardOwner::takeAnswer() const
 
 bool ClipboardOwner::waitForAnswer() const
 {
-    const QDeadlineTimer deadline(patience);
+    const QDeadlineTimer deadline(answerTime);
     while (!deadline.hasExpired()) {
         pollfd socket{.fd = xcb_get_file_descriptor(m_connection.get()), .events = POLLIN, .revents = 0};
         ::poll(&socket, 1, static_cast<int>(deadline.remainingTime()));

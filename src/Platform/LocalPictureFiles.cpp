@@ -13,7 +13,7 @@
 
 namespace
 {
-constexpr qint64 longestReadable = qint64(1) << 30;
+constexpr qint64 longestPicture = qint64(1) << 30;
 constexpr qsizetype step = 1 << 20;
 
 /// Nobody waits any more for what is being read.
@@ -23,7 +23,7 @@ std::optional<QByteArray> readAll(int descriptor, qint64 expectedSize, const IsG
 {
     QByteArray bytes;
     bytes.reserve(expectedSize + 1);
-    for (qsizetype size = 0; size <= longestReadable && !isGivenUp();) {
+    for (qsizetype size = 0; size <= longestPicture && !isGivenUp();) {
         bytes.resize(size + std::clamp<qsizetype>(expectedSize + 1 - size, 1, step));
         const ssize_t count = ::read(descriptor, bytes.data() + size, std::size_t(bytes.size() - size));
         if (count < 0 && errno != EINTR)
@@ -47,7 +47,7 @@ std::optional<QByteArray> readFile(const std::filesystem::path &path, const IsGi
     struct stat status = {};
     if (!file.isOpen() || ::fstat(file.number(), &status) != 0)
         return std::nullopt;
-    if (!S_ISREG(status.st_mode) || status.st_size > longestReadable)
+    if (!S_ISREG(status.st_mode) || status.st_size > longestPicture)
         return std::nullopt;
     try {
         return readAll(file.number(), status.st_size, isGivenUp);

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr Timestamp patience = 0.4;     // seconds in which most work is done
+constexpr Timestamp quietTime = 0.4;    // seconds in which most work is done
 constexpr Timestamp betweenLooks = 0.1; // as often as anybody can read
 } // namespace
 
@@ -31,7 +31,7 @@ TerminalProgress::~TerminalProgress()
 void TerminalProgress::show(qsizetype done, qsizetype all)
 {
     const Timestamp now = m_clock.now();
-    if (!m_isTerminal || now - m_lastShown < (m_isShown ? betweenLooks : patience))
+    if (!m_isTerminal || now - m_lastShown < (m_isShown ? betweenLooks : quietTime))
         return;
     m_isShown = true;
     m_lastShown = now;

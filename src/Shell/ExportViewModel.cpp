@@ -15,7 +15,7 @@ using Existing = ExportFolder::Existing;
 
 namespace
 {
-constexpr auto patience = 500ms; // most exports are done by then
+constexpr auto quietTime = 500ms; // most exports are done by then
 constexpr auto libraryFolder = "Pelko";
 
 QList<ExportedFile> filesOf(const QList<PelkoDocument> &documents, bool isLibrary)
@@ -93,7 +93,7 @@ void ExportViewModel::write(Existing existing)
 {
     const QString text = u"%1 on the way to “%2”."_s.arg(Export::contents(m_order.documents), folderName());
     ChangeScope(*this).assign(m_progressText, text, &ExportViewModel::progressTextChanged);
-    m_patience = m_services.scheduler.after(patience, [this] { setProgress(true); });
+    m_patience = m_services.scheduler.after(quietTime, [this] { setProgress(true); });
     m_writing = m_services.folder.write(
         m_order.folder,
         [documents = m_order.documents, isLibrary = m_order.isLibrary] {

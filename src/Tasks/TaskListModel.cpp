@@ -2,14 +2,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
-QString text(const QUuid &id)
-{
-    return id.toString(QUuid::WithoutBraces);
-}
-} // namespace
-
 QList<TaskRow> taskRows(const QList<TaskGroup> &groups)
 {
     QList<TaskRow> rows;
@@ -46,11 +38,11 @@ QVariant TaskListModel::data(const QModelIndex &index, int role) const
     case RowKindRole:
         return row.kind == TaskRow::Kind::heading ? u"heading"_s : u"task"_s;
     case DocIDRole:
-        return text(row.docID);
+        return row.docID.toString(QUuid::WithoutBraces);
     case BlockIDRole:
-        return text(row.blockID);
+        return row.blockID.toString(QUuid::WithoutBraces);
     case TodoIDRole:
-        return text(row.todoID);
+        return row.todoID.toString(QUuid::WithoutBraces);
     case TextRole:
         return row.text;
     case DoneRole:

@@ -18,7 +18,7 @@ namespace
 constexpr auto tickInterval = 60s;
 
 /// Line breaks are no blanks here.
-bool isBlank(const QString &text)
+bool isBlankTask(const QString &text)
 {
     return std::ranges::all_of(text, [](QChar character) {
         return character == u'\t' || character.category() == QChar::Separator_Space;
@@ -78,7 +78,7 @@ void TasksPanelViewModel::typed(const QString &text)
 
 void TasksPanelViewModel::submitNewTask()
 {
-    if (isBlank(m_newTaskText))
+    if (isBlankTask(m_newTaskText))
         return;
     addQuickTask(m_newTaskText);
     typed({});

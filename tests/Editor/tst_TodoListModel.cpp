@@ -17,7 +17,7 @@ QList<TodoItem> entries(qsizetype count)
     return items;
 }
 
-QString idOf(const TodoItem &item)
+QString entryID(const TodoItem &item)
 {
     return item.id.toString(QUuid::WithoutBraces);
 }
@@ -69,13 +69,13 @@ private Q_SLOTS:
         const QList<TodoItem> items = entries(many);
         model.setView(0, 600, rowHeight);
         model.publish(items);
-        model.keep(idOf(items.at(700)));
+        model.keep(entryID(items.at(700)));
         QCOMPARE(model.rows().last().item, items.at(700));
         QCOMPARE(heightOf(model), many * rowHeight);
         model.setView(18'000, 18'600, rowHeight);
         QCOMPARE(model.rows().first().item, items.at(700));
         QCOMPARE(model.rows().first().gap, 700 * rowHeight);
-        model.keep(idOf(items.at(3)));
+        model.keep(entryID(items.at(3)));
         QCOMPARE(model.rows().first().item, items.at(3));
         QCOMPARE(heightOf(model), many * rowHeight);
     }
@@ -86,7 +86,7 @@ private Q_SLOTS:
         const QList<TodoItem> items = entries(many);
         model.setView(0, 600, rowHeight);
         model.publish(items);
-        model.setHeight(idOf(items.first()), 3 * rowHeight);
+        model.setHeight(entryID(items.first()), 3 * rowHeight);
         model.setView(10'000, 10'600, rowHeight);
         QCOMPARE(heightOf(model), (many + 2) * rowHeight);
     }
