@@ -141,6 +141,24 @@ Item {
             compare(place(), row.to)
         }
 
+        function test_keys_do_not_lead_into_a_hidden_title_data() {
+            const pictures = [{ type: "image" }, { type: "image", picture: "red" }, { type: "image", picture: "red", bannerTitle: "hidden" }]
+            const keys = ["PageDown", "PageUp", "Down", "Up", "Ctrl+End", "Ctrl+Home", "Left", "Right"]
+            return [].concat(...pictures.map((picture, number) => keys.map(key => ({ tag: key + " " + number, picture, key }))))
+        }
+
+        function test_keys_do_not_lead_into_a_hidden_title(row) {
+            open([row.picture, { type: "divider" }, row.picture])
+            const ends = everything(page).filter(item => item instanceof ImageBlock)
+            for (const block of [ends[0], ends[ends.length - 1]]) {
+                block.takeFocus("", -1)
+                press(row.key)
+                verify(page.Window.activeFocusItem.visible, page.Window.activeFocusItem)
+            }
+            keyClick("x")
+            compare(bench.blocks().map(block => block.type + " " + (block.content ?? "")).pop(), "textSmall x")
+        }
+
         function test_up_and_down_keep_their_column() {
             open([{ type: "textLarge", content: "A heading as wide as this" }, { type: "textSmall", content: "x" },
                 { type: "divider" }, { type: "quote" }, { type: "code", content: "abc\na long line of code, even wider than this one" },

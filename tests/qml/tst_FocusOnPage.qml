@@ -185,5 +185,16 @@ Item {
             press([row.tag])
             compare(written(), "textSmall:above textSmall:below")
         }
+
+        function test_a_banner_that_moves_down_keeps_the_keyboard() {
+            open([{ type: "image", picture: "red", isFullWidth: true, bannerTitle: "Title" }, { type: "textSmall", content: "below" }])
+            fieldSaying("Title").takeFocus(-1)
+            press(["Alt+Down"])
+            compare(written(), "textSmall:below image")
+            verify(focused().visible)
+            press(["Alt+Up"])
+            compare(written(), "image textSmall:below")
+            compare(focused(), fieldSaying("Title"))
+        }
     }
 }

@@ -47,7 +47,7 @@ std::optional<PagePosition> CaretTravel::destination(const PagePosition &from, c
 std::optional<PagePosition> CaretTravel::step(const Passage &passage, int offset, const CaretKey &key,
                                               qreal x)
 {
-    FieldCaret *field = fieldOf(passage);
+    FieldCaret *field = m_page.field(passage.id);
     if (!field)
         return over(passage, offset, key, x);
     if (key.move == CaretMove::pageUp || key.move == CaretMove::pageDown)
@@ -80,7 +80,7 @@ std::optional<PagePosition> CaretTravel::beyond(const Passage &passage, bool for
                                                                  .offset = forward ? passage.length() : 0})
                                     : std::nullopt;
     const Passage next = *found;
-    FieldCaret *field = fieldOf(next);
+    FieldCaret *field = m_page.field(next.id);
     if (field && isVertical(key.move)) {
         const int offset = TextLines::endLine(field->text(), !forward, inField(*field, x));
         return PagePosition{.passage = next.id, .offset = offset};
@@ -110,16 +110,11 @@ std::optional<PagePosition> CaretTravel::pageEnd(bool forward, bool onlyInText) 
                 : std::nullopt;
 }
 
-FieldCaret *CaretTravel::fieldOf(const Passage &passage) const
-{
-    return passage.text ? m_page.field(passage.id) : nullptr;
-}
-
 qreal CaretTravel::columnOf(const Passage &passage, int offset)
 {
     if (m_column && m_column->at == PagePosition{.passage = passage.id, .offset = offset})
         return m_column->x;
-    FieldCaret *field = fieldOf(passage);
+    FieldCaret *field = m_page.field(passage.id);
     return field ? field->field()
                        .mapToItem(&m_page.view(), QPointF(TextLines::xOf(field->text(), offset), 0))
                        .x()

@@ -29,8 +29,6 @@ private:
     std::optional<PagePosition> pageEnd(bool forward, bool onlyInText) const;
     /// In the view.
     qreal columnOf(const Passage &passage, int offset);
-    /// Of a passage without text there may be a field all the same, hidden and empty.
-    FieldCaret *fieldOf(const Passage &passage) const;
     qreal inField(const FieldCaret &field, qreal x) const;
 
     PageCaret &m_page;

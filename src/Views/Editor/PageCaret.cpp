@@ -51,6 +51,9 @@ void PageCaret::add(BlockPlace &block)
 
 FieldCaret *PageCaret::field(const PassageID &passage)
 {
+    // Every picture has a field for the title of a banner, which others hide.
+    if (!isText(m_selection->passages(), passage))
+        return nullptr;
     if (FieldCaret *found = m_fields.find(passage))
         return found;
     Q_EMIT rowNeeded(passage.blockID.toString(QUuid::WithoutBraces),
@@ -130,12 +133,10 @@ void PageCaret::select(const BlockSelection &selection)
     show(selection);
     m_selection->offer();
     const PassageID &head = selection.head.passage;
-    if (isText(m_selection->passages(), head)) {
-        if (FieldCaret *target = field(head))
-            focus(*target);
-    } else if (const BlockPlace *block = m_blocks.find(head.blockID)) {
+    if (FieldCaret *target = field(head))
+        focus(*target);
+    else if (const BlockPlace *block = m_blocks.find(head.blockID))
         Q_EMIT showRequested(block->item());
-    }
 }
 
 bool PageCaret::extendTo(QPointF point)

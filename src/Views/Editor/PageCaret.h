@@ -39,7 +39,7 @@ public:
     void add(FieldCaret &field);
     void add(BlockPlace &block);
 
-    /// The field of that passage, for which the view makes the row if need be; null where there is none.
+    /// The field of that passage, for which the view makes the row if need be; null for one without text.
     FieldCaret *field(const PassageID &passage);
     /// The field that has the focus, or had it last; null when it has left the page.
     FieldCaret *current() const;
