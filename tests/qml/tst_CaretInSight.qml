@@ -183,6 +183,27 @@ Item {
             moves(row.tag)
         }
 
+        function test_a_block_that_is_moved_past_a_tall_one() {
+            open([{ type: "textLarge", content: "Head" }, { type: "textSmall", content: lines(80) },
+                { type: "textSmall", content: "below" }])
+            go(fields()[0], 2)
+            for (const key of ["Alt+Down", "Alt+Up", "Alt+Down", "Alt+Down"]) {
+                keySequence(key)
+                wait(600) // the glide of the rows
+                verifyInSight(key)
+                compare(focused().text, "Head")
+            }
+        }
+
+        function test_a_row_that_grows_above_the_caret() {
+            open([...Array.from({ length: 14 }, () => ({ type: "textSmall", content: "word" })), { type: "textSmall" }])
+            go(fields()[14], 0)
+            for (const character of "------")
+                keyClick(character)
+            wait(600) // until the rules have grown
+            verifyInSight("after the rules")
+        }
+
         function test_a_glide_that_is_interrupted_has_ended() {
             const paragraphs = Array.from({ length: 60 }, (_, i) => ({ type: "textSmall", content: "paragraph " + i }))
             open(paragraphs)

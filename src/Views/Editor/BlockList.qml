@@ -70,7 +70,13 @@ FocusScope {
         layOutCurrent()
         const item = Window.activeFocusItem as Item
         if (list.currentRow?.owns(item) && list.itemAtIndex(list.currentIndex))
-            scroll.show(list.contentItem.mapFromItem(item, (item as WritingField)?.cursorRectangle ?? Qt.rect(0, 0, item.width, item.height)))
+            scroll.show(restingPlace(item, (item as WritingField)?.cursorRectangle ?? Qt.rect(0, 0, item.width, item.height)))
+    }
+
+    /// Where that part of an item of the current row stands in the list once the row has ended its glide.
+    function restingPlace(item: Item, part: rect) : rect {
+        const place = list.contentItem.mapFromItem(item, part)
+        return Qt.rect(place.x, place.y - list.currentRow.glide, place.width, place.height)
     }
 
     /// What is typed where there is no field goes on at the end of the page.
@@ -125,6 +131,7 @@ FocusScope {
         onFocusEntered: row => root.setCurrent(row)
         onMenuRequested: (row, item, position) => root.openMenu(row as BlockRow, item, position)
         onRevealRequested: reveal.start()
+        onRowGrew: row => { if (row < list.currentIndex && !scroll.gliding) reveal.start() }
         onWalkedOut: (row, forward) => root.walkFrom(row, forward)
     }
 

@@ -103,6 +103,7 @@ FocusScope {
         page.focusEntered(index)
         page.revealRequested()
     }
+    onGrowthChanged: page.rowGrew(index)
 
     ParallelAnimation {
         id: arrival
