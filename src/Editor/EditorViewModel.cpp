@@ -49,8 +49,9 @@ const PelkoDocument *EditorViewModel::document() const
     return m_appState.document(m_documentID);
 }
 
-std::optional<PelkoDocument> EditorViewModel::documentToMutate() const
+std::optional<PelkoDocument> EditorViewModel::documentToMutate()
 {
+    Q_EMIT settleRequested();
     if (auto open = m_appState.openDocument())
         return open;
     const PelkoDocument *own = document();
@@ -85,6 +86,7 @@ int EditorViewModel::rowOf(const QString &blockID) const
 void EditorViewModel::addBlock(const QString &kind)
 {
     const auto type = blockTypeFromRawValue(kind);
+    Q_EMIT settleRequested();
     const PelkoDocument *own = document();
     if (type && own)
         commit(BlockOperations::addBlock(*own, *type), newBlockFocusDelay);

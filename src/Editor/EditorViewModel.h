@@ -96,7 +96,7 @@ Q_SIGNALS:
     void focusedBlockIDChanged();
     void scrollTargetChanged();
     /// What an input method is composing has to become part of the text now: another document is about to be
-    /// opened, or a step to be taken back.
+    /// opened, or the page to be changed otherwise.
     void settleRequested();
     /// The field of that block, or of that entry of its checklist, has to take the keyboard focus with the
     /// caret at that place, -1 for the end of its text.
@@ -104,7 +104,8 @@ Q_SIGNALS:
 
 private:
     const PelkoDocument *document() const;
-    std::optional<PelkoDocument> documentToMutate() const;
+    /// Contains what an input method was composing.
+    std::optional<PelkoDocument> documentToMutate();
     void refresh();
     /// The one way by which operations change the page.
     void commit(const std::optional<Edit> &edit, std::chrono::milliseconds focusDelay = {});

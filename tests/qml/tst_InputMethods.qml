@@ -264,6 +264,45 @@ Item {
             compare(stored(), "a ni")
         }
 
+        function test_a_selection_with_shift_keeps_a_composition_data() {
+            return [{ tag: "over text", x: 0.5 }, { tag: "beside text", x: 0.01 }]
+        }
+
+        function test_a_selection_with_shift_keeps_a_composition(row) {
+            open("body")
+            bench.editor.addBlock("quote")
+            bench.advance(200)
+            field.forceActiveFocus()
+            type("ab")
+            inputMethod.compose("ni")
+            const view = stage.children[stage.children.length - 1]
+            const other = everything(view).filter(isField)[1]
+            const place = other.mapToItem(view, 0, other.height / 2)
+            mouseClick(view, row.x * view.width, place.y, Qt.LeftButton, Qt.ShiftModifier)
+            compare(bench.blocks().map(block => block.type + " " + block.content), ["textSmall abni", "quote "])
+        }
+
+        function test_a_change_by_another_way_follows_a_composition_data() {
+            return [
+                { tag: "a block is added", change: () => bench.editor.addBlock("divider"), last: "divider" },
+                { tag: "the block is deleted", change: id => bench.editor.deleteBlock(id), last: "quote" },
+                { tag: "the block is moved", change: id => bench.editor.moveBlock(id, 1), last: "textSmall" },
+            ]
+        }
+
+        /// One step takes the change back, and the word stays.
+        function test_a_change_by_another_way_follows_a_composition(row) {
+            open("body")
+            bench.editor.addBlock("quote")
+            field.forceActiveFocus()
+            inputMethod.compose("ni")
+            row.change(bench.editor.focusedBlockID)
+            compare(bench.blocks().pop().type, row.last)
+            bench.editor.undo()
+            compare(stored(), "ni")
+            compare(bench.blocks().map(block => block.type), ["textSmall", "quote"])
+        }
+
         function test_a_composition_replaces_what_is_selected() {
             open("body")
             type("abc")

@@ -1,6 +1,5 @@
 #include "FieldCaret.h"
 
-#include "Composition.h"
 #include "PageCaret.h"
 #include "TextLines.h"
 
@@ -150,7 +149,7 @@ bool FieldCaret::eventFilter(QObject *, QEvent *event)
         return m_page->keys().composed(*static_cast<QInputMethodEvent *>(event));
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-        Composition::settle(&field());
+        m_page->settle();
         return m_page->pointer().pressed(*this, *static_cast<QMouseEvent *>(event));
     case QEvent::MouseMove:
         return m_page->pointer().moved(*this, *static_cast<QMouseEvent *>(event));

@@ -1,6 +1,7 @@
 #include "PageCaret.h"
 
 #include "BlockPlace.h"
+#include "Composition.h"
 #include "FieldCaret.h"
 #include "TextLines.h"
 
@@ -141,6 +142,7 @@ void PageCaret::select(const BlockSelection &selection)
 
 bool PageCaret::extendTo(QPointF point)
 {
+    settle();
     auto head = nearest(point, false);
     if (!head || !m_current)
         return false;
@@ -152,6 +154,12 @@ bool PageCaret::extendTo(QPointF point)
         head->offset = index > passages.indexOf(anchor.passage) ? 1 : 0;
     select({.anchor = anchor, .head = *head});
     return true;
+}
+
+void PageCaret::settle() const
+{
+    if (FieldCaret *field = current())
+        Composition::settle(&field->field());
 }
 
 void PageCaret::giveUp()

@@ -57,6 +57,8 @@ public:
     /// a point in the view, with all of it. Tells whether there is a caret.
     Q_INVOKABLE bool extendTo(QPointF point);
 
+    /// What an input method is composing on the page becomes part of the text.
+    void settle() const;
     /// Selects nothing any more, and leaves the caret where it is.
     void giveUp();
     /// A field got the focus.
