@@ -63,9 +63,9 @@ void UpcomingEvents::assign(const QList<CalendarEvent> &events)
     for (const CalendarEvent &event : events)
         order.append(&event);
     std::ranges::stable_sort(order, {}, &CalendarEvent::start);
-    QList<CalendarEvent> sorted;
-    for (const CalendarEvent *event : std::as_const(order))
-        sorted.append(*event);
+    // Assigned, not appended: GCC 14 takes the event that append() moves for uninitialised.
+    QList<CalendarEvent> sorted(order.size());
+    std::ranges::transform(order, sorted.begin(), [](const CalendarEvent *event) { return *event; });
     if (sorted == m_upcomingEvents)
         return;
     const int before = total();
