@@ -22,7 +22,8 @@ def write_word(pelko, turn):
     pelko.type("nihon")
     pelko.keys("space", "Return")
     turn(False)
-    pelko.type(PLAIN)
+    # An input method answers each key over the bus. On a busy machine one key can pass another there.
+    pelko.type(PLAIN, milliseconds=120)
 
 
 def write_page(pelko, turn):
@@ -54,6 +55,7 @@ def write_and_quit(pelko, turn, **environment):
     # Quit in the middle of a composition: what it shows is kept.
     turn(True)
     pelko.type(COMPOSED_KEYS)
+    pelko.stand_still()
     pelko.close()
     entries = pelko.saved()[0]["blocks"][2]["todos"]
     assert [entry["text"] for entry in entries] == [TEXT, TEXT + COMPOSED], pelko.saved()

@@ -120,8 +120,8 @@ class Pelko:
     def keys(self, *combinations):
         subprocess.run(["xdotool", "key", "--clearmodifiers", "--delay", "40", *combinations], check=True)
 
-    def type(self, text):
-        subprocess.run(["xdotool", "type", "--delay", "25", "--", text], check=True)
+    def type(self, text, milliseconds=25):
+        subprocess.run(["xdotool", "type", "--delay", str(milliseconds), "--", text], check=True)
 
     def point_at(self, node):
         x, y = screen_reader().centre_of(node)

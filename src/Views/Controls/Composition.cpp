@@ -5,17 +5,32 @@
 #include <QInputMethodEvent>
 #include <QQuickItem>
 
+namespace
+{
+QString preeditOf(const QQuickItem &field)
+{
+    return field.property("preeditText").toString();
+}
+
+void insertComposed(QQuickItem &field, const QString &text)
+{
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(&field, &event);
+}
+} // namespace
+
 void Composition::settle(QQuickItem *field)
 {
-    if (!field || field->property("preeditText").toString().isEmpty())
+    if (!field || preeditOf(*field).isEmpty())
         return;
-    // An input method commits what it would itself. Not every one does when asked.
-    if (field->hasActiveFocus())
-        QGuiApplication::inputMethod()->commit();
-    const QString rest = field->property("preeditText").toString();
-    if (rest.isEmpty())
-        return;
-    QInputMethodEvent event;
-    event.setCommitString(rest);
-    QCoreApplication::sendEvent(field, &event);
+    if (!field->hasActiveFocus())
+        return insertComposed(*field, preeditOf(*field));
+    const QString composed = preeditOf(*field);
+    const int length = field->property("length").toInt();
+    QGuiApplication::inputMethod()->commit();
+    // Not every input method commits when it is asked to: some do nothing, and ibus clears what some engines
+    // composed.
+    if (!preeditOf(*field).isEmpty() || field->property("length").toInt() == length)
+        insertComposed(*field, composed);
 }
