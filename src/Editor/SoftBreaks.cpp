@@ -88,7 +88,9 @@ bool SoftBreaks::hasLongWord(const QString &text)
 
 QString SoftBreaks::applied(QString text) const
 {
-    for (const qsizetype place : m_places)
-        text[place] = u'\n';
+    for (const qsizetype place : m_places) {
+        if (place < text.size())
+            text[place] = u'\n';
+    }
     return text;
 }

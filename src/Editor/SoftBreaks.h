@@ -24,7 +24,7 @@ public:
     /// The text has changed to `text`. Breaks outside the change stay.
     void follow(const TextChange &change, const QString &text);
 
-    /// The text with a line feed in the place of each of these spaces.
+    /// The text, or the beginning of it, with a line feed in the place of each of these spaces.
     QString applied(QString text) const;
     const QList<qsizetype> &places() const { return m_places; }
 

@@ -52,6 +52,14 @@ private Q_SLOTS:
         QCOMPARE(breaks.applied(text).replace(u'\n', u' '), text);
     }
 
+    void breaksOfTheBeginningAreThoseOfTheText()
+    {
+        SoftBreaks breaks;
+        const QString text = words(1'000'000);
+        breaks.reset(text);
+        QCOMPARE(breaks.applied(text.first(100'000)), breaks.applied(text).first(100'000));
+    }
+
     void linesThatAreShortEnoughStay()
     {
         SoftBreaks breaks;

@@ -25,26 +25,45 @@ Item {
         id: test
 
         readonly property string words: "every word counts ".repeat(6000)
+        readonly property string lines: "every word counts\n".repeat(4000)
         property EditorView page
 
         name: "LongText"
         when: windowShown
 
-        function open(text) {
+        /// Shows only the first slice of the text.
+        function start(text) {
             bench.open([{ type: "textLarge", content: "Head" }, { type: "textSmall", content: text }])
             page = createTemporaryObject(view, root)
             page.forceActiveFocus()
             bench.advance(0)
+        }
+
+        function open(text) {
+            start(text)
             waitForRendering(page)
+            tryVerify(() => !field() || !isGrowing(), 20000)
+        }
+
+        function wholePaste(text) {
+            bench.copy(text)
+            keyClick(Qt.Key_V, Qt.ControlModifier)
         }
 
         function everything(item) {
             return [item].concat(...Array.from(item.children).map(child => everything(child)))
         }
 
+        function fields() {
+            return everything(page).filter(item => item.Accessible.role === Accessible.EditableText)
+        }
+
         function field() {
-            const fields = everything(page).filter(item => item.Accessible.role === Accessible.EditableText)
-            return fields.find(item => item.length > 1000)
+            return fields().find(item => item.length > 1000)
+        }
+
+        function isGrowing() {
+            return field().hiddenLength > 0
         }
 
         function shown() {
@@ -174,10 +193,141 @@ Item {
             keyClick(Qt.Key_V, Qt.ControlModifier)
             compare(stored().length, 36000 + words.length)
             verify(firstBreak() > 0)
-            compare(field().cursorPosition, 10 + words.length)
+            tryCompare(field(), "cursorPosition", 10 + words.length, 20000)
             keyClick(Qt.Key_Z, Qt.ControlModifier)
             compare(stored().length, 36000)
             compare(shown(), stored())
+        }
+
+        function test_it_grows_without_changing_anything() {
+            start(lines)
+            waitForRendering(page)
+            verify(field().length <= 20000, field().length)
+            verify(isGrowing())
+            tryVerify(() => !isGrowing(), 20000)
+            verify(shown() === lines)
+            verify(stored() === lines)
+            compare(bench.saves(), 0)
+        }
+
+        function test_a_letter_typed_in_its_beginning_waits_until_it_is_whole() {
+            start(lines)
+            waitForRendering(page)
+            field().takeFocus(3)
+            keyClick(Qt.Key_X)
+            keyClick(Qt.Key_Y)
+            tryVerify(() => !isGrowing(), 20000)
+            tryVerify(() => stored() === lines.slice(0, 3) + "xy" + lines.slice(3))
+            compare(field().cursorPosition, 5)
+        }
+
+        function test_a_long_paste_is_stored_at_once_and_one_step() {
+            open("one\ntwo")
+            fields()[1].takeFocus(4)
+            wholePaste(lines)
+            verify(stored() === "one\n" + lines + "two")
+            verify(isGrowing())
+            tryVerify(() => !isGrowing(), 20000)
+            verify(shown() === stored())
+            compare(field().cursorPosition, 4 + lines.length)
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            compare(stored(), "one\ntwo")
+            compare(fields()[1].getText(0, 100), "one\ntwo")
+        }
+
+        function test_keys_behind_a_long_paste_go_where_it_ends() {
+            open("one\ntwo")
+            fields()[1].takeFocus(4)
+            wholePaste(lines)
+            keyClick(Qt.Key_X)
+            keyClick(Qt.Key_Y)
+            keyClick(Qt.Key_Backspace)
+            keyClick(Qt.Key_Return)
+            keyClick(Qt.Key_Z)
+            tryVerify(() => !isGrowing(), 20000)
+            tryVerify(() => stored() === "one\n" + lines + "x")
+            tryVerify(() => bench.blocks()[2].content === "ztwo")
+        }
+
+        function test_ctrl_z_takes_a_paste_back_that_is_still_being_shown() {
+            open("one\ntwo")
+            fields()[1].takeFocus(4)
+            wholePaste(lines)
+            verify(isGrowing())
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            compare(stored(), "one\ntwo")
+            compare(fields()[1].getText(0, 100), "one\ntwo")
+            keyClick(Qt.Key_X)
+            compare(stored(), "one\nxtwo")
+        }
+
+        function test_ctrl_z_takes_back_keys_that_wait() {
+            open("one\ntwo")
+            fields()[1].takeFocus(4)
+            wholePaste(lines)
+            keyClick(Qt.Key_X)
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            tryVerify(() => !isGrowing(), 20000)
+            verify(stored() === "one\n" + lines + "two")
+        }
+
+        function test_keys_that_wait_are_kept_when_the_page_changes() {
+            open("one\ntwo")
+            fields()[1].takeFocus(4)
+            wholePaste(lines)
+            keyClick(Qt.Key_X)
+            bench.openAnother()
+            verify(stored() === "one\n" + lines + "xtwo")
+        }
+
+        function test_keys_that_wait_are_kept_when_the_focus_goes() {
+            open("one\ntwo")
+            fields()[1].takeFocus(4)
+            wholePaste(lines)
+            keyClick(Qt.Key_X)
+            root.forceActiveFocus()
+            verify(stored() === "one\n" + lines + "xtwo")
+        }
+
+        function test_a_paste_over_several_blocks_is_shown_in_slices() {
+            open("one")
+            fields()[1].takeFocus(3)
+            wholePaste(lines)
+            compare(bench.blocks()[1].content, "one" + lines.slice(0, lines.indexOf("\n")))
+            verify(bench.blocks()[2].content === lines.slice(lines.indexOf("\n") + 1))
+            keyClick(Qt.Key_X)
+            tryVerify(() => bench.blocks()[2].content === lines.slice(lines.indexOf("\n") + 1) + "x", 20000)
+        }
+
+        function test_it_tells_how_much_is_shown() {
+            start(lines.repeat(13))
+            waitForRendering(page)
+            const notes = () => everything(page).filter(item => item.visible && item.text?.startsWith("Showing a long text"))
+            compare(notes().length, 0)
+            tryVerify(() => notes().length === 1, 20000)
+            verify(/: [1-9][0-9]? %/.test(notes()[0].text), notes()[0].text)
+            field().maximumHeight = 0
+            tryVerify(() => notes().length === 0, 20000)
+        }
+
+        function test_one_that_is_too_tall_is_cut() {
+            start(lines)
+            waitForRendering(page)
+            field().maximumHeight = 50000
+            tryVerify(() => field().isCut, 20000)
+            const length = field().length
+            verify(length < lines.length)
+            verify(everything(page).some(item => item.visible && item.text?.includes("more characters are kept")))
+            field().takeFocus(-1)
+            compare(field().cursorPosition, length)
+            keyClick(Qt.Key_X)
+            verify(stored() === lines.slice(0, length) + "x" + lines.slice(length))
+            keyClick(Qt.Key_Backspace)
+            keyClick(Qt.Key_Delete)
+            verify(stored() === lines)
+            keyClick(Qt.Key_A, Qt.ControlModifier)
+            keyClick(Qt.Key_C, Qt.ControlModifier)
+            verify(bench.copied().endsWith(lines))
         }
 
         function test_a_long_word_wraps_anywhere() {

@@ -22,6 +22,9 @@ void insertComposed(QQuickItem &field, const QString &text)
 
 void Composition::settle(QQuickItem *field)
 {
+    // Keys wait while a long text is being shown.
+    if (field && field->metaObject()->indexOfMethod("takeWaitingInput()") >= 0)
+        QMetaObject::invokeMethod(field, "takeWaitingInput");
     if (!field || preeditOf(*field).isEmpty())
         return;
     if (!field->hasActiveFocus())

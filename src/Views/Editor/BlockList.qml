@@ -298,6 +298,12 @@ FocusScope {
         area: dragArea
     }
 
+    GrowthNote {
+        anchors { bottom: parent.bottom; bottomMargin: Metrics.space12; horizontalCenter: parent.horizontalCenter }
+        backdrop: list
+        text: context.growingText
+    }
+
     PelkoScrollBar {
         anchors { bottom: parent.bottom; right: parent.right; top: parent.top }
         flickable: list

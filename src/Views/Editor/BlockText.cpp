@@ -1,17 +1,26 @@
 #include "BlockText.h"
 
 #include "Editor/ShownText.h"
+#include "Editor/TextSlice.h"
 
 #include <QScopedValueRollback>
+#include <QTextBlock>
 #include <QTextBlockFormat>
 #include <QTextCharFormat>
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include <algorithm>
 #include <utility>
 
 namespace
 {
+/// A key in a paragraph so long takes a tenth of a second, and four times as much in one twice as long.
+constexpr int longestParagraph = 200'000;
+
+/// UTF-16 units; fewer are shown where they are taller than a text may be.
+constexpr qsizetype longestShown = 5'000'000;
+
 /// To shape letters takes five times as long as to lay them out.
 QTextCharFormat formatOf(bool isPlain)
 {
@@ -39,7 +48,7 @@ QString BlockText::shown() const
 
 QString BlockText::toShow() const
 {
-    return m_breaks.applied(ShownText::of(m_content));
+    return m_breaks.applied(ShownText::of(m_content.left(longestShown)));
 }
 
 void BlockText::setDocument(QQuickTextDocument *document)
@@ -93,7 +102,7 @@ void BlockText::report(int caret)
 {
     if (!text() || !m_isComplete || m_isUpdating)
         return;
-    const QString before = toShow();
+    const QString before = (m_isGrowing || m_isCut) ? m_whole.first(m_shownLength) : toShow();
     const QString value = shown();
     if (value == before)
         return;
@@ -112,12 +121,56 @@ void BlockText::show()
     const QScopedValueRollback updating(m_isUpdating, true);
     // What takes long is laid out in the quick way only: that begins before the text comes and ends when it
     // has gone.
-    const bool hasLongWord = SoftBreaks::hasLongWord(m_content);
+    m_whole = toShow();
+    const bool hasLongWord = SoftBreaks::hasLongWord(m_whole);
     setPlain(m_isPlain || SoftBreaks::isLong(m_content));
     setHasLongWord(m_hasLongWord || hasLongWord);
-    replaceShown(shown(), toShow());
+    const QString before = shown();
+    const QString part = firstPart(before);
+    replaceShown(before, part);
     setPlain(SoftBreaks::isLong(m_content));
     setHasLongWord(hasLongWord);
+    setShownLength(part.size());
+}
+
+QString BlockText::firstPart(const QString &before) const
+{
+    const bool wasWhole = !m_isGrowing && !m_isCut;
+    QString part = wasWhole ? m_whole : m_whole.first(std::min(m_whole.size(), before.size()));
+    const TextChange change = TextChange::between(before, part);
+    const qsizetype end = sliceEnd(part, change.position);
+    if (end < change.position + change.inserted.size())
+        part.truncate(end);
+    return part;
+}
+
+void BlockText::showMore()
+{
+    if (!text() || !m_isGrowing)
+        return;
+    const QScopedValueRollback updating(m_isUpdating, true);
+    const qsizetype end = sliceEnd(m_whole, m_shownLength);
+    QTextCursor cursor(text());
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertText(m_whole.sliced(m_shownLength, end - m_shownLength), formatOf(m_isPlain));
+    setShownLength(end);
+}
+
+void BlockText::setShownLength(qsizetype length)
+{
+    m_shownLength = length;
+    const bool isWhole = length == m_content.size();
+    m_isCut = !isWhole && isTooLong();
+    m_isGrowing = !isWhole && !m_isCut;
+    if (isWhole)
+        m_whole.clear();
+    Q_EMIT shownLengthChanged();
+}
+
+bool BlockText::isTooLong() const
+{
+    return m_shownLength >= longestShown || text()->size().height() > m_maximumHeight ||
+           text()->lastBlock().length() > longestParagraph;
 }
 
 void BlockText::replaceShown(const QString &before, const QString &after)

@@ -3,8 +3,10 @@
 #include "PageCaret.h"
 #include "TextLines.h"
 
+#include <QQuickWindow>
 #include <QTextDocument>
 
+#include <algorithm>
 #include <utility>
 
 namespace
@@ -64,7 +66,7 @@ BlockSelection FieldCaret::selection() const
 
 bool FieldCaret::isAllSelected() const
 {
-    return qAbs(anchor() - caret()) == field().property("length").toInt();
+    return m_isCut || qAbs(anchor() - caret()) == field().property("length").toInt();
 }
 
 bool FieldCaret::follows(const CaretKey &key) const
@@ -85,6 +87,14 @@ QRectF FieldCaret::rectangleAt(int offset) const
 
 void FieldCaret::select(int anchor, int caret)
 {
+    m_wanted.reset();
+    const int length = field().property("length").toInt();
+    if (m_waits && std::max(anchor, caret) > length) {
+        m_wanted = {anchor, caret};
+        return;
+    }
+    anchor = std::min(anchor, length);
+    caret = std::min(caret, length);
     if (this->anchor() != anchor || this->caret() != caret)
         QMetaObject::invokeMethod(&field(), "select", Q_ARG(int, anchor), Q_ARG(int, caret));
 }
@@ -115,6 +125,59 @@ void FieldCaret::setSelectedEmpty(bool selected)
     Q_EMIT selectedEmptyChanged();
 }
 
+void FieldCaret::setWaits(bool waits)
+{
+    if (m_waits == waits)
+        return;
+    m_waits = waits;
+    Q_EMIT waitsChanged();
+    if (const auto wanted = waits ? std::nullopt : std::exchange(m_wanted, {}))
+        select(wanted->first, wanted->second);
+}
+
+bool FieldCaret::keeps(const QEvent &event)
+{
+    // Keys that come behind others wait with them.
+    if (m_isSending || !(m_waits || hasWaitingInput()))
+        return false;
+    bool isKept = false;
+    if (event.type() == QEvent::InputMethod) {
+        isKept = m_waiting.keepsComposition(static_cast<const QInputMethodEvent &>(event));
+    } else {
+        const auto &key = static_cast<const QKeyEvent &>(event);
+        isKept = !isModifier(key.key()) && m_waiting.keepsKey(key);
+    }
+    Q_EMIT waitingInputChanged();
+    return isKept;
+}
+
+/// A key can remove the block with its field.
+void FieldCaret::send(QQuickItem *receiver)
+{
+    const QPointer guard(this);
+    m_isSending = true;
+    QCoreApplication::sendEvent(receiver, m_waiting.takeFirst().get());
+    if (!guard)
+        return;
+    m_isSending = false;
+    Q_EMIT waitingInputChanged();
+}
+
+void FieldCaret::sendNextInput()
+{
+    QQuickItem *const receiver = isOnPage() ? field().window()->activeFocusItem() : nullptr;
+    if (receiver && hasWaitingInput())
+        send(receiver);
+}
+
+void FieldCaret::takeWaitingInput()
+{
+    // A key that is being sent has moved the focus: the next ones follow it.
+    const QPointer guard(this);
+    while (guard && !m_isSending && hasWaitingInput())
+        send(&field());
+}
+
 void FieldCaret::takeFocus()
 {
     field().forceActiveFocus(Qt::OtherFocusReason);
@@ -141,12 +204,14 @@ bool FieldCaret::eventFilter(QObject *, QEvent *event)
         return false;
     switch (event->type()) {
     case QEvent::KeyPress:
+        if (keeps(*event))
+            return true;
         if (!isModifier(static_cast<QKeyEvent *>(event)->key()))
             Q_EMIT m_page->keyPressed();
         offerSelectionLater();
         return m_page->keys().pressed(*this, *static_cast<QKeyEvent *>(event));
     case QEvent::InputMethod:
-        return m_page->keys().composed(*static_cast<QInputMethodEvent *>(event));
+        return keeps(*event) || m_page->keys().composed(*static_cast<QInputMethodEvent *>(event));
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         m_page->settle();

@@ -2,6 +2,7 @@
 
 #include "CaretMove.h"
 #include "Editor/BlockSelection.h"
+#include "WaitingInput.h"
 
 #include <QPointer>
 #include <QQuickItem>
@@ -10,7 +11,8 @@
 class PageCaret;
 
 /// Lets the caret of one text field, its parent, leave the field for the rest of the page, and shows in the
-/// field what is selected of it. It sees keys and pointer before the field does.
+/// field what is selected of it. It sees keys and pointer before the field does. While the field has only the
+/// beginning of its text, keys wait until the caret can be where it is to be.
 class FieldCaret : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
@@ -19,6 +21,9 @@ class FieldCaret : public QObject, public QQmlParserStatus
     Q_PROPERTY(PageCaret *page MEMBER m_page REQUIRED)
     Q_PROPERTY(QString blockID MEMBER m_blockID REQUIRED)
     Q_PROPERTY(QString todoID MEMBER m_todoID)
+    Q_PROPERTY(bool waits READ waits WRITE setWaits NOTIFY waitsChanged)
+    Q_PROPERTY(bool hasWaitingInput READ hasWaitingInput NOTIFY waitingInputChanged)
+    Q_PROPERTY(bool isCut MEMBER m_isCut)
     Q_PROPERTY(bool selectedEmpty READ isSelectedEmpty NOTIFY selectedEmptyChanged)
     QML_ELEMENT
 
@@ -31,6 +36,14 @@ public:
     bool isOnPage() const { return m_page && field().window(); }
     const QTextDocument &text() const;
     bool hasFocus() const { return field().hasActiveFocus(); }
+    /// Whether more of the text is to be shown.
+    bool waits() const { return m_waits; }
+    void setWaits(bool waits);
+    bool hasWaitingInput() const { return !m_waiting.isEmpty(); }
+    /// The first key that waits goes to whatever has the focus.
+    Q_INVOKABLE void sendNextInput();
+    /// The keys that wait go to the field, whatever has the focus.
+    Q_INVOKABLE void takeWaitingInput();
 
     /// The end of the selection where the caret stands, and the other one.
     int caret() const;
@@ -45,7 +58,8 @@ public:
     /// There is no text, yet its line belongs to a selection that goes on below.
     bool isSelectedEmpty() const { return m_isSelectedEmpty; }
 
-    void select(int anchor, int caret);
+    /// Positions that are not shown yet are selected as soon as they are.
+    Q_INVOKABLE void select(int anchor, int caret);
     void deselect() { select(caret(), caret()); }
     /// Shows the part of a selection over several passages, or of none.
     void show(const SelectedParts &parts, const std::optional<BlockSelection> &selection);
@@ -56,11 +70,15 @@ public:
     void componentComplete() override;
 
 Q_SIGNALS:
+    void waitsChanged();
+    void waitingInputChanged();
     void selectedEmptyChanged();
 
 private:
     void showPart(const SelectedPart &part, const std::optional<BlockSelection> &selection);
     void setSelectedEmpty(bool selected);
+    bool keeps(const QEvent &event);
+    void send(QQuickItem *receiver);
     void offerSelectionLater();
     void offerSelection();
 
@@ -68,6 +86,12 @@ private:
     QString m_blockID;
     QString m_todoID;
     bool m_isSelectedEmpty = false;
+    bool m_waits = false;
+    bool m_isCut = false;
+    bool m_isSending = false;
+    WaitingInput m_waiting;
+    /// The end of the selection where the caret is to stand, and before it the other one.
+    std::optional<std::pair<int, int>> m_wanted;
     /// What was selected when it was offered to the middle button last.
     std::optional<BlockSelection> m_offered;
 };

@@ -45,7 +45,8 @@ Item {
     // With Shift the key cuts.
     function joinForwards(event: KeyEvent) {
         event.accepted = bare() && field.cursorPosition === field.length && !(event.modifiers & Qt.ShiftModifier)
-        if (event.accepted)
+        // The end of a text that is cut is somewhere else.
+        if (event.accepted && field.length === content.length)
             keys.joinForwards(row.blockID, todoID)
     }
 

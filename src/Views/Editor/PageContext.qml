@@ -12,6 +12,8 @@ QtObject {
     /// The part of the page that is in sight, in the coordinates of the rows.
     property real viewTop: 0
     required property real viewHeight
+    /// The long text that is being shown, if any.
+    property BlockText growingText: null
     /// The decoded pictures of this page.
     required property ImageCache images
 

@@ -19,7 +19,7 @@ BlockEditor {
     }
 
     firstLine: field.y + style.lineHeight / 2
-    implicitHeight: field.implicitHeight + 2 * field.y
+    implicitHeight: field.implicitHeight + 2 * field.y + (rest.visible ? rest.height : 0)
 
     BlockStyle {
         id: style
@@ -64,5 +64,22 @@ BlockEditor {
         x: root.isCode ? Metrics.codePaddingX : root.isQuote ? Metrics.quoteIndent : 0
         y: root.isCode ? Metrics.codePaddingY : 0
         onEdited: (value, caret) => root.edited(value, caret)
+    }
+
+    Text {
+        id: rest
+
+        Accessible.name: text
+        Accessible.role: Accessible.StaticText
+        color: FirePalette.inkPlaceholder
+        font: Typography.body
+        renderType: Text.NativeRendering
+        text: qsTr("This text is too long to be shown as a whole. %L1 more characters are kept.").arg(field.hiddenLength)
+        textFormat: Text.PlainText
+        visible: field.isCut
+        width: field.width
+        wrapMode: Text.Wrap
+        x: field.x
+        y: field.y + field.height
     }
 }

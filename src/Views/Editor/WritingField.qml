@@ -15,18 +15,39 @@ TextEdit {
 
     readonly property BlockRow row: keys as BlockRow
 
+    /// Whether the text is too tall to be shown as a whole, and how much of it is not.
+    readonly property alias isCut: bridge.isCut
+    property alias maximumHeight: bridge.maximumHeight
+    readonly property int hiddenLength: content.length - bridge.shownLength
+
     property real lineHeight: 0
 
     signal edited(string value, int caret)
 
     /// -1 stands for the end.
     function takeFocus(caret: int) {
-        cursorPosition = caret < 0 ? length : Math.min(caret, length)
+        const end = bridge.isGrowing ? content.length : length
+        const position = caret < 0 ? end : Math.min(caret, end)
+        place.select(position, position)
         forceActiveFocus()
     }
 
     function type(text: string) {
+        showAll()
         insert(cursorPosition, text)
+    }
+
+    function showAll() {
+        while (bridge.isGrowing)
+            bridge.showMore()
+    }
+
+    /// The keys that wait for the rest of the text get it at once.
+    function takeWaitingInput() {
+        if (!place.hasWaitingInput)
+            return
+        showAll()
+        place.takeWaitingInput()
     }
 
     // Only preedit text tells that something is being composed: after a commit, `inputMethodComposing` can stay true.
@@ -37,7 +58,7 @@ TextEdit {
 
     /// While a text that was typed is not reported yet, its caret goes with it.
     function reportCaret() {
-        if (activeFocus && length === content.length)
+        if (activeFocus && length === bridge.shownLength)
             row.page.editor.caretMoved(row.blockID, todoID, cursorPosition)
     }
 
@@ -83,8 +104,23 @@ TextEdit {
         id: place
 
         blockID: root.row?.blockID ?? ""
+        isCut: bridge.isCut
         page: root.row?.page.caret ?? null
         todoID: root.todoID
+        waits: bridge.isGrowing
+    }
+
+    // Between two keys the page comes to where the caret is, as between two that are typed.
+    Timer {
+        interval: 30
+        repeat: true
+        running: place.hasWaitingInput && !place.waits
+        onTriggered: place.sendNextInput()
+    }
+
+    TextGrowth {
+        page: root.row?.page ?? null
+        text: bridge
     }
 
     // The end of a line that has nothing else to be selected.

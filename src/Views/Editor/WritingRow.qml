@@ -12,11 +12,12 @@ BlockRow {
     TextBlock {
         id: text
 
-        anchors.fill: parent
         content: root.content
         focus: true
         keys: root
         kind: root.kind
+        // With anchors it would have no width when its field lays out the text.
+        width: root.bodyWidth
         onEdited: (value, caret) => root.page.editor.typed(root.blockID, value, caret)
     }
 }
