@@ -136,10 +136,13 @@ std::optional<Edit> SelectionOperations::remove(PelkoDocument document, const Bl
 std::optional<Edit> SelectionOperations::replace(PelkoDocument document, const BlockSelection &selection,
                                                  const QString &text)
 {
-    auto removed = removal(std::move(document), selection);
+    auto removed = removal(document, selection);
     if (!removed)
         return std::nullopt;
     const Seam &seam = removed->seam;
+    // Within one text, a paste is typing: its rules compare with the text as it was.
+    if (!SelectedParts(Passages(document), selection).isCrossing())
+        removed->document = std::move(document);
     const QString typed = isBannerTitle(removed->document, seam.passage) ? onOneLine(text) : text;
     const FocusTarget caret = caretIn(seam.passage, seam.before.size() + typed.size());
     auto edit =

@@ -196,6 +196,15 @@ private Q_SLOTS:
         QCOMPARE(focus(edit->focus), caret);
     }
 
+    void linesPastedOverLinesOfOneBlockStayInIt()
+    {
+        const auto edit = SelectionOperations::replace(page({block('A', BlockType::code, u"a\nb"_s)}),
+                                                       selection(u"A@0"_s, u"A@3"_s), u"x\ny"_s);
+        QCOMPARE(edit.value().document.blocks.size(), 1);
+        QCOMPARE(edit->document.blocks.first().content, u"x\ny"_s);
+        QCOMPARE(focus(edit->focus), u"A@3"_s);
+    }
+
     void anEntryIsTypedOverAsAnEntry()
     {
         const auto edit =
