@@ -12,7 +12,6 @@ using namespace std::chrono_literals;
 
 namespace
 {
-
 QString text(const QUuid &id)
 {
     return id.toString(QUuid::WithoutBraces);
@@ -21,7 +20,6 @@ QString text(const QUuid &id)
 // The field of a block that was just made needs a moment to slide into view.
 constexpr auto newBlockFocusDelay = 180ms;
 constexpr auto bannerFocusDelay = 100ms;
-
 } // namespace
 
 EditorViewModel::EditorViewModel(AppState &appState, const EditorServices &services, const QUuid &documentID,

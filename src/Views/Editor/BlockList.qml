@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Qt.labs.qmlmodels
 import Pelko
 
 /// The scrolling column of blocks.
@@ -248,40 +247,8 @@ FocusScope {
         topMargin: root.editor.firstBlockIsBanner ? Metrics.bannerTop : Metrics.pageTop + root.air
         onTopMarginChanged: scroll.followBeginning()
 
-        delegate: DelegateChooser {
-            role: "rowEditor"
-
-            DelegateChoice {
-                roleValue: "writing"
-
-                WritingRow {
-                    page: context
-                }
-            }
-
-            DelegateChoice {
-                roleValue: "divider"
-
-                DividerRow {
-                    page: context
-                }
-            }
-
-            DelegateChoice {
-                roleValue: "image"
-
-                ImageRow {
-                    page: context
-                }
-            }
-
-            DelegateChoice {
-                roleValue: "sticky"
-
-                StickyRow {
-                    page: context
-                }
-            }
+        delegate: BlockRowChooser {
+            page: context
         }
     }
 
