@@ -15,23 +15,24 @@ struct Action {
         pastePicture, // another program has copied a picture; then Ctrl+V
         compose,      // text: what an input method composes and commits
         cancelComposing,
-        click,         // field, x, y
-        doubleClick,   // field, x, y
-        shiftClick,    // field, x, y
-        clickBelow,    // under the last block
-        dragSelection, // field, x, y, field, x, y
-        dragBlock,     // block, block
-        press,         // text: the kind of control; which of them
-        wheel,         // in eighths of a degree
-        wait,          // milliseconds
+        startComposing, // text: what an input method composes while the next actions go on
+        click,          // field, x, y
+        doubleClick,    // field, x, y
+        shiftClick,     // field, x, y
+        clickBelow,     // under the last block
+        dragSelection,  // field, x, y, field, x, y
+        dragBlock,      // block, block
+        press,          // text: the kind of control; which of them
+        wheel,          // in eighths of a degree
+        wait,           // milliseconds
         undoAll,
         openPage, // which
         find,     // text: typed into the search, then the key behind "\n"
         quickAdd, // text
         tickTask, // which
         deleteTask,
-        spark, // text
-        failDisk,
+        spark,    // text
+        failDisk, // text: in which way; milliseconds, or until it is mended
         mendDisk,
         restart,
         kill,

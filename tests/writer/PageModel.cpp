@@ -59,8 +59,8 @@ PageModel::PageModel(PlainPage page, const std::optional<Marked> &marked)
 
 bool PageModel::opensWithBanner() const
 {
-    return !m_page.isEmpty() && m_page.first().kind == BlockType::image && m_page.first().hasPicture &&
-           m_page.first().isFullWidth.value_or(false);
+    return !m_page.isEmpty() && m_page.first().kind == BlockType::image &&
+           !m_page.first().picture.isEmpty() && m_page.first().isFullWidth.value_or(false);
 }
 
 bool PageModel::hasEntries(int block) const
@@ -128,13 +128,15 @@ void PageModel::insert(const QString &text, bool isTyping)
     const auto [start, end] = range();
     const QString before = *textAt(m_marked->head);
     report(m_marked->head, before.first(start) + text + before.sliced(end), start + int(text.size()),
-           isTyping && start == end);
+           isTyping);
 }
 
 void PageModel::writeAtEnd(const QString &text, bool isTyping)
 {
-    if (m_page.isEmpty() || !isTextLike(m_page.last().kind))
+    if (m_page.isEmpty() || !isTextLike(m_page.last().kind)) {
         m_page.append({.kind = BlockType::textSmall});
+        settle(std::nullopt); // a step of its own
+    }
     const Spot end{.block = int(m_page.size()) - 1, .offset = int(m_page.last().text.size())};
     report(end, m_page.last().text + text, end.offset + int(text.size()), isTyping);
 }

@@ -62,11 +62,13 @@ public:
     void addEntry(int block);
     void toggleEntry(int block, int entry);
     void removeEntry(int block, int entry);
-    void insertPicture(int behind);
-    void setPicture(int block);
+    void insertPicture(int behind, const QByteArray &mark);
+    void setPicture(int block, const QByteArray &mark);
     void quickAdd(const QString &text);
     /// Backspace or Delete on a block without text.
     void removeWhole(int block);
+    /// Ctrl+X on a block without text, which leaves a line to write on.
+    void cutWhole(int block);
 
     /// The text that can be written in at that place; null where there is none.
     const QString *textAt(const Spot &spot) const;
@@ -100,6 +102,9 @@ private:
     void entryBackwards(Spot at);
     void joinForwards(Spot at);
     void becomeBody(int block, const QString &text);
+    /// The caret that a change elsewhere leaves alone. A selection over several texts ends with it, and may
+    /// end at either side.
+    std::optional<Spot> lastingCaret() const;
     Spot edgeOf(int block, bool start) const;
     bool takesText(int block) const;
     bool hasEntries(int block) const;

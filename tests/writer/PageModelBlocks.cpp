@@ -6,6 +6,11 @@
 // What buttons, drags and the tasks panel do to whole blocks and to the entries of checklists. The caret
 // stays with the words it stands in.
 
+std::optional<Spot> PageModel::lastingCaret() const
+{
+    return m_marked && !isCrossing() ? std::optional(m_marked->head) : std::nullopt;
+}
+
 void PageModel::addBlock(BlockType kind)
 {
     PlainBlock added{.kind = kind};
@@ -13,7 +18,7 @@ void PageModel::addBlock(BlockType kind)
         added.entries = QList<PlainEntry>{{}};
     m_page.append(added);
     const Spot caret{.block = int(m_page.size()) - 1};
-    settle(isTextLike(kind) ? std::optional(caret) : m_marked ? std::optional(m_marked->head) : std::nullopt);
+    settle(isTextLike(kind) ? std::optional(caret) : lastingCaret());
 }
 
 void PageModel::deleteBlock(int block)
@@ -21,7 +26,7 @@ void PageModel::deleteBlock(int block)
     if (m_page.size() < 2)
         return;
     m_page.removeAt(block);
-    std::optional<Spot> caret = m_marked ? std::optional(m_marked->head) : std::nullopt;
+    std::optional<Spot> caret = lastingCaret();
     if (caret && caret->block == block)
         caret.reset();
     else if (caret && caret->block > block)
@@ -38,10 +43,11 @@ void PageModel::moveBlock(int from, int to)
     std::iota(order.begin(), order.end(), 0);
     order.move(from, to);
     m_page.move(from, to);
-    std::optional<Spot> caret = m_marked ? std::optional(m_marked->head) : std::nullopt;
+    std::optional<Spot> caret = lastingCaret();
     if (caret)
         caret->block = int(order.indexOf(caret->block));
-    settle(caret);
+    // A banner that is no longer the first block hides its title.
+    settle(caret && textAt(*caret) ? caret : std::nullopt);
 }
 
 void PageModel::toggleBanner(int block)
@@ -74,13 +80,13 @@ void PageModel::toggleEntry(int block, int entry)
 {
     bool &done = (*m_page[block].entries)[entry].done;
     done = !done;
-    settle(m_marked ? std::optional(m_marked->head) : std::nullopt);
+    settle(lastingCaret());
 }
 
 void PageModel::removeEntry(int block, int entry)
 {
     m_page[block].entries->removeAt(entry);
-    std::optional<Spot> caret = m_marked ? std::optional(m_marked->head) : std::nullopt;
+    std::optional<Spot> caret = lastingCaret();
     if (caret && caret->block == block && caret->entry == entry)
         caret.reset();
     else if (caret && caret->block == block && caret->entry > entry)
@@ -88,19 +94,19 @@ void PageModel::removeEntry(int block, int entry)
     settle(caret);
 }
 
-void PageModel::insertPicture(int behind)
+void PageModel::insertPicture(int behind, const QByteArray &mark)
 {
-    m_page.insert(behind + 1, {.kind = BlockType::image, .hasPicture = true});
-    std::optional<Spot> caret = m_marked ? std::optional(m_marked->head) : std::nullopt;
+    m_page.insert(behind + 1, {.kind = BlockType::image, .picture = mark});
+    std::optional<Spot> caret = lastingCaret();
     if (caret && caret->block > behind)
         ++caret->block;
     settle(caret);
 }
 
-void PageModel::setPicture(int block)
+void PageModel::setPicture(int block, const QByteArray &mark)
 {
-    m_page[block].hasPicture = true;
-    settle(m_marked ? std::optional(m_marked->head) : std::nullopt);
+    m_page[block].picture = mark;
+    settle(lastingCaret());
 }
 
 void PageModel::quickAdd(const QString &text)
@@ -110,5 +116,5 @@ void PageModel::quickAdd(const QString &text)
         m_page.append({.kind = BlockType::sticky, .entries = QList<PlainEntry>{{.text = text}}});
     else
         sticky->entries = sticky->entries.value_or(QList<PlainEntry>()) << PlainEntry{.text = text};
-    settle(m_marked ? std::optional(m_marked->head) : std::nullopt);
+    settle(lastingCaret());
 }

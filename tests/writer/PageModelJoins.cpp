@@ -122,3 +122,9 @@ void PageModel::removeWhole(int block)
     m_page.removeAt(block);
     settle(std::nullopt);
 }
+
+void PageModel::cutWhole(int block)
+{
+    m_page[block] = {.kind = BlockType::textSmall};
+    settle(Spot{.block = block});
+}

@@ -1,5 +1,7 @@
 #include "writer/PlainPage.h"
 
+#include <QCryptographicHash>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -11,7 +13,7 @@ PlainBlock plainBlock(const Block &block)
 {
     PlainBlock plain{.kind = block.type,
                      .text = block.content,
-                     .hasPicture = block.imageData.has_value(),
+                     .picture = block.imageData ? pictureMark(*block.imageData) : QByteArray(),
                      .isFullWidth = block.isFullWidth,
                      .title = block.bannerTitle};
     if (!block.todos)
@@ -25,18 +27,25 @@ PlainBlock plainBlock(const Block &block)
 QString describe(const PlainBlock &block)
 {
     QString line = rawValue(block.kind) + u' ' + quoted(block.text);
-    if (block.hasPicture)
-        line += u" picture"_s;
+    if (!block.picture.isEmpty())
+        line += u" picture "_s + QString::fromLatin1(block.picture);
     if (block.isFullWidth)
         line += *block.isFullWidth ? u" banner"_s : u" no banner"_s;
     if (block.title)
         line += u" title "_s + quoted(*block.title);
+    if (block.entries && block.entries->isEmpty())
+        line += u" no entries"_s;
     for (const PlainEntry &entry : block.entries.value_or(QList<PlainEntry>()))
         line += (entry.done ? u" [x] "_s : u" [ ] "_s) + quoted(entry.text);
     return line;
 }
 
 } // namespace
+
+QByteArray pictureMark(const QByteArray &bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).first(3).toHex();
+}
 
 PlainPage plainPage(const QList<Block> &blocks)
 {

@@ -15,7 +15,8 @@ struct PlainBlock {
     BlockType kind = BlockType::textSmall;
     QString text = {};
     std::optional<QList<PlainEntry>> entries = std::nullopt;
-    bool hasPicture = false;
+    /// Tells pictures apart; empty without one.
+    QByteArray picture = {};
     std::optional<bool> isFullWidth = std::nullopt;
     std::optional<QString> title = std::nullopt;
 
@@ -23,6 +24,9 @@ struct PlainBlock {
 };
 
 using PlainPage = QList<PlainBlock>;
+
+/// What stands for a picture of these bytes.
+QByteArray pictureMark(const QByteArray &bytes);
 
 PlainPage plainPage(const QList<Block> &blocks);
 

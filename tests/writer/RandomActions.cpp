@@ -116,6 +116,17 @@ Action RandomActions::clipboard()
                    : Action{.kind = Kind::key, .text = oneOf({u"Ctrl+C"_s, u"Ctrl+X"_s, u"Ctrl+V"_s})};
 }
 
+Action RandomActions::composing()
+{
+    const int lot = below(8);
+    if (lot == 0)
+        return {.kind = Kind::cancelComposing};
+    if (lot < 4)
+        return {.kind = Kind::startComposing, .text = oneOf({u"ぬぬ"_s, u"ni"_s})};
+    return {
+        .kind = Kind::compose, .text = oneOf({u"日本"_s, u"かな"_s, u"é"_s}), .numbers = {double(below(2))}};
+}
+
 Action RandomActions::rare()
 {
     switch (below(13)) {
@@ -135,7 +146,10 @@ Action RandomActions::rare()
     case 7:
         return {.kind = Kind::spark, .text = u"a spark"_s};
     case 8:
-        return {.kind = below(3) ? Kind::mendDisk : Kind::failDisk};
+        return below(3) ? Action{.kind = Kind::mendDisk}
+                        : Action{.kind = Kind::failDisk,
+                                 .text = oneOf({u"full"_s, u"away"_s, u"unconfirmed"_s}),
+                                 .numbers = {below(2) ? 500.0 * (1 + below(20)) : 0.0}};
     case 9:
         return {.kind = below(2) ? Kind::restart : Kind::kill};
     case 10:
@@ -159,10 +173,7 @@ Action RandomActions::next()
     if (lot < 86)
         return clipboard();
     if (lot < 90)
-        return below(4) ? Action{.kind = Kind::compose,
-                                 .text = oneOf({u"日本"_s, u"かな"_s, u"é"_s}),
-                                 .numbers = {double(below(2))}}
-                        : Action{.kind = Kind::cancelComposing};
+        return composing();
     if (lot < 93)
         return {.kind = Kind::wait, .numbers = {100.0 * (1 + below(20))}};
     return rare();

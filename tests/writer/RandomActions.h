@@ -22,6 +22,7 @@ private:
     Action key();
     Action pointer();
     Action clipboard();
+    Action composing();
     Action rare();
 
     std::mt19937 m_lot;

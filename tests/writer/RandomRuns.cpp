@@ -3,6 +3,7 @@
 #include "writer/RecordedRun.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QRandomGenerator>
@@ -18,6 +19,8 @@ namespace
 constexpr int longestStart = 120'000;
 constexpr int longestReplay = 120'000;
 constexpr int mostReplays = 150;
+/// In seconds. More time goes to more new seeds.
+constexpr int longestShare = 60;
 
 void say(const QString &text)
 {
@@ -67,7 +70,7 @@ void report(const QString &title, const RecordedRun &run)
 
 void shrinkAndReport(const QString &seed, RecordedRun run, const QString &record, const QStringList &options)
 {
-    say(u"Seed %1 failed after %2 actions: %3"_s.arg(seed).arg(run.actions.size()).arg(run.kindOfFault()));
+    say(u"Seed %1 failed after %2 actions: %3"_s.arg(seed).arg(run.actions.size()).arg(run.fault));
     const auto fails = [&](const QList<Action> &actions) {
         RecordedRun shorter{.startPages = run.startPages, .actions = actions, .fault = {}};
         writeRun(record, shorter);
@@ -78,7 +81,11 @@ void shrinkAndReport(const QString &seed, RecordedRun run, const QString &record
         return true;
     };
     run.actions = shrink(run.actions, fails, mostReplays);
+    const QString kept = QCoreApplication::applicationDirPath() + u"/failed-%1.run"_s.arg(seed);
+    writeRun(kept, run);
     report(u"Seed %1, shrunk to %2 actions"_s.arg(seed).arg(run.actions.size()), run);
+    say(u"To play it again: ASAN_OPTIONS=detect_leaks=0 QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "
+        "%1 --replay --record %2"_s.arg(QCoreApplication::applicationFilePath(), kept));
 }
 
 } // namespace
@@ -87,8 +94,14 @@ bool writeAtRandom(const QStringList &seeds, int seconds, const QStringList &opt
 {
     const QTemporaryDir folder;
     const QString record = folder.filePath(u"run"_s);
-    const int share = std::max(1, seconds / int(seeds.size()));
-    for (const QString &named : seeds) {
+    const int share = std::clamp(seconds / int(seeds.size()), 1, longestShare);
+    bool isFine = true;
+    QElapsedTimer timer;
+    timer.start();
+    for (qsizetype next = 0; next < seeds.size() || timer.elapsed() < (seconds - share) * 1000; ++next) {
+        const QString &named = seeds.at(std::min(next, seeds.size() - 1));
+        if (next >= seeds.size() && named != u"new")
+            break;
         const QString seed =
             named == u"new" ? QString::number(QRandomGenerator::global()->bounded(1'000'000)) : named;
         say(u"seed %1"_s.arg(seed));
@@ -96,10 +109,10 @@ bool writeAtRandom(const QStringList &seeds, int seconds, const QStringList &opt
         const QString fault = perform(work + options, record, share * 1000 + longestStart);
         if (fault.isEmpty())
             continue;
+        isFine = false;
         RecordedRun run = readRun(record).value_or(RecordedRun());
         run.fault = fault;
         shrinkAndReport(seed, run, record, options);
-        return false;
     }
-    return true;
+    return isFine;
 }

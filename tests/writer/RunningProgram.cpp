@@ -5,6 +5,7 @@
 #include <QAnimationDriver>
 #include <QExposeEvent>
 #include <QGuiApplication>
+#include <QQmlIncubationController>
 #include <QVariantAnimation>
 
 using namespace Qt::StringLiterals;
@@ -103,7 +104,15 @@ void RunningProgram::pass(std::chrono::milliseconds time)
         ManualAnimations::shared().advance();
         processEvents();
     }
-    draw(*m_window);
-    ManualAnimations::shared().advance();
-    processEvents();
+    // Rows that are made ahead are otherwise made whenever the machine has time for them. They have a place
+    // once they are drawn.
+    QQmlIncubationController &rows = *m_engine.incubationController();
+    for (bool isMaking = true; isMaking;) {
+        draw(*m_window);
+        isMaking = rows.incubatingObjectCount() > 0;
+        while (rows.incubatingObjectCount() > 0)
+            rows.incubateFor(int(frame.count()));
+        ManualAnimations::shared().advance();
+        processEvents();
+    }
 }

@@ -163,7 +163,21 @@ QQuickItem *ShownPage::focusedField() const
     return m_fields.contains(item) ? item : nullptr;
 }
 
-std::optional<Marked> ShownPage::marked() const
+QString ShownPage::preedit() const
+{
+    const QQuickItem *field = focusedField();
+    return field ? field->property("preeditText").toString() : QString();
+}
+
+std::optional<Marked> ShownPage::markedUnderAlert() const
+{
+    QQuickItem *item = m_list ? m_list->parentItem() : nullptr;
+    while (item && item->isFocusScope() && item->scopedFocusItem())
+        item = item->scopedFocusItem();
+    return markedFrom(m_fields.contains(item) ? item : nullptr);
+}
+
+std::optional<Marked> ShownPage::markedFrom(QQuickItem *field) const
 {
     if (const auto crossing = m_editor.selection()->selection()) {
         const auto spot = [this](const PagePosition &position) {
@@ -171,7 +185,6 @@ std::optional<Marked> ShownPage::marked() const
         };
         return Marked{.anchor = spot(crossing->anchor), .head = spot(crossing->head)};
     }
-    const QQuickItem *field = focusedField();
     Spot head = field ? placeOf(*field) : Spot{.block = -1};
     if (head.block < 0)
         return std::nullopt;

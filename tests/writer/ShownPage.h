@@ -32,9 +32,14 @@ public:
     int entryOf(const QQuickItem *item) const;
     bool isOnPage(const QQuickItem *item) const;
     /// What is selected, or where the caret stands; nothing where no text of the page has it.
-    std::optional<Marked> marked() const;
+    std::optional<Marked> marked() const { return markedFrom(focusedField()); }
+    /// The same once the page is given the keyboard back, which an alert has meanwhile.
+    std::optional<Marked> markedUnderAlert() const;
     /// The field that has the keyboard, or null.
     QQuickItem *focusedField() const;
+
+    /// What an input method composes in the field that has the keyboard.
+    QString preedit() const;
 
     /// The first field whose text is another than the page's, told in words; empty for none.
     QString difference() const;
@@ -43,6 +48,7 @@ public:
 
 private:
     void collect(QQuickItem &item);
+    std::optional<Marked> markedFrom(QQuickItem *field) const;
     Spot spotOf(const QUuid &blockID, const std::optional<QUuid> &todoID, int offset) const;
     const QString *storedText(const Spot &spot) const;
 

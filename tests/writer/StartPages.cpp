@@ -129,20 +129,27 @@ Blocks scripts()
             Block(BlockType::quote, u"हिन्दी 한국어"_s)};
 }
 
+Blocks longWord()
+{
+    const QString word = u"unbroken"_s.repeated(500);
+    return {heading(word.first(200)),
+            body(word),
+            body(u"short "_s + word + u" and on"_s),
+            checklist({word.first(900), u"short"_s}),
+            Block(BlockType::code, word),
+            body(u"Below."_s)};
+}
+
 using Maker = std::function<Blocks()>;
 
 const std::map<QString, Maker> &makers()
 {
     static const std::map<QString, Maker> all{
-        {u"everyKind"_s, everyKind},
-        {u"checklists"_s, checklists},
-        {u"tall"_s, tall},
-        {u"code"_s, code},
-        {u"banner"_s, banner},
-        {u"withoutText"_s, withoutText},
-        {u"scripts"_s, scripts},
-        {u"lineSeparators"_s, lineSeparators},
-        {u"fresh"_s, [] { return PelkoDocument(Space::work, 0).blocks; }},
+        {u"everyKind"_s, everyKind}, {u"checklists"_s, checklists},
+        {u"tall"_s, tall},           {u"code"_s, code},
+        {u"banner"_s, banner},       {u"withoutText"_s, withoutText},
+        {u"scripts"_s, scripts},     {u"lineSeparators"_s, lineSeparators},
+        {u"longWord"_s, longWord},   {u"fresh"_s, [] { return PelkoDocument(Space::work, 0).blocks; }},
     };
     return all;
 }

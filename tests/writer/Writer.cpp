@@ -1,6 +1,7 @@
 #include "writer/Writer.h"
 
 #include "Store/DocumentWriter.h"
+#include "Views/Controls/Composition.h"
 #include "support/MemorySink.h"
 #include "writer/StartPages.h"
 
@@ -45,7 +46,6 @@ Writer::Writer(const QString &startPages, const QStringList &ignored) : m_ignore
     }
     if (!m_fault)
         m_fault = checkFile();
-    m_lastMarked = shown().marked();
 }
 
 void Writer::start()
@@ -67,9 +67,11 @@ void Writer::takePagesAsTheyAre()
 
 void Writer::startAgain(bool isOrderly)
 {
-    m_system.file.writeError.reset();
-    if (isOrderly)
+    mendDisk();
+    if (isOrderly) {
+        Composition::settle(qobject_cast<QQuickItem *>(QGuiApplication::focusObject()));
         m_program->store().saveChanges();
+    }
     const Pages before = isOrderly ? m_pages : m_saved;
     m_program.reset();
     start();
@@ -93,12 +95,20 @@ ShownPage Writer::shown() const
 
 PageModel Writer::model() const
 {
-    return {m_pages.value(m_open), shown().marked()};
+    return m_isInterrupted ? *m_composed : PageModel(m_pages.value(m_open), shown().marked());
 }
 
 Writer::Outcome Writer::outcomeOf(const PageModel &model)
 {
     return {.stages = model.stages(), .marked = model.marked(), .isKey = true};
+}
+
+/// Of a change by other means than keys, which may push the caret out of sight.
+Writer::Outcome Writer::elsewhere(const PageModel &model)
+{
+    Outcome outcome = outcomeOf(model);
+    outcome.isKey = false;
+    return outcome;
 }
 
 /// Another page in the editor: undo begins there.
@@ -128,15 +138,16 @@ Writer::Fault Writer::perform(const Action &action)
     const auto before = std::clock();
     if (action.kind != Action::Kind::type)
         leaveAlert();
+    leaveComposing(action);
     const Outcome outcome = act(action);
+    if (!m_fault)
+        m_fault = followComposing(action, outcome);
     if (!m_fault)
         m_fault = checkPages(outcome);
     if (!m_fault)
         m_fault = checkView(outcome);
     if (!m_fault)
         m_fault = checkFile();
-    if (!m_program->main().showError())
-        m_lastMarked = shown().marked();
     const auto seconds = double(std::clock() - before) / CLOCKS_PER_SEC;
     constexpr double longest = 20; // under the sanitizers, on any machine
     if (!m_fault && seconds > longest)
@@ -198,11 +209,13 @@ Writer::Outcome Writer::act(const Action &action)
         followOpenPage();
         m_program->pass(1s);
         return {};
+    case Kind::startComposing:
+        return startComposing(action.text);
     case Kind::failDisk:
-        m_system.file.writeError = u"No space left on device"_s;
+        failDisk(action);
         return {};
     case Kind::mendDisk:
-        m_system.file.writeError.reset();
+        mendDisk();
         return {};
     case Kind::restart:
     case Kind::kill:
@@ -221,7 +234,7 @@ Writer::Outcome Writer::typeText(const QString &text)
 {
     // An alert that comes by itself does not keep the writer from going on.
     const bool isInterrupted = m_program->main().showError();
-    PageModel model = isInterrupted ? PageModel(m_pages.value(m_open), m_lastMarked) : this->model();
+    PageModel model(m_pages.value(m_open), isInterrupted ? shown().markedUnderAlert() : shown().marked());
     const QQuickItem *focused = m_program->window().activeFocusItem();
     const bool isPageFocused = shown().list() && shown().isOnPage(focused);
     const bool isButton = focused && focused->inherits("QQuickAbstractButton");
@@ -241,24 +254,27 @@ Writer::Outcome Writer::pasteText(const QString &text)
     return pressKey(u"Ctrl+V"_s);
 }
 
-Writer::Outcome Writer::compose(const QString &text, bool saysWhereItStands)
+/// Full, away, or one that says too late that a save has failed.
+void Writer::failDisk(const Action &action)
 {
-    PageModel model = this->model();
-    if (!shown().focusedField())
-        return {};
-    Hands hands(m_program->window());
-    hands.compose(text.isEmpty() ? u"ka"_s : text);
-    m_program->pass(keyTime);
-    hands.commit(text, saysWhereItStands);
-    m_program->pass(keyTime);
-    if (text.isEmpty())
-        model.cut(); // what is composed takes the place of what was selected
+    ManualDocumentFile &file = m_system.file;
+    if (action.text == u"unconfirmed")
+        file.confirmError = u"Input/output error"_s;
     else
-        model.paste(text);
-    Outcome outcome = outcomeOf(model);
-    for (PageModel::Stage &stage : outcome.stages)
-        stage.isTyping = true;
-    return outcome;
+        file.writeError =
+            action.text == u"away" ? u"No such file or directory"_s : u"No space left on device"_s;
+    file.looksWritable = action.text != u"away";
+    const auto time = std::chrono::milliseconds(qint64(action.number(0)));
+    m_mending = {};
+    if (time > 0ms)
+        m_mending = m_system.scheduler.after(time, [this] { mendDisk(); });
+}
+
+void Writer::mendDisk()
+{
+    m_system.file.writeError.reset();
+    m_system.file.confirmError.reset();
+    m_system.file.looksWritable = true;
 }
 
 void Writer::find(const QString &text)

@@ -59,12 +59,18 @@ private:
     Outcome pasteText(const QString &text);
     Outcome pastePicture();
     Outcome compose(const QString &text, bool saysWhereItStands);
+    Outcome startComposing(const QString &text);
+    void leaveComposing(const Action &action);
+    Fault followComposing(const Action &action, const Outcome &outcome);
+    void takeComposed(const PageModel &model);
     Outcome point(const Action &action);
     Outcome clickField(const Action &action);
     Outcome dragBlock(double from, double to);
     Outcome pressControl(const QString &type, double which);
     Outcome useTasksPanel(const Action &action);
     void find(const QString &text);
+    void failDisk(const Action &action);
+    void mendDisk();
     void leaveAlert();
     void followOpenPage();
     void takePagesAsTheyAre();
@@ -79,6 +85,7 @@ private:
     ShownPage shown() const;
     PageModel model() const;
     static Outcome outcomeOf(const PageModel &model);
+    static Outcome elsewhere(const PageModel &model);
     std::optional<QPointF> placeInField(const Action &action, int first, QQuickItem **field = nullptr) const;
     QList<QQuickItem *> inSight(const QList<QQuickItem *> &items) const;
 
@@ -88,10 +95,17 @@ private:
     Pages m_pages;
     QUuid m_open;
     std::optional<PageHistory> m_history;
-    /// Where the caret stood when the page had the keyboard last.
-    std::optional<Marked> m_lastMarked;
     Pages m_saved;
     int m_writes = -1;
+    /// What an input method composes in the field with the caret; empty for none.
+    QString m_preedit;
+    /// The page once that is committed.
+    std::optional<PageModel> m_composed;
+    /// What led to the page before that is committed.
+    std::optional<PageHistory> m_uncomposed;
+    /// The program has to have committed it before it did anything else.
+    bool m_isInterrupted = false;
+    ScheduledCall m_mending;
     /// When what is not in the file yet has to be there.
     std::optional<std::chrono::milliseconds> m_saveLimit;
     /// The disk failed while there was something to save.

@@ -85,6 +85,10 @@ std::optional<QString> Writer::wrongInView(const Outcome &outcome)
         return u"shown: "_s + difference;
     if (m_program->main().showError())
         return std::nullopt; // it has the keyboard
+    const QQuickItem *focused = m_program->window().activeFocusItem();
+    if (focused && !focused->isVisible())
+        return u"keyboard: it is in something hidden, %1"_s.arg(
+            QString::fromLatin1(focused->metaObject()->className()));
     const auto marked = page.marked();
     if (outcome.marked && !marked)
         return u"caret: it is nowhere, expected in "_s + told(outcome.marked->head);

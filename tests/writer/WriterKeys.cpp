@@ -28,10 +28,12 @@ QString clipboardText()
     return QGuiApplication::clipboard()->text();
 }
 
-bool hasPicture()
+/// Of the picture that can be pasted; empty without one.
+QByteArray copiedPicture(const ManualSystem &system)
 {
     const QMimeData *data = QGuiApplication::clipboard()->mimeData();
-    return data && data->hasImage() && data->text().isEmpty();
+    const bool isPicture = data && data->hasImage() && data->text().isEmpty();
+    return isPicture ? pictureMark(system.pasteboard.picture()) : QByteArray();
 }
 
 } // namespace
@@ -62,7 +64,7 @@ Writer::Outcome Writer::changeByKey(const QString &keys, PageModel model) const
         return changeByTab(keys, model);
     if (keys == u"Ctrl+Backspace" || keys == u"Ctrl+Del")
         return removeWord(model, keys == u"Ctrl+Del");
-    if (keys == u"Ctrl+V" && hasPicture())
+    if (keys == u"Ctrl+V" && !copiedPicture(m_system).isEmpty())
         return insertPicture(model);
     if (keys.startsWith(u"Alt+"_s) && model.isCrossing())
         return moveAnyBlock(model);
@@ -102,13 +104,13 @@ Writer::Outcome Writer::changeByTab(const QString &keys, PageModel model) const
 {
     const PlainPage before = model.page();
     const auto selected = model.selectedText().value_or(QString());
-    if (model.isCrossing() || before.at(model.marked()->head.block).kind != BlockType::code)
+    if (before.at(model.marked()->head.block).kind != BlockType::code)
         return {.isKey = true};
-    if (keys == u"Tab" && selected.isEmpty()) {
+    if (keys == u"Tab" && selected.isEmpty() && !model.isCrossing()) {
         model.type(u"\t"_s);
         return outcomeOf(model);
     }
-    if (keys == u"Tab" && !selected.contains(u'\n'))
+    if (keys == u"Tab" && !selected.contains(u'\n') && !model.isCrossing())
         model.type(u"\t"_s);
     return {.accepts =
                 [before, other = model.page()](const PlainPage &found) {
@@ -135,7 +137,20 @@ Writer::Outcome Writer::removeWord(PageModel model, bool forward) const
         shorter.remove(start, start + units);
         results.append(shorter.page());
     }
-    return {.accepts = [results](const PlainPage &found) { return results.contains(found); }, .isKey = true};
+    const auto isLongWord = [model, at, forward, length](const PlainPage &found) {
+        const PageModel after(found, std::nullopt);
+        const QString *left = after.textAt(at);
+        const int units = left ? length - int(left->size()) : 0;
+        const int start = forward ? at.offset : at.offset - units;
+        if (units <= longestWord || start < 0)
+            return false;
+        PageModel shorter = model;
+        shorter.remove(start, start + units);
+        return shorter.page() == found;
+    };
+    return {.accepts = [results, isLongWord](
+                           const PlainPage &found) { return results.contains(found) || isLongWord(found); },
+            .isKey = true};
 }
 
 Writer::Outcome Writer::pastePicture()
@@ -150,12 +165,13 @@ Writer::Outcome Writer::insertPicture(PageModel model) const
 {
     const PlainPage before = model.page();
     const bool isCrossing = model.isCrossing();
-    model.insertPicture(model.marked()->head.block);
+    const QByteArray mark = copiedPicture(m_system);
+    model.insertPicture(model.marked()->head.block, mark);
     if (!isCrossing)
         return outcomeOf(model);
-    return {.accepts = [before, with = model.page()](const PlainPage &found) {
+    return {.accepts = [before, with = model.page(), mark](const PlainPage &found) {
         return found == before || found == with ||
-               found.contains(PlainBlock{.kind = BlockType::image, .hasPicture = true});
+               found.contains(PlainBlock{.kind = BlockType::image, .picture = mark});
     }};
 }
 
@@ -168,17 +184,19 @@ Writer::Outcome Writer::pressOutsideOfText(const QString &keys, const PageModel 
         return {};
     Hands(m_program->window()).press(keys);
     m_program->pass(keyTime);
-    const bool removes = keys == u"Backspace" || keys == u"Delete" || keys == u"Ctrl+X";
-    return {.accepts = [model, removes, keys](const PlainPage &found) {
+    const bool removes = keys.endsWith(u"Backspace"_s) || keys.endsWith(u"Del"_s) || keys == u"Delete";
+    return {.accepts = [model, removes, keys, mark = copiedPicture(m_system)](const PlainPage &found) {
         QList<PlainPage> results{model.page()};
         for (int block = 0; block < model.page().size(); ++block) {
             PageModel next = model;
             if (removes)
                 next.removeWhole(block);
+            else if (keys == u"Ctrl+X")
+                next.cutWhole(block);
             else if (keys == u"Alt+Up" || keys == u"Alt+Down")
                 next.moveBlock(block, block + (keys == u"Alt+Up" ? -1 : 1));
-            else if (keys == u"Ctrl+V" && hasPicture())
-                next.insertPicture(block);
+            else if (keys == u"Ctrl+V" && !mark.isEmpty())
+                next.insertPicture(block, mark);
             else if (keys == u"Ctrl+V")
                 next.paste(clipboardText());
             results.append(next.page());

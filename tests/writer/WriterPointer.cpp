@@ -33,6 +33,15 @@ QRectF viewOf(const ShownPage &page)
     return page.list() ? inScene(*page.list()).adjusted(0, stripHeight, 0, -8) : QRectF();
 }
 
+QByteArray yellowPicture()
+{
+    QImage picture(64, 48, QImage::Format_RGB32);
+    picture.fill(Qt::yellow);
+    QBuffer bytes;
+    picture.save(&bytes, "PNG");
+    return bytes.data();
+}
+
 } // namespace
 
 QList<QQuickItem *> Writer::inSight(const QList<QQuickItem *> &items) const
@@ -122,7 +131,9 @@ Writer::Outcome Writer::point(const Action &action)
 
 Writer::Outcome Writer::dragBlock(double from, double to)
 {
-    const QList<QQuickItem *> rows = inSight(shown().controls("BlockRow"));
+    QList<QQuickItem *> rows = inSight(shown().controls("BlockRow"));
+    constexpr int lowest = 4; // to be sure to hit
+    rows.removeIf([](const QQuickItem *row) { return row->height() < lowest; });
     if (rows.size() < 2)
         return {};
     QQuickItem *taken = rows.at(choose(rows, from));
@@ -154,6 +165,7 @@ Writer::Outcome Writer::pressControl(const QString &type, double which)
     QQuickItem *control = controls.at(index);
     const int block = page.blockOf(control);
     const int entry = page.entryOf(control);
+    const QByteArray picture = yellowPicture();
     PageModel model = this->model();
     if (isChip)
         model.addBlock(static_cast<BlockType>(index));
@@ -168,17 +180,13 @@ Writer::Outcome Writer::pressControl(const QString &type, double which)
     else if (type == u"FirstTodoButton")
         model.addEntry(block);
     else if (type == u"AddImageButton")
-        model.setPicture(block);
+        model.setPicture(block, pictureMark(picture));
     Hands(m_program->window()).click(inScene(*control).center());
     m_program->pass(addTime);
-    QImage picture(64, 48, QImage::Format_RGB32);
-    picture.fill(Qt::yellow);
-    QBuffer bytes;
-    picture.save(&bytes, "PNG");
-    m_system.pictureFiles.files["/picture"] = bytes.data();
+    m_system.pictureFiles.files["/picture"] = picture;
     m_system.fileChooser.answer(QList<std::filesystem::path>{"/picture"});
     m_program->pass(clickTime);
-    return outcomeOf(model);
+    return isChip ? outcomeOf(model) : elsewhere(model);
 }
 
 Writer::Outcome Writer::useTasksPanel(const Action &action)
@@ -202,7 +210,7 @@ Writer::Outcome Writer::useTasksPanel(const Action &action)
         model.quickAdd(action.text);
         m_program->tasksPanel().addQuickTask(action.text);
         m_program->pass(clickTime);
-        return outcomeOf(model);
+        return elsewhere(model);
     }
     if (tasks.isEmpty())
         return {};
@@ -220,7 +228,7 @@ Writer::Outcome Writer::useTasksPanel(const Action &action)
     }
     m_program->pass(clickTime);
     if (task.page == m_open)
-        return outcomeOf(model);
+        return elsewhere(model);
     m_pages.insert(task.page, model.page());
     return {};
 }

@@ -56,6 +56,30 @@ private Q_SLOTS:
         QVERIFY(model.marked()->head == (Spot{.block = 1}));
     }
 
+    void cutOfABlockWithoutTextLeavesALine()
+    {
+        PageModel model({body(u"above"_s), {.kind = BlockType::divider}}, std::nullopt);
+        model.cutWhole(1);
+        QCOMPARE(linesOf(model.page()), linesOf({body(u"above"_s), body({})}));
+        QVERIFY(model.marked()->head == (Spot{.block = 1}));
+    }
+
+    void bannerThatIsNotFirstHasNoCaret()
+    {
+        const PlainBlock banner{
+            .kind = BlockType::image, .picture = "mark", .isFullWidth = true, .title = u"Title"_s};
+        PageModel model = at({banner, body(u"below"_s)}, {.offset = 5});
+        model.moveBlock(0, 1);
+        QVERIFY(!model.marked());
+    }
+
+    void selectionOverTextsEndsWithAChangeElsewhere()
+    {
+        PageModel model = at({body(u"one"_s), body(u"two"_s)}, {}, {.block = 1, .offset = 2});
+        model.quickAdd(u"task"_s);
+        QVERIFY(!model.marked());
+    }
+
     void shortcutPassesThroughWhatWasTyped()
     {
         PageModel model = at({body(u"#"_s)}, {.offset = 1});
@@ -63,6 +87,14 @@ private Q_SLOTS:
         QCOMPARE(model.stages().size(), 2);
         QCOMPARE(linesOf(model.stages().first().page), linesOf({body(u"# "_s)}));
         QCOMPARE(linesOf(model.page()), linesOf({{.kind = BlockType::textLarge}}));
+    }
+
+    void typingWithoutACaretGoesOnAtTheEndOfThePage()
+    {
+        PageModel model({{.kind = BlockType::divider}}, std::nullopt);
+        model.type(u"a"_s);
+        model.type(u"b"_s);
+        QCOMPARE(linesOf(model.page()), linesOf({{.kind = BlockType::divider}, body(u"ab"_s)}));
     }
 
     void backspaceTakesAnEmojiAsAWhole()
