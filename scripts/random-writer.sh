@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Writes at random in the real views and in a model of the page, under the sanitizers, and compares the two. What fails
-# is made short and printed with its seed. A fifth of a long time goes to random keys in the real window.
+# is made short and printed with its seed. A fifth of a long time goes to random keys in the real window of the release
+# build.
 # Usage: scripts/random-writer.sh [SECONDS [SEED]]
 set -euo pipefail
 
@@ -11,12 +12,16 @@ program=build/dev/tests/writer/pelko_writer
 
 outside=0
 if [ "$seconds" -ge 120 ]; then outside=$((seconds / 5)); fi
-ASAN_OPTIONS=detect_leaks=0 QT_QPA_PLATFORM=offscreen \
-    QT_QUICK_BACKEND=software "$program" --seconds "$((seconds - outside))" --seeds "${seed:-1,2,3,new}"
+status=0
+ASAN_OPTIONS=detect_leaks=0 QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software \
+    "$program" --seconds "$((seconds - outside))" --seeds "${seed:-1,2,3,new}" || status=1
 
 # One start of the program takes so many seconds at most.
+released=build/release/pelko
+[ "$outside" -eq 0 ] || [ -x "$released" ] || scripts/build.sh release
 while [ "$outside" -gt 0 ]; do
     round=$((outside < 300 ? outside : 300))
-    ASAN_OPTIONS=detect_leaks=0 /usr/bin/python3 tests/journeys/random_keys.py build/dev/pelko "$round" ${seed:+"$seed"}
+    /usr/bin/python3 tests/journeys/random_keys.py "$released" "$round" ${seed:+"$seed"} || status=1
     outside=$((outside - round))
 done
+exit "$status"
