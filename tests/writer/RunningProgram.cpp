@@ -5,7 +5,6 @@
 #include <QAnimationDriver>
 #include <QExposeEvent>
 #include <QGuiApplication>
-#include <QQmlIncubationController>
 #include <QVariantAnimation>
 
 using namespace Qt::StringLiterals;
@@ -104,15 +103,7 @@ void RunningProgram::pass(std::chrono::milliseconds time)
         ManualAnimations::shared().advance();
         processEvents();
     }
-    // Rows that are made ahead are otherwise made whenever the machine has time for them. They have a place
-    // once they are drawn.
-    QQmlIncubationController &rows = *m_engine.incubationController();
-    for (bool isMaking = true; isMaking;) {
-        draw(*m_window);
-        isMaking = rows.incubatingObjectCount() > 0;
-        while (rows.incubatingObjectCount() > 0)
-            rows.incubateFor(int(frame.count()));
-        ManualAnimations::shared().advance();
-        processEvents();
-    }
+    // New rows have a place once they are drawn.
+    draw(*m_window);
+    processEvents();
 }

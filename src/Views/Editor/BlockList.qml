@@ -238,7 +238,10 @@ FocusScope {
         anchors.fill: parent
         bottomMargin: Metrics.pageFoot
         boundsBehavior: Flickable.StopAtBounds
-        cacheBuffer: 400
+        // Rows made ahead of time are cancelled too late when the model shrinks: Qt complains.
+        cacheBuffer: 0
+        displayMarginBeginning: 400
+        displayMarginEnd: 400
         focus: true
         highlightFollowsCurrentItem: false
         interactive: false

@@ -41,6 +41,8 @@ Item {
         Accessible.role: Accessible.List
         anchors.fill: parent
         boundsBehavior: Flickable.StopAtBounds
+        // Rows made ahead of time are cancelled too late when the model shrinks: Qt complains.
+        cacheBuffer: 0
         clip: true
         keyNavigationEnabled: false
         model: root.navigation.pages
