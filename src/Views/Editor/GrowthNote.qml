@@ -9,6 +9,8 @@ GlassSurface {
     required property BlockText text
 
     readonly property int percent: text ? Math.floor(100 * text.shownLength / Math.max(1, text.content.length)) : 0
+    /// In milliseconds.
+    property int patience: 1000
     property bool isLate: false
 
     implicitHeight: Metrics.capsuleHeight
@@ -18,7 +20,7 @@ GlassSurface {
     onTextChanged: if (!text) isLate = false
 
     Timer {
-        interval: 1000
+        interval: root.patience
         running: root.text !== null && !root.isLate
         onTriggered: root.isLate = true
     }
