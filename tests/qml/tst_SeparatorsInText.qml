@@ -101,6 +101,18 @@ Item {
             compare(texts(), Array(6).fill("y" + row.text + "x"))
         }
 
+        function test_return_over_a_separator_splits_there_data() {
+            return separators().slice(0, 3)
+        }
+
+        function test_return_over_a_separator_splits_there(row) {
+            open([{ type: "textSmall", content: row.text }])
+            fields()[0].takeFocus(0)
+            fields()[0].select(3, 7)
+            keyClick(Qt.Key_Return)
+            compare(texts(), ["one", ""])
+        }
+
         function test_separators_are_drawn_as_line_breaks_data() {
             return separators().slice(0, 4)
         }

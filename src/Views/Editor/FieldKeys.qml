@@ -52,7 +52,7 @@ Item {
 
     function makeLine(event: KeyEvent) {
         const breaks = (event.modifiers & ~Qt.KeypadModifier) === Qt.ShiftModifier
-        event.accepted = breaks || content.includes("\n")
+        event.accepted = breaks || /[\n\r\u2028\u2029]/.test(content)
         if (event.accepted)
             breaks
                 ? keys.breakLine(row.blockID, todoID, field.selectionStart, field.selectionEnd)
