@@ -93,6 +93,13 @@ void EditorBench::replace(const QVariantList &blocks)
     m_appState.updateDocument(page);
 }
 
+void EditorBench::addTask(const QString &text)
+{
+    PelkoDocument page = m_appState.openDocument().value();
+    page.blocks.first().todos->append(TodoItem{.text = text});
+    m_appState.updateDocument(page);
+}
+
 QVariantList EditorBench::blocks() const
 {
     const PelkoDocument page = *m_appState.document(QUuid(m_editor->documentID()));

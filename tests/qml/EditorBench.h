@@ -30,6 +30,8 @@ public:
     Q_INVOKABLE void open(const QVariantList &blocks);
     /// Replaces the page from outside the editor.
     Q_INVOKABLE void replace(const QVariantList &blocks);
+    /// Adds an entry to the checklist that is the first block, from outside the editor.
+    Q_INVOKABLE void addTask(const QString &text);
     /// The page of the editor.
     Q_INVOKABLE QVariantList blocks() const;
     Q_INVOKABLE void advance(int milliseconds);

@@ -165,7 +165,7 @@ Item {
         function scrollAway() {
             // Where the page begins is a guess of the list until it is there.
             tryVerify(() => {
-                list.contentY = list.originY - list.topMargin
+                mouseWheel(page, page.width / 2, page.height / 2, 0, 12000)
                 settle()
                 return list.itemAtIndex(0) !== null
             })
@@ -205,6 +205,36 @@ Item {
                 keyClick(character)
             wait(600) // until the rules have grown
             verifyInSight("after the rules")
+        }
+
+        function test_return_in_a_block_that_was_added() {
+            open(Array.from({ length: 20 }, () => ({ type: "textSmall", content: "word" })))
+            bench.editor.addBlock("textSmall")
+            wait(600) // the glide to the block
+            keyClick(Qt.Key_Return)
+            wait(600) // until the row has grown
+            verifyInSight("after Return")
+        }
+
+        function test_what_comes_in_above_does_not_push_the_caret_out_of_sight() {
+            open([{ type: "sticky", todos: entries(1) }, ...Array.from({ length: 9 }, () => ({ type: "textSmall", content: "word" }))])
+            go(fields()[9], 0)
+            for (let task = 0; task < 10; ++task)
+                bench.addTask("task " + task)
+            wait(600)
+            verifyInSight("after the tasks")
+        }
+
+        function test_a_page_that_was_scrolled_stays_there_when_something_comes_in() {
+            open([{ type: "sticky", todos: entries(1) }, ...Array.from({ length: 60 }, () => ({ type: "textSmall", content: "word" }))])
+            go(fields()[0], 0)
+            for (let step = 0; step < 12; ++step)
+                mouseWheel(page, page.width / 2, page.height / 2, 0, -120)
+            const place = list.contentY
+            verify(place > 400, place)
+            bench.addTask("task")
+            wait(600)
+            verify(Math.abs(list.contentY - place) < 60, list.contentY)
         }
 
         function test_a_glide_that_is_interrupted_has_ended() {

@@ -17,6 +17,9 @@ Item {
     readonly property bool needed: ratio < 0.999
     property bool recentlyMoved: false
 
+    /// The view was moved by the bar.
+    signal moved
+
     width: 12
     visible: needed
     onPositionChanged: { recentlyMoved = true; rest.restart() }
@@ -64,6 +67,7 @@ Item {
 
         function scrollTo(y: real) : void {
             const part = Math.max(0, Math.min(1, (y - grabbedAt) / Math.max(1, bar.room)))
+            bar.moved()
             bar.flickable.contentY = bar.flickable.originY
                 + part * (bar.flickable.contentHeight - bar.flickable.height)
         }

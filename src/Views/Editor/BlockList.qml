@@ -63,8 +63,10 @@ FocusScope {
         walkFrom(forward ? -1 : list.count, forward)
     }
 
-    /// Scrolls just as far as it takes to see the caret, or the control that has the focus.
+    /// Scrolls just as far as it takes to see the caret, or the control that has the focus. What changes its height
+    /// later does not push it out of sight, until something else scrolls.
     function revealCaret() {
+        scroll.followsCaret = true
         list.forceLayout()
         layOutCurrent()
         const item = Window.activeFocusItem as Item
@@ -130,7 +132,6 @@ FocusScope {
         onFocusEntered: row => root.setCurrent(row)
         onMenuRequested: (row, item, position) => root.openMenu(row as BlockRow, item, position)
         onRevealRequested: reveal.start()
-        onRowGrew: row => { if (row < list.currentIndex && !scroll.gliding) reveal.start() }
         onWalkedOut: (row, forward) => root.walkFrom(row, forward)
     }
 
@@ -248,7 +249,6 @@ FocusScope {
         keyNavigationEnabled: false
         model: root.editor.blocks
         topMargin: root.editor.firstBlockIsBanner ? Metrics.bannerTop : Metrics.pageTop + root.air
-        onTopMarginChanged: scroll.followBeginning()
 
         delegate: BlockRowChooser {
             page: context
@@ -260,6 +260,7 @@ FocusScope {
 
         list: list
         onArrived: reveal.start()
+        onCaretMayHaveMoved: reveal.start()
         onEnded: root.editor.scrolled()
     }
 
@@ -278,6 +279,7 @@ FocusScope {
         anchors { bottom: parent.bottom; right: parent.right; top: parent.top }
         flickable: list
         visible: needed && !root.quiet
+        onMoved: scroll.followsCaret = false
     }
 
     BlockMenu {

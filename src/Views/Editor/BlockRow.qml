@@ -103,7 +103,6 @@ FocusScope {
         page.focusEntered(index)
         page.revealRequested()
     }
-    onGrowthChanged: page.rowGrew(index)
 
     ParallelAnimation {
         id: arrival

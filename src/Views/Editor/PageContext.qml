@@ -23,8 +23,6 @@ QtObject {
     signal walkedOut(int row, bool forward)
     /// The writer should see the caret.
     signal revealRequested
-    /// A new row takes more room than before, so the rows below move.
-    signal rowGrew(int row)
     /// Blocks are about to change places.
     signal reorderBegan
     /// All rows stand in their new places.

@@ -8,13 +8,18 @@ Item {
     required property ListView list
 
     property real margin: 0
+    /// Whether the caret is to stay in sight.
+    property bool followsCaret: false
 
     readonly property alias gliding: animation.running
+    readonly property real currentY: list.currentItem?.y ?? 0
 
     /// The glide has ended, in its place or because something else scrolls.
     signal ended
     /// The glide has ended in its place.
     signal arrived
+    /// The page or the view has changed its height while the caret is to stay in sight.
+    signal caretMayHaveMoved
 
     /// Where the list is, or glides to.
     function goal() : real {
@@ -40,7 +45,13 @@ Item {
             jump(Math.max(goal() + Math.min(above, below), list.originY - list.topMargin))
     }
 
+    function follow() {
+        if (followsCaret && !gliding)
+            caretMayHaveMoved()
+    }
+
     function scrollBy(distance: real) {
+        followsCaret = false
         jump(list.contentY + distance)
         list.returnToBounds()
     }
@@ -53,6 +64,25 @@ Item {
     }
 
     anchors.fill: list
+    Component.onCompleted: followBeginning()
+    onCurrentYChanged: follow()
+
+    Connections {
+        function onContentHeightChanged() {
+            root.follow()
+        }
+
+        function onHeightChanged() {
+            root.follow()
+        }
+
+        function onTopMarginChanged() {
+            root.followBeginning()
+            root.follow()
+        }
+
+        target: root.list
+    }
 
     WheelHandler {
         acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
