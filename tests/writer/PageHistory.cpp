@@ -3,12 +3,15 @@
 void PageHistory::add(const QList<PageModel::Stage> &stages)
 {
     for (const PageModel::Stage &stage : stages) {
-        if (stage.page == now())
+        const bool looksTheSame = stage.page == now();
+        if (looksTheSame && stage.isTyping)
             continue;
         const qsizetype last = *m_now.rbegin();
         m_states.resize(last + 1, m_states.first());
         m_states.append(stage);
-        m_now = {last + 1};
+        if (!looksTheSame)
+            m_now.clear();
+        m_now.insert(last + 1);
     }
 }
 
@@ -21,7 +24,7 @@ bool PageHistory::travel(const PlainPage &found, bool back)
             reached.insert(from);
         bool isTyping = true;
         for (qsizetype at = from; at != end && isTyping;) {
-            isTyping = m_states.at(back ? at : at + 1).isTyping;
+            isTyping = m_states.at(back ? at : at + 1).isTyping || isUnseen(back ? at : at + 1);
             if (!isTyping && at != from)
                 break;
             at += back ? -1 : 1;
@@ -30,6 +33,25 @@ bool PageHistory::travel(const PlainPage &found, bool back)
         }
     }
     if (!reached.empty())
-        m_now = reached;
+        m_now = withNeighbours(reached);
     return !reached.empty();
+}
+
+/// A change that cannot be seen, such as of a block for another empty one, may have been a step or not.
+std::set<qsizetype> PageHistory::withNeighbours(std::set<qsizetype> states) const
+{
+    for (qsizetype at = 1; at < m_states.size(); ++at) {
+        if (states.contains(at - 1) && isUnseen(at))
+            states.insert(at);
+    }
+    for (qsizetype at = m_states.size() - 1; at > 0; --at) {
+        if (states.contains(at) && isUnseen(at))
+            states.insert(at - 1);
+    }
+    return states;
+}
+
+bool PageHistory::isUnseen(qsizetype change) const
+{
+    return m_states.at(change).page == m_states.at(change - 1).page;
 }

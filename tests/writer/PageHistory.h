@@ -21,6 +21,10 @@ public:
     bool travel(const PlainPage &found, bool back);
 
 private:
+    std::set<qsizetype> withNeighbours(std::set<qsizetype> states) const;
+    /// Whether the page looked the same before the change that led to that state.
+    bool isUnseen(qsizetype change) const;
+
     QList<PageModel::Stage> m_states; // each with the change that led to it
     // A page can look the same at several times: all of them that it may be at.
     std::set<qsizetype> m_now{0};

@@ -213,7 +213,8 @@ void PageModel::returnKey(bool withShift)
 {
     if (!m_marked)
         return;
-    if (isCrossing()) {
+    const bool wasCrossing = isCrossing();
+    if (wasCrossing) {
         const Spot seam = removeMarked();
         m_marked = Marked{.anchor = seam, .head = seam};
     }
@@ -221,6 +222,8 @@ void PageModel::returnKey(bool withShift)
     const auto [start, end] = range();
     PlainBlock &block = m_page[at.block];
     if (at.entry < 0 && !isTextLike(block.kind)) {
+        if (wasCrossing)
+            settle(std::nullopt);
         m_marked.reset();
         return;
     }

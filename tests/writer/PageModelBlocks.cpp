@@ -25,9 +25,10 @@ void PageModel::deleteBlock(int block)
 {
     if (m_page.size() < 2)
         return;
+    const bool endsSelection = isCrossing() && m_marked->anchor.block == block;
     m_page.removeAt(block);
     std::optional<Spot> caret = lastingCaret();
-    if (caret && caret->block == block)
+    if (endsSelection || (caret && caret->block == block))
         caret.reset();
     else if (caret && caret->block > block)
         --caret->block;

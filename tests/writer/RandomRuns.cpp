@@ -74,7 +74,7 @@ void shrinkAndReport(const QString &seed, RecordedRun run, const QString &record
     const auto fails = [&](const QList<Action> &actions) {
         RecordedRun shorter{.startPages = run.startPages, .actions = actions, .fault = {}};
         writeRun(record, shorter);
-        shorter.fault = perform(QStringList{u"--replay"_s} + options, record, longestReplay);
+        shorter.fault = perform(QStringList{u"--replay"_s, record} + options, record, longestReplay);
         if (shorter.fault.isEmpty() || shorter.kindOfFault() != run.kindOfFault())
             return false;
         run.fault = shorter.fault;
@@ -85,7 +85,7 @@ void shrinkAndReport(const QString &seed, RecordedRun run, const QString &record
     writeRun(kept, run);
     report(u"Seed %1, shrunk to %2 actions"_s.arg(seed).arg(run.actions.size()), run);
     say(u"To play it again: ASAN_OPTIONS=detect_leaks=0 QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "
-        "%1 --replay --record %2"_s.arg(QCoreApplication::applicationFilePath(), kept));
+        "%1 --replay %2"_s.arg(QCoreApplication::applicationFilePath(), kept));
 }
 
 } // namespace

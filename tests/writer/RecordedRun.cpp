@@ -44,7 +44,8 @@ void writeRun(const QString &file, const RecordedRun &run)
 
 RunRecorder::RunRecorder(const QString &file, const QString &startPages) : m_file(file)
 {
-    QFile::remove(file);
+    if (!file.isEmpty())
+        QFile::remove(file);
     append(startMark.toByteArray() + startPages.toUtf8());
 }
 
@@ -60,6 +61,8 @@ void RunRecorder::add(const QString &fault)
 
 void RunRecorder::append(const QByteArray &line)
 {
+    if (m_file.isEmpty())
+        return;
     QFile output(m_file);
     if (output.open(QIODevice::WriteOnly | QIODevice::Append))
         output.write(line + '\n');

@@ -22,6 +22,7 @@ void writeRun(const QString &file, const RecordedRun &run);
 class RunRecorder
 {
 public:
+    /// Without a file, nothing is recorded.
     RunRecorder(const QString &file, const QString &startPages);
 
     void add(const Action &action);

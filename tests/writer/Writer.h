@@ -86,7 +86,8 @@ private:
     PageModel model() const;
     static Outcome outcomeOf(const PageModel &model);
     static Outcome elsewhere(const PageModel &model);
-    std::optional<QPointF> placeInField(const Action &action, int first, QQuickItem **field = nullptr) const;
+    std::optional<QPointF> placeInField(const Action &action, int first) const;
+    QList<Spot> spotsAt(QPointF place) const;
     QList<QQuickItem *> inSight(const QList<QQuickItem *> &items) const;
 
     QStringList m_ignored;

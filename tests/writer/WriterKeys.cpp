@@ -18,9 +18,11 @@ namespace
 constexpr int longestWayBack = 5'000;
 
 /// The page without tabs, to see whether anything else has changed.
-QString withoutTabs(const PlainPage &page)
+PlainPage withoutTabs(PlainPage page)
 {
-    return linesOf(page).join(u'\n').remove(u"\\u0009"_s);
+    for (PlainBlock &block : page)
+        block.text.remove(u'\t');
+    return page;
 }
 
 QString clipboardText()
@@ -66,6 +68,8 @@ Writer::Outcome Writer::changeByKey(const QString &keys, PageModel model) const
         return removeWord(model, keys == u"Ctrl+Del");
     if (keys == u"Ctrl+V" && !copiedPicture(m_system).isEmpty())
         return insertPicture(model);
+    if (keys == u"Ctrl+Shift+F") // a command of the window, which may have been scrolled away from the caret
+        return {.isKey = shown().caretOutOfSight().isEmpty()};
     if (keys.startsWith(u"Alt+"_s) && model.isCrossing())
         return moveAnyBlock(model);
     const int block = model.marked()->head.block;
@@ -104,7 +108,7 @@ Writer::Outcome Writer::changeByTab(const QString &keys, PageModel model) const
 {
     const PlainPage before = model.page();
     const auto selected = model.selectedText().value_or(QString());
-    if (before.at(model.marked()->head.block).kind != BlockType::code)
+    if (!model.isCrossing() && before.at(model.marked()->head.block).kind != BlockType::code)
         return {.isKey = true};
     if (keys == u"Tab" && selected.isEmpty() && !model.isCrossing()) {
         model.type(u"\t"_s);

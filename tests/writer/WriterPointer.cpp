@@ -56,7 +56,7 @@ QList<QQuickItem *> Writer::inSight(const QList<QQuickItem *> &items) const
 
 /// The place in a field that the three numbers from `first` on stand for. The right end of a field is left
 /// out, where the buttons of its block lie.
-std::optional<QPointF> Writer::placeInField(const Action &action, int first, QQuickItem **field) const
+std::optional<QPointF> Writer::placeInField(const Action &action, int first) const
 {
     const ShownPage page = shown();
     QList<QQuickItem *> fields = page.fields();
@@ -64,30 +64,41 @@ std::optional<QPointF> Writer::placeInField(const Action &action, int first, QQu
     fields.removeIf([&](const QQuickItem *item) { return seen(item).height() < 12; });
     if (fields.isEmpty())
         return std::nullopt;
-    QQuickItem *chosen = fields.at(choose(fields, action.number(first)));
-    if (field)
-        *field = chosen;
+    const QQuickItem *chosen = fields.at(choose(fields, action.number(first)));
     const QRectF place = seen(chosen).adjusted(1, 5, 0, -5);
     return QPointF(place.left() + 0.8 * place.width() * action.number(first + 1),
                    place.top() + place.height() * action.number(first + 2));
 }
 
+/// The fields that stand at that place; while blocks glide to new places there can be two.
+QList<Spot> Writer::spotsAt(QPointF place) const
+{
+    const ShownPage page = shown();
+    QList<Spot> spots;
+    for (const QQuickItem *field : page.fields()) {
+        if (inScene(*field).contains(place))
+            spots.append(page.placeOf(*field));
+    }
+    return spots;
+}
+
 Writer::Outcome Writer::clickField(const Action &action)
 {
     Hands hands(m_program->window());
-    QQuickItem *field = nullptr;
-    const auto place = placeInField(action, 0, &field);
+    const auto place = placeInField(action, 0);
     if (!place)
         return {};
-    const Spot clicked = shown().placeOf(*field);
+    const QList<Spot> clicked = spotsAt(*place);
     if (action.kind == Action::Kind::doubleClick)
         hands.doubleClick(*place);
     else
         hands.click(*place, action.kind == Action::Kind::shiftClick ? Qt::ShiftModifier : Qt::NoModifier);
     m_program->pass(clickTime);
     const QQuickItem *focused = shown().focusedField();
-    const bool isThere = focused && shown().placeOf(*focused).isInFieldOf(clicked);
-    if (!isThere && action.kind != Action::Kind::shiftClick)
+    const auto isThere = [&](const Spot &spot) {
+        return focused && shown().placeOf(*focused).isInFieldOf(spot);
+    };
+    if (std::ranges::none_of(clicked, isThere) && action.kind != Action::Kind::shiftClick)
         m_fault = u"caret: it is not in the text that was clicked"_s;
     return {};
 }

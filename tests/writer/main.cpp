@@ -28,9 +28,10 @@ struct Options {
     QStringList leftOut;
 };
 
-/// The run of that seed; the first line of a run that ends suddenly is in the file all the same.
-bool perform(const QString &startPages, const std::function<std::optional<Action>()> &next,
-             const Options &options)
+/// Performs a run; what was done before a sudden end is in the record all the same. Returns the fault, if
+/// any.
+std::optional<QString> perform(const QString &startPages, const std::function<std::optional<Action>()> &next,
+                               const Options &options)
 {
     RunRecorder recorder(options.record, startPages);
     Writer writer(startPages, options.ignored);
@@ -38,10 +39,10 @@ bool perform(const QString &startPages, const std::function<std::optional<Action
         recorder.add(*action);
         if (const auto fault = writer.perform(*action)) {
             recorder.add(*fault);
-            return false;
+            return fault;
         }
     }
-    return true;
+    return std::nullopt;
 }
 
 /// Run after run for so long. Each is recorded in place of the one before.
@@ -62,7 +63,7 @@ int write(quint32 seed, int seconds, const Options &options)
                 action = random.next();
             return action;
         };
-        if (!perform(names.at((seed + run) % names.size()), next, options))
+        if (perform(names.at((seed + run) % names.size()), next, options))
             return 1;
         std::printf("seed %u, run %u: %d actions\n", seed, run, actionsPerRun - std::max(left, 0));
         std::fflush(stdout);
@@ -70,14 +71,17 @@ int write(quint32 seed, int seconds, const Options &options)
     return 0;
 }
 
-int replay(const Options &options)
+int replay(const QString &file, const Options &options)
 {
-    const auto run = readRun(options.record);
+    const auto run = readRun(file);
     if (!run)
         return 2;
     auto action = run->actions.begin();
     const auto next = [&] { return action == run->actions.end() ? std::nullopt : std::optional(*action++); };
-    return perform(run->startPages, next, options) ? 0 : 1;
+    const auto fault = perform(run->startPages, next, options);
+    if (fault && options.record.isEmpty())
+        std::fprintf(stderr, "%s\n", fault->toUtf8().constData());
+    return fault ? 1 : 0;
 }
 
 } // namespace
@@ -97,7 +101,7 @@ int main(int argc, char **argv)
                       StartPages::names().join(u',')});
     parser.addOption({u"ignore"_s, u"Kinds of faults to take no notice of, such as \"file\"."_s, u"kinds"_s});
     parser.addOption({u"without"_s, u"Actions to leave out, such as \"compose\"."_s, u"actions"_s});
-    parser.addOption({u"replay"_s, u"Performs the recorded run again."_s});
+    parser.addOption({u"replay"_s, u"Performs a recorded run again."_s, u"file"_s});
     parser.addOption({u"write"_s, u"Writes in this process."_s});
     parser.process(application);
     const Options options{.record = parser.value(u"record"_s),
@@ -113,5 +117,7 @@ int main(int argc, char **argv)
     if (!isWriter)
         return writeAtRandom(seeds, seconds, handedOn) ? EXIT_SUCCESS : EXIT_FAILURE;
     Writer::watchConsole();
-    return parser.isSet(u"replay"_s) ? replay(options) : write(seeds.first().toUInt(), seconds, options);
+    if (parser.isSet(u"replay"_s))
+        return replay(parser.value(u"replay"_s), options);
+    return write(seeds.first().toUInt(), seconds, options);
 }
