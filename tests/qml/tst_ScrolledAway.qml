@@ -102,6 +102,31 @@ Item {
             compare(bench.blocks().length, 41)
         }
 
+        function test_a_selection_reaches_to_the_other_end_data() {
+            return [{ tag: "Ctrl+Home Ctrl+Shift+End", head: "paragraph 39" }, { tag: "Ctrl+End Ctrl+Shift+Home", head: "Head" }]
+        }
+
+        function test_a_selection_reaches_to_the_other_end(row) {
+            press(row.tag)
+            const head = page.Window.activeFocusItem
+            compare(head.text, row.head)
+            compare(head.selectedText, row.head)
+            press("Ctrl+C")
+            verify(bench.copied().startsWith("Head\n"), bench.copied())
+            verify(bench.copied().endsWith("paragraph 39"), bench.copied())
+        }
+
+        function test_a_row_that_scrolls_into_a_selection_shows_it() {
+            press("Ctrl+A")
+            press("Ctrl+A")
+            mouseWheel(page, page.width / 2, page.height / 2, 0, 12000)
+            wait(50)
+            compare(fieldSaying("Head").selectedText, "Head")
+            mouseWheel(page, page.width / 2, page.height / 2, 0, -24000)
+            wait(50)
+            compare(fieldSaying("paragraph 39").selectedText, "paragraph 39")
+        }
+
         function test_the_checklist_is_found_again() {
             press("Ctrl+End Ctrl+Home Down")
             compare(focused().text, "milk")

@@ -36,6 +36,8 @@ private:
     struct Outcome {
         QList<PageModel::Stage> stages = {};
         std::optional<Marked> marked = std::nullopt;
+        /// Where the selection begins that a key has moved the end of.
+        std::optional<Spot> anchor = std::nullopt;
         /// Where more than one result is right: tells whether the page found is one of them.
         std::function<bool(const PlainPage &found)> accepts = {};
         /// After a key the caret has to be in sight.

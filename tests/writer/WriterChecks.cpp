@@ -94,6 +94,9 @@ std::optional<QString> Writer::wrongInView(const Outcome &outcome)
         return u"caret: it is nowhere, expected in "_s + told(outcome.marked->head);
     if (outcome.marked && marked->head != outcome.marked->head)
         return u"caret: it is in "_s + told(marked->head) + u", expected in "_s + told(outcome.marked->head);
+    if (outcome.anchor && marked && marked->anchor != *outcome.anchor)
+        return u"selection: it begins in "_s + told(marked->anchor) + u", expected in "_s +
+               told(*outcome.anchor);
     if (const QString place = page.caretOutOfSight(); outcome.isKey && !place.isEmpty())
         return u"sight: "_s + place;
     return std::nullopt;

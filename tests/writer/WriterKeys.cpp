@@ -85,6 +85,8 @@ Writer::Outcome Writer::changeByKey(const QString &keys, PageModel model) const
         model.paste(clipboardText());
     else if (keys == u"Alt+Up" || keys == u"Alt+Down")
         model.moveBlock(block, block + (keys == u"Alt+Up" ? -1 : 1));
+    else if (keys.startsWith(u"Shift+"_s)) // and a key that moves the caret
+        return {.anchor = model.marked()->anchor, .isKey = true};
     else
         return {.isKey = true};
     return outcomeOf(model);

@@ -57,6 +57,7 @@ FieldCaret *PageCaret::field(const PassageID &passage)
         return nullptr;
     if (FieldCaret *found = m_fields.find(passage))
         return found;
+    const QScopedValueRollback moving(m_isMoving, true); // the view gives its focus to the row
     Q_EMIT rowNeeded(passage.blockID.toString(QUuid::WithoutBraces),
                      passage.todoID ? passage.todoID->toString(QUuid::WithoutBraces) : QString());
     return m_fields.find(passage);

@@ -91,15 +91,7 @@ TextEdit {
     onPreeditTextChanged: reportUnlessComposing()
     onTextChanged: reportUnlessComposing()
 
-    BlockText {
-        id: bridge
-
-        content: root.content
-        document: root.textDocument
-        lineHeight: root.lineHeight
-        onEdited: value => root.edited(value, root.cursorPosition)
-    }
-
+    // Above the text, because what is created later is completed first: it selects in a text that is there.
     FieldCaret {
         id: place
 
@@ -108,6 +100,15 @@ TextEdit {
         page: root.row?.page.caret ?? null
         todoID: root.todoID
         waits: bridge.isGrowing
+    }
+
+    BlockText {
+        id: bridge
+
+        content: root.content
+        document: root.textDocument
+        lineHeight: root.lineHeight
+        onEdited: value => root.edited(value, root.cursorPosition)
     }
 
     // Between two keys the page comes to where the caret is, as between two that are typed.
