@@ -4,9 +4,10 @@ void PageHistory::add(const QList<PageModel::Stage> &stages)
 {
     for (const PageModel::Stage &stage : stages) {
         const bool looksTheSame = stage.page == now();
-        if (looksTheSame && stage.isTyping)
-            continue;
         const qsizetype last = *m_now.rbegin();
+        const bool canRedo = last + 1 < m_states.size();
+        if (looksTheSame && (stage.isTyping || canRedo))
+            continue;
         m_states.resize(last + 1, m_states.first());
         m_states.append(stage);
         if (!looksTheSame)
