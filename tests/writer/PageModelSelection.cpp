@@ -131,8 +131,10 @@ std::optional<QString> PageModel::selectedText() const
     if (!isCrossing())
         return textAt(all.first().place)->sliced(all.first().start, all.first().end - all.first().start);
     QStringList lines;
+    bool hasPicture = false;
     for (const Part &part : all) {
         const PlainBlock &block = m_page.at(part.place.block);
+        hasPicture |= !block.picture.isEmpty();
         if (part.hasText)
             lines.append(textAt(part.place)->sliced(part.start, part.end - part.start));
         else if (block.kind == BlockType::divider)
@@ -142,5 +144,6 @@ std::optional<QString> PageModel::selectedText() const
         else if (block.kind == BlockType::sticky)
             lines.append(QString());
     }
-    return lines.isEmpty() ? std::nullopt : std::optional(lines.join(u'\n'));
+    // A picture takes the place of the text in the clipboard.
+    return lines.isEmpty() && !hasPicture ? std::nullopt : std::optional(lines.join(u'\n'));
 }

@@ -40,6 +40,8 @@ private:
         std::optional<Spot> anchor = std::nullopt;
         /// Where more than one result is right: tells whether the page found is one of them.
         std::function<bool(const PlainPage &found)> accepts = {};
+        /// The accepted page that undo may take back together with the keys around.
+        std::optional<PlainPage> acceptedAsTyping = {};
         /// After a key the caret has to be in sight.
         bool isKey = false;
     };

@@ -44,7 +44,7 @@ Writer::Fault Writer::checkPages(const Outcome &outcome)
     const PlainPage found = plainPage(document().blocks);
     const PlainPage expected = outcome.stages.isEmpty() ? m_pages.value(m_open) : outcome.stages.last().page;
     if (outcome.accepts && outcome.accepts(found))
-        m_history->add({{.page = found, .isTyping = false}});
+        m_history->add({{.page = found, .isTyping = outcome.acceptedAsTyping == found}});
     else if (found != expected)
         return u"page: the page is another than expected\n"_s + ::difference(expected, found);
     else

@@ -156,6 +156,8 @@ Writer::Outcome Writer::removeWord(PageModel model, bool forward) const
     };
     return {.accepts = [results, isLongWord](
                            const PlainPage &found) { return results.contains(found) || isLongWord(found); },
+            // A word of one character is removed like a character.
+            .acceptedAsTyping = results.value(0),
             .isKey = true};
 }
 
