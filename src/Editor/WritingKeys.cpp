@@ -2,59 +2,67 @@
 
 #include "Editor/BlockOperations.h"
 #include "Editor/JoinOperations.h"
-#include "Editor/LineOperations.h"
 
 #include <utility>
 
+namespace
+{
+
+FocusTarget caretAt(const PassageID &text, int offset)
+{
+    return {.blockID = text.blockID, .todoID = text.todoID, .caret = offset};
+}
+
+} // namespace
+
 WritingKeys::WritingKeys(Apply apply, QObject *parent) : QObject(parent), m_apply(std::move(apply)) {}
 
-void WritingKeys::joinBackwards(const QString &blockID, const QString &todoID)
+void WritingKeys::joinBackwards(const PassageID &text)
 {
-    m_apply([place = FocusTarget::at(blockID, todoID, 0)](PelkoDocument page) {
+    m_apply([place = caretAt(text, 0)](PelkoDocument page) {
         return JoinOperations::backwards(std::move(page), place);
     });
 }
 
-void WritingKeys::joinForwards(const QString &blockID, const QString &todoID)
+void WritingKeys::joinForwards(const PassageID &text)
 {
-    m_apply([place = FocusTarget::at(blockID, todoID, FocusTarget::atEnd)](PelkoDocument page) {
+    m_apply([place = caretAt(text, FocusTarget::atEnd)](PelkoDocument page) {
         return JoinOperations::forwards(std::move(page), place);
     });
 }
 
-void WritingKeys::remove(const QString &blockID, bool forward)
+void WritingKeys::remove(const QUuid &blockID, bool forward)
 {
-    m_apply([id = QUuid(blockID), forward](PelkoDocument page) {
-        return JoinOperations::remove(std::move(page), id, forward);
+    m_apply([blockID, forward](PelkoDocument page) {
+        return JoinOperations::remove(std::move(page), blockID, forward);
     });
 }
 
-void WritingKeys::breakLine(const QString &blockID, const QString &todoID, int start, int end)
+void WritingKeys::applyToLines(LineOperation operation, const PassageID &text, Stretch selected)
 {
-    m_apply([field = FocusTarget::at(blockID, todoID, start), start, end](PelkoDocument page) {
-        return LineOperations::breakLine(std::move(page), field, {.start = start, .end = end});
+    m_apply([operation, field = caretAt(text, selected.start), selected](PelkoDocument page) {
+        return operation(std::move(page), field, selected);
     });
 }
 
-void WritingKeys::split(const QString &blockID, const QString &todoID, int start, int end)
+void WritingKeys::breakLine(const PassageID &text, Stretch selected)
 {
-    m_apply([field = FocusTarget::at(blockID, todoID, start), start, end](PelkoDocument page) {
-        return LineOperations::split(std::move(page), field, {.start = start, .end = end});
-    });
+    applyToLines(LineOperations::breakLine, text, selected);
 }
 
-void WritingKeys::indent(const QString &blockID, int start, int end)
+void WritingKeys::split(const PassageID &text, Stretch selected)
 {
-    m_apply([field = FocusTarget::at(blockID, {}, start), start, end](PelkoDocument page) {
-        return LineOperations::indent(std::move(page), field, {.start = start, .end = end});
-    });
+    applyToLines(LineOperations::split, text, selected);
 }
 
-void WritingKeys::unindent(const QString &blockID, int start, int end)
+void WritingKeys::indent(const PassageID &text, Stretch selected)
 {
-    m_apply([field = FocusTarget::at(blockID, {}, start), start, end](PelkoDocument page) {
-        return LineOperations::unindent(std::move(page), field, {.start = start, .end = end});
-    });
+    applyToLines(LineOperations::indent, text, selected);
+}
+
+void WritingKeys::unindent(const PassageID &text, Stretch selected)
+{
+    applyToLines(LineOperations::unindent, text, selected);
 }
 
 void WritingKeys::writeBelow()

@@ -19,7 +19,6 @@ class ShellCommands : public QObject
     Q_PROPERTY(bool hasMenuBar READ hasMenuBar CONSTANT)
     Q_PROPERTY(bool showShortcuts READ showShortcuts NOTIFY showShortcutsChanged)
     Q_PROPERTY(QList<ShortcutLine> commandKeys READ commandKeys CONSTANT)
-    Q_PROPERTY(QList<ShortcutLine> writingKeys READ writingKeys CONSTANT)
 
 public:
     ShellCommands(AppState &appState, NavigationViewModel &navigation, MenuPlace place = MenuPlace::window,
@@ -36,7 +35,6 @@ public:
     /// The sheet that lists all keys is open.
     bool showShortcuts() const { return m_showShortcuts; }
     QList<ShortcutLine> commandKeys() const { return ::commandKeys(m_place); }
-    QList<ShortcutLine> writingKeys() const { return ::writingKeys(); }
 
     /// Gives the command of that id. One that is unknown or disabled does nothing.
     Q_INVOKABLE void run(const QString &id);

@@ -22,5 +22,5 @@ public:
 /// The keys of the commands, from their table.
 QList<ShortcutLine> commandKeys(MenuPlace place);
 
-/// The keys of the page, and what is typed at the start of an empty line.
-QList<ShortcutLine> writingKeys();
+/// What is typed at the start of an empty line to make it a block of another kind.
+QList<ShortcutLine> typingMarkers();

@@ -36,12 +36,13 @@ private Q_SLOTS:
         };
         row("key", [](auto &editor) { editor.typed(id('B'), u"onextwo"_s, 4); });
         row("split", [](auto &editor) { editor.typed(id('B'), u"one\ntwo"_s, 4); });
-        row("join", [](auto &editor) { editor.keys()->joinBackwards(id('B'), {}); });
-        row("join of an entry", [](auto &editor) { editor.keys()->joinBackwards(id('D'), id('y')); });
-        row("join from below", [](auto &editor) { editor.keys()->joinForwards(id('A'), {}); });
-        row("a picture by key", [](auto &editor) { editor.keys()->remove(id('C'), true); });
-        row("line break", [](auto &editor) { editor.keys()->breakLine(id('B'), {}, 3, 3); });
-        row("line", [](auto &editor) { editor.keys()->split(id('B'), {}, 3, 3); });
+        row("join", [](auto &editor) { editor.keys()->joinBackwards({QUuid(id('B'))}); });
+        row("join of an entry",
+            [](auto &editor) { editor.keys()->joinBackwards({QUuid(id('D')), QUuid(id('y'))}); });
+        row("join from below", [](auto &editor) { editor.keys()->joinForwards({QUuid(id('A'))}); });
+        row("a picture by key", [](auto &editor) { editor.keys()->remove(QUuid(id('C')), true); });
+        row("line break", [](auto &editor) { editor.keys()->breakLine({QUuid(id('B'))}, {3, 3}); });
+        row("line", [](auto &editor) { editor.keys()->split({QUuid(id('B'))}, {3, 3}); });
         row("adding", [](auto &editor) { editor.addBlock(u"quote"_s); });
         row("adding a checklist", [](auto &editor) { editor.addBlock(u"sticky"_s); });
         row("moving", [](auto &editor) { editor.moveBlock(id('B'), 1); });
@@ -140,7 +141,7 @@ private Q_SLOTS:
     {
         edit({block('A', BlockType::divider), block('B', body, u"text"_s)});
         const PelkoDocument before = stored();
-        editor->keys()->joinBackwards(id('B'), {});
+        editor->keys()->joinBackwards({QUuid(id('B'))});
         QCOMPARE(takeLastFocused(), u"A@end"_s);
         editor->keys()->writeBelow();
         QCOMPARE(takeLastFocused(), u"B@end"_s);
@@ -163,7 +164,7 @@ private Q_SLOTS:
     {
         edit({block('A', body, u"one"_s), block('B', body, u"two"_s)});
         editor->caretMoved(id('B'), {}, 0);
-        editor->keys()->joinBackwards(id('B'), {});
+        editor->keys()->joinBackwards({QUuid(id('B'))});
         QCOMPARE(takeLastFocused(), u"A@3"_s);
         editor->undo();
         QCOMPARE(lines(stored()), (QStringList{u"A textSmall \"one\""_s, u"B textSmall \"two\""_s}));

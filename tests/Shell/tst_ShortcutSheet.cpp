@@ -15,7 +15,7 @@ QList<ShortcutLine> linesUnder(const QString &heading)
 {
     QList<ShortcutLine> found;
     QString current;
-    for (const ShortcutLine &line : commandKeys(MenuPlace::window) + writingKeys()) {
+    for (const ShortcutLine &line : commandKeys(MenuPlace::window) + typingMarkers()) {
         if (line.keys.isEmpty())
             current = line.title;
         else if (current == heading)
@@ -68,14 +68,6 @@ private Q_SLOTS:
         QCOMPARE(titles(linesUnder(u"Keeping"_s)),
                  (QStringList{u"Export…"_s, u"Export everything…"_s, u"Copy page as Markdown"_s,
                               u"Keyboard Shortcuts"_s, u"Quit"_s}));
-    }
-
-    void noKeyOfThePageIsTakenByACommand()
-    {
-        for (const ShortcutLine &line : linesUnder(u"Writing"_s)) {
-            for (const MenuCommand &command : menuCommands())
-                QVERIFY2(line.keys.join(u'+') != command.shortcut, qPrintable(line.title));
-        }
     }
 
     void whatIsTypedBecomesWhatIsSaid_data()

@@ -125,11 +125,9 @@ Spot ShownPage::spotOf(const QUuid &blockID, const std::optional<QUuid> &todoID,
 
 Spot ShownPage::placeOf(const QQuickItem &field) const
 {
-    const QObject *row = objectOf(field, "row");
     const QString todo = field.property("todoID").toString();
-    return row ? spotOf(QUuid(row->property("blockID").toString()),
-                        todo.isEmpty() ? std::nullopt : std::optional(QUuid(todo)), 0)
-               : Spot{.block = -1};
+    return spotOf(QUuid(field.property("blockID").toString()),
+                  todo.isEmpty() ? std::nullopt : std::optional(QUuid(todo)), 0);
 }
 
 int ShownPage::blockOf(const QQuickItem *item) const

@@ -5,16 +5,12 @@ import Pelko
 WritingField {
     id: root
 
-    /// The writer is done with the title.
-    signal finished
-
     Accessible.description: placeholder
     Accessible.multiLine: false
     Accessible.name: qsTr("Banner title")
-    Keys.onEnterPressed: finished()
-    Keys.onReturnPressed: finished()
     color: FirePalette.inkHeading
     font: Typography.bannerTitle
+    isSingleLine: true
     lineHeight: Typography.bannerTitleLine
     placeholder: qsTr("Untitled")
 }

@@ -3,8 +3,6 @@ import Pelko
 
 /// What the row of a block asks of the editor of its kind.
 FocusScope {
-    required property Item keys
-
     /// How far below the top its first line stands, which is where the grip is.
     property real firstLine: Math.min(height, Metrics.gripHeight) / 2
 

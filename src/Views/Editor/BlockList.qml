@@ -80,17 +80,6 @@ FocusScope {
         return Qt.rect(place.x, place.y - list.currentRow.glide, place.width, place.height)
     }
 
-    /// What is typed where there is no field goes on at the end of the page.
-    function writesOn(event: KeyEvent) : bool {
-        const isText = event.text >= " " && event.text !== "\u007f"
-        const writes = isText && !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier))
-        if (writes)
-            editor.keys.writeBelow()
-        if (writes)
-            (Window.activeFocusItem as WritingField)?.type(event.text)
-        return writes
-    }
-
     /// Above the first block there is the air that belongs to it.
     function bringIntoSight(row: int) {
         const from = list.contentY
@@ -148,11 +137,13 @@ FocusScope {
         id: pageCaret
 
         pageStep: list.height - Metrics.pageTop - Metrics.pageFoot
-        selection: root.editor.selection
+        editor: root.editor
         view: list
         onKeyPressed: reveal.start()
+        onMenuRequested: list.currentRow?.openMenu()
         onRowNeeded: (blockID, todoID) => root.makeRow(blockID, todoID)
         onScrollRequested: distance => root.scrollBy(distance)
+        onWalkRequested: forward => list.currentRow?.walk(forward)
         onShowRequested: item => scroll.show(list.contentItem.mapFromItem(item, 0, 0, item.width, item.height))
     }
 
@@ -235,7 +226,6 @@ FocusScope {
 
         Accessible.name: qsTr("Page")
         Accessible.role: Accessible.Document
-        Keys.onPressed: event => event.accepted = root.writesOn(event)
         anchors.fill: parent
         bottomMargin: Metrics.pageFoot
         boundsBehavior: Flickable.StopAtBounds

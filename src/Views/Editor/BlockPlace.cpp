@@ -6,7 +6,6 @@
 
 void BlockPlace::componentComplete()
 {
-    m_item->installEventFilter(this);
     m_page->add(*this);
 }
 
@@ -18,21 +17,24 @@ void BlockPlace::setCovered(bool covered)
     Q_EMIT coveredChanged();
 }
 
+const QQuickItem *BlockPlace::focused() const
+{
+    return isOnPage() ? m_item->window()->activeFocusItem() : nullptr;
+}
+
 bool BlockPlace::hasFocus() const
 {
-    const QQuickItem *focused = isOnPage() ? m_item->window()->activeFocusItem() : nullptr;
-    return focused && (focused == m_item || focused == m_control);
+    const QQuickItem *item = focused();
+    return item && (item == m_item || item == m_control);
+}
+
+bool BlockPlace::hasFocusItself() const
+{
+    return m_item && focused() == m_item;
 }
 
 void BlockPlace::takeFocus() const
 {
     if (m_control)
         m_control->forceActiveFocus(Qt::TabFocusReason);
-}
-
-bool BlockPlace::eventFilter(QObject *, QEvent *event)
-{
-    // Keys that a field or a control has left unused come by here as well.
-    const bool isMine = event->type() == QEvent::KeyPress && hasFocus();
-    return isMine && m_page->keys().pressed(*this, *static_cast<QKeyEvent *>(event));
 }

@@ -6,8 +6,7 @@
 
 class PageCaret;
 
-/// Where a block stands on the page and whether it is selected as a whole. A block without text gives the
-/// keys that move the caret to the page, also from the control that stands for it.
+/// Where a block stands on the page and whether it is selected as a whole.
 class BlockPlace : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
@@ -15,6 +14,7 @@ class BlockPlace : public QObject, public QQmlParserStatus
     Q_INTERFACES(QQmlParserStatus)
     Q_PROPERTY(PageCaret *page MEMBER m_page REQUIRED)
     Q_PROPERTY(QString blockID MEMBER m_blockID REQUIRED)
+    Q_PROPERTY(QQuickItem *row MEMBER m_row REQUIRED)
     Q_PROPERTY(QQuickItem *item MEMBER m_item REQUIRED)
     Q_PROPERTY(QQuickItem *control MEMBER m_control)
     Q_PROPERTY(bool covered READ isCovered NOTIFY coveredChanged)
@@ -26,16 +26,18 @@ public:
     QUuid id() const { return QUuid(m_blockID); }
     /// A row that has left the view is in no window any more, even before it is destroyed.
     bool isOnPage() const { return m_page && m_item && m_item->window(); }
+    /// With the controls beside the block.
+    QQuickItem *row() const { return m_row; }
     QQuickItem *item() const { return m_item; }
     bool isCovered() const { return m_isCovered; }
     void setCovered(bool covered);
 
-    /// Whether it has the keyboard as a whole, and not in a field.
+    /// Whether it has the keyboard itself, or the control that stands for it.
     bool hasFocus() const;
+    bool hasFocusItself() const;
     /// Gives the keyboard to the control that stands for the block.
     void takeFocus() const;
 
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void classBegin() override {}
     void componentComplete() override;
 
@@ -43,8 +45,11 @@ Q_SIGNALS:
     void coveredChanged();
 
 private:
+    const QQuickItem *focused() const;
+
     QPointer<PageCaret> m_page;
     QString m_blockID;
+    QPointer<QQuickItem> m_row;
     QPointer<QQuickItem> m_item;
     QPointer<QQuickItem> m_control;
     bool m_isCovered = false;

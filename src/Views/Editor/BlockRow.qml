@@ -46,46 +46,9 @@ FocusScope {
         stop.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason)
     }
 
-    /// A block that has the focus itself, and not in a field or control of its own, goes with one key.
-    function removes(event: KeyEvent) : bool {
-        const whole = block.control ?? block
-        const removes = Window.activeFocusItem === whole && [Qt.Key_Backspace, Qt.Key_Delete].includes(event.key)
-        if (removes)
-            page.editor.keys.remove(blockID, event.key === Qt.Key_Delete)
-        return removes
-    }
-
-    function pastes(event: KeyEvent) : bool {
-        const isControlV = event.key === Qt.Key_V && event.modifiers === Qt.ControlModifier
-        const isShiftInsert = event.key === Qt.Key_Insert && event.modifiers === Qt.ShiftModifier
-        return (isControlV || isShiftInsert) && page.editor.pastePicture(blockID)
-    }
-
-    function opensMenu(event: KeyEvent) : bool {
-        const opens = event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier
-        if (opens)
-            openMenu()
-        return opens
-    }
-
     function openMenu() {
         page.menuRequested(root, block, Qt.point(0, block.height))
     }
-
-    function moveBlock(event: KeyEvent, rows: int) {
-        event.accepted = event.modifiers === Qt.AltModifier
-        if (!event.accepted)
-            return
-        page.editor.moveBlock(blockID, rows)
-        page.revealRequested()
-    }
-
-    Keys.onBacktabPressed: walk(false)
-    Keys.onMenuPressed: openMenu()
-    Keys.onPressed: event => event.accepted = pastes(event) || opensMenu(event) || removes(event)
-    Keys.onDownPressed: event => moveBlock(event, 1)
-    Keys.onUpPressed: event => moveBlock(event, -1)
-    Keys.onTabPressed: walk(true)
 
     ListView.onAdd: arrival.start()
     transform: RowSlide {
@@ -168,6 +131,7 @@ FocusScope {
         blockID: root.blockID
         caret: root.page.caret
         kind: root.kind
+        row: root
     }
 
     BlockGrip {
@@ -191,7 +155,6 @@ FocusScope {
         anchors { right: body.right; rightMargin: root.hasImage ? Metrics.space8 : 0 }
         backdrop: root.hasImage ? body : null
         isBanner: root.isFullWidth
-        keys: root
         offersBanner: root.hasImage
         offersDelete: root.canDelete
         pointedAt: root.pointedAt

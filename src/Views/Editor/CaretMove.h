@@ -1,9 +1,5 @@
 #pragma once
 
-#include <optional>
-
-class QKeyEvent;
-
 /// The ways a caret can go.
 enum class CaretMove {
     left,
@@ -29,10 +25,7 @@ bool isVertical(CaretMove move);
 
 /// What a key does to the caret.
 struct CaretKey {
-    CaretMove move;
+    CaretMove move = CaretMove::left;
     /// The selection goes along.
-    bool extends;
+    bool extends = false;
 };
-
-/// Nothing when the key is not one that moves the caret on this system.
-std::optional<CaretKey> caretKey(const QKeyEvent &event);

@@ -8,7 +8,6 @@ BlockEditor {
     Accessible.focusable: true
     Accessible.name: BlockKinds.divider.tip
     Accessible.role: Accessible.Separator
-    Keys.forwardTo: [keys]
     activeFocusOnTab: true
     implicitHeight: 1
 

@@ -11,6 +11,5 @@ BlockRow {
 
         anchors.fill: parent
         focus: true
-        keys: root
     }
 }

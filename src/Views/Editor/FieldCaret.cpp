@@ -66,7 +66,35 @@ BlockSelection FieldCaret::selection() const
 
 bool FieldCaret::isAllSelected() const
 {
-    return m_isCut || qAbs(anchor() - caret()) == field().property("length").toInt();
+    return m_isCut || qAbs(anchor() - caret()) == length();
+}
+
+LineOperations::Stretch FieldCaret::stretch() const
+{
+    return {.start = std::min(anchor(), caret()), .end = std::max(anchor(), caret())};
+}
+
+int FieldCaret::length() const
+{
+    return field().property("length").toInt();
+}
+
+QString FieldCaret::textBetween(int start, int end) const
+{
+    QString found;
+    for (int position = start; position < end; ++position)
+        found += text().characterAt(position);
+    return found;
+}
+
+void FieldCaret::insert(int position, const QString &text)
+{
+    QMetaObject::invokeMethod(&field(), "insert", Q_ARG(int, position), Q_ARG(QString, text));
+}
+
+void FieldCaret::remove(int start, int end)
+{
+    QMetaObject::invokeMethod(&field(), "remove", Q_ARG(int, start), Q_ARG(int, end));
 }
 
 bool FieldCaret::follows(const CaretKey &key) const
@@ -88,7 +116,7 @@ QRectF FieldCaret::rectangleAt(int offset) const
 void FieldCaret::select(int anchor, int caret)
 {
     m_wanted.reset();
-    const int length = field().property("length").toInt();
+    const int length = this->length();
     if (m_waits && std::max(anchor, caret) > length) {
         m_wanted = {anchor, caret};
         return;

@@ -2,6 +2,7 @@
 
 #include "CaretMove.h"
 #include "Editor/BlockSelection.h"
+#include "Editor/LineOperations.h"
 #include "WaitingInput.h"
 
 #include <QPointer>
@@ -24,6 +25,7 @@ class FieldCaret : public QObject, public QQmlParserStatus
     Q_PROPERTY(bool waits READ waits WRITE setWaits NOTIFY waitsChanged)
     Q_PROPERTY(bool hasWaitingInput READ hasWaitingInput NOTIFY waitingInputChanged)
     Q_PROPERTY(bool isCut MEMBER m_isCut)
+    Q_PROPERTY(bool isSingleLine MEMBER m_isSingleLine)
     Q_PROPERTY(bool selectedEmpty READ isSelectedEmpty NOTIFY selectedEmptyChanged)
     QML_ELEMENT
 
@@ -36,6 +38,10 @@ public:
     bool isOnPage() const { return m_page && field().window(); }
     const QTextDocument &text() const;
     bool hasFocus() const { return field().hasActiveFocus(); }
+    /// Return ends the writing instead of breaking a line.
+    bool isSingleLine() const { return m_isSingleLine; }
+    /// Whether the end of the text is not shown.
+    bool isCut() const { return m_isCut; }
     /// Whether more of the text is to be shown.
     bool waits() const { return m_waits; }
     void setWaits(bool waits);
@@ -49,7 +55,13 @@ public:
     int caret() const;
     int anchor() const;
     BlockSelection selection() const;
+    LineOperations::Stretch stretch() const;
     bool isAllSelected() const;
+    /// Of the text that is shown, in UTF-16 units.
+    int length() const;
+    QString textBetween(int start, int end) const;
+    void insert(int position, const QString &text);
+    void remove(int start, int end);
     /// Whether an input method has preedit text in the field.
     bool isComposing() const { return !field().property("preeditText").toString().isEmpty(); }
     /// Whether the field can follow that key by itself.
@@ -73,6 +85,8 @@ Q_SIGNALS:
     void waitsChanged();
     void waitingInputChanged();
     void selectedEmptyChanged();
+    /// Return was pressed in a field of one line.
+    void finished();
 
 private:
     void showPart(const SelectedPart &part, const std::optional<BlockSelection> &selection);
@@ -88,6 +102,7 @@ private:
     bool m_isSelectedEmpty = false;
     bool m_waits = false;
     bool m_isCut = false;
+    bool m_isSingleLine = false;
     bool m_isSending = false;
     WaitingInput m_waiting;
     /// The end of the selection where the caret is to stand, and before it the other one.

@@ -13,7 +13,6 @@ Row {
     required property bool offersBanner
     required property bool isBanner
     required property bool offersDelete
-    required property Item keys
     /// What is seen through their glass.
     property Item backdrop: null
 
@@ -33,7 +32,6 @@ Row {
     BannerToggleButton {
         id: toggle
 
-        Keys.forwardTo: [root.keys]
         backdrop: root.backdrop
         isBanner: root.isBanner
         visible: root.offersBanner
@@ -43,7 +41,6 @@ Row {
     BubblyDeleteButton {
         id: remove
 
-        Keys.forwardTo: [root.keys]
         backdrop: root.backdrop
         visible: root.offersDelete
         onTriggered: root.deleteRequested()

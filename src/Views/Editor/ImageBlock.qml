@@ -6,10 +6,10 @@ import Pelko
 BlockEditor {
     id: root
 
+    required property PageContext page
     required property string blockID
     required property bool hasImage
     required property pictureBytes imageData
-    required property ImageCache images
     required property bool isBanner
     required property string bannerTitle
     property real spread: 0
@@ -31,7 +31,6 @@ BlockEditor {
     Accessible.ignored: !hasImage
     Accessible.name: isBanner ? BlockKinds.banner.tip : BlockKinds.image.tip
     Accessible.role: Accessible.Graphic
-    Keys.forwardTo: [keys]
     activeFocusOnTab: hasImage && !isBanner
     control: hasImage ? null : add
     implicitHeight: inColumn + (Metrics.bannerHeight - inColumn) * spread
@@ -43,7 +42,7 @@ BlockEditor {
         blockID: root.blockID
         height: parent.height
         imageData: root.imageData
-        images: root.images
+        images: root.page.images
         opacity: ready ? 1 : 0
         radius: Metrics.pictureRadius * Math.max(0, 1 - root.spread)
         width: root.isBanner || aspectRatio <= Metrics.highestPicture ? parent.width : Math.max(1, height / aspectRatio)
@@ -63,10 +62,11 @@ BlockEditor {
         id: title
 
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Metrics.bannerPadding }
+        blockID: root.blockID
         content: root.bannerTitle
         focus: root.isBanner
-        keys: root.keys
         opacity: Math.min(1, root.spread)
+        page: root.page
         visible: root.isBanner
         onEdited: (value, caret) => root.titleEdited(value, caret)
         onFinished: root.titleFinished()
@@ -75,7 +75,6 @@ BlockEditor {
     AddImageButton {
         id: add
 
-        Keys.forwardTo: [root.keys]
         focus: !root.hasImage
         visible: !root.hasImage
         width: parent.width

@@ -28,9 +28,8 @@ BlockRow {
         focus: true
         hasImage: root.hasImage
         imageData: root.imageData
-        images: root.page.images
         isBanner: root.isBanner
-        keys: root
+        page: root.page
         spread: spread.value
         onImageRequested: root.page.editor.imageImport.addImage(root.blockID)
         onTitleEdited: (value, caret) => root.page.editor.typedBannerTitle(root.blockID, value, caret)

@@ -7,6 +7,7 @@
 
 #include <QScopedValueRollback>
 
+#include <algorithm>
 #include <limits>
 
 namespace
@@ -27,15 +28,25 @@ bool isText(const Passages &passages, const PassageID &id)
 
 PageCaret::PageCaret(QObject *parent) : QObject(parent) {}
 
-void PageCaret::setSelection(PageSelection *selection)
+void PageCaret::setEditor(EditorViewModel *editor)
 {
-    if (m_selection == selection)
+    if (m_editor == editor)
         return;
     if (m_selection)
         m_selection->disconnect(this);
-    m_selection = selection;
+    m_editor = editor;
+    m_selection = editor->selection();
     connect(m_selection, &PageSelection::changed, this, &PageCaret::showSelection);
-    Q_EMIT selectionChanged();
+    Q_EMIT editorChanged();
+}
+
+void PageCaret::setView(QQuickItem *view)
+{
+    if (m_view == view)
+        return;
+    m_view = view;
+    m_keyFilter.watch(*view);
+    Q_EMIT viewChanged();
 }
 
 void PageCaret::add(FieldCaret &field)
@@ -61,6 +72,21 @@ FieldCaret *PageCaret::field(const PassageID &passage)
     Q_EMIT rowNeeded(passage.blockID.toString(QUuid::WithoutBraces),
                      passage.todoID ? passage.todoID->toString(QUuid::WithoutBraces) : QString());
     return m_fields.find(passage);
+}
+
+bool PageCaret::isField(const QQuickItem &item) const
+{
+    return std::ranges::any_of(m_fields.all(),
+                               [&](const FieldCaret *field) { return &field->field() == &item; });
+}
+
+const BlockPlace *PageCaret::blockAround(const QQuickItem &item) const
+{
+    const QList<BlockPlace *> blocks = m_blocks.all();
+    const auto found = std::ranges::find_if(blocks, [&](const BlockPlace *block) {
+        return block->row() == &item || block->row()->isAncestorOf(&item);
+    });
+    return found == blocks.end() ? nullptr : *found;
 }
 
 void PageCaret::showSelection()

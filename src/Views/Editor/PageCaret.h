@@ -1,6 +1,7 @@
 #pragma once
 
-#include "Editor/PageSelection.h"
+#include "Editor/EditorViewModel.h"
+#include "PageKeyFilter.h"
 #include "PageKeys.h"
 #include "PageMembers.h"
 #include "PointerSelection.h"
@@ -16,8 +17,8 @@ class FieldCaret;
 class PageCaret : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(PageSelection *selection READ selection WRITE setSelection NOTIFY selectionChanged REQUIRED)
-    Q_PROPERTY(QQuickItem *view MEMBER m_view REQUIRED)
+    Q_PROPERTY(EditorViewModel *editor READ editor WRITE setEditor NOTIFY editorChanged REQUIRED)
+    Q_PROPERTY(QQuickItem *view READ viewItem WRITE setView NOTIFY viewChanged REQUIRED)
     Q_PROPERTY(qreal pageStep MEMBER m_pageStep REQUIRED)
     Q_PROPERTY(qreal pull READ pull NOTIFY pullChanged)
     QML_ELEMENT
@@ -25,10 +26,13 @@ class PageCaret : public QObject
 public:
     explicit PageCaret(QObject *parent = nullptr);
 
+    EditorViewModel *editor() const { return m_editor; }
+    void setEditor(EditorViewModel *editor);
     PageSelection *selection() const { return m_selection; }
-    void setSelection(PageSelection *selection);
     /// The scrolling view that the fields stand in.
     QQuickItem &view() const { return *m_view; }
+    QQuickItem *viewItem() const { return m_view; }
+    void setView(QQuickItem *view);
     /// How far the keys that turn a page go.
     qreal pageStep() const { return m_pageStep; }
     /// How far the pointer has pulled a selection over an edge of the view; negative above.
@@ -41,6 +45,9 @@ public:
 
     /// The field of that passage, for which the view makes the row if need be; null for one without text.
     FieldCaret *field(const PassageID &passage);
+    bool isField(const QQuickItem &item) const;
+    /// The block in whose row that item is; null outside of all rows.
+    const BlockPlace *blockAround(const QQuickItem &item) const;
     /// The field that has the focus, or had it last; null when it has left the page.
     FieldCaret *current() const;
     /// The place on the page, among the rows that the view has made, nearest to a point in the view.
@@ -67,7 +74,8 @@ public:
     Q_INVOKABLE void carryOn() { m_pointer.carryOn(); }
 
 Q_SIGNALS:
-    void selectionChanged();
+    void editorChanged();
+    void viewChanged();
     void pullChanged();
     /// The row of that block, and the field of that entry if there is one, have to be made and brought into
     /// sight.
@@ -76,12 +84,17 @@ Q_SIGNALS:
     void scrollRequested(qreal distance);
     /// The writer pressed a key, so the caret has to be in sight.
     void keyPressed();
+    /// The keyboard goes on to the next control of the row that has the focus, or to the next row.
+    void walkRequested(bool forward);
+    /// The menu of the block that has the focus is to be opened.
+    void menuRequested();
 
 private:
     void focus(FieldCaret &field);
     void focusBlock(const QUuid &blockID);
     void showSelection();
 
+    QPointer<EditorViewModel> m_editor;
     QPointer<PageSelection> m_selection;
     QPointer<QQuickItem> m_view;
     qreal m_pageStep = 0;
@@ -90,5 +103,6 @@ private:
     QPointer<FieldCaret> m_current;
     bool m_isMoving = false;
     PageKeys m_keys{*this};
+    PageKeyFilter m_keyFilter{*this};
     PointerSelection m_pointer{*this};
 };

@@ -2,13 +2,21 @@
 
 #include "BlockPlace.h"
 #include "Composition.h"
+#include "Editor/EditorViewModel.h"
+#include "EditorKeys.h"
 #include "FieldCaret.h"
+#include "FieldKeys.h"
 #include "PageCaret.h"
-#include "SelectionKeys.h"
 
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QQuickWindow>
+
+EditorViewModel &PageKeys::editor() const
+{
+    return *m_page.editor();
+}
 
 PageSelection &PageKeys::selection() const
 {
@@ -38,39 +46,22 @@ void PageKeys::collapse(bool toEnd)
 
 bool PageKeys::pressed(FieldCaret &field, const QKeyEvent &event)
 {
-    if (field.isComposing())
-        return pressedWhileComposing(field, event);
-    if (selection().isCrossing())
-        return pressedWhileSelected(event);
-    if (event.matches(QKeySequence::SelectAll) && field.isAllSelected()) {
-        selectPage();
-        return true;
-    }
-    const BlockSelection selected = field.selection();
-    if (usesPasteboard(selected, event))
-        return true;
-    const auto key = caretKey(event);
-    return key && !field.follows(*key) && go(selected, *key);
+    const EditorKey key = editorKey(event);
+    const bool isDone = field.isComposing()
+                            ? settles(field, key)
+                            : (selection().isCrossing() && inSelection(key)) || inText(field, key);
+    return isDone || inRow(field.id().blockID, key);
 }
 
-bool PageKeys::usesPasteboard(const BlockSelection &selected, const QKeyEvent &event)
+bool PageKeys::settles(const FieldCaret &field, const EditorKey &key)
 {
-    if (event.matches(QKeySequence::Paste))
-        return selection().pasteText(selected);
-    const bool cuts = event.matches(QKeySequence::Cut);
-    if (selected.anchor == selected.head || !(cuts || event.matches(QKeySequence::Copy)))
-        return false;
-    cuts ? selection().cutText(selected) : selection().copyText(selected);
-    return true;
-}
-
-bool PageKeys::pressedWhileComposing(const FieldCaret &field, const QKeyEvent &event)
-{
-    switch (event.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
+    switch (key.action) {
+    case EditorAction::newBlock:
+    case EditorAction::newLine:
+    case EditorAction::indent:
+    case EditorAction::unindent:
+    case EditorAction::focusNext:
+    case EditorAction::focusPrevious:
         Composition::settle(&field.field());
         return true;
     default:
@@ -78,76 +69,177 @@ bool PageKeys::pressedWhileComposing(const FieldCaret &field, const QKeyEvent &e
     }
 }
 
-bool PageKeys::pressed(const BlockPlace &block, const QKeyEvent &event)
+bool PageKeys::inText(FieldCaret &field, const EditorKey &key)
 {
-    if (selection().isCrossing())
-        return pressedWhileSelected(event);
-    if (event.matches(QKeySequence::Copy) || event.matches(QKeySequence::Cut))
-        return copies(block, event);
-    const auto key = caretKey(event);
-    if (!key)
-        return false;
-    PagePosition near{.passage = {.blockID = block.id()}, .offset = isForward(key->move, false) ? 0 : 1};
-    return go({.anchor = near, .head = near}, *key);
+    if (key.action == EditorAction::moveCaret)
+        return !field.follows(key.caret) && go(field.selection(), key.caret);
+    if (key.action == EditorAction::selectAll) {
+        if (!field.isAllSelected())
+            return false;
+        selectPage();
+        return true;
+    }
+    if (key.action == EditorAction::newBlock && field.isSingleLine()) {
+        Q_EMIT field.finished();
+        return true;
+    }
+    return FieldKeys(field, editor()).pressed(key);
 }
 
-bool PageKeys::copies(const BlockPlace &block, const QKeyEvent &event)
+bool PageKeys::pressed(const BlockPlace &block, const QKeyEvent &event)
+{
+    const EditorKey key = editorKey(event);
+    const bool isForControl = key.action == EditorAction::insertText || key.action == EditorAction::newBlock;
+    if (isForControl && !block.hasFocusItself())
+        return false;
+    if (selection().isCrossing() && block.hasFocus()) {
+        if (inSelection(key))
+            return true;
+    } else if (block.hasFocus() && onWhole(block, key)) {
+        return true;
+    }
+    return inRow(block.id(), key);
+}
+
+bool PageKeys::onWhole(const BlockPlace &block, const EditorKey &key)
+{
+    switch (key.action) {
+    case EditorAction::copy:
+    case EditorAction::cut:
+        return copiesWhole(block, key);
+    case EditorAction::deleteBackward:
+    case EditorAction::deleteRangeBackward:
+        editor().keys()->remove(block.id(), false);
+        return true;
+    case EditorAction::deleteForward:
+    case EditorAction::deleteRangeForward:
+        editor().keys()->remove(block.id(), true);
+        return true;
+    case EditorAction::moveCaret: {
+        const PagePosition near{.passage = {.blockID = block.id()},
+                                .offset = isForward(key.caret.move, false) ? 0 : 1};
+        return go({.anchor = near, .head = near}, key.caret);
+    }
+    default:
+        return false;
+    }
+}
+
+bool PageKeys::copiesWhole(const BlockPlace &block, const EditorKey &key)
 {
     const PassageID passage{.blockID = block.id()};
     const BlockSelection whole{.anchor = {.passage = passage, .offset = 0},
                                .head = {.passage = passage, .offset = 1}};
-    return selection().select(whole) && change(event);
+    return selection().select(whole) && changeSelection(key);
 }
 
-bool PageKeys::pressedWhileSelected(const QKeyEvent &event)
+bool PageKeys::inRow(const QUuid &blockID, const EditorKey &key)
 {
-    const BlockSelection selected = *selection().selection();
-    if (const auto key = caretKey(event)) {
-        const bool collapses =
-            !key->extends && (key->move == CaretMove::left || key->move == CaretMove::right);
-        if (!collapses)
-            return go(selected, *key);
-        collapse(key->move == CaretMove::right);
-        return true;
-    }
-    return change(event);
-}
-
-bool PageKeys::change(const QKeyEvent &event)
-{
-    const SelectionKey key = selectionKey(event);
     switch (key.action) {
-    case SelectionKey::Action::copy:
+    case EditorAction::undo:
+        editor().undo();
+        return true;
+    case EditorAction::redo:
+        editor().redo();
+        return true;
+    case EditorAction::paste:
+        return editor().pastePicture(blockID.toString(QUuid::WithoutBraces));
+    case EditorAction::moveBlockUp:
+        return moveBlock(blockID, -1);
+    case EditorAction::moveBlockDown:
+        return moveBlock(blockID, 1);
+    case EditorAction::openBlockMenu:
+        Q_EMIT m_page.menuRequested();
+        return true;
+    case EditorAction::indent:
+    case EditorAction::focusNext:
+        return walk(true);
+    case EditorAction::unindent:
+    case EditorAction::focusPrevious:
+        return walk(false);
+    default:
+        return false;
+    }
+}
+
+bool PageKeys::moveBlock(const QUuid &blockID, int rows)
+{
+    editor().moveBlock(blockID.toString(QUuid::WithoutBraces), rows);
+    Q_EMIT m_page.keyPressed();
+    return true;
+}
+
+bool PageKeys::walk(bool forward)
+{
+    Q_EMIT m_page.walkRequested(forward);
+    return true;
+}
+
+bool PageKeys::unused(const QKeyEvent &event)
+{
+    const EditorKey key = editorKey(event);
+    if (key.action != EditorAction::insertText)
+        return false;
+    if (selection().isCrossing())
+        return changeSelection(key);
+    editor().keys()->writeBelow();
+    QQuickItem *field = m_page.view().window()->activeFocusItem();
+    if (field && m_page.isField(*field))
+        QCoreApplication::sendEvent(field, std::unique_ptr<QEvent>(event.clone()).get());
+    return true;
+}
+
+bool PageKeys::inSelection(const EditorKey &key)
+{
+    if (key.action != EditorAction::moveCaret)
+        return changeSelection(key);
+    const bool collapses =
+        !key.caret.extends && (key.caret.move == CaretMove::left || key.caret.move == CaretMove::right);
+    if (!collapses)
+        return go(*selection().selection(), key.caret);
+    collapse(key.caret.move == CaretMove::right);
+    return true;
+}
+
+bool PageKeys::changeSelection(const EditorKey &key)
+{
+    switch (key.action) {
+    case EditorAction::copy:
         selection().copy();
         return true;
-    case SelectionKey::Action::cut:
+    case EditorAction::cut:
         selection().cut();
         return true;
-    case SelectionKey::Action::paste:
+    case EditorAction::paste:
         selection().paste();
         return true;
-    case SelectionKey::Action::selectAll:
+    case EditorAction::selectAll:
         selectPage();
         return true;
-    case SelectionKey::Action::remove:
+    case EditorAction::deleteBackward:
+    case EditorAction::deleteForward:
+    case EditorAction::deleteRangeBackward:
+    case EditorAction::deleteRangeForward:
         selection().remove();
         return true;
-    case SelectionKey::Action::split:
+    case EditorAction::newBlock:
         selection().split();
         return true;
-    case SelectionKey::Action::breakLine:
+    case EditorAction::newLine:
         selection().breakLine();
         return true;
-    case SelectionKey::Action::type:
+    case EditorAction::insertText:
         selection().replace(key.text);
         return true;
-    case SelectionKey::Action::leave:
+    case EditorAction::indent:
+    case EditorAction::unindent:
+    case EditorAction::focusNext:
+    case EditorAction::focusPrevious:
         m_page.giveUp();
         return false;
-    case SelectionKey::Action::none:
+    default:
         return false;
     }
-    return false;
 }
 
 bool PageKeys::go(const BlockSelection &from, const CaretKey &key)

@@ -7,6 +7,7 @@ Item {
 
     required property string blockID
     required property string kind
+    required property Item row
     required property BlockEditor block
     required property PageCaret caret
 
@@ -17,6 +18,7 @@ Item {
         control: root.block.control
         item: root.block
         page: root.caret
+        row: root.row
     }
 
     Rectangle {

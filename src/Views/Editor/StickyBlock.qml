@@ -8,13 +8,11 @@ BlockEditor {
     id: root
 
     required property string blockID
-    required property EditorViewModel editor
+    required property PageContext page
     required property TodoListModel todos
     /// The part of this item that is in sight.
     required property real seenFrom
     required property real seenHeight
-    /// Its entries show nothing but themselves, whatever is pointed at.
-    property bool quiet: false
 
     function makeField(todoID: string) {
         if (todoID !== "")
@@ -70,15 +68,15 @@ BlockEditor {
             model: root.todos
 
             TodoRow {
-                keys: root.keys
-                quiet: root.quiet
+                blockID: root.blockID
+                page: root.page
                 width: column.width
                 onActiveFocusChanged: if (activeFocus) root.todos?.keep(todoID)
                 onEntryHeightChanged: root.todos?.setHeight(todoID, entryHeight)
                 Component.onCompleted: root.todos?.setHeight(todoID, entryHeight)
-                onEdited: (value, caret) => root.editor.typedTodo(root.blockID, todoID, value, caret)
-                onRemoved: root.editor.removeTodo(root.blockID, todoID)
-                onToggled: root.editor.toggleTodo(root.blockID, todoID)
+                onEdited: (value, caret) => root.page.editor.typedTodo(root.blockID, todoID, value, caret)
+                onRemoved: root.page.editor.removeTodo(root.blockID, todoID)
+                onToggled: root.page.editor.toggleTodo(root.blockID, todoID)
             }
         }
 
@@ -90,10 +88,9 @@ BlockEditor {
         FirstTodoButton {
             id: first
 
-            Keys.forwardTo: [root.keys]
             visible: root.todos?.isEmpty ?? true
             width: column.width
-            onTriggered: root.editor.appendTodo(root.blockID)
+            onTriggered: root.page.editor.appendTodo(root.blockID)
         }
     }
 }

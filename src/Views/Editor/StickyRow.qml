@@ -14,10 +14,8 @@ BlockRow {
 
         anchors.fill: parent
         blockID: root.blockID
-        editor: root.page.editor
         focus: true
-        keys: root
-        quiet: root.page.quiet
+        page: root.page
         seenFrom: root.page.viewTop - root.y
         seenHeight: root.page.viewHeight
         todos: root.todos

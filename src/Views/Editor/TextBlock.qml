@@ -6,6 +6,8 @@ import Pelko
 BlockEditor {
     id: root
 
+    required property PageContext page
+    required property string blockID
     required property string kind
     required property string content
 
@@ -52,12 +54,13 @@ BlockEditor {
 
         Accessible.description: placeholder
         Accessible.name: BlockKinds.named(root.kind).tip
+        blockID: root.blockID
         color: style.ink
         content: root.content
         focus: true
         font: style.face
-        keys: root.keys
         lineHeight: style.lineHeight
+        page: root.page
         placeholder: BlockKinds.named(root.kind).placeholder
         tabStopDistance: Metrics.codeTab
         width: parent.width - 2 * x

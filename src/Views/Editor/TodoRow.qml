@@ -1,8 +1,8 @@
 import QtQuick
 import Pelko
 
-/// One entry of a checklist: tick, text, and a cross to remove it while the pointer or the focus is here, unless it is
-/// to be `quiet`.
+/// One entry of a checklist: tick, text, and a cross to remove it while the pointer or the focus is here, unless the
+/// page is to be quiet.
 FocusScope {
     id: root
 
@@ -11,8 +11,8 @@ FocusScope {
     required property bool done
     /// Room above for the entries that are not made.
     required property real gap
-    required property Item keys
-    required property bool quiet
+    required property PageContext page
+    required property string blockID
 
     readonly property real entryHeight: Math.max(Typography.checklistRow, field.implicitHeight + Metrics.space6)
 
@@ -40,7 +40,6 @@ FocusScope {
     TodoToggle {
         id: toggle
 
-        Keys.forwardTo: [root.keys]
         done: root.done
         label: root.text
         y: root.gap + (Typography.checklistRow - height) / 2
@@ -52,13 +51,14 @@ FocusScope {
 
         Accessible.description: placeholder
         Accessible.name: root.text === "" ? placeholder : root.text
+        blockID: root.blockID
         anchors { left: toggle.right; leftMargin: Metrics.todoGap; right: cross.left; rightMargin: Metrics.space6 }
         color: root.done ? FirePalette.inkTicked : FirePalette.inkChecklist
         content: root.text
         focus: true
         font { family: Typography.checklist.family; pointSize: Typography.checklist.pointSize; strikeout: root.done }
-        keys: root.keys
         lineHeight: Metrics.todoLine
+        page: root.page
         placeholder: qsTr("To do...")
         todoID: root.todoID
         y: root.gap + (Typography.checklistRow - Metrics.todoLine) / 2
@@ -68,10 +68,9 @@ FocusScope {
     RemoveTodoButton {
         id: cross
 
-        Keys.forwardTo: [root.keys]
         anchors { right: parent.right; verticalCenter: toggle.verticalCenter }
         opacity: hover.hovered || activeFocus ? 1 : 0
-        visible: !root.quiet
+        visible: !root.page.quiet
         // The keyboard does not stay behind.
         onVisibleChanged: if (!visible && activeFocus) field.forceActiveFocus(Qt.OtherFocusReason)
         onTriggered: root.remove()

@@ -8,21 +8,22 @@ TextEdit {
 
     required property string content
     required property string placeholder
-    /// Sees the keys before the field does.
-    required property Item keys
+    required property PageContext page
+    required property string blockID
     /// Of the entry of a checklist that is written in; empty elsewhere.
     property string todoID
-
-    readonly property BlockRow row: keys as BlockRow
 
     /// Whether the text is too tall to be shown as a whole, and how much of it is not.
     readonly property alias isCut: bridge.isCut
     property alias maximumHeight: bridge.maximumHeight
+    property alias isSingleLine: place.isSingleLine
     readonly property int hiddenLength: content.length - bridge.shownLength
 
     property real lineHeight: 0
 
     signal edited(string value, int caret)
+    /// The writer is done with a field of one line.
+    signal finished
 
     /// -1 stands for the end.
     function takeFocus(caret: int) {
@@ -30,11 +31,6 @@ TextEdit {
         const position = caret < 0 ? end : Math.min(caret, end)
         place.select(position, position)
         forceActiveFocus()
-    }
-
-    function type(text: string) {
-        showAll()
-        insert(cursorPosition, text)
     }
 
     function showAll() {
@@ -59,19 +55,17 @@ TextEdit {
     /// While a text that was typed is not reported yet, its caret goes with it.
     function reportCaret() {
         if (activeFocus && length === bridge.shownLength)
-            row.page.editor.caretMoved(row.blockID, todoID, cursorPosition)
+            page.editor.caretMoved(blockID, todoID, cursorPosition)
     }
 
     function reveal() {
         if (activeFocus)
-            row?.page.revealRequested()
+            page?.revealRequested()
     }
 
     Accessible.role: Accessible.EditableText
     Accessible.multiLine: true
     Accessible.focusable: true
-    Keys.forwardTo: [fieldKeys, keys]
-
     activeFocusOnTab: true
     cursorDelegate: Caret {}
     // What is selected in one field can be part of a selection whose caret is in another.
@@ -95,11 +89,12 @@ TextEdit {
     FieldCaret {
         id: place
 
-        blockID: root.row?.blockID ?? ""
+        blockID: root.blockID
         isCut: bridge.isCut
-        page: root.row?.page.caret ?? null
+        page: root.page?.caret ?? null
         todoID: root.todoID
         waits: bridge.isGrowing
+        onFinished: root.finished()
     }
 
     BlockText {
@@ -120,7 +115,7 @@ TextEdit {
     }
 
     TextGrowth {
-        page: root.row?.page ?? null
+        page: root.page
         text: bridge
     }
 
@@ -131,15 +126,6 @@ TextEdit {
         height: Math.round(root.font.pixelSize * 1.2)
         visible: place.selectedEmpty
         width: Metrics.space6
-    }
-
-    FieldKeys {
-        id: fieldKeys
-
-        content: root.content
-        field: root
-        row: root.row
-        todoID: root.todoID
     }
 
     Text {

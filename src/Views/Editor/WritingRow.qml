@@ -12,10 +12,11 @@ BlockRow {
     TextBlock {
         id: text
 
+        blockID: root.blockID
         content: root.content
         focus: true
-        keys: root
         kind: root.kind
+        page: root.page
         // With anchors it would have no width when its field lays out the text.
         width: root.bodyWidth
         onEdited: (value, caret) => root.page.editor.typed(root.blockID, value, caret)

@@ -112,7 +112,7 @@ ModalLayer {
                 }
 
                 ShortcutColumn {
-                    lines: sheet.commands.writingKeys
+                    lines: EditorShortcuts.lines
                     width: columns.columnWidth
                 }
             }

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QPointer>
+#include <QQuickItem>
+
+class PageCaret;
+class QQuickWindow;
+
+/// Gives the page the keys that are pressed outside of its fields: those of a block or a control before the
+/// item itself has them, and what is typed where no item uses it.
+class PageKeyFilter : public QObject
+{
+public:
+    explicit PageKeyFilter(PageCaret &page) : m_page(page) {}
+
+    void watch(QQuickItem &view);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void followWindow(QQuickWindow *window);
+    void followFocus();
+    bool pressedOnFocused(const QKeyEvent &event);
+
+    PageCaret &m_page;
+    QPointer<QQuickItem> m_view;
+    QPointer<QQuickWindow> m_window;
+    /// The item in the view that has the focus.
+    QPointer<QQuickItem> m_focused;
+};
