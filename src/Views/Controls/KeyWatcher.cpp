@@ -1,17 +1,9 @@
 #include "KeyWatcher.h"
 
+#include "KeyText.h"
+
 #include <QGuiApplication>
 #include <QQuickWindow>
-
-namespace
-{
-bool writesText(const QKeyEvent &event)
-{
-    const bool isCommand = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-    const QString text = event.text();
-    return !isCommand && !text.isEmpty() && text.at(0).isPrint();
-}
-} // namespace
 
 void KeyWatcher::setActive(bool active)
 {

@@ -1,5 +1,7 @@
 #include "EditorKeys.h"
 
+#include "KeyText.h"
+
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -97,15 +99,6 @@ QList<EditorKeyBinding> blockKeys()
     };
 }
 
-bool isTyping(const QKeyEvent &event)
-{
-    if (event.text().isEmpty() ||
-        event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
-        return false;
-    const QChar first = event.text().at(0);
-    return first.isPrint() || first.isSurrogate();
-}
-
 } // namespace
 
 bool EditorKeyBinding::matches(const QKeyEvent &event) const
@@ -137,5 +130,5 @@ EditorKey editorKey(const QKeyEvent &event)
         if (binding.matches(event))
             return {.action = binding.action, .caret = binding.caret};
     }
-    return isTyping(event) ? EditorKey{.action = Action::insertText, .text = event.text()} : EditorKey();
+    return writesText(event) ? EditorKey{.action = Action::insertText, .text = event.text()} : EditorKey();
 }
