@@ -51,12 +51,16 @@ QVariant CommandListModel::data(const QModelIndex &index, int role) const
         return row.command.symbol;
     case ShortcutRole:
         return row.command.shortcut;
+    case OtherShortcutRole:
+        return row.command.otherShortcut;
     case MenuTitleRole:
         return menuTitle(row.command.group);
     case SystemRole:
         return systemRole(row.command.role);
     case IsInMenuRole:
         return row.command.group != CommandGroup::none;
+    case IsEditingRole:
+        return row.command.group == CommandGroup::editing;
     case IsEnabledRole:
         return row.isEnabled;
     case IsTickableRole:
@@ -70,11 +74,10 @@ QVariant CommandListModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> CommandListModel::roleNames() const
 {
-    return {{KindRole, "kind"},           {CommandIDRole, "commandID"},
-            {TitleRole, "title"},         {SymbolRole, "symbol"},
-            {ShortcutRole, "shortcut"},   {MenuTitleRole, "menuTitle"},
-            {SystemRole, "systemRole"},   {IsInMenuRole, "isInMenu"},
-            {IsEnabledRole, "isEnabled"}, {IsTickableRole, "isTickable"},
+    return {{KindRole, "kind"},           {CommandIDRole, "commandID"}, {TitleRole, "title"},
+            {SymbolRole, "symbol"},       {ShortcutRole, "shortcut"},   {OtherShortcutRole, "otherShortcut"},
+            {MenuTitleRole, "menuTitle"}, {SystemRole, "systemRole"},   {IsInMenuRole, "isInMenu"},
+            {IsEditingRole, "isEditing"}, {IsEnabledRole, "isEnabled"}, {IsTickableRole, "isTickable"},
             {IsTickedRole, "isTicked"}};
 }
 

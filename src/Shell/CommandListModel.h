@@ -29,12 +29,16 @@ public:
         TitleRole,
         SymbolRole,
         ShortcutRole,
+        /// A second key.
+        OtherShortcutRole,
         /// Of the menu that it belongs to in a menu bar.
         MenuTitleRole,
         /// "about" or "quit" where the system has a place for it.
         SystemRole,
         /// Whether it has a place in the menu and not only a key.
         IsInMenuRole,
+        /// Whether it is one of the editing commands, which share lines of the app menu.
+        IsEditingRole,
         IsEnabledRole,
         /// Whether it can be on or off at all.
         IsTickableRole,

@@ -13,6 +13,13 @@ const QList<MenuCommand> &menuCommands()
         {u"newDocument"_s, u"New Document"_s, u"plus"_s, u"Ctrl+N"_s, Group::documents},
         {u"goTo"_s, u"Go to…"_s, u"rectangle.stack"_s, u"Ctrl+K"_s, Group::documents},
         {u"save"_s, u"Save"_s, u"square.and.arrow.down"_s, u"Ctrl+S"_s, Group::documents},
+        {u"undo"_s, u"Undo"_s, u"arrow.uturn.backward"_s, u"Ctrl+Z"_s, Group::editing},
+        {u"redo"_s, u"Redo"_s, u"arrow.uturn.forward"_s, u"Ctrl+Shift+Z"_s, Group::editing, Role::ordinary,
+         u"Ctrl+Y"_s},
+        {u"cut"_s, u"Cut"_s, u"scissors"_s, u"Ctrl+X"_s, Group::editing},
+        {u"copy"_s, u"Copy"_s, u"doc.on.doc"_s, u"Ctrl+C"_s, Group::editing},
+        {u"paste"_s, u"Paste"_s, u"doc.on.clipboard"_s, u"Ctrl+V"_s, Group::editing},
+        {u"selectAll"_s, u"Select All"_s, u"rectangle.dashed"_s, u"Ctrl+A"_s, Group::editing},
         {u"ideas"_s, u"Ideas"_s, u"lightbulb"_s, u"Ctrl+1"_s, Group::spaces},
         {u"work"_s, u"Work"_s, u"briefcase"_s, u"Ctrl+2"_s, Group::spaces},
         {u"journal"_s, u"Journal"_s, u"book.closed"_s, u"Ctrl+3"_s, Group::spaces},
@@ -47,6 +54,8 @@ QString menuTitle(CommandGroup group)
     case CommandGroup::documents:
     case CommandGroup::exports:
         return u"File"_s;
+    case CommandGroup::editing:
+        return u"Edit"_s;
     case CommandGroup::spaces:
         return u"Spaces"_s;
     case CommandGroup::views:

@@ -5,7 +5,7 @@
 
 /// The groups of the app menu, in its order, with a hairline between any two. What belongs to none is given
 /// by its key alone.
-enum class CommandGroup { documents, spaces, views, exports, program, none };
+enum class CommandGroup { documents, editing, spaces, views, exports, program, none };
 
 /// What a command is to a system that knows some of them and gives those a place of its own.
 enum class CommandRole { ordinary, about, quit, windowMenu };
@@ -22,6 +22,8 @@ struct MenuCommand {
     QString shortcut = {};
     CommandGroup group = CommandGroup::none;
     CommandRole role = CommandRole::ordinary;
+    /// A second key for it, told of nowhere.
+    QString otherShortcut = {};
 };
 
 /// Every command, in the order of the menu. The app menu, the keys and the sheet of keys are all made from

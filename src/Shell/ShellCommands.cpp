@@ -20,6 +20,7 @@ ShellCommands::ShellCommands(AppState &appState, NavigationViewModel &navigation
     bindViews();
     bindSpaces();
     bindRequests();
+    bindEditing();
     followStore();
     if (hasMenuBar())
         fillMenuBar();
@@ -57,6 +58,14 @@ void ShellCommands::bindRequests()
          {.run = [this] { Q_EMIT fullScreenToggled(); }, .isTicked = [this] { return m_isFullScreen; }});
     bind(u"save"_s, {.run = [this] { Q_EMIT saveRequested(); }});
     bind(u"quit"_s, {.run = [this] { Q_EMIT quitRequested(); }});
+}
+
+void ShellCommands::bindEditing()
+{
+    for (const MenuCommand &command : menuCommands()) {
+        if (command.group == CommandGroup::editing)
+            bind(command.id, {.run = [this, id = command.id] { Q_EMIT editingRequested(id); }});
+    }
 }
 
 void ShellCommands::fillMenuBar()

@@ -48,6 +48,8 @@ Q_SIGNALS:
     void pomodoroRequested();
     void fullScreenToggled();
     void saveRequested();
+    /// An editing command, by its id, for whatever has the keyboard.
+    void editingRequested(const QString &id);
     void quitRequested();
 
 private:
@@ -55,6 +57,7 @@ private:
     void bindViews();
     void bindSpaces();
     void bindRequests();
+    void bindEditing();
     void fillMenuBar();
     void setShowShortcuts(bool shown);
     void bind(const QString &id, CommandDeed deed) { m_list.bind(id, std::move(deed)); }

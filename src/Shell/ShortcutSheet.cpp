@@ -6,13 +6,16 @@ namespace
 {
 QString heading(CommandGroup group)
 {
+    if (group == CommandGroup::editing)
+        return {};
     const bool isAboutKeeping = group == CommandGroup::exports || group == CommandGroup::program;
     return isAboutKeeping ? u"Keeping"_s : u"Getting around"_s;
 }
 
+/// Of the commands that stand under that heading.
 QList<ShortcutLine> linesUnder(const QString &wanted, const QList<MenuCommand> &commands)
 {
-    QList<ShortcutLine> lines{{.title = wanted}};
+    QList<ShortcutLine> lines;
     for (const MenuCommand &command : commands) {
         if (heading(command.group) == wanted && !command.shortcut.isEmpty())
             lines.append({.title = command.title, .keys = command.shortcut.split(u'+')});
@@ -24,8 +27,15 @@ QList<ShortcutLine> linesUnder(const QString &wanted, const QList<MenuCommand> &
 QList<ShortcutLine> commandKeys(MenuPlace place)
 {
     const QList<MenuCommand> commands = menuCommands(place);
-    return linesUnder(heading(CommandGroup::documents), commands) +
-           linesUnder(heading(CommandGroup::program), commands);
+    QList<ShortcutLine> lines;
+    for (const QString &title : {heading(CommandGroup::documents), heading(CommandGroup::program)})
+        lines += QList<ShortcutLine>{{.title = title}} + linesUnder(title, commands);
+    return lines;
+}
+
+QList<ShortcutLine> editingKeys()
+{
+    return linesUnder(heading(CommandGroup::editing), menuCommands());
 }
 
 QList<ShortcutLine> typingMarkers()

@@ -22,5 +22,8 @@ public:
 /// The keys of the commands, from their table.
 QList<ShortcutLine> commandKeys(MenuPlace place);
 
+/// The keys of the editing commands, without a heading.
+QList<ShortcutLine> editingKeys();
+
 /// What is typed at the start of an empty line to make it a block of another kind.
 QList<ShortcutLine> typingMarkers();

@@ -47,7 +47,7 @@ QtObject {
     readonly property int menuRowHeight: 30
     readonly property int keyCapHeight: 22
     readonly property int keyCapRadius: 6
-    readonly property int sheetRow: 31
+    readonly property int sheetRow: 30
     readonly property int sheetHeading: 27
     readonly property int sheetPadding: 28
     readonly property int sheetWidth: 744

@@ -35,7 +35,9 @@ private Q_SLOTS:
         QTest::newRow("Spaces") << QStringList{u"Ideas"_s, u"Work"_s, u"Journal"_s};
         QTest::newRow("View") << QStringList{u"Tasks"_s, u"Pomodoro"_s, u"Focus mode"_s, u"Full screen"_s};
         QTest::newRow("Help") << QStringList{u"Keyboard Shortcuts"_s, u"About Pelko"_s, u"Quit"_s};
-        QTest::newRow("Edit") << QStringList{};
+        QTest::newRow("Edit") << QStringList{u"Undo"_s, u"Redo"_s,  u"Cut"_s,
+                                             u"Copy"_s, u"Paste"_s, u"Select All"_s};
+        QTest::newRow("Format") << QStringList{};
     }
 
     void holdsItsGroupsWithAHairlineBetweenThem()

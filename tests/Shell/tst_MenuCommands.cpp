@@ -17,11 +17,29 @@ private Q_SLOTS:
         for (const MenuCommand &command : menuCommands())
             titles << command.title;
 
-        QCOMPARE(titles,
-                 (QStringList{u"New Document"_s, u"Go to…"_s, u"Save"_s, u"Ideas"_s, u"Work"_s, u"Journal"_s,
-                              u"Tasks"_s, u"Pomodoro"_s, u"Focus mode"_s, u"Full screen"_s, u"Export…"_s,
-                              u"Export everything…"_s, u"Copy page as Markdown"_s, u"Keyboard Shortcuts"_s,
-                              u"About Pelko"_s, u"Quit"_s, u"App menu"_s}));
+        QCOMPARE(titles, (QStringList{u"New Document"_s,
+                                      u"Go to…"_s,
+                                      u"Save"_s,
+                                      u"Undo"_s,
+                                      u"Redo"_s,
+                                      u"Cut"_s,
+                                      u"Copy"_s,
+                                      u"Paste"_s,
+                                      u"Select All"_s,
+                                      u"Ideas"_s,
+                                      u"Work"_s,
+                                      u"Journal"_s,
+                                      u"Tasks"_s,
+                                      u"Pomodoro"_s,
+                                      u"Focus mode"_s,
+                                      u"Full screen"_s,
+                                      u"Export…"_s,
+                                      u"Export everything…"_s,
+                                      u"Copy page as Markdown"_s,
+                                      u"Keyboard Shortcuts"_s,
+                                      u"About Pelko"_s,
+                                      u"Quit"_s,
+                                      u"App menu"_s}));
     }
 
     void newDocumentHasThePlatformsNewShortcut()
@@ -80,7 +98,7 @@ private Q_SLOTS:
 
     void theMenusOfABarHaveTitles()
     {
-        QCOMPARE(menuTitles(), (QStringList{u"File"_s, u"Spaces"_s, u"View"_s, u"Help"_s}));
+        QCOMPARE(menuTitles(), (QStringList{u"File"_s, u"Edit"_s, u"Spaces"_s, u"View"_s, u"Help"_s}));
         QCOMPARE(menuTitle(CommandGroup::none), QString());
     }
 

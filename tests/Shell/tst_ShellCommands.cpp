@@ -35,6 +35,8 @@ public:
                                  &ShellCommands::fullScreenToggled, &ShellCommands::quitRequested,
                                  &ShellCommands::saveRequested, &ShellCommands::showShortcutsChanged})
             QObject::connect(&program.commands, asked, &m_context, [this] { ++count; });
+        QObject::connect(&program.commands, &ShellCommands::editingRequested, &m_context,
+                         [this] { ++count; });
         for (const auto changed :
              {&AppState::documentsChanged, &AppState::currentSpaceChanged, &AppState::focusModeChanged,
               &AppState::showAboutChanged, &AppState::showNavChanged, &AppState::showTasksPanelChanged})
@@ -53,6 +55,16 @@ class TestShellCommands : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void anEditingCommandIsForWhateverHasTheKeyboard()
+    {
+        CommandedProgram program;
+        const QSignalSpy asked(&program.commands, &ShellCommands::editingRequested);
+
+        program.commands.run(u"selectAll"_s);
+
+        QCOMPARE(asked, (QList<QVariantList>{{u"selectAll"_s}}));
+    }
+
     void everyCommandDoesOneThing_data()
     {
         QTest::addColumn<QString>("id");

@@ -46,7 +46,8 @@ private Q_SLOTS:
                 wanted << command.title + u' ' + command.shortcut;
         }
         QStringList shown;
-        for (const ShortcutLine &line : linesUnder(u"Getting around"_s) + linesUnder(u"Keeping"_s))
+        for (const ShortcutLine &line :
+             linesUnder(u"Getting around"_s) + linesUnder(u"Keeping"_s) + editingKeys())
             shown << line.title + u' ' + line.keys.join(u'+');
         std::ranges::sort(wanted);
         std::ranges::sort(shown);

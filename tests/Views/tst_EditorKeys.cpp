@@ -142,6 +142,30 @@ private Q_SLOTS:
         QVERIFY(lines.contains(ShortcutLine{u"Undo"_s, {u"Ctrl"_s, u"Z"_s}}));
     }
 
+    void anEditingCommandHasTheKeyOfItsAction_data()
+    {
+        QTest::addColumn<EditorAction>("action");
+        QTest::newRow("undo") << EditorAction::undo;
+        QTest::newRow("redo") << EditorAction::redo;
+        QTest::newRow("cut") << EditorAction::cut;
+        QTest::newRow("copy") << EditorAction::copy;
+        QTest::newRow("paste") << EditorAction::paste;
+        QTest::newRow("selectAll") << EditorAction::selectAll;
+    }
+
+    void anEditingCommandHasTheKeyOfItsAction()
+    {
+        QFETCH(EditorAction, action);
+        const QString id = QString::fromUtf8(QTest::currentDataTag());
+        const auto command = std::ranges::find(menuCommands(), id, &MenuCommand::id);
+        QVERIFY(command != menuCommands().end());
+
+        for (const QString &keys : {command->shortcut, command->otherShortcut}) {
+            if (!keys.isEmpty())
+                QCOMPARE(pressed(QKeySequence(keys, QKeySequence::PortableText)[0]).action, action);
+        }
+    }
+
     void noCommandTakesAKeyOfTheSheet()
     {
         for (const EditorKeyBinding &binding : editorKeyBindings()) {

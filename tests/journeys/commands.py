@@ -104,6 +104,33 @@ def way_around(pelko):
     pelko.wait_focus_on("Heading")
 
 
+def choose(pelko, command):
+    pelko.keys("F10")
+    pelko.wait_for(command)
+    walk_down_to(pelko, command)
+    pelko.keys("Return")
+    pelko.wait_gone(command)
+    pelko.wait_focus_on("Heading")
+
+
+def editing_by_menu(pelko):
+    def heading_is(text):
+        pelko.wait_saved(lambda saved: library.outline(saved[1])[0][1] == text, f"the heading “{text}”")
+
+    pelko.keys("End")
+    pelko.type("!")
+    heading_is("A quiet hoxyur!")
+    choose(pelko, "Undo")
+    heading_is("A quiet hoxyur")
+    choose(pelko, "Redo")
+    heading_is("A quiet hoxyur!")
+    choose(pelko, "Select All")
+    choose(pelko, "Cut")
+    heading_is("")
+    choose(pelko, "Paste")
+    heading_is("A quiet hoxyur!")
+
+
 def sheet_of_keys(pelko):
     pelko.keys("ctrl+slash")
     pelko.wait_for("Focus mode, Ctrl+Shift+F")
@@ -140,6 +167,7 @@ def commands(pelko):
         spaces_by_menu_and_key(pelko)
         focus_mode(pelko)
         way_around(pelko)
+        editing_by_menu(pelko)
         sheet_of_keys(pelko)
         pomodoro(pelko)
         reopened_window(pelko)

@@ -74,9 +74,10 @@ Item {
         }
 
         function test_aMenuForEachTitle() {
-            compare(menus().map(menu => menu.title), ["File", "Spaces", "View", "Help"])
+            compare(menus().map(menu => menu.title), ["File", "Edit", "Spaces", "View", "Help"])
             compare(menus().map(menu => Array.from(menu.items).map(row => row.separator ? "-" : row.text)),
                     [["New Document", "Go to…", "Save", "-", "Export…", "Export everything…", "Copy page as Markdown"],
+                     ["Undo", "Redo", "Cut", "Copy", "Paste", "Select All"],
                      ["Ideas", "Work", "Journal"],
                      ["Tasks", "Pomodoro", "Focus mode", "Full screen"],
                      ["Keyboard Shortcuts", "About Pelko", "Quit"]])

@@ -298,10 +298,69 @@ Item {
         function test_theMenuListsTheCommands() {
             mouseClick(named(root, "Menu"))
             const titles = menuRows().map(row => row.name)
-            compare(titles, ["New Document", "Go to…", "Save", "Ideas", "Work", "Journal", "Tasks", "Pomodoro", "Focus mode", "Full screen",
+            compare(titles, ["New Document", "Go to…", "Save", "Undo", "Redo", "Cut", "Copy", "Paste",
+                             "Select All", "Ideas", "Work", "Journal", "Tasks", "Pomodoro", "Focus mode", "Full screen",
                              "Export…", "Export everything…", "Copy page as Markdown", "Keyboard Shortcuts", "About Pelko", "Quit"])
             mouseClick(named(root, "About Pelko"))
             verify(app.main.showAbout)
+        }
+
+        function choose(command) {
+            keyClick(Qt.Key_F10)
+            mouseClick(named(root, command))
+            tryVerify(() => !named(root, command))
+        }
+
+        function test_theEditingCommandsActOnTheText() {
+            app.createDocuments(1)
+            app.advance(1000)
+            const field = stage.Window.activeFocusItem
+            keyClick("a")
+            keyClick("b")
+            choose("Undo")
+            compare(field.text, "")
+            choose("Redo")
+            compare(field.text, "ab")
+            choose("Select All")
+            choose("Copy")
+            choose("Cut")
+            compare(field.text, "")
+            choose("Paste")
+            compare(field.text, "ab")
+        }
+
+        function test_theKeysOfUndoReachThePageFromAControl() {
+            app.createDocuments(1)
+            app.advance(1000)
+            const field = stage.Window.activeFocusItem
+            keyClick("a")
+            named(root, "Menu").forceActiveFocus()
+            keyClick(Qt.Key_Z, Qt.ControlModifier)
+            compare(field.text, "")
+            verify(field.activeFocus)
+            for (const keys of [[Qt.Key_Y, Qt.ControlModifier], [Qt.Key_Z, Qt.ControlModifier | Qt.ShiftModifier]]) {
+                named(root, "Menu").forceActiveFocus()
+                keyClick(...keys)
+                compare(field.text, "a")
+                keyClick(Qt.Key_Z, Qt.ControlModifier)
+            }
+        }
+
+        function test_theEditingCommandsShareLinesOfTheMenu() {
+            keyClick(Qt.Key_F10)
+            const at = name => named(root, name).mapToItem(root, 0, 0)
+            compare(at("Redo").y, at("Undo").y)
+            verify(at("Redo").x > at("Undo").x)
+            verify(at("Cut").y > at("Undo").y)
+            for (let i = 0; i < 4; ++i)
+                keyClick(Qt.Key_Down)
+            verify(named(root, "Undo").activeFocus)
+            keyClick(Qt.Key_Right)
+            verify(named(root, "Redo").activeFocus)
+            keyClick(Qt.Key_Right)
+            verify(named(root, "Redo").activeFocus)
+            keyClick(Qt.Key_Left)
+            verify(named(root, "Undo").activeFocus)
         }
 
         function test_everyRowOfTheMenuHasItsSymbol() {

@@ -116,7 +116,7 @@ Item {
             const start = place()
             verify(start > sheet.card.height)
             keyClick(Qt.Key_Down)
-            compare(place(), start - 31)
+            compare(place(), start - Metrics.sheetRow)
             keyClick(Qt.Key_Up)
             compare(place(), start)
             keyClick(Qt.Key_End)

@@ -144,18 +144,6 @@ Item {
             compare(written(), "sticky[milk]")
         }
 
-        function test_undo_works_with_the_focus_beside_the_page() {
-            open([{ type: "textLarge", content: "" }])
-            type("word")
-            elsewhere.forceActiveFocus()
-            press(["Ctrl+Z"])
-            compare(written(), "textLarge")
-            verify(fields()[0].activeFocus)
-            elsewhere.forceActiveFocus()
-            press(["Ctrl+Shift+Z"])
-            compare(written(), "textLarge:word")
-        }
-
         function test_undo_brings_a_deleted_block_back_with_the_caret_in_it() {
             open([{ type: "textLarge", content: "t" }, { type: "textSmall", content: "text" }])
             go(1, 2)

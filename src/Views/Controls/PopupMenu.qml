@@ -44,6 +44,14 @@ ModalLayer {
             take(rows[(index + rows.length) % rows.length])
     }
 
+    /// The row on the same line.
+    function chooseBeside(step: int) : void {
+        const row = choices()[chosen()]
+        const next = choices()[chosen() + step]
+        if (row && next?.y === row.y)
+            take(next)
+    }
+
     function take(row: Item) : void {
         row.forceActiveFocus(Qt.TabFocusReason)
         view.contentY = Math.max(row.y + row.height - view.height, Math.min(view.contentY, row.y))
@@ -62,6 +70,8 @@ ModalLayer {
     onEscaped: close()
     onClickedBeside: close()
     Keys.onDownPressed: choose(chosen() + 1)
+    Keys.onLeftPressed: chooseBeside(-1)
+    Keys.onRightPressed: chooseBeside(1)
     Keys.onUpPressed: choose(chosen() < 0 ? -1 : chosen() - 1)
     Keys.onTabPressed: choose(chosen() + 1)
     Keys.onBacktabPressed: choose(chosen() < 0 ? -1 : chosen() - 1)
@@ -101,7 +111,7 @@ ModalLayer {
             clip: contentHeight > height
             contentHeight: column.height
 
-            Column {
+            Flow {
                 id: column
 
                 width: menu.widestRow

@@ -10,6 +10,8 @@ T.AbstractButton {
     required property string name
     property string keys: ""
     property bool destroys: false
+    /// How many rows of the same kind share a line.
+    property int perLine: 1
     /// Stands for something that is on or off.
     property bool tickable: ticked
     property bool ticked: false
@@ -26,9 +28,9 @@ T.AbstractButton {
     }
 
     text: name
-    width: parent?.width ?? 0
-    implicitWidth: 10 + 14 + 10 + label.implicitWidth + (ticked ? 28 : 0)
-                   + (keys === "" ? 0 : 28 + keyHint.implicitWidth) + 10
+    width: (parent?.width ?? 0) / perLine
+    implicitWidth: perLine * (10 + 14 + 10 + label.implicitWidth + (ticked ? 28 : 0)
+                              + (keys === "" ? 0 : 28 + keyHint.implicitWidth) + 10)
     implicitHeight: Metrics.menuRowHeight
     height: implicitHeight
     focusPolicy: Qt.NoFocus

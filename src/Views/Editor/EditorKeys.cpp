@@ -12,9 +12,9 @@ namespace
 using Action = EditorAction;
 using Standard = QKeySequence::StandardKey;
 
-EditorKeyBinding standard(Standard key, Action action, const char *title = nullptr)
+EditorKeyBinding standard(Standard key, Action action)
 {
-    return {.action = action, .standard = key, .title = title};
+    return {.action = action, .standard = key};
 }
 
 EditorKeyBinding combination(QKeyCombination key, Action action, const char *title = nullptr)
@@ -44,11 +44,12 @@ QList<EditorKeyBinding> allCaretKeys()
            caretKeys(CaretMove::end, Standard::MoveToEndOfDocument, Standard::SelectEndOfDocument);
 }
 
-QList<EditorKeyBinding> editingKeys()
+/// The program has commands for these, which press the key; see EditingKeys.
+QList<EditorKeyBinding> commandKeys()
 {
     return {
-        standard(Standard::Undo, Action::undo, "Undo"),
-        standard(Standard::Redo, Action::redo, "Redo"),
+        standard(Standard::Undo, Action::undo),
+        standard(Standard::Redo, Action::redo),
         combination(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Action::redo),
         combination(Qt::CTRL | Qt::Key_Y, Action::redo),
         standard(Standard::Cut, Action::cut),
@@ -120,7 +121,7 @@ QString EditorKeyBinding::text() const
 const QList<EditorKeyBinding> &editorKeyBindings()
 {
     static const QList<EditorKeyBinding> bindings =
-        writingKeys() + deletingKeys() + editingKeys() + blockKeys() + allCaretKeys();
+        writingKeys() + deletingKeys() + commandKeys() + blockKeys() + allCaretKeys();
     return bindings;
 }
 

@@ -28,5 +28,5 @@ QList<ShortcutLine> EditorShortcuts::lines()
         if (binding.title)
             lines.append({.title = QString::fromUtf8(binding.title), .keys = keyCaps(binding)});
     }
-    return lines + typingMarkers();
+    return lines + editingKeys() + typingMarkers();
 }

@@ -5,7 +5,8 @@
 #include <QObject>
 #include <QtQml/qqml.h>
 
-/// What the shortcut sheet tells of the editor: its keys, and what is typed at the start of a line.
+/// What the shortcut sheet tells of the editor: its keys, those of the editing commands, and what is typed at
+/// the start of a line.
 class EditorShortcuts : public QObject
 {
     Q_OBJECT

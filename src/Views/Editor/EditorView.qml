@@ -126,19 +126,6 @@ FocusScope {
         }
     }
 
-    // While the navigation lies over it, or another editor takes its place, this one has no say.
-    Shortcut {
-        enabled: root.focus && !root.navigationShown
-        sequences: ["Ctrl+Z"]
-        onActivated: root.editor.undo()
-    }
-
-    Shortcut {
-        enabled: root.focus && !root.navigationShown
-        sequences: ["Ctrl+Shift+Z", "Ctrl+Y"]
-        onActivated: root.editor.redo()
-    }
-
     Connections {
         function onSettleRequested() {
             Composition.settle(root.Window.activeFocusItem)

@@ -39,6 +39,7 @@ PopupMenu {
                     required property string symbol
                     required property string shortcut
                     required property bool isInMenu
+                    required property bool isEditing
                     required property bool isEnabled
                     required property bool isTickable
                     required property bool isTicked
@@ -48,7 +49,8 @@ PopupMenu {
                     enabled: isEnabled
                     name: title
                     icon.name: symbol
-                    keys: shortcut
+                    keys: isEditing ? "" : shortcut
+                    perLine: isEditing ? 2 : 1
                     tickable: isTickable
                     ticked: isTicked
                     onTriggered: appMenu.commands.run(commandID)

@@ -14,11 +14,12 @@ Instantiator {
     delegate: Shortcut {
         required property string commandID
         required property string shortcut
+        required property string otherShortcut
         required property bool isInMenu
         required property bool isEnabled
 
         enabled: isEnabled && !(isInMenu && keys.commands.hasMenuBar)
-        sequences: shortcut === "" ? [] : [shortcut]
+        sequences: [shortcut, otherShortcut]
         context: Qt.WindowShortcut
         onActivated: keys.commands.run(commandID)
     }

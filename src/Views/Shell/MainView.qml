@@ -21,6 +21,17 @@ FocusScope {
                               operation)
     }
 
+    /// What has the keyboard takes the key of the command; where it has no use for undo and redo, they are the page's.
+    function edit(command: string) {
+        const page = content.currentItem as EditorView
+        if (EditingKeys.press(root.Window.window, command) || !page || main.showNav)
+            return
+        if (command === "undo")
+            page.editor.undo()
+        else if (command === "redo")
+            page.editor.redo()
+    }
+
     function toggleMenu() {
         main.dismissNav()
         menu.open ? menu.close() : menu.popUpBelow(strip.menuButton)
@@ -36,6 +47,7 @@ FocusScope {
 
     Connections {
         target: root.main.commands
+        function onEditingRequested(id: string) { root.edit(id) }
         function onMenuRequested() { root.toggleMenu() }
         function onPomodoroRequested() {
             root.main.dismissNav()

@@ -24,8 +24,10 @@ ModalLayer {
     Keys.onUpPressed: scrollBy(-Metrics.sheetRow)
     Keys.onPressed: event => {
         event.accepted = true
-        if (event.key === Qt.Key_PageDown || event.key === Qt.Key_End) scrollBy(lines.height)
-        if (event.key === Qt.Key_PageUp || event.key === Qt.Key_Home) scrollBy(-lines.height)
+        if (event.key === Qt.Key_PageDown) scrollBy(lines.height)
+        if (event.key === Qt.Key_PageUp) scrollBy(-lines.height)
+        if (event.key === Qt.Key_End) scrollBy(lines.contentHeight)
+        if (event.key === Qt.Key_Home) scrollBy(-lines.contentHeight)
     }
     open: commands.showShortcuts
     scrim: FirePalette.scrim

@@ -1,0 +1,26 @@
+#include "EditingKeys.h"
+
+#include "Shell/MenuCommands.h"
+
+#include <QKeyEvent>
+#include <QKeySequence>
+#include <QQuickItem>
+
+#include <algorithm>
+
+bool EditingKeys::press(QQuickWindow *window, const QString &command)
+{
+    const auto found = std::ranges::find(menuCommands(), command, &MenuCommand::id);
+    if (!window || found == menuCommands().end())
+        return false;
+    const QKeyCombination key = QKeySequence(found->shortcut, QKeySequence::PortableText)[0];
+    QKeyEvent press(QEvent::KeyPress, key.key(), key.keyboardModifiers());
+    press.ignore();
+    // Sent to the window, the key would be looked up among the shortcuts again.
+    for (QQuickItem *item = window->activeFocusItem(); item && !press.isAccepted();
+         item = item->parentItem()) {
+        press.accept();
+        QCoreApplication::sendEvent(item, &press);
+    }
+    return press.isAccepted();
+}
