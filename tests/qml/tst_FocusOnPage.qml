@@ -186,6 +186,18 @@ Item {
             compare(written(), "textSmall:above textSmall:below")
         }
 
+        // A heading that leads the page cannot be deleted.
+        function test_a_delete_button_that_goes_gives_the_keyboard_back_to_its_block() {
+            open([{ type: "textSmall", content: "body" }, { type: "textLarge", content: "Head" }])
+            fieldSaying("Head").forceActiveFocus()
+            press(["Tab"])
+            verify(named("Delete").includes(focused()))
+            tryCompare(focused().parent, "opacity", 1)
+            press(["Alt+Up"])
+            compare(written(), "textLarge:Head textSmall:body")
+            compare(focused(), fieldSaying("Head"))
+        }
+
         function test_a_banner_that_moves_down_keeps_the_keyboard() {
             open([{ type: "image", picture: "red", isFullWidth: true, bannerTitle: "Title" }, { type: "textSmall", content: "below" }])
             fieldSaying("Title").takeFocus(-1)

@@ -163,7 +163,6 @@ FocusScope {
         y: body.y + (root.hasImage ? Metrics.space8 : -height / 2)
         onBannerToggled: root.page.editor.toggleFullWidth(root.blockID)
         onDeleteRequested: root.page.editor.deleteBlock(root.blockID)
-        // The keyboard does not stay behind.
-        onVisibleChanged: if (!visible && root.activeFocus && !body.activeFocus) body.forceActiveFocus(Qt.OtherFocusReason)
+        onFocusDropped: body.forceActiveFocus(Qt.OtherFocusReason)
     }
 }

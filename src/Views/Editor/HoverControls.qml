@@ -20,6 +20,8 @@ Row {
 
     signal bannerToggled
     signal deleteRequested
+    /// A button that has the keyboard is shown no longer.
+    signal focusDropped
 
     opacity: pointedAt || (last !== null && (toggle.activeFocus || remove.activeFocus)) ? 1 : 0
     spacing: Metrics.space8
@@ -35,6 +37,7 @@ Row {
         backdrop: root.backdrop
         isBanner: root.isBanner
         visible: root.offersBanner
+        onVisibleChanged: if (!visible && activeFocus) root.focusDropped()
         onTriggered: root.bannerToggled()
     }
 
@@ -43,6 +46,7 @@ Row {
 
         backdrop: root.backdrop
         visible: root.offersDelete
+        onVisibleChanged: if (!visible && activeFocus) root.focusDropped()
         onTriggered: root.deleteRequested()
     }
 }
