@@ -86,20 +86,8 @@ void TasksPanelViewModel::submitNewTask()
 
 void TasksPanelViewModel::addQuickTask(const QString &text)
 {
-    // Read again before each step: the task is for the document that was open when it was asked for.
-    const std::optional<PelkoDocument> open = m_appState.openDocument();
-    if (!open)
-        return;
-    const auto stillOpen = [this, &open]() -> std::optional<PelkoDocument> {
-        std::optional<PelkoDocument> now = m_appState.openDocument();
-        return now && now->id == open->id ? now : std::nullopt;
-    };
-    const std::optional<PelkoDocument> working = stillOpen();
-    if (!working)
-        return;
-    PelkoDocument changed = TaskOperations::addQuickTask(*working, text);
-    if (stillOpen())
-        m_appState.updateDocument(std::move(changed));
+    if (const std::optional<PelkoDocument> open = m_appState.openDocument())
+        m_appState.updateDocument(TaskOperations::addQuickTask(*open, text));
 }
 
 void TasksPanelViewModel::toggleTodo(const QString &docID, const QString &blockID, const QString &todoID)
