@@ -22,6 +22,21 @@ constexpr auto newBlockFocusDelay = 180ms;
 constexpr auto bannerFocusDelay = 100ms;
 } // namespace
 
+template <typename Operation, typename... Arguments>
+void EditorViewModel::change(const Operation &operation, const Arguments &...arguments)
+{
+    if (auto page = documentToMutate())
+        commit(operation(*std::move(page), arguments...));
+}
+
+template <typename Operation, typename... Arguments>
+void EditorViewModel::changeByTyping(const FocusTarget &field, const Operation &operation,
+                                     const Arguments &...arguments)
+{
+    if (auto page = documentToMutate())
+        commitTyping(operation(*std::move(page), arguments..., field.caret), field);
+}
+
 EditorViewModel::EditorViewModel(AppState &appState, const EditorServices &services, const QUuid &documentID,
                                  QObject *parent)
     : QObject(parent)
@@ -31,8 +46,8 @@ EditorViewModel::EditorViewModel(AppState &appState, const EditorServices &servi
     , m_documentID(documentID)
     , m_session(appState, services.scheduler, documentID)
     , m_drag(appState)
-    , m_selection(services.pasteboard, [this](const EditOperation &operation) { apply(operation); })
-    , m_keys([this](const EditOperation &operation) { apply(operation); })
+    , m_selection(services.pasteboard, [this](const EditOperation &operation) { change(operation); })
+    , m_keys([this](const EditOperation &operation) { change(operation); })
     , m_imageImport(services, [this](const QUuid &id, const QByteArray &bytes) { storePicture(id, bytes); })
 {
     connect(&m_appState, &AppState::documentsChanged, this, &EditorViewModel::refresh);
@@ -92,14 +107,12 @@ void EditorViewModel::addBlock(const QString &kind)
 
 void EditorViewModel::deleteBlock(const QString &blockID)
 {
-    if (auto page = documentToMutate())
-        commit(BlockOperations::deleteBlock(*std::move(page), QUuid(blockID)));
+    change(BlockOperations::deleteBlock, QUuid(blockID));
 }
 
 void EditorViewModel::moveBlock(const QString &blockID, int rows)
 {
-    if (auto page = documentToMutate())
-        commit(BlockOperations::moveBlock(*std::move(page), QUuid(blockID), rows));
+    change(BlockOperations::moveBlock, QUuid(blockID), rows);
 }
 
 void EditorViewModel::toggleFullWidth(const QString &blockID)
@@ -110,24 +123,20 @@ void EditorViewModel::toggleFullWidth(const QString &blockID)
 
 void EditorViewModel::typed(const QString &blockID, const QString &value, int caret)
 {
-    if (auto page = documentToMutate())
-        commitTyping(TypingRules::apply(*std::move(page), QUuid(blockID), value, caret),
-                     FocusTarget::at(blockID, {}, caret));
+    changeByTyping(FocusTarget::at(blockID, {}, caret), TypingRules::apply, QUuid(blockID), value);
 }
 
 void EditorViewModel::typedTodo(const QString &blockID, const QString &todoID, const QString &value,
                                 int caret)
 {
-    if (auto page = documentToMutate())
-        commitTyping(TodoOperations::setText(*std::move(page), QUuid(blockID), QUuid(todoID), value, caret),
-                     FocusTarget::at(blockID, todoID, caret));
+    changeByTyping(FocusTarget::at(blockID, todoID, caret), TodoOperations::setText, QUuid(blockID),
+                   QUuid(todoID), value);
 }
 
 void EditorViewModel::typedBannerTitle(const QString &blockID, const QString &value, int caret)
 {
-    if (auto page = documentToMutate())
-        commitTyping(ImageOperations::setBannerTitle(*std::move(page), QUuid(blockID), value, caret),
-                     FocusTarget::at(blockID, {}, caret));
+    changeByTyping(FocusTarget::at(blockID, {}, caret), ImageOperations::setBannerTitle, QUuid(blockID),
+                   value);
 }
 
 bool EditorViewModel::pastePicture(const QString &blockID)
@@ -143,26 +152,22 @@ bool EditorViewModel::pastePicture(const QString &blockID)
 
 void EditorViewModel::storePicture(const QUuid &blockID, const QByteArray &bytes)
 {
-    if (auto page = documentToMutate())
-        commit(ImageOperations::setImageData(*std::move(page), blockID, bytes));
+    change(ImageOperations::setImageData, blockID, bytes);
 }
 
 void EditorViewModel::toggleTodo(const QString &blockID, const QString &todoID)
 {
-    if (auto page = documentToMutate())
-        commit(TodoOperations::toggle(*std::move(page), QUuid(blockID), QUuid(todoID)));
+    change(TodoOperations::toggle, QUuid(blockID), QUuid(todoID));
 }
 
 void EditorViewModel::appendTodo(const QString &blockID)
 {
-    if (auto page = documentToMutate())
-        commit(TodoOperations::append(*std::move(page), QUuid(blockID)));
+    change(TodoOperations::append, QUuid(blockID));
 }
 
 void EditorViewModel::removeTodo(const QString &blockID, const QString &todoID)
 {
-    if (auto page = documentToMutate())
-        commit(TodoOperations::remove(*std::move(page), QUuid(blockID), QUuid(todoID), m_session.place()));
+    change(TodoOperations::remove, QUuid(blockID), QUuid(todoID), m_session.place());
 }
 
 void EditorViewModel::undo()
@@ -177,12 +182,6 @@ void EditorViewModel::redo()
     Q_EMIT settleRequested();
     if (const auto edit = m_session.redo())
         goOn(*edit);
-}
-
-void EditorViewModel::apply(const EditOperation &operation)
-{
-    if (auto page = documentToMutate())
-        commit(operation(*std::move(page)));
 }
 
 void EditorViewModel::commit(const std::optional<Edit> &edit, std::chrono::milliseconds focusDelay)

@@ -71,7 +71,7 @@ public:
 
     /// Puts the picture of the pasteboard, when there is one and no text, into a new block after that one.
     /// Tells whether it did.
-    Q_INVOKABLE bool pastePicture(const QString &blockID);
+    bool pastePicture(const QString &blockID);
 
     /// Takes back what was done last on this page, with the focus and the caret where they were; and does it
     /// again.
@@ -111,7 +111,12 @@ private:
     void commit(const std::optional<Edit> &edit, std::chrono::milliseconds focusDelay = {});
     void storePicture(const QUuid &blockID, const QByteArray &bytes);
     void commitTyping(const std::optional<Edit> &edit, const FocusTarget &field);
-    void apply(const EditOperation &operation);
+    /// Runs an operation on the page, with the arguments behind it, and stores what comes out as one step.
+    template <typename Operation, typename... Arguments>
+    void change(const Operation &operation, const Arguments &...arguments);
+    /// The same for what a key made of the text of `field`. The last argument is the caret.
+    template <typename Operation, typename... Arguments>
+    void changeByTyping(const FocusTarget &field, const Operation &operation, const Arguments &...arguments);
     void goOn(const Edit &edit, std::chrono::milliseconds focusDelay = {});
     void focus(const FocusTarget &target);
     void focusAfter(std::chrono::milliseconds delay, const FocusTarget &target);
