@@ -63,7 +63,7 @@ public:
         const Timestamp noon = 817'041'600;
         const auto answer = CalendarFolders::events(
             {.home = home()}, {.from = noon, .to = noon + 86400, .zone = QTimeZone("Europe/Berlin")},
-            FetchLimit(60s, asker, asker));
+            FetchDeadline(60s, asker, asker));
         return answer ? answer->size() : 0;
     }
 

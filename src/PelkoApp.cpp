@@ -2,9 +2,9 @@
 
 #include "Platform/WindowStates.h"
 #include "Shell/StartFailure.h"
-#include "Timers/PomodoroReading.h"
+#include "Timers/PomodoroText.h"
 #include "Views/Controls/Composition.h"
-#include "Views/TakeDown.h"
+#include "Views/SceneTeardown.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -30,7 +30,7 @@ void settleComposition()
 }
 } // namespace
 
-PelkoApp::PelkoApp(OnlyInstance &instance) : m_documentFile(m_localFile, instance)
+PelkoApp::PelkoApp(SingleInstance &instance) : m_documentFile(m_localFile, instance)
 {
     m_exports.bindTo(*m_main.commands()->list());
     followDataFolder(instance);
@@ -69,7 +69,7 @@ PelkoApp::~PelkoApp()
     if (!window())
         return;
     window()->hide(); // while everybody who hears of it is there
-    takeDown(*window());
+    tearDownScene(*window());
 }
 
 std::filesystem::path PelkoApp::dataFolder() const
@@ -79,7 +79,7 @@ std::filesystem::path PelkoApp::dataFolder() const
 
 /// The folder may be removed or moved while the program runs. It is made again at once, so that the next
 /// command line finds this process and not an empty folder.
-void PelkoApp::followDataFolder(const OnlyInstance &instance)
+void PelkoApp::followDataFolder(const SingleInstance &instance)
 {
     m_documentFile.onFolderChanged([this] {
         m_server.listen();
@@ -210,7 +210,7 @@ void PelkoApp::followWindow()
 
 void PelkoApp::followTimer()
 {
-    const auto show = [this] { m_tray.show(trayFace(m_pomodoroTimer, m_main.saveError())); };
+    const auto show = [this] { m_tray.show(trayIconState(m_pomodoroTimer, m_main.saveError())); };
     QObject::connect(&m_pomodoroTimer, &PomodoroTimer::timeRemainingChanged, &m_tray, show);
     QObject::connect(&m_pomodoroTimer, &PomodoroTimer::isRunningChanged, &m_tray, show);
     QObject::connect(&m_pomodoroTimer, &PomodoroTimer::sessionCountChanged, &m_tray, show);

@@ -8,11 +8,11 @@
 #include "Platform/LocalPictureFiles.h"
 #include "Platform/LocalPictureFolders.h"
 #include "Platform/LockedDocumentFile.h"
-#include "Platform/OnlyInstance.h"
 #include "Platform/PasteGuard.h"
 #include "Platform/PortalFileChooser.h"
 #include "Platform/ProgramEnd.h"
 #include "Platform/QtScheduler.h"
+#include "Platform/SingleInstance.h"
 #include "Platform/SystemClock.h"
 #include "Platform/SystemDataLocation.h"
 #include "Platform/SystemPasteboard.h"
@@ -44,7 +44,7 @@ class PelkoApp
 {
 public:
     /// `instance` has locked the data folder and must outlive the program.
-    explicit PelkoApp(OnlyInstance &instance);
+    explicit PelkoApp(SingleInstance &instance);
     ~PelkoApp();
 
     /// Runs until the program is to end. Returns the exit code: 1 where the window's contents could not be
@@ -59,7 +59,7 @@ private:
     void bringToFront();
     ProgramEnd::Answers answersAtTheEnd();
     QString save();
-    void followDataFolder(const OnlyInstance &instance);
+    void followDataFolder(const SingleInstance &instance);
     void watchDataFolder();
     void followRequests();
     void followWindow();

@@ -28,7 +28,7 @@ QStringList arguments(int argc, char *argv[])
 }
 
 /// The room of a picture that is let go belongs to the system again, not to the next picture of another size.
-void giveLargeBlocksBack()
+void tuneMallocForLargeImages()
 {
 #ifdef __GLIBC__
     constexpr int megabyte = 1 << 20;
@@ -44,7 +44,7 @@ int say(const CommandLineAnswer &answer)
 }
 
 /// Straight into the file. What cannot be read is not written over behind the writer's back.
-CommandLineAnswer captureIntoFile(const DataLocation &location, OnlyInstance &instance,
+CommandLineAnswer captureIntoFile(const DataLocation &location, SingleInstance &instance,
                                   const SparkCommand &command)
 {
     QtScheduler scheduler;
@@ -65,7 +65,7 @@ void describe(QGuiApplication &application)
     application.setWindowIcon(QIcon(u":/app.pelko.Pelko.svg"_s));
 }
 
-int showWindow(int argc, char *argv[], OnlyInstance &instance)
+int showWindow(int argc, char *argv[], SingleInstance &instance)
 {
     if (prefersSoftwareSceneGraph(QProcessEnvironment::systemEnvironment(), QDir(u"/dev/dri"_s)))
         QQuickWindow::setSceneGraphBackend(u"software"_s);
@@ -82,7 +82,7 @@ int main(int argc, char *argv[])
     // What is written is for the writer only: it is left in no core file.
     constexpr rlimit none{0, 0};
     ::setrlimit(RLIMIT_CORE, &none);
-    giveLargeBlocksBack();
+    tuneMallocForLargeImages();
     const CommandLine commandLine = readCommandLine(arguments(argc, argv));
     if (const auto *known = std::get_if<CommandLineAnswer>(&commandLine))
         return say(*known);
@@ -94,7 +94,7 @@ int main(int argc, char *argv[])
     if (const auto *exportTo = std::get_if<ExportCommand>(&commandLine))
         return say(exportLibrary(location, *exportTo));
 
-    OnlyInstance instance(*support / "Pelko");
+    SingleInstance instance(*support / "Pelko");
     if (const auto answer = instance.yieldTo(arguments(argc, argv)))
         return say(*answer);
     if (const auto warning = instance.warning())

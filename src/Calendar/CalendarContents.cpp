@@ -53,16 +53,16 @@ bool CalendarContents::isNear(const CalendarEntry &entry) const
         m_span.from;
 }
 
-QList<CalendarEvent> CalendarContents::events(const IsGivenUp &isGivenUp) const
+QList<CalendarEvent> CalendarContents::events(const IsCancelled &isCancelled) const
 {
     QList<CalendarEvent> events;
     for (const bool repeating : {false, true}) {
         for (const EventSeries &series : m_series) {
             if (series.repeats() != repeating)
                 continue;
-            if (isGivenUp())
+            if (isCancelled())
                 return events;
-            for (const Occurrence &occurrence : series.occurrences(m_span, isGivenUp))
+            for (const Occurrence &occurrence : series.occurrences(m_span, isCancelled))
                 events.append(eventFrom(occurrence));
         }
     }

@@ -19,7 +19,7 @@ public:
 
     /// The events that overlap the window: first those that happen once, then the others, each in the order
     /// in which they were read. Those that are known by the time that all is given up, if it is.
-    QList<CalendarEvent> events(const IsGivenUp &isGivenUp) const;
+    QList<CalendarEvent> events(const IsCancelled &isCancelled) const;
 
     /// The UIDs of what was kept.
     QSet<QByteArray> uids() const { return {m_places.keyBegin(), m_places.keyEnd()}; }

@@ -1,6 +1,6 @@
 #include "Calendar/EventSeries.h"
 
-#include "Calendar/LaterChanges.h"
+#include "Calendar/ThisAndFutureOverrides.h"
 #include "Calendar/TimeSet.h"
 
 #include <algorithm>
@@ -9,7 +9,7 @@
 
 namespace
 {
-constexpr qint64 day = 86400;
+constexpr qint64 secondsPerDay = 86400;
 
 /// Sorts pointers: sorting the values makes GCC warn of an uninitialised title, which is optional.
 QList<Occurrence> byStartWithoutDuplicates(const QList<Occurrence> &occurrences)
@@ -37,7 +37,7 @@ bool EventSeries::repeats() const
     return !m_changes.isEmpty() || std::ranges::any_of(m_entries, &CalendarEntry::repeats);
 }
 
-QList<Occurrence> EventSeries::occurrences(const Span &span, const IsGivenUp &isGivenUp) const
+QList<Occurrence> EventSeries::occurrences(const Span &span, const IsCancelled &isCancelled) const
 {
     QList<Occurrence> found;
     // Who calls all of it off says so once, and not of each occurrence that was changed before.
@@ -45,7 +45,7 @@ QList<Occurrence> EventSeries::occurrences(const Span &span, const IsGivenUp &is
         return found;
     for (const CalendarEntry &entry : m_entries) {
         if (!entry.isCancelled)
-            addRepeated(found, entry, span, isGivenUp);
+            addRepeated(found, entry, span, isCancelled);
     }
     for (const CalendarEntry &change : m_changes) {
         const qint64 start = change.start.utc();
@@ -58,10 +58,10 @@ QList<Occurrence> EventSeries::occurrences(const Span &span, const IsGivenUp &is
 }
 
 void EventSeries::addRepeated(QList<Occurrence> &found, const CalendarEntry &entry, const Span &span,
-                              const IsGivenUp &isGivenUp) const
+                              const IsCancelled &isCancelled) const
 {
-    const Instances all = instances(entry, span, isGivenUp);
-    const LaterChanges later(entry, m_changes);
+    const Instances all = instances(entry, span, isCancelled);
+    const ThisAndFutureOverrides later(entry, m_changes);
     for (auto instance = all.begin(); instance != all.end(); ++instance) {
         const CalendarEntry *change = later.at(instance.key());
         if (change && change->isCancelled)
@@ -77,20 +77,20 @@ void EventSeries::addRepeated(QList<Occurrence> &found, const CalendarEntry &ent
 
 /// The times an entry has by itself, near a span: without those that were left out or changed one by one.
 EventSeries::Instances EventSeries::instances(const CalendarEntry &entry, const Span &span,
-                                              const IsGivenUp &isGivenUp) const
+                                              const IsCancelled &isCancelled) const
 {
     const WallZone &zone = *entry.start.zone;
     const CalendarSpan length = entry.length();
-    const LaterChanges later(entry, m_changes);
+    const ThisAndFutureOverrides later(entry, m_changes);
     qint64 longest = std::max(length.roughSeconds(), later.longest());
     for (const ExtraDate &extra : entry.extraDates)
         longest = std::max(longest, extra.span.value_or(length).roughSeconds());
-    const qint64 slack = later.farthestShift() + day;
+    const qint64 slack = later.farthestShift() + secondsPerDay;
     const RecurrenceRule::Range range{.from = zone.wall(qint64(std::floor(span.from))) - longest - slack,
                                       .to = zone.wall(qint64(std::ceil(span.to))) + slack};
     Instances all{{entry.start.wall, length}};
     for (const RecurrenceRule &rule : entry.rules) {
-        for (const qint64 wall : rule.times(entry.start, range, isGivenUp))
+        for (const qint64 wall : rule.times(entry.start, range, isCancelled))
             all.insert(wall, length);
     }
     for (const ExtraDate &extra : entry.extraDates)

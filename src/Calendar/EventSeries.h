@@ -38,14 +38,14 @@ public:
 
     /// The occurrences that overlap a span, in the order of their starts. What was cancelled is not among
     /// them.
-    QList<Occurrence> occurrences(const Span &span, const IsGivenUp &isGivenUp) const;
+    QList<Occurrence> occurrences(const Span &span, const IsCancelled &isCancelled) const;
 
 private:
     using Instances = QMap<qint64, CalendarSpan>; // by the wall time in the zone of the entry
 
-    Instances instances(const CalendarEntry &entry, const Span &span, const IsGivenUp &isGivenUp) const;
+    Instances instances(const CalendarEntry &entry, const Span &span, const IsCancelled &isCancelled) const;
     void addRepeated(QList<Occurrence> &found, const CalendarEntry &entry, const Span &span,
-                     const IsGivenUp &isGivenUp) const;
+                     const IsCancelled &isCancelled) const;
     static void addIfOverlapping(QList<Occurrence> &found, const Span &span, const Occurrence &occurrence);
     QByteArray identifierAt(const CalendarEntry &entry, qint64 start) const;
 

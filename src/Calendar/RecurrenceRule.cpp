@@ -39,7 +39,7 @@ std::optional<qint64> RecurrenceRule::until(const CalendarTime &start) const
 }
 
 std::vector<qint64> RecurrenceRule::times(const CalendarTime &start, const Range &range,
-                                          const IsGivenUp &isGivenUp) const
+                                          const IsCancelled &isCancelled) const
 {
     std::vector<qint64> times;
     const qint64 last = std::min(range.to - 1, until(start).value_or(range.to));
@@ -51,7 +51,7 @@ std::vector<qint64> RecurrenceRule::times(const CalendarTime &start, const Range
         periods.skipTo(first);
     int found = 0;
     int empty = 0;
-    for (int period = 0; period < mostPeriods && periods.begin() <= last && !isGivenUp(); ++period) {
+    for (int period = 0; period < mostPeriods && periods.begin() <= last && !isCancelled(); ++period) {
         const auto named = periods.takeTimes();
         if (!named)
             return {};

@@ -7,7 +7,7 @@
 #include <vector>
 
 /// Nobody waits any more for what is being worked out.
-using IsGivenUp = std::function<bool()>;
+using IsCancelled = std::function<bool()>;
 
 /// A recurrence rule: "FREQ=WEEKLY;BYDAY=MO". Whatever it says, working out its times ends soon: after ten
 /// thousand times it counts as if it ended, and one that nobody would enter, like every second of a year, has
@@ -29,7 +29,7 @@ public:
     /// The times in the range, in order, of what begins at `start`. The start itself is among them only where
     /// the rule names it.
     std::vector<qint64> times(const CalendarTime &start, const Range &range,
-                              const IsGivenUp &isGivenUp) const;
+                              const IsCancelled &isCancelled) const;
 
     /// The wall time of the rule's end, if it has one, for what starts in a zone.
     std::optional<qint64> until(const CalendarTime &start) const;

@@ -66,11 +66,11 @@ std::shared_ptr<const WallZone> ZoneTable::named(QByteArrayView name)
     return *known ? *known : written(name.toByteArray());
 }
 
-std::shared_ptr<WrittenZone> ZoneTable::written(const QByteArray &name)
+std::shared_ptr<VTimeZone> ZoneTable::written(const QByteArray &name)
 {
     auto &zone = m_written[name];
     if (!zone)
-        zone = std::make_shared<WrittenZone>(m_local);
+        zone = std::make_shared<VTimeZone>(m_local);
     return zone;
 }
 

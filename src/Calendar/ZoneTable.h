@@ -2,7 +2,7 @@
 
 #include "Calendar/CalendarTime.h"
 #include "Calendar/ContentLines.h"
-#include "Calendar/WrittenZone.h"
+#include "Calendar/VTimeZone.h"
 
 #include <QHash>
 
@@ -28,12 +28,12 @@ public:
     std::optional<CalendarTime> time(const ContentLine &line, QByteArrayView value);
 
 private:
-    std::shared_ptr<WrittenZone> written(const QByteArray &name);
+    std::shared_ptr<VTimeZone> written(const QByteArray &name);
 
     std::shared_ptr<const WallZone> m_local;
     std::shared_ptr<const WallZone> m_utc;
     QHash<QByteArray, std::shared_ptr<const WallZone>> m_system; // null where the system has none
-    QHash<QByteArray, std::shared_ptr<WrittenZone>> m_written;
+    QHash<QByteArray, std::shared_ptr<VTimeZone>> m_written;
 };
 
 /// The zone of the system that a calendar means by a name; invalid where it knows none.

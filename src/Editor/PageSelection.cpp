@@ -1,6 +1,6 @@
 #include "Editor/PageSelection.h"
 
-#include "Editor/BlockForms.h"
+#include "Editor/ClipboardFormats.h"
 #include "Editor/Excerpt.h"
 #include "Editor/SelectionOperations.h"
 #include "Services/Pasteboard.h"
@@ -72,16 +72,16 @@ void PageSelection::copy() const
     if (!m_selection)
         return;
     const QList<Block> blocks = excerpt(m_document, *m_selection);
-    m_pasteboard.put({.text = BlockForms::plainText(blocks),
-                      .markdown = BlockForms::markdown(blocks),
-                      .html = BlockForms::html(blocks),
+    m_pasteboard.put({.text = ClipboardFormats::plainText(blocks),
+                      .markdown = ClipboardFormats::markdown(blocks),
+                      .html = ClipboardFormats::html(blocks),
                       .picture = firstPicture(blocks)});
 }
 
 void PageSelection::offer() const
 {
     if (m_selection)
-        m_pasteboard.putSelectedText(BlockForms::plainText(excerpt(m_document, *m_selection)));
+        m_pasteboard.putSelectedText(ClipboardFormats::plainText(excerpt(m_document, *m_selection)));
 }
 
 void PageSelection::cut()

@@ -1,6 +1,6 @@
 #include "Platform/ExportWriter.h"
 
-#include "Platform/Installation.h"
+#include "Platform/FileTransaction.h"
 #include "Platform/StagingFolder.h"
 
 #include <cerrno>
@@ -89,9 +89,9 @@ private:
     const fs::path m_folder;
     const ExportFolder::Existing m_existing;
     // In the order in which they are made; they end the other way round.
-    Installation m_folders;
+    FileTransaction m_folders;
     StagingFolder m_staging;
-    Installation m_installation;
+    FileTransaction m_installation;
 };
 } // namespace
 

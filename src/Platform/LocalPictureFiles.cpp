@@ -17,13 +17,13 @@ constexpr qint64 longestPicture = qint64(1) << 30;
 constexpr qsizetype step = 1 << 20;
 
 /// Nobody waits any more for what is being read.
-using IsGivenUp = std::function<bool()>;
+using IsCancelled = std::function<bool()>;
 
-std::optional<QByteArray> readAll(int descriptor, qint64 expectedSize, const IsGivenUp &isGivenUp)
+std::optional<QByteArray> readAll(int descriptor, qint64 expectedSize, const IsCancelled &isCancelled)
 {
     QByteArray bytes;
     bytes.reserve(expectedSize + 1);
-    for (qsizetype size = 0; size <= longestPicture && !isGivenUp();) {
+    for (qsizetype size = 0; size <= longestPicture && !isCancelled();) {
         bytes.resize(size + std::clamp<qsizetype>(expectedSize + 1 - size, 1, step));
         const ssize_t count = ::read(descriptor, bytes.data() + size, std::size_t(bytes.size() - size));
         if (count < 0 && errno != EINTR)
@@ -38,7 +38,7 @@ std::optional<QByteArray> readAll(int descriptor, qint64 expectedSize, const IsG
     return std::nullopt;
 }
 
-std::optional<QByteArray> readFile(const std::filesystem::path &path, const IsGivenUp &isGivenUp)
+std::optional<QByteArray> readFile(const std::filesystem::path &path, const IsCancelled &isCancelled)
 {
     std::error_code unreachable;
     if (!std::filesystem::is_regular_file(path, unreachable)) // to open a device may already do something
@@ -50,7 +50,7 @@ std::optional<QByteArray> readFile(const std::filesystem::path &path, const IsGi
     if (!S_ISREG(status.st_mode) || status.st_size > longestPicture)
         return std::nullopt;
     try {
-        return readAll(file.number(), status.st_size, isGivenUp);
+        return readAll(file.number(), status.st_size, isCancelled);
     } catch (const std::bad_alloc &) {
         return std::nullopt;
     }

@@ -1,10 +1,10 @@
 #include "Platform/LockedDocumentFile.h"
 
-#include "Platform/OnlyInstance.h"
+#include "Platform/SingleInstance.h"
 
 using namespace Qt::StringLiterals;
 
-LockedDocumentFile::LockedDocumentFile(DocumentFile &file, OnlyInstance &instance)
+LockedDocumentFile::LockedDocumentFile(DocumentFile &file, SingleInstance &instance)
     : m_file(file)
     , m_instance(instance)
 {

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-class OnlyInstance;
+class SingleInstance;
 
 /// The data file in the folder that this process has locked. A folder that was removed, or replaced by
 /// another one, is locked again before anything is written into it; while another process has it, every save
@@ -13,7 +13,7 @@ class LockedDocumentFile : public DocumentFile
 {
 public:
     /// Both must outlive this object.
-    LockedDocumentFile(DocumentFile &file, OnlyInstance &instance);
+    LockedDocumentFile(DocumentFile &file, SingleInstance &instance);
 
     /// Called when another folder was locked, ahead of the write into it.
     void onFolderChanged(std::function<void()> action) { m_folderChanged = std::move(action); }
@@ -28,6 +28,6 @@ public:
 
 private:
     DocumentFile &m_file;
-    OnlyInstance &m_instance;
+    SingleInstance &m_instance;
     std::function<void()> m_folderChanged = [] {};
 };

@@ -64,7 +64,7 @@ QVariant CommandListModel::data(const QModelIndex &index, int role) const
     case IsEnabledRole:
         return row.isEnabled;
     case IsTickableRole:
-        return bool(row.deed.isTicked);
+        return bool(row.action.isTicked);
     case IsTickedRole:
         return row.isTicked;
     default:
@@ -93,12 +93,12 @@ bool CommandListModel::isTicked(const QString &id) const
     return found && found->isTicked;
 }
 
-void CommandListModel::bind(const QString &id, CommandDeed deed)
+void CommandListModel::bind(const QString &id, CommandAction action)
 {
     const Row *found = row(id);
-    Q_ASSERT(found && deed.run);
+    Q_ASSERT(found && action.run);
     const qsizetype place = found - m_rows.constData();
-    m_rows[place].deed = std::move(deed);
+    m_rows[place].action = std::move(action);
     ask(m_rows[place]);
     const QModelIndex bound = index(static_cast<int>(place));
     Q_EMIT dataChanged(bound, bound, {IsEnabledRole, IsTickableRole, IsTickedRole});
@@ -109,8 +109,8 @@ void CommandListModel::run(const QString &id) const
     if (!isEnabled(id))
         return;
     // What it does may bind and refresh.
-    const std::function<void()> deed = row(id)->deed.run;
-    deed();
+    const std::function<void()> action = row(id)->action.run;
+    action();
 }
 
 void CommandListModel::refresh()
@@ -123,8 +123,8 @@ void CommandListModel::refresh()
 
 bool CommandListModel::ask(Row &row)
 {
-    const bool isEnabled = row.deed.run && row.deed.isEnabled();
-    const bool isTicked = row.deed.isTicked && row.deed.isTicked();
+    const bool isEnabled = row.action.run && row.action.isEnabled();
+    const bool isTicked = row.action.isTicked && row.action.isTicked();
     const bool differs = row.isEnabled != isEnabled || row.isTicked != isTicked;
     row.isEnabled = isEnabled;
     row.isTicked = isTicked;

@@ -7,16 +7,16 @@
 
 #include <functional>
 
-/// What a command does, whether it can be given now, and whether it stands for something that is on. Without
-/// a question it is always possible and never on.
-struct CommandDeed {
+/// What a command runs, whether it is enabled, and whether it is ticked. Without `isEnabled` it is always
+/// enabled; without `isTicked` it has no tick.
+struct CommandAction {
     std::function<void()> run;
     std::function<bool()> isEnabled = [] { return true; };
     std::function<bool()> isTicked = nullptr;
 };
 
 /// The commands as the app menu shows them, with the hairlines between their groups. Each is bound to its
-/// deed by whoever can do it; until then it is disabled.
+/// action by whoever can do it; until then it is disabled.
 class CommandListModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -53,17 +53,17 @@ public:
     bool isEnabled(const QString &id) const;
     bool isTicked(const QString &id) const;
 
-    void bind(const QString &id, CommandDeed deed);
+    void bind(const QString &id, CommandAction action);
     /// Gives the command of that id. One that is unknown or disabled does nothing.
     void run(const QString &id) const;
-    /// The answers of the deeds may have changed.
+    /// Asks every action again whether it is enabled and ticked.
     void refresh();
 
 private:
     struct Row {
         MenuCommand command = {};
         bool isSeparator = false;
-        CommandDeed deed = {};
+        CommandAction action = {};
         bool isEnabled = false;
         bool isTicked = false;
     };

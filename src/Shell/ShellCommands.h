@@ -60,7 +60,7 @@ private:
     void bindEditing();
     void fillMenuBar();
     void setShowShortcuts(bool shown);
-    void bind(const QString &id, CommandDeed deed) { m_list.bind(id, std::move(deed)); }
+    void bind(const QString &id, CommandAction action) { m_list.bind(id, std::move(action)); }
 
     AppState &m_appState;
     NavigationViewModel &m_navigation;

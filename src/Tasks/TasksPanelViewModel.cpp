@@ -3,7 +3,7 @@
 #include "Services/Clock.h"
 #include "Store/AppState.h"
 #include "Store/ChangeScope.h"
-#include "Tasks/ClockFace.h"
+#include "Tasks/ClockText.h"
 #include "Tasks/TaskOperations.h"
 #include "Tasks/WordGoal.h"
 #include "Tasks/WritingStreak.h"
@@ -43,17 +43,17 @@ TasksPanelViewModel::TasksPanelViewModel(AppState &appState, const TasksServices
 
 QString TasksPanelViewModel::time() const
 {
-    return ClockFace::time(m_currentTime, m_zone, m_services.locale);
+    return ClockText::time(m_currentTime, m_zone, m_services.locale);
 }
 
 QString TasksPanelViewModel::timeMarker() const
 {
-    return ClockFace::marker(m_currentTime, m_zone, m_services.locale);
+    return ClockText::marker(m_currentTime, m_zone, m_services.locale);
 }
 
 QString TasksPanelViewModel::dateString() const
 {
-    return ClockFace::date(m_currentTime, m_zone, m_services.locale);
+    return ClockText::date(m_currentTime, m_zone, m_services.locale);
 }
 
 qint64 TasksPanelViewModel::wordGoal() const

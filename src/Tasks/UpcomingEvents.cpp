@@ -2,7 +2,7 @@
 
 #include "Models/LocalTime.h"
 #include "Services/Clock.h"
-#include "Tasks/ClockFace.h"
+#include "Tasks/ClockText.h"
 
 #include <algorithm>
 #include <utility>
@@ -79,8 +79,8 @@ void UpcomingEvents::assign(const QList<CalendarEvent> &events)
 QString UpcomingEvents::eventTimeString(const CalendarEvent &event) const
 {
     const QTimeZone zone = m_clock.timeZone();
-    return ClockFace::time(event.start, zone, m_locale) + u' ' +
-           ClockFace::marker(event.start, zone, m_locale);
+    return ClockText::time(event.start, zone, m_locale) + u' ' +
+           ClockText::marker(event.start, zone, m_locale);
 }
 
 int UpcomingEvents::rowCount(const QModelIndex &parent) const

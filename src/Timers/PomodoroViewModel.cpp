@@ -3,7 +3,7 @@
 #include "Services/Pasteboard.h"
 #include "Store/AppState.h"
 #include "Store/ChangeScope.h"
-#include "Timers/PomodoroReading.h"
+#include "Timers/PomodoroText.h"
 #include "Timers/PomodoroTimer.h"
 
 using namespace Qt::StringLiterals;

@@ -1,7 +1,7 @@
 #include "Timers/TimersViewModel.h"
 
 #include "Store/ChangeScope.h"
-#include "Timers/PomodoroReading.h"
+#include "Timers/PomodoroText.h"
 #include "Timers/PomodoroTimer.h"
 
 using namespace Qt::StringLiterals;

@@ -1,4 +1,4 @@
-#include "Editor/BlockForms.h"
+#include "Editor/ClipboardFormats.h"
 #include "Editor/Excerpt.h"
 #include "support/PageText.h"
 #include "support/TestProgram.h"
@@ -53,9 +53,9 @@ private Q_SLOTS:
         banner.bannerTitle = u"Sea"_s;
         const QList<Block> cut = excerpt(page({banner, block('B')}), between('A', 1, 'B', 0));
         QCOMPARE(cut.first().bannerTitle, u"ea"_s);
-        QCOMPARE(BlockForms::plainText(cut), u"ea\n"_s);
-        QCOMPARE(BlockForms::markdown(cut), u"# ea"_s);
-        QCOMPARE(BlockForms::html(cut), u"<h1>ea</h1>"_s);
+        QCOMPARE(ClipboardFormats::plainText(cut), u"ea\n"_s);
+        QCOMPARE(ClipboardFormats::markdown(cut), u"# ea"_s);
+        QCOMPARE(ClipboardFormats::html(cut), u"<h1>ea</h1>"_s);
     }
 
     void nothingIsCutFromAnotherPage()
@@ -65,13 +65,13 @@ private Q_SLOTS:
 
     void plainTextIsWhatStandsThere()
     {
-        QCOMPARE(BlockForms::plainText(pageToCopy().blocks),
+        QCOMPARE(ClipboardFormats::plainText(pageToCopy().blocks),
                  u"Head\nBody\n& soul\n---\nso\nsaid\nmilk\nrye\na<b\n```"_s);
     }
 
     void markdownMarksTheKinds()
     {
-        QCOMPARE(BlockForms::markdown(pageToCopy().blocks),
+        QCOMPARE(ClipboardFormats::markdown(pageToCopy().blocks),
                  u"# Head\n\nBody  \n& soul\n\n---\n\n> so  \n> said\n\n- [ ] milk\n- [x] rye\n\n"
                  "````\na<b\n```\n````"_s);
     }
@@ -79,7 +79,7 @@ private Q_SLOTS:
     void htmlHoldsNothingButElements()
     {
         QCOMPARE(
-            BlockForms::html(pageToCopy().blocks),
+            ClipboardFormats::html(pageToCopy().blocks),
             u"<h1>Head</h1>\n<p>Body<br>&amp; soul</p>\n<hr>\n<blockquote><p>so<br>said</p></blockquote>\n"
             "<ul><li>☐ milk</li>\n<li>☑ rye</li></ul>\n<pre><code>a&lt;b\n```</code></pre>"_s);
     }
@@ -88,9 +88,9 @@ private Q_SLOTS:
     {
         const QList<Block> blocks{block('A', BlockType::textLarge), block('B', BlockType::quote, u"q"_s),
                                   image('C')};
-        QCOMPARE(BlockForms::plainText(blocks), u"\nq"_s);
-        QCOMPARE(BlockForms::markdown(blocks), u"> q"_s);
-        QCOMPARE(BlockForms::html(blocks), u"<blockquote><p>q</p></blockquote>"_s);
+        QCOMPARE(ClipboardFormats::plainText(blocks), u"\nq"_s);
+        QCOMPARE(ClipboardFormats::markdown(blocks), u"> q"_s);
+        QCOMPARE(ClipboardFormats::html(blocks), u"<blockquote><p>q</p></blockquote>"_s);
     }
 };
 

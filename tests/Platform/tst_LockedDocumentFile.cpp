@@ -1,6 +1,6 @@
 #include "DataFolder.h"
 #include "Platform/LockedDocumentFile.h"
-#include "Platform/OnlyInstance.h"
+#include "Platform/SingleInstance.h"
 #include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
@@ -18,7 +18,7 @@ std::optional<FileError> saveInto(DocumentFile &file, const QByteArray &bytes)
 /// A program that has locked its data folder and saved into it.
 struct RunningProgram {
     DataFolder disk;
-    OnlyInstance instance{disk.folder()};
+    SingleInstance instance{disk.folder()};
     LocalDocumentFile localFile{disk};
     LockedDocumentFile file{localFile, instance};
     int folderChanges = 0;
@@ -54,7 +54,7 @@ private Q_SLOTS:
         QVERIFY(program.instance.holdsFolder());
         QCOMPARE(program.folderChanges, 1);
         QCOMPARE(program.disk.read(), "second");
-        OnlyInstance second(program.disk.folder());
+        SingleInstance second(program.disk.folder());
         QVERIFY(second.lockAgain());
     }
 
@@ -74,7 +74,7 @@ private Q_SLOTS:
     {
         RunningProgram program;
         fs::remove_all(program.disk.folder());
-        auto other = std::make_unique<OnlyInstance>(program.disk.folder());
+        auto other = std::make_unique<SingleInstance>(program.disk.folder());
         QVERIFY(!other->yieldTo(plainStart));
         DataFolder::put(program.disk.file(), "of the other");
         const auto error = saveInto(program.file, "second");

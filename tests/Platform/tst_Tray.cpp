@@ -3,7 +3,7 @@
 #include "Platform/Tray/Tray.h"
 #include "Platform/Tray/TrayTypes.h"
 #include "Platform/TrayWatcher.h"
-#include "Timers/TrayFace.h"
+#include "Timers/TrayIconState.h"
 #include "support/TestProgram.h"
 
 #include <QDBusInterface>
@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-TrayFace running()
+TrayIconState running()
 {
     return {.isRunning = true,
             .flameOpacity = 1.0,
@@ -229,7 +229,7 @@ private Q_SLOTS:
         m_tray->show(running());
         QCOMPARE(icon.count() + label.count() + toolTip.count(), 3);
 
-        TrayFace next = running();
+        TrayIconState next = running();
         next.flameOpacity = 0.5;
         m_tray->show(next);
         QCOMPARE(icon.count(), 2);
@@ -288,7 +288,7 @@ private Q_SLOTS:
         m_tray->show(running());
         const uint before = callMenu(u"GetLayout"_s, {0, -1, QStringList()}).arguments().value(0).toUInt();
 
-        TrayFace paused = running();
+        TrayIconState paused = running();
         paused.menu[1].text = u"Start"_s;
         m_tray->show(paused);
 

@@ -1,7 +1,7 @@
 #include "Platform/PrivateBus.h"
 #include "Platform/Tray/Tray.h"
 #include "Platform/TrayWatcher.h"
-#include "Timers/TrayFace.h"
+#include "Timers/TrayIconState.h"
 #include "support/RandomSeeds.h"
 #include "support/TestProgram.h"
 
@@ -87,7 +87,7 @@ private:
 
     QString show()
     {
-        TrayFace face;
+        TrayIconState face;
         face.isRunning = m_random.bounded(2) == 0;
         face.minutesLeft = int(m_random.bounded(25));
         m_tray.show(face);

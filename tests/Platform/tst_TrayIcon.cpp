@@ -1,13 +1,13 @@
 #include "Platform/Tray/TrayIcon.h"
 #include "Platform/Tray/TrayTypes.h"
-#include "Timers/TrayFace.h"
+#include "Timers/TrayIconState.h"
 #include "support/TestProgram.h"
 
 namespace
 {
-TrayFace running(int minutes, double progress)
+TrayIconState running(int minutes, double progress)
 {
-    TrayFace face;
+    TrayIconState face;
     face.isRunning = true;
     face.flameOpacity = 1;
     face.progress = progress;
@@ -70,7 +70,7 @@ private Q_SLOTS:
 
     void besideALabelItIsTheFlame()
     {
-        TrayFace face = running(17, 0.3);
+        TrayIconState face = running(17, 0.3);
         const QImage bright = trayIcon(face, 48, TrayLabels::drawn);
         QCOMPARE(qAlpha(bright.pixel(24, 34)), 255);
         face.flameOpacity = 0.5;

@@ -22,9 +22,9 @@ def copy_elsewhere(text):
     return owners
 
 
-def longest_silence(pelko, deed):
+def longest_silence(pelko, action):
     """How long the window's thread answers nobody while something is done, in seconds."""
-    deed()
+    action()
     began = time.monotonic()
     subprocess.run([pelko.program, "--pomodoro", "status"], check=True, capture_output=True)
     return time.monotonic() - began

@@ -1,7 +1,7 @@
 #include "Platform/PrivateBus.h"
 #include "Tasks/TasksViewModel.h"
 #include "Timers/TimersViewModel.h"
-#include "Views/TakeDown.h"
+#include "Views/SceneTeardown.h"
 #include "menubar/MenuOnBus.h"
 #include "menubar/PrivateDisplay.h"
 #include "qml/ExportBench.h"
@@ -47,7 +47,7 @@ private:
                                          {u"folderChooser"_s, QVariant::fromValue(exports.chooser())}});
             engine.load(QUrl(u"qrc:/qt/qml/Pelko/Views/Shell/PelkoWindow.qml"_s));
         }
-        ~Window() { takeDown(*qobject_cast<QQuickWindow *>(engine.rootObjects().value(0))); }
+        ~Window() { tearDownScene(*qobject_cast<QQuickWindow *>(engine.rootObjects().value(0))); }
         Q_DISABLE_COPY_MOVE(Window)
     };
 

@@ -1,6 +1,6 @@
 #include "writer/RunningProgram.h"
 
-#include "Views/TakeDown.h"
+#include "Views/SceneTeardown.h"
 
 #include <QAnimationDriver>
 #include <QExposeEvent>
@@ -91,7 +91,7 @@ RunningProgram::RunningProgram(ManualSystem &system) : m_system(system)
 
 RunningProgram::~RunningProgram()
 {
-    takeDown(*m_window);
+    tearDownScene(*m_window);
     processEvents();
 }
 

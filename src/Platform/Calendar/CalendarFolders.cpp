@@ -62,7 +62,7 @@ Listing listing(const fs::path &folder)
 class FolderReader
 {
 public:
-    FolderReader(const CalendarWindow &window, const FetchLimit &limit, const QSet<QByteArray> &except)
+    FolderReader(const CalendarWindow &window, const FetchDeadline &limit, const QSet<QByteArray> &except)
         : m_window(window)
         , m_limit(limit)
         , m_except(except)
@@ -87,18 +87,18 @@ public:
 private:
     void readCalendar(const std::vector<fs::path> &files)
     {
-        const auto isGivenUp = [this] { return m_limit.isOver(); };
+        const auto isCancelled = [this] { return m_limit.isOver(); };
         CalendarContents calendar(m_window, m_except);
         for (const fs::path &file : files) {
-            if (isGivenUp())
+            if (isCancelled())
                 break;
             calendar.read(m_file.read(file));
         }
-        events += calendar.events(isGivenUp);
+        events += calendar.events(isCancelled);
     }
 
     const CalendarWindow &m_window;
-    const FetchLimit &m_limit;
+    const FetchDeadline &m_limit;
     const QSet<QByteArray> &m_except;
     CalendarFile m_file;
     std::set<fs::path> m_known;
@@ -133,7 +133,7 @@ std::vector<fs::path> CalendarFolders::folders(const UserFolders &user)
 }
 
 CalendarStore::Answer CalendarFolders::events(const UserFolders &user, const CalendarWindow &window,
-                                              const FetchLimit &limit, const QSet<QByteArray> &except)
+                                              const FetchDeadline &limit, const QSet<QByteArray> &except)
 {
     const std::vector<fs::path> found = folders(user);
     if (found.empty())

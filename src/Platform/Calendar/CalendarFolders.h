@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Calendar/FetchLimit.h"
+#include "Platform/Calendar/FetchDeadline.h"
 #include "Services/CalendarStore.h"
 
 #include <QSet>
@@ -29,7 +29,7 @@ std::vector<std::filesystem::path> folders(const UserFolders &user);
 /// The events in them and up to three folders below. std::nullopt where there are no such folders. Files that
 /// cannot be read, that are none or that are larger than 16 megabytes are left out, and so are events with
 /// the UIDs in `except`.
-CalendarStore::Answer events(const UserFolders &user, const CalendarWindow &window, const FetchLimit &limit,
-                             const QSet<QByteArray> &except = {});
+CalendarStore::Answer events(const UserFolders &user, const CalendarWindow &window,
+                             const FetchDeadline &limit, const QSet<QByteArray> &except = {});
 
 } // namespace CalendarFolders

@@ -36,7 +36,7 @@ DesktopCalendarStore::~DesktopCalendarStore()
 ScheduledCall DesktopCalendarStore::fetch(const CalendarWindow &window, Completion completion)
 {
     const auto request = std::make_shared<Completion>(std::move(completion));
-    const FetchLimit limit(m_longestFetch, request, m_life);
+    const FetchDeadline limit(m_longestFetch, request, m_life);
     m_thread->start([waiting = std::weak_ptr(request), limit, window, bus = m_bus, folders = m_folders] {
         if (!limit.isWanted())
             return;

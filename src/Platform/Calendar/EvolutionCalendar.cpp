@@ -34,7 +34,7 @@ bool isAddress(const QString &service, const QString &path)
 } // namespace
 
 EvolutionCalendar::EvolutionCalendar(QDBusConnection bus, QString uid, const CalendarWindow &window,
-                                     const FetchLimit &limit)
+                                     const FetchDeadline &limit)
     : m_bus(std::move(bus))
     , m_uid(std::move(uid))
     , m_window(window)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Calendar/CalendarNames.h"
-#include "Platform/Calendar/FetchLimit.h"
+#include "Platform/Calendar/FetchDeadline.h"
 #include "Services/CalendarStore.h"
 
 #include <QDBusConnection>
@@ -17,7 +17,7 @@ class EvolutionCalendar : public QObject
 
 public:
     EvolutionCalendar(QDBusConnection bus, QString uid, const CalendarWindow &window,
-                      const FetchLimit &limit);
+                      const FetchDeadline &limit);
 
     void ask();
 
@@ -43,7 +43,7 @@ private:
     QDBusConnection m_bus;
     QString m_uid;
     const CalendarWindow &m_window;
-    const FetchLimit &m_limit;
+    const FetchDeadline &m_limit;
     QString m_service;
     QString m_path;
     QByteArrayList m_once;       // in the order in which they were told

@@ -20,7 +20,7 @@ constexpr auto glance = 20ms;
 
 /// Lets what is under way go on until it is done, or until there is no use in it.
 template <typename IsDone>
-void wait(QEventLoop &loop, const FetchLimit &limit, IsDone isDone)
+void wait(QEventLoop &loop, const FetchDeadline &limit, IsDone isDone)
 {
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &loop, [&] {
@@ -32,7 +32,7 @@ void wait(QEventLoop &loop, const FetchLimit &limit, IsDone isDone)
         loop.exec();
 }
 
-QDBusMessage askForSources(const QDBusConnection &bus, const FetchLimit &limit)
+QDBusMessage askForSources(const QDBusConnection &bus, const FetchDeadline &limit)
 {
     const auto message = QDBusMessage::createMethodCall(
         u"org.gnome.evolution.dataserver.Sources5"_s, u"/org/gnome/evolution/dataserver/SourceManager"_s,
@@ -45,7 +45,8 @@ QDBusMessage askForSources(const QDBusConnection &bus, const FetchLimit &limit)
 }
 
 std::vector<std::unique_ptr<EvolutionCalendar>> askAll(const QDBusConnection &bus, const QStringList &uids,
-                                                       const CalendarWindow &window, const FetchLimit &limit)
+                                                       const CalendarWindow &window,
+                                                       const FetchDeadline &limit)
 {
     std::vector<std::unique_ptr<EvolutionCalendar>> calendars;
     const auto areDone = [&calendars] { return std::ranges::all_of(calendars, &EvolutionCalendar::isDone); };
@@ -65,11 +66,11 @@ std::vector<std::unique_ptr<EvolutionCalendar>> askAll(const QDBusConnection &bu
 } // namespace
 
 std::optional<FoundEvents> evolutionEvents(const QDBusConnection &bus, const CalendarWindow &window,
-                                           const FetchLimit &limit)
+                                           const FetchDeadline &limit)
 {
     if (!bus.isConnected())
         return std::nullopt;
-    const FetchLimit asking = limit.sooner();
+    const FetchDeadline asking = limit.sooner();
     const QStringList uids = enabledCalendars(evolutionSources(askForSources(bus, asking)));
     if (uids.isEmpty())
         return std::nullopt;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Platform/Calendar/FetchLimit.h"
+#include "Platform/Calendar/FetchDeadline.h"
 #include "Services/CalendarStore.h"
 
 #include <QDBusConnection>
@@ -17,4 +17,4 @@ struct FoundEvents {
 /// limit is reached, with what came until then. std::nullopt where there is no such service, where it does
 /// not answer, or where it has no calendar in use.
 std::optional<FoundEvents> evolutionEvents(const QDBusConnection &bus, const CalendarWindow &window,
-                                           const FetchLimit &limit);
+                                           const FetchDeadline &limit);

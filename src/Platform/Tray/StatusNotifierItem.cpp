@@ -9,7 +9,7 @@ namespace
 {
 constexpr int iconSizes[] = {16, 22, 24, 32, 48};
 
-bool sameIcon(const TrayFace &before, const TrayFace &after)
+bool sameIcon(const TrayIconState &before, const TrayIconState &after)
 {
     return before.isRunning == after.isRunning && before.flameOpacity == after.flameOpacity &&
            before.minutesLeft == after.minutesLeft && before.progress == after.progress;
@@ -18,9 +18,9 @@ bool sameIcon(const TrayFace &before, const TrayFace &after)
 
 StatusNotifierItem::StatusNotifierItem(Tray &tray) : QDBusAbstractAdaptor(&tray), m_tray(tray) {}
 
-void StatusNotifierItem::show(const TrayFace &face)
+void StatusNotifierItem::show(const TrayIconState &face)
 {
-    const TrayFace before = std::exchange(m_face, face);
+    const TrayIconState before = std::exchange(m_face, face);
     if (!sameIcon(before, face))
         Q_EMIT NewIcon();
     if (before.label != face.label)

@@ -2,7 +2,7 @@
 
 #include "Platform/Tray/TrayIcon.h"
 #include "Platform/Tray/TrayTypes.h"
-#include "Timers/TrayFace.h"
+#include "Timers/TrayIconState.h"
 
 #include <QDBusAbstractAdaptor>
 #include <QDBusObjectPath>
@@ -35,7 +35,7 @@ class StatusNotifierItem : public QDBusAbstractAdaptor
 public:
     explicit StatusNotifierItem(Tray &tray);
 
-    void show(const TrayFace &face);
+    void show(const TrayIconState &face);
     void setLabels(TrayLabels labels);
 
     QString category() const { return QStringLiteral("ApplicationStatus"); }
@@ -71,6 +71,6 @@ Q_SIGNALS:
 
 private:
     Tray &m_tray;
-    TrayFace m_face;
+    TrayIconState m_face;
     TrayLabels m_labels = TrayLabels::ignored;
 };

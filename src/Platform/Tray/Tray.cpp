@@ -79,7 +79,7 @@ void Tray::connectTo(const QDBusConnection &bus)
     enrol();
 }
 
-void Tray::show(const TrayFace &face)
+void Tray::show(const TrayIconState &face)
 {
     m_item->show(face);
     m_menu->show(face.menu);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Timers/TrayFace.h"
+#include "Timers/TrayIconState.h"
 
 #include <QDBusConnection>
 #include <QObject>
@@ -28,7 +28,7 @@ public:
 
     /// Offers the item on `bus`, which need not be connected.
     void connectTo(const QDBusConnection &bus);
-    void show(const TrayFace &face);
+    void show(const TrayIconState &face);
 
 Q_SIGNALS:
     void isPresentChanged();

@@ -1,7 +1,7 @@
 #include "Platform/Tray/TrayIcon.h"
 
 #include "Theme/FlameCurve.h"
-#include "Timers/TrayFace.h"
+#include "Timers/TrayIconState.h"
 
 #include <QConicalGradient>
 #include <QPainter>
@@ -45,7 +45,7 @@ void paintFlame(QPainter &painter, int size, qreal opacity)
     painter.fillPath(flameOutline(), gradient);
 }
 
-void paintRing(QPainter &painter, int size, const TrayFace &face)
+void paintRing(QPainter &painter, int size, const TrayIconState &face)
 {
     const qreal stroke = qMax(2.0, 0.085 * size);
     const QRectF ring = QRectF(0, 0, size, size).adjusted(stroke / 2, stroke / 2, -stroke / 2, -stroke / 2);
@@ -92,7 +92,7 @@ void paintMinutes(QPainter &painter, int size, int minutes)
 }
 } // namespace
 
-QImage trayIcon(const TrayFace &face, int size, TrayLabels labels)
+QImage trayIcon(const TrayIconState &face, int size, TrayLabels labels)
 {
     QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);

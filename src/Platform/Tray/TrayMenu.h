@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Platform/Tray/TrayTypes.h"
-#include "Timers/TrayFace.h"
+#include "Timers/TrayIconState.h"
 
 #include <QDBusAbstractAdaptor>
 

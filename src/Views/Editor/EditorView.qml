@@ -74,7 +74,7 @@ FocusScope {
         onWalkedOut: forward => root.walkOut(forward)
     }
 
-    PageVeil {
+    ScrollEdgeFade {
         anchors { left: parent.left; right: parent.right; top: parent.top }
         opacity: root.editor.firstBlockIsBanner && page.atTop ? 0 : 1
 

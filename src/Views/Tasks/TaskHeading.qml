@@ -10,14 +10,14 @@ Item {
 
     readonly property int line: 12
 
-    ListView.onAdd: arrival.come()
-    ListView.onRemove: arrival.go()
-    clip: arrival.presence < 1
-    height: Math.max(0, arrival.presence) * (index === 0 ? line : line + Metrics.space6)
-    opacity: arrival.opacity
+    ListView.onAdd: entry.come()
+    ListView.onRemove: entry.go()
+    clip: entry.presence < 1
+    height: Math.max(0, entry.presence) * (index === 0 ? line : line + Metrics.space6)
+    opacity: entry.opacity
 
-    Arrival {
-        id: arrival
+    EntryTransition {
+        id: entry
 
         row: heading
     }

@@ -20,14 +20,14 @@ FocusScope {
     signal deleted
 
     Keys.onDeletePressed: deleted()
-    ListView.onAdd: arrival.come()
-    ListView.onRemove: arrival.go()
-    clip: arrival.presence < 1
-    height: Math.max(0, arrival.presence) * Math.max(Metrics.taskToggleSize, words.height + Metrics.space2)
-    opacity: arrival.opacity
+    ListView.onAdd: entry.come()
+    ListView.onRemove: entry.go()
+    clip: entry.presence < 1
+    height: Math.max(0, entry.presence) * Math.max(Metrics.taskToggleSize, words.height + Metrics.space2)
+    opacity: entry.opacity
 
-    Arrival {
-        id: arrival
+    EntryTransition {
+        id: entry
 
         row: row
     }

@@ -2,7 +2,7 @@
 
 #include "RoundedRegion.h"
 #include "Timers/PanelPlace.h"
-#include "Views/TakeDown.h"
+#include "Views/SceneTeardown.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -21,7 +21,7 @@ PanelWindow::PanelWindow(QWindow *parent) : QQuickWindow(parent)
 
 PanelWindow::~PanelWindow()
 {
-    takeDown(*this);
+    tearDownScene(*this);
 }
 
 void PanelWindow::openAt(const QRect &opener)

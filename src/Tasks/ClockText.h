@@ -6,7 +6,7 @@
 #include <QTimeZone>
 
 /// How a moment is told on the panel, to whoever lives in that zone and reads in that language.
-namespace ClockFace
+namespace ClockText
 {
 
 /// Hour and minute on a dial of twelve, like "7:42".
@@ -16,4 +16,4 @@ QString marker(Timestamp moment, const QTimeZone &zone, const QLocale &locale);
 /// Weekday and day, like "Thursday, Oct 16".
 QString date(Timestamp moment, const QTimeZone &zone, const QLocale &locale);
 
-} // namespace ClockFace
+} // namespace ClockText

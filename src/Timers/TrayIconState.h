@@ -15,7 +15,7 @@ struct TrayMenuRow {
 };
 
 /// What the tray shows of the pomodoro.
-struct TrayFace {
+struct TrayIconState {
     bool isRunning = false;
     /// Of the flame: 0.8 at rest; while the timer runs the two ends of its pulse, second by second.
     double flameOpacity = 0.8;
@@ -28,8 +28,8 @@ struct TrayFace {
     QString toolTipText;
     QList<TrayMenuRow> menu;
 
-    bool operator==(const TrayFace &) const = default;
+    bool operator==(const TrayIconState &) const = default;
 };
 
 /// `saveError` tells why the last save failed, empty when it did not; the tool tip says so as well.
-TrayFace trayFace(const PomodoroTimer &timer, const QString &saveError = {});
+TrayIconState trayIconState(const PomodoroTimer &timer, const QString &saveError = {});

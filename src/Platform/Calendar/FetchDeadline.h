@@ -4,11 +4,11 @@
 
 #include <memory>
 
-/// How long there is any use in looking for events: until the time is up, or nobody waits for them any more.
-class FetchLimit
+/// When a fetch of events has to stop: after a time, or when its receiver or its store is gone.
+class FetchDeadline
 {
 public:
-    FetchLimit(std::chrono::milliseconds time, std::weak_ptr<void> asker, std::weak_ptr<void> store)
+    FetchDeadline(std::chrono::milliseconds time, std::weak_ptr<void> asker, std::weak_ptr<void> store)
         : m_deadline(time)
         , m_asker(std::move(asker))
         , m_store(std::move(store))
@@ -22,8 +22,8 @@ public:
         return std::chrono::ceil<std::chrono::milliseconds>(m_deadline.remainingTimeAsDuration());
     }
 
-    /// One that is over sooner, so that there is time left for what comes after it.
-    FetchLimit sooner() const { return {left() * 4 / 5, m_asker, m_store}; }
+    /// A deadline at four fifths of the time left, for a step that others follow.
+    FetchDeadline sooner() const { return {left() * 4 / 5, m_asker, m_store}; }
 
 private:
     QDeadlineTimer m_deadline;

@@ -1,4 +1,4 @@
-#include "Platform/Installation.h"
+#include "Platform/FileTransaction.h"
 
 #include "Platform/FileDescriptor.h"
 
@@ -33,13 +33,13 @@ bool renameToFreePlace(const fs::path &file, const fs::path &target)
 }
 } // namespace
 
-Installation::~Installation()
+FileTransaction::~FileTransaction()
 {
     for (const Step &step : m_steps | std::views::reverse)
         undo(step);
 }
 
-std::optional<FileError> Installation::makeFolder(const fs::path &folder)
+std::optional<FileError> FileTransaction::makeFolder(const fs::path &folder)
 {
     std::error_code unreachable;
     if (fs::is_directory(folder, unreachable))
@@ -56,7 +56,7 @@ std::optional<FileError> Installation::makeFolder(const fs::path &folder)
     return std::nullopt;
 }
 
-std::optional<FileError> Installation::moveIn(const fs::path &file, const fs::path &target)
+std::optional<FileError> FileTransaction::moveIn(const fs::path &file, const fs::path &target)
 {
     if (!renameToFreePlace(file, target))
         return lastSystemError();
@@ -64,7 +64,7 @@ std::optional<FileError> Installation::moveIn(const fs::path &file, const fs::pa
     return std::nullopt;
 }
 
-std::optional<FileError> Installation::moveAside(const fs::path &target, const fs::path &aside)
+std::optional<FileError> FileTransaction::moveAside(const fs::path &target, const fs::path &aside)
 {
     std::error_code unreachable;
     const fs::file_status status = fs::symlink_status(target, unreachable);
@@ -78,7 +78,7 @@ std::optional<FileError> Installation::moveAside(const fs::path &target, const f
     return std::nullopt;
 }
 
-void Installation::undo(const Step &step)
+void FileTransaction::undo(const Step &step)
 {
     switch (step.kind) {
     case Step::Kind::madeFolder:

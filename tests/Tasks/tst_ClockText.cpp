@@ -1,5 +1,5 @@
 #include "Models/LocalTime.h"
-#include "Tasks/ClockFace.h"
+#include "Tasks/ClockText.h"
 #include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
@@ -16,7 +16,7 @@ Timestamp at(const QString &time, const QTimeZone &zone = QTimeZone::utc())
 }
 } // namespace
 
-class tst_ClockFace : public QObject
+class tst_ClockText : public QObject
 {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ private Q_SLOTS:
     void speaksTheLanguageOfTheUser();
 };
 
-void tst_ClockFace::hasADialOfTwelve_data()
+void tst_ClockText::hasADialOfTwelve_data()
 {
     QTest::addColumn<QString>("moment");
     QTest::addColumn<QString>("time");
@@ -43,38 +43,38 @@ void tst_ClockFace::hasADialOfTwelve_data()
     QTest::newRow("last of the day") << u"2026-10-15T23:59:00"_s << u"11:59"_s << u"PM"_s;
 }
 
-void tst_ClockFace::hasADialOfTwelve()
+void tst_ClockText::hasADialOfTwelve()
 {
     QFETCH(const QString, moment);
     QFETCH(const QString, time);
     QFETCH(const QString, marker);
 
-    QCOMPARE(ClockFace::time(at(moment), QTimeZone::utc(), english), time);
-    QCOMPARE(ClockFace::marker(at(moment), QTimeZone::utc(), english), marker);
+    QCOMPARE(ClockText::time(at(moment), QTimeZone::utc(), english), time);
+    QCOMPARE(ClockText::marker(at(moment), QTimeZone::utc(), english), marker);
 }
 
-void tst_ClockFace::namesTheDayInFullAndTheMonthInShort()
+void tst_ClockText::namesTheDayInFullAndTheMonthInShort()
 {
-    QCOMPARE(ClockFace::date(at(u"2025-10-16T07:42:00"_s), QTimeZone::utc(), english), u"Thursday, Oct 16"_s);
-    QCOMPARE(ClockFace::date(at(u"2026-03-07T07:42:00"_s), QTimeZone::utc(), english), u"Saturday, Mar 7"_s);
+    QCOMPARE(ClockText::date(at(u"2025-10-16T07:42:00"_s), QTimeZone::utc(), english), u"Thursday, Oct 16"_s);
+    QCOMPARE(ClockText::date(at(u"2026-03-07T07:42:00"_s), QTimeZone::utc(), english), u"Saturday, Mar 7"_s);
 }
 
-void tst_ClockFace::isReadWhereTheUserIs()
+void tst_ClockText::isReadWhereTheUserIs()
 {
     const QTimeZone auckland("Pacific/Auckland");
     const Timestamp noonInLondon = at(u"2026-07-01T11:00:00"_s);
 
-    QCOMPARE(ClockFace::time(noonInLondon, auckland, english), u"11:00"_s);
-    QCOMPARE(ClockFace::marker(noonInLondon, auckland, english), u"PM"_s);
-    QCOMPARE(ClockFace::date(noonInLondon + 3600, auckland, english), u"Thursday, Jul 2"_s);
+    QCOMPARE(ClockText::time(noonInLondon, auckland, english), u"11:00"_s);
+    QCOMPARE(ClockText::marker(noonInLondon, auckland, english), u"PM"_s);
+    QCOMPARE(ClockText::date(noonInLondon + 3600, auckland, english), u"Thursday, Jul 2"_s);
 }
 
-void tst_ClockFace::speaksTheLanguageOfTheUser()
+void tst_ClockText::speaksTheLanguageOfTheUser()
 {
     const QLocale german(QLocale::German, QLocale::Germany);
 
-    QCOMPARE(ClockFace::date(at(u"2026-03-07T07:42:00"_s), QTimeZone::utc(), german), u"Samstag, März 7"_s);
+    QCOMPARE(ClockText::date(at(u"2026-03-07T07:42:00"_s), QTimeZone::utc(), german), u"Samstag, März 7"_s);
 }
 
-PELKO_TEST(tst_ClockFace)
-#include "tst_ClockFace.moc"
+PELKO_TEST(tst_ClockText)
+#include "tst_ClockText.moc"

@@ -1,4 +1,4 @@
-#include "Platform/OnlyInstance.h"
+#include "Platform/SingleInstance.h"
 
 #include "Front/RunningInstance.h"
 
@@ -31,9 +31,9 @@ std::optional<CommandLineAnswer> ask(const std::filesystem::path &folder, const 
 }
 } // namespace
 
-OnlyInstance::OnlyInstance(std::filesystem::path dataFolder) : m_folder(std::move(dataFolder)) {}
+SingleInstance::SingleInstance(std::filesystem::path dataFolder) : m_folder(std::move(dataFolder)) {}
 
-std::optional<CommandLineAnswer> OnlyInstance::yieldTo(const QStringList &arguments)
+std::optional<CommandLineAnswer> SingleInstance::yieldTo(const QStringList &arguments)
 {
     const auto deadline = std::chrono::steady_clock::now() + longestWait;
     do {
@@ -46,7 +46,7 @@ std::optional<CommandLineAnswer> OnlyInstance::yieldTo(const QStringList &argume
     return CommandLineAnswer{u"pelko: Another Pelko has these documents open and does not answer.\n"_s, 1};
 }
 
-std::optional<QString> OnlyInstance::warning() const
+std::optional<QString> SingleInstance::warning() const
 {
     if (m_error == 0 || m_error == EWOULDBLOCK)
         return std::nullopt;
@@ -54,7 +54,7 @@ std::optional<QString> OnlyInstance::warning() const
         .arg(QString::fromLocal8Bit(std::strerror(m_error)));
 }
 
-bool OnlyInstance::holdsFolder() const
+bool SingleInstance::holdsFolder() const
 {
     if (!isLocked())
         return true;
@@ -64,14 +64,14 @@ bool OnlyInstance::holdsFolder() const
            held.st_dev == there.st_dev && held.st_ino == there.st_ino;
 }
 
-std::optional<FileError> OnlyInstance::lockAgain()
+std::optional<FileError> SingleInstance::lockAgain()
 {
     if (tryToLock() != Attempt::taken)
         return std::nullopt; // without a lock, the reading or writing that follows says what is wrong
     return FileError{u"Another Pelko has opened these documents."_s};
 }
 
-OnlyInstance::Attempt OnlyInstance::tryToLock()
+SingleInstance::Attempt SingleInstance::tryToLock()
 {
     std::error_code ignored;
     std::filesystem::create_directories(m_folder.parent_path(), ignored);

@@ -1,4 +1,4 @@
-#include "Calendar/WrittenZone.h"
+#include "Calendar/VTimeZone.h"
 
 #include <algorithm>
 
@@ -51,13 +51,13 @@ const std::vector<qint64> &Observance::timesAround(const CalendarTime &first, qi
     return knownTimes;
 }
 
-void WrittenZone::setObservances(std::vector<Observance> observances)
+void VTimeZone::setObservances(std::vector<Observance> observances)
 {
     m_observances = std::move(observances);
     std::ranges::stable_sort(m_observances, {}, &Observance::start);
 }
 
-qint64 WrittenZone::offsetAt(qint64 utc) const
+qint64 VTimeZone::offsetAt(qint64 utc) const
 {
     if (m_observances.empty())
         return m_otherwise->offsetAt(utc);

@@ -4,7 +4,7 @@ import Pelko
 /// Lets a row of a list grow when it comes and shrink when it goes: `presence` is how much of it is there. At the edges
 /// of the list the row fades with the part of it that is still in sight.
 QtObject {
-    id: arrival
+    id: entry
 
     required property Item row
     property real presence: 1
@@ -30,24 +30,24 @@ QtObject {
     }
 
     readonly property Animation coming: NumberAnimation {
-        duration: arrival.duration
+        duration: entry.duration
         easing: PelkoAnimation.smooth.curve
         from: 0
         property: "presence"
-        target: arrival
+        target: entry
         to: 1
     }
 
     // The list keeps the row until it has gone.
     readonly property Animation going: SequentialAnimation {
-        PropertyAction { property: "ListView.delayRemove"; target: arrival.row; value: true }
+        PropertyAction { property: "ListView.delayRemove"; target: entry.row; value: true }
         NumberAnimation {
-            duration: arrival.duration
+            duration: entry.duration
             easing: PelkoAnimation.smooth.curve
             property: "presence"
-            target: arrival
+            target: entry
             to: 0
         }
-        PropertyAction { property: "ListView.delayRemove"; target: arrival.row; value: false }
+        PropertyAction { property: "ListView.delayRemove"; target: entry.row; value: false }
     }
 }

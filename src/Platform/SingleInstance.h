@@ -6,10 +6,10 @@
 /// Sees to it that one process at a time has the data of a folder open: it holds a lock beside them. Where
 /// the folder cannot hold a lock (it is read-only, another user's, or on a server that keeps no locks) the
 /// program goes without one, and can say so.
-class OnlyInstance
+class SingleInstance
 {
 public:
-    explicit OnlyInstance(std::filesystem::path dataFolder);
+    explicit SingleInstance(std::filesystem::path dataFolder);
 
     /// Waits until this process is the one, or until the one there is has answered `arguments` in its stead.
     /// That takes no time unless another is just starting or ending.

@@ -1,12 +1,12 @@
 #include "Timers/PomodoroTimer.h"
-#include "Timers/TrayFace.h"
+#include "Timers/TrayIconState.h"
 #include "support/ManualScheduler.h"
 #include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-class TestTrayFace : public QObject
+class TestTrayIconState : public QObject
 {
     Q_OBJECT
 
@@ -15,7 +15,7 @@ private Q_SLOTS:
     {
         ManualScheduler scheduler;
         const PomodoroTimer timer(scheduler);
-        const TrayFace face = trayFace(timer);
+        const TrayIconState face = trayIconState(timer);
 
         QVERIFY(!face.isRunning);
         QCOMPARE(face.flameOpacity, 0.8);
@@ -29,15 +29,15 @@ private Q_SLOTS:
         ManualScheduler scheduler;
         PomodoroTimer timer(scheduler);
         timer.start();
-        QCOMPARE(trayFace(timer).label, u"25:00"_s);
-        QCOMPARE(trayFace(timer).flameOpacity, 1.0);
+        QCOMPARE(trayIconState(timer).label, u"25:00"_s);
+        QCOMPARE(trayIconState(timer).flameOpacity, 1.0);
         scheduler.advance(1s);
-        QCOMPARE(trayFace(timer).flameOpacity, 0.5);
+        QCOMPARE(trayIconState(timer).flameOpacity, 0.5);
         scheduler.advance(1s);
-        QCOMPARE(trayFace(timer).flameOpacity, 1.0);
+        QCOMPARE(trayIconState(timer).flameOpacity, 1.0);
         timer.pause();
-        QCOMPARE(trayFace(timer).flameOpacity, 0.8);
-        QCOMPARE(trayFace(timer).label, QString());
+        QCOMPARE(trayIconState(timer).flameOpacity, 0.8);
+        QCOMPARE(trayIconState(timer).label, QString());
     }
 
     void minutesAreRoundedUp_data()
@@ -61,7 +61,7 @@ private Q_SLOTS:
         timer.start();
         scheduler.advance(std::chrono::seconds(passed));
 
-        QTEST(trayFace(timer).minutesLeft, "minutes");
+        QTEST(trayIconState(timer).minutesLeft, "minutes");
     }
 
     void aBreakSaysSo()
@@ -72,7 +72,7 @@ private Q_SLOTS:
         scheduler.advance(1501s);
         timer.start();
         scheduler.advance(150s);
-        const TrayFace face = trayFace(timer);
+        const TrayIconState face = trayIconState(timer);
 
         QCOMPARE(face.toolTipTitle, u"02:30 of break left"_s);
         QCOMPARE(face.toolTipText, u"1 session done"_s);
@@ -84,20 +84,20 @@ private Q_SLOTS:
         ManualScheduler scheduler;
         PomodoroTimer timer(scheduler);
         timer.start();
-        QCOMPARE(trayFace(timer).toolTipTitle, u"25:00 of focus left"_s);
+        QCOMPARE(trayIconState(timer).toolTipTitle, u"25:00 of focus left"_s);
         scheduler.advance(60s);
         timer.pause();
-        QCOMPARE(trayFace(timer).toolTipTitle, u"Paused, 24:00 of focus left"_s);
+        QCOMPARE(trayIconState(timer).toolTipTitle, u"Paused, 24:00 of focus left"_s);
         timer.start();
         scheduler.advance(1441s);
-        QCOMPARE(trayFace(timer).toolTipTitle, u"Ready for 05:00 of break"_s);
+        QCOMPARE(trayIconState(timer).toolTipTitle, u"Ready for 05:00 of break"_s);
     }
 
     void theToolTipTellsOfAFailedSave()
     {
         ManualScheduler scheduler;
         const PomodoroTimer timer(scheduler);
-        QCOMPARE(trayFace(timer, u"Save failed: No space left on device"_s).toolTipText,
+        QCOMPARE(trayIconState(timer, u"Save failed: No space left on device"_s).toolTipText,
                  u"Save failed: No space left on device"_s);
     }
 
@@ -111,12 +111,12 @@ private Q_SLOTS:
                                         {Command::reset, u"Reset"_s},
                                         {Command::none, {}},
                                         {Command::quit, u"Quit"_s}};
-        QCOMPARE(trayFace(timer).menu, atRest);
+        QCOMPARE(trayIconState(timer).menu, atRest);
 
         timer.start();
-        QCOMPARE(trayFace(timer).menu[1].text, u"Pause"_s);
+        QCOMPARE(trayIconState(timer).menu[1].text, u"Pause"_s);
     }
 };
 
-PELKO_TEST(TestTrayFace)
-#include "tst_TrayFace.moc"
+PELKO_TEST(TestTrayIconState)
+#include "tst_TrayIconState.moc"

@@ -5,10 +5,10 @@
 #include <map>
 
 /// What all occurrences of a series from one on were changed to, as they count for one entry of it.
-class LaterChanges
+class ThisAndFutureOverrides
 {
 public:
-    LaterChanges(const CalendarEntry &entry, const QList<CalendarEntry> &changes);
+    ThisAndFutureOverrides(const CalendarEntry &entry, const QList<CalendarEntry> &changes);
 
     /// The change that holds for what the entry had at a wall time; null where none does.
     const CalendarEntry *at(qint64 wall) const;

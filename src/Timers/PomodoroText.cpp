@@ -1,4 +1,4 @@
-#include "Timers/PomodoroReading.h"
+#include "Timers/PomodoroText.h"
 
 #include "Timers/PomodoroTimer.h"
 

@@ -1,4 +1,4 @@
-#include "TakeDown.h"
+#include "SceneTeardown.h"
 
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -21,7 +21,7 @@ void takeDownItem(QQuickItem &item, int depth)
 }
 } // namespace
 
-void takeDown(QQuickWindow &window)
+void tearDownScene(QQuickWindow &window)
 {
     takeDownItem(*window.contentItem(), layerDepth);
 }

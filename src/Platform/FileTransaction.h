@@ -5,15 +5,15 @@
 #include <filesystem>
 #include <vector>
 
-/// Files on their way to where they belong. Until it is kept, all of it can be undone, and is with its end:
-/// what was moved in is removed, what was there before comes back, folders that were made go.
-class Installation
+/// Moves files to their destinations as one unit. Unless it is kept, the destructor rolls back: it removes
+/// the files moved in, restores the files they replaced, and removes the folders it made.
+class FileTransaction
 {
 public:
-    Installation() = default;
-    ~Installation();
-    Installation(const Installation &) = delete;
-    Installation &operator=(const Installation &) = delete;
+    FileTransaction() = default;
+    ~FileTransaction();
+    FileTransaction(const FileTransaction &) = delete;
+    FileTransaction &operator=(const FileTransaction &) = delete;
 
     /// Makes the folder, and those above it, as far as they are missing.
     [[nodiscard]] std::optional<FileError> makeFolder(const std::filesystem::path &folder);

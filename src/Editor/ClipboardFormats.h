@@ -5,7 +5,7 @@
 #include <QList>
 
 /// Blocks as text for other programs.
-namespace BlockForms
+namespace ClipboardFormats
 {
 
 /// What stands there, a line for each block and each entry of a checklist. Pictures say nothing.
@@ -17,4 +17,4 @@ QString markdown(const QList<Block> &blocks);
 /// The kinds as elements, without any look.
 QString html(const QList<Block> &blocks);
 
-} // namespace BlockForms
+} // namespace ClipboardFormats

@@ -1,6 +1,6 @@
-#include "Timers/TrayFace.h"
+#include "Timers/TrayIconState.h"
 
-#include "Timers/PomodoroReading.h"
+#include "Timers/PomodoroText.h"
 #include "Timers/PomodoroTimer.h"
 
 using namespace Qt::StringLiterals;
@@ -36,7 +36,7 @@ double flameOpacity(const PomodoroTimer &timer)
 }
 } // namespace
 
-TrayFace trayFace(const PomodoroTimer &timer, const QString &saveError)
+TrayIconState trayIconState(const PomodoroTimer &timer, const QString &saveError)
 {
     return {.isRunning = timer.isRunning(),
             .flameOpacity = flameOpacity(timer),

@@ -1,4 +1,4 @@
-#include "Calendar/LaterChanges.h"
+#include "Calendar/ThisAndFutureOverrides.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -15,7 +15,9 @@ qint64 wallOf(const CalendarTime &time, const CalendarEntry &entry)
 }
 } // namespace
 
-LaterChanges::LaterChanges(const CalendarEntry &entry, const QList<CalendarEntry> &changes) : m_entry(entry)
+ThisAndFutureOverrides::ThisAndFutureOverrides(const CalendarEntry &entry,
+                                               const QList<CalendarEntry> &changes)
+    : m_entry(entry)
 {
     for (const CalendarEntry &change : changes) {
         if (change.isForFuture)
@@ -23,18 +25,18 @@ LaterChanges::LaterChanges(const CalendarEntry &entry, const QList<CalendarEntry
     }
 }
 
-const CalendarEntry *LaterChanges::at(qint64 wall) const
+const CalendarEntry *ThisAndFutureOverrides::at(qint64 wall) const
 {
     const auto next = m_changes.upper_bound(wall);
     return next == m_changes.begin() ? nullptr : std::prev(next)->second;
 }
 
-qint64 LaterChanges::shiftOf(const CalendarEntry &change) const
+qint64 ThisAndFutureOverrides::shiftOf(const CalendarEntry &change) const
 {
     return wallOf(change.start, m_entry) - wallOf(*change.recurrenceId, m_entry);
 }
 
-qint64 LaterChanges::farthestShift() const
+qint64 ThisAndFutureOverrides::farthestShift() const
 {
     qint64 farthest = 0;
     for (const auto &[wall, change] : m_changes)
@@ -42,7 +44,7 @@ qint64 LaterChanges::farthestShift() const
     return std::min(farthest, farthestMove);
 }
 
-qint64 LaterChanges::longest() const
+qint64 ThisAndFutureOverrides::longest() const
 {
     qint64 longest = 0;
     for (const auto &[wall, change] : m_changes)

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Lets the page dissolve under the strip at the top of the window.
+/// Fades the page out under the strip at the top of the window.
 Rectangle {
     height: Metrics.stripVeil
     gradient: Gradient {

@@ -1,4 +1,4 @@
-#include "Editor/BlockForms.h"
+#include "Editor/ClipboardFormats.h"
 
 #include "Models/CodeFence.h"
 
@@ -131,17 +131,17 @@ std::optional<QString> htmlForm(const Block &block)
 
 } // namespace
 
-QString BlockForms::plainText(const QList<Block> &blocks)
+QString ClipboardFormats::plainText(const QList<Block> &blocks)
 {
     return join(blocks, plainForm, u"\n"_s);
 }
 
-QString BlockForms::markdown(const QList<Block> &blocks)
+QString ClipboardFormats::markdown(const QList<Block> &blocks)
 {
     return join(blocks, markdownForm, u"\n\n"_s);
 }
 
-QString BlockForms::html(const QList<Block> &blocks)
+QString ClipboardFormats::html(const QList<Block> &blocks)
 {
     return join(blocks, htmlForm, u"\n"_s);
 }

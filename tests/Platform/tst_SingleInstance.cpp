@@ -1,7 +1,7 @@
 #include "Front/RunningInstance.h"
 #include "Platform/DataFolder.h"
 #include "Platform/InstanceServer.h"
-#include "Platform/OnlyInstance.h"
+#include "Platform/SingleInstance.h"
 #include "Platform/Unprivileged.h"
 #include "support/TestProgram.h"
 
@@ -74,7 +74,7 @@ public:
 private:
     [[noreturn]] static void hold(const std::filesystem::path &folder, int ready)
     {
-        OnlyInstance instance(folder);
+        SingleInstance instance(folder);
         const char mark = !instance.yieldTo({u"pelko"_s}) && instance.isLocked();
         const InstanceServer server(folder, echo);
         if (::write(ready, &mark, 1) != 1)
@@ -96,7 +96,7 @@ extern "C" int flock(int descriptor, int operation) noexcept
     return lockError ? -1 : int(::syscall(SYS_flock, descriptor, operation));
 }
 
-class TestOnlyInstance : public QObject
+class TestSingleInstance : public QObject
 {
     Q_OBJECT
 
@@ -104,7 +104,7 @@ private Q_SLOTS:
     void theFirstIsTheOne()
     {
         const DataFolder data;
-        OnlyInstance first(data.folder());
+        SingleInstance first(data.folder());
 
         QVERIFY(!first.yieldTo({u"pelko"_s}));
         QVERIFY(first.isLocked());
@@ -113,12 +113,12 @@ private Q_SLOTS:
     void theSecondYieldsWithTheAnswerOfTheFirst()
     {
         const DataFolder data;
-        OnlyInstance first(data.folder());
+        SingleInstance first(data.folder());
         QVERIFY(!first.yieldTo({u"pelko"_s}));
         const InstanceServer server(data.folder(), echo);
 
         const auto answer = settled(std::async(std::launch::async, [&data] {
-            return OnlyInstance(data.folder()).yieldTo({u"pelko"_s, u"--spark"_s, u"a\nb ü"_s});
+            return SingleInstance(data.folder()).yieldTo({u"pelko"_s, u"--spark"_s, u"a\nb ü"_s});
         }));
 
         QCOMPARE(answer, (std::optional<CommandLineAnswer>({u"pelko|--spark|a\nb ü"_s, 3})));
@@ -128,11 +128,11 @@ private Q_SLOTS:
     {
         const DataFolder data;
         {
-            OnlyInstance first(data.folder());
+            SingleInstance first(data.folder());
             QVERIFY(!first.yieldTo({u"pelko"_s}));
             const InstanceServer server(data.folder(), echo);
         }
-        OnlyInstance next(data.folder());
+        SingleInstance next(data.folder());
         QVERIFY(!next.yieldTo({u"pelko"_s}));
         QCOMPARE(DataFolder::filesIn(data.folder()), QStringList{u"instance.lock"_s});
     }
@@ -141,7 +141,7 @@ private Q_SLOTS:
     {
         const DataFolder data;
         DataFolder::put(data.folder() / "instance.lock", "");
-        OnlyInstance next(data.folder());
+        SingleInstance next(data.folder());
 
         QVERIFY(!next.yieldTo({u"pelko"_s}));
         QVERIFY(next.isLocked());
@@ -158,7 +158,7 @@ private Q_SLOTS:
 
         holder.kill();
 
-        OnlyInstance next(data.folder());
+        SingleInstance next(data.folder());
         QVERIFY(!next.yieldTo({u"pelko"_s}));
         QVERIFY(next.isLocked() && !next.warning());
         const InstanceServer server(data.folder(), echo); // in the place of the socket that was left
@@ -167,7 +167,7 @@ private Q_SLOTS:
 
     void aFolderThatCannotBeLockedIsNotInTheWay()
     {
-        OnlyInstance instance("/proc/no such folder/Pelko");
+        SingleInstance instance("/proc/no such folder/Pelko");
 
         QVERIFY(!instance.yieldTo({u"pelko"_s}));
         QVERIFY(!instance.isLocked() && instance.warning());
@@ -184,7 +184,7 @@ private Q_SLOTS:
     {
         QFETCH(const int, error);
         const DataFolder data;
-        OnlyInstance instance(data.folder());
+        SingleInstance instance(data.folder());
         lockError = error;
         const auto answer = instance.yieldTo({u"pelko"_s});
         lockError = 0;
@@ -197,13 +197,13 @@ private Q_SLOTS:
     void theLockOfAnotherUserIsWarnedOf()
     {
         DataFolder data;
-        OnlyInstance first(data.folder());
+        SingleInstance first(data.folder());
         QVERIFY(!first.yieldTo({u"pelko"_s}));
         if (::geteuid() != 0)
             QSKIP("Only the superuser can act for a second user.");
         data.openToEverybody();
         const Unprivileged user;
-        OnlyInstance second(data.folder());
+        SingleInstance second(data.folder());
 
         QVERIFY(!second.yieldTo({u"pelko"_s}));
         QVERIFY(!second.isLocked() && second.warning());
@@ -213,8 +213,8 @@ private Q_SLOTS:
     {
         const DataFolder one;
         const DataFolder other;
-        OnlyInstance first(one.folder());
-        OnlyInstance second(other.folder());
+        SingleInstance first(one.folder());
+        SingleInstance second(other.folder());
 
         QVERIFY(!first.yieldTo({u"pelko"_s}) && !second.yieldTo({u"pelko"_s}));
         QVERIFY(first.isLocked() && second.isLocked());
@@ -317,5 +317,5 @@ private Q_SLOTS:
     }
 };
 
-PELKO_TEST(TestOnlyInstance)
-#include "tst_OnlyInstance.moc"
+PELKO_TEST(TestSingleInstance)
+#include "tst_SingleInstance.moc"

@@ -24,10 +24,10 @@ struct Observance {
 };
 
 /// A zone that only a calendar knows. One without any observance is the user's own.
-class WrittenZone : public WallZone
+class VTimeZone : public WallZone
 {
 public:
-    explicit WrittenZone(std::shared_ptr<const WallZone> otherwise) : m_otherwise(std::move(otherwise)) {}
+    explicit VTimeZone(std::shared_ptr<const WallZone> otherwise) : m_otherwise(std::move(otherwise)) {}
 
     void setObservances(std::vector<Observance> observances);
 
