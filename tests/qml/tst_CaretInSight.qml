@@ -216,6 +216,17 @@ Item {
             verifyInSight("after Return")
         }
 
+        function test_a_picture_pasted_into_a_short_page_leaves_it_where_it_stood() {
+            open([{ type: "textLarge", content: "Head" }, { type: "textSmall", content: lines(9) }, { type: "textSmall", content: "" }])
+            go(fields()[1], 0)
+            const stood = list.contentY
+            bench.copyPicture("red")
+            keySequence("Ctrl+V")
+            wait(600) // the glide to the block
+            compare(list.contentY, stood)
+            verifyInSight("after the picture")
+        }
+
         function test_what_comes_in_above_does_not_push_the_caret_out_of_sight() {
             open([{ type: "sticky", todos: entries(1) }, ...Array.from({ length: 9 }, () => ({ type: "textSmall", content: "word" }))])
             go(fields()[9], 0)

@@ -87,7 +87,7 @@ FocusScope {
         // Where the page begins is a guess, and no reason to stop there on the way down.
         const item = list.itemAtIndex(row)
         if (item?.y > from)
-            list.contentY = Math.min(list.contentY, item.y + item.height + Metrics.space24 - list.height)
+            list.contentY = Math.min(list.contentY, Math.max(from, item.y + item.height + Metrics.space24 - list.height))
     }
 
     function scrollTo(blockID: string) {
