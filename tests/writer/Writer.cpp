@@ -238,7 +238,8 @@ Writer::Outcome Writer::typeText(const QString &text)
     const QQuickItem *focused = m_program->window().activeFocusItem();
     const bool isPageFocused = shown().list() && shown().isOnPage(focused);
     const bool isButton = focused && focused->inherits("QQuickAbstractButton");
-    if (!model.marked() && (!isPageFocused || isButton))
+    const bool isPressed = isButton && !isInterrupted && text.startsWith(u' ');
+    if (isPressed || (!model.marked() && (!isPageFocused || isButton)))
         return {};
     for (const QString &character : charactersOf(text)) {
         model.type(character);
