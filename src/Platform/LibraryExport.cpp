@@ -66,6 +66,6 @@ CommandLineAnswer exportLibrary(const DataLocation &location, const ExportComman
     if (const auto *taken = std::get_if<ExportFolder::Taken>(&outcome))
         return failure(refusal(taken->paths));
     if (const auto *error = std::get_if<FileError>(&outcome))
-        return failure(u"Export failed: "_s + error->description, caughtSignal ? 128 + caughtSignal : 1);
+        return failure(u"Export failed: "_s + error->description(), caughtSignal ? 128 + caughtSignal : 1);
     return {u"Exported %1 to %2\n"_s.arg(Export::contents(*documents), command.folder)};
 }

@@ -182,7 +182,7 @@ void PortalRequest::portalEnded()
     if (!m_isAccepted || m_path.isEmpty())
         return;
     m_path.clear();
-    finish(FileError{u"The file chooser came to an unexpected end"_s});
+    finish(FileError(FileError::Problem::chooserEnded));
 }
 
 void PortalRequest::close()

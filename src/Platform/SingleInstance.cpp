@@ -68,7 +68,7 @@ std::optional<FileError> SingleInstance::lockAgain()
 {
     if (tryToLock() != Attempt::taken)
         return std::nullopt; // without a lock, the reading or writing that follows says what is wrong
-    return FileError{u"Another Pelko has opened these documents."_s};
+    return FileError(FileError::Problem::openedElsewhere);
 }
 
 SingleInstance::Attempt SingleInstance::tryToLock()

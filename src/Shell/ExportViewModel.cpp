@@ -156,7 +156,7 @@ void ExportViewModel::stop()
 void ExportViewModel::tell(const FileError &error)
 {
     setResult(true, PelkoVoice::pick(PelkoVoice::errorPool(), u"error"_s),
-              u"Export failed: %1. Nothing was left behind."_s.arg(error.description));
+              u"Export failed: %1. Nothing was left behind."_s.arg(error.description()));
 }
 
 void ExportViewModel::tellSuccess()
