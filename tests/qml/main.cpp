@@ -5,6 +5,7 @@
 #include "ShellFixture.h"
 #include "TasksBench.h"
 #include "TimersBench.h"
+#include "support/EnglishCatalogue.h"
 
 #include <QCoreApplication>
 #include <QQmlEngine>
@@ -14,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 Q_IMPORT_QML_PLUGIN(PelkoPlugin)
 
@@ -70,7 +72,11 @@ public:
     }
 
 public Q_SLOTS:
-    void applicationAvailable() { QCoreApplication::instance()->installEventFilter(this); }
+    void applicationAvailable()
+    {
+        m_english.emplace();
+        QCoreApplication::instance()->installEventFilter(this);
+    }
 
     void qmlEngineAvailable(QQmlEngine *engine)
     {
@@ -84,6 +90,9 @@ public Q_SLOTS:
         qmlRegisterType<TasksBench>("PelkoTest", 1, 0, "TasksBench");
         qmlRegisterType<TimersBench>("PelkoTest", 1, 0, "TimersBench");
     }
+
+private:
+    std::optional<EnglishCatalogue> m_english;
 };
 
 QUICK_TEST_MAIN_WITH_SETUP(Pelko, Setup)
