@@ -2,9 +2,12 @@
 #include "EditorBench.h"
 #include "ExportBench.h"
 #include "InputMethodBench.h"
+#include "PseudoLocale.h"
 #include "ShellFixture.h"
+#include "ShownTexts.h"
 #include "TasksBench.h"
 #include "TimersBench.h"
+#include "WholeProgram.h"
 #include "support/EnglishCatalogue.h"
 
 #include <QCoreApplication>
@@ -85,10 +88,13 @@ public Q_SLOTS:
         qmlRegisterType<EditorBench>("PelkoTest", 1, 0, "EditorBench");
         qmlRegisterType<ExportBench>("PelkoTest", 1, 0, "ExportBench");
         qmlRegisterType<InputMethodBench>("PelkoTest", 1, 0, "InputMethodBench");
+        qmlRegisterType<PseudoLocale>("PelkoTest", 1, 0, "PseudoLocale");
         qmlRegisterType<ShellFixture>("PelkoTest", 1, 0, "ShellFixture");
         qmlRegisterType<ShellWithMenuBar>("PelkoTest", 1, 0, "ShellWithMenuBar");
+        qmlRegisterType<ShownTexts>("PelkoTest", 1, 0, "ShownTexts");
         qmlRegisterType<TasksBench>("PelkoTest", 1, 0, "TasksBench");
         qmlRegisterType<TimersBench>("PelkoTest", 1, 0, "TimersBench");
+        qmlRegisterType<WholeProgram>("PelkoTest", 1, 0, "WholeProgram");
     }
 
 private:
