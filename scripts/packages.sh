@@ -6,6 +6,7 @@ set -euo pipefail
 build=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools qt6-shadertools-dev qt6-shader-baker qt6-svg-dev
+    qt6-tools-dev qt6-l10n-tools
     libgl-dev libxcb1-dev libsimdjson-dev
 )
 run=(

@@ -1,7 +1,9 @@
+#include "Front/RunningInstance.h"
 #include "PelkoApp.h"
 #include "Platform/LibraryExport.h"
 #include "Platform/SceneGraphChoice.h"
 #include "Platform/SystemDataLocation.h"
+#include "Platform/Translations.h"
 #include "Shell/RemoteControl.h"
 
 #include <QGuiApplication>
@@ -19,14 +21,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-QStringList arguments(int argc, char *argv[])
-{
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments << QString::fromLocal8Bit(argv[i]);
-    return arguments;
-}
-
 /// The room of a picture that is let go belongs to the system again, not to the next picture of another size.
 void tuneMallocForLargeImages()
 {
@@ -52,7 +46,7 @@ CommandLineAnswer captureIntoFile(const DataLocation &location, SingleInstance &
     LocalDocumentFile localFile(location);
     LockedDocumentFile file(localFile, instance);
     AppState appState(scheduler, clock, file);
-    if (const std::optional<QString> &error = appState.lastError())
+    if (const std::optional<QString> error = appState.lastError())
         return {u"pelko: %1\n"_s.arg(*error), 1};
     return captureSpark(appState, command);
 }
@@ -65,13 +59,75 @@ void describe(QGuiApplication &application)
     application.setWindowIcon(QIcon(u":/app.pelko.Pelko.svg"_s));
 }
 
-int showWindow(int argc, char *argv[], SingleInstance &instance)
+struct MainTexts {
+    Q_DECLARE_TR_FUNCTIONS(main)
+};
+
+int sayThereIsNoFolder()
+{
+    return say({MainTexts::tr("Pelko: Could not locate Application Support directory.") + u'\n', 1});
+}
+
+/// Where another process has the data folder, says what it answers and returns the exit code. Else this one
+/// has it.
+std::optional<int> yieldToAnother(SingleInstance &instance)
+{
+    if (const auto answer = instance.yieldTo(QCoreApplication::arguments()))
+        return say(*answer);
+    if (const auto warning = instance.warning())
+        std::fputs(warning->toLocal8Bit().constData(), stderr);
+    return std::nullopt;
+}
+
+int showWindow(int &argc, char *argv[])
 {
     if (prefersSoftwareSceneGraph(QProcessEnvironment::systemEnvironment(), QDir(u"/dev/dri"_s)))
         QQuickWindow::setSceneGraphBackend(u"software"_s);
     QGuiApplication application(argc, argv);
     describe(application);
+    const Translations translations;
+    const auto support = SystemDataLocation().applicationSupportDirectory();
+    if (!support)
+        return sayThereIsNoFolder();
+    SingleInstance instance(*support / "Pelko");
+    if (const std::optional<int> exitCode = yieldToAnother(instance))
+        return *exitCode;
     return PelkoApp(instance).run();
+}
+
+/// Carries out what needs no window.
+int runInTerminal(int &argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const Translations translations;
+    if (qEnvironmentVariableIsSet(unansweredVariable))
+        return say(SingleInstance::unanswered());
+    const CommandLine commandLine = readCommandLine(QCoreApplication::arguments());
+    if (const auto *known = std::get_if<CommandLineAnswer>(&commandLine))
+        return say(*known);
+    const SystemDataLocation location;
+    const auto support = location.applicationSupportDirectory();
+    if (!support)
+        return sayThereIsNoFolder();
+    if (const auto *exportTo = std::get_if<ExportCommand>(&commandLine))
+        return say(exportLibrary(location, *exportTo));
+    SingleInstance instance(*support / "Pelko");
+    if (const std::optional<int> exitCode = yieldToAnother(instance))
+        return *exitCode;
+    if (const auto *spark = std::get_if<SparkCommand>(&commandLine))
+        return say(captureIntoFile(location, instance, *spark));
+    return say({u"pelko: %1\n"_s.arg(MainTexts::tr("Pelko is not running.")), 1});
+}
+
+/// Before there is an application: of two in one process, the second would have no accessibility, as Qt
+/// forgets with the first one who provides it.
+bool wantsWindow(int argc, char *argv[])
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    return std::holds_alternative<OpenCommand>(readCommandLine(arguments)) &&
+           !qEnvironmentVariableIsSet(unansweredVariable);
 }
 } // namespace
 
@@ -83,27 +139,5 @@ int main(int argc, char *argv[])
     constexpr rlimit none{0, 0};
     ::setrlimit(RLIMIT_CORE, &none);
     tuneMallocForLargeImages();
-    const CommandLine commandLine = readCommandLine(arguments(argc, argv));
-    if (const auto *known = std::get_if<CommandLineAnswer>(&commandLine))
-        return say(*known);
-    const SystemDataLocation location;
-    const auto support = location.applicationSupportDirectory();
-    if (!support)
-        return say({u"Pelko: Could not locate Application Support directory.\n"_s, 1});
-
-    if (const auto *exportTo = std::get_if<ExportCommand>(&commandLine))
-        return say(exportLibrary(location, *exportTo));
-
-    SingleInstance instance(*support / "Pelko");
-    if (const auto answer = instance.yieldTo(arguments(argc, argv)))
-        return say(*answer);
-    if (const auto warning = instance.warning())
-        std::fputs(warning->toLocal8Bit().constData(), stderr);
-    if (std::holds_alternative<PomodoroCommand>(commandLine))
-        return say({u"pelko: Pelko is not running.\n"_s, 1});
-    if (const auto *spark = std::get_if<SparkCommand>(&commandLine)) {
-        const QCoreApplication application(argc, argv);
-        return say(captureIntoFile(location, instance, *spark));
-    }
-    return showWindow(argc, argv, instance);
+    return wantsWindow(argc, argv) ? showWindow(argc, argv) : runInTerminal(argc, argv);
 }

@@ -25,7 +25,7 @@ void ImageImport::take(const FileChooser::Choice &choice)
     setShowImagePicker(false);
     if (const auto *failure = std::get_if<FileError>(&choice)) {
         ChangeScope changes(*this);
-        changes.assign(m_imageImportError, failure->description, &ImageImport::imageImportErrorChanged);
+        changes.assign(m_imageImportError, *failure, &ImageImport::imageImportErrorChanged);
         changes.assign(m_showImageImportError, true, &ImageImport::showImageImportErrorChanged);
         return;
     }

@@ -29,7 +29,7 @@ public:
     const QUuid &imageBlockID() const { return m_imageBlockID; }
     bool showImageImportError() const { return m_showImageImportError; }
     /// What went wrong, in words for the user. Keeps its last value after it was dismissed.
-    QString imageImportError() const { return m_imageImportError; }
+    QString imageImportError() const { return m_imageImportError.description(); }
 
     /// Asks for a picture for that block. A chooser that is already open fills this block instead.
     Q_INVOKABLE void addImage(const QString &blockID);
@@ -54,7 +54,7 @@ private:
     bool m_showImagePicker = false;
     QUuid m_imageBlockID;
     bool m_showImageImportError = false;
-    QString m_imageImportError;
+    FileError m_imageImportError;
     ScheduledCall m_choosing;
     std::map<QUuid, ScheduledCall> m_readings; // by the block that waits for the bytes
 };

@@ -5,6 +5,7 @@
 #include "Export/PageMarkdown.h"
 #include "Export/PictureSuffix.h"
 
+#include <QCoreApplication>
 #include <QUrl>
 
 #include <algorithm>
@@ -34,18 +35,12 @@ QString firstWords(const PelkoDocument &document)
 
 QString nameOf(const PelkoDocument &document)
 {
-    const QString title = document.title();
-    return title == u"Untitled"_s ? firstWords(document) : title;
+    return document.writtenTitle().value_or(firstWords(document));
 }
 
 bool holdsPicture(const Block &block)
 {
     return block.type == BlockType::image && block.imageData;
-}
-
-QString counted(qsizetype count, QLatin1StringView noun)
-{
-    return QString::number(count) + u' ' + noun + (count == 1 ? ""_L1 : "s"_L1);
 }
 
 /// Appends the files of a page. `folder` is empty or ends with a slash.
@@ -98,6 +93,10 @@ QString Export::contents(const QList<PelkoDocument> &documents)
     qsizetype pictures = 0;
     for (const PelkoDocument &document : documents)
         pictures += std::ranges::count_if(document.blocks, holdsPicture);
-    const QString pages = counted(documents.size(), "page"_L1);
-    return pictures > 0 ? u"%1 and %2"_s.arg(pages, counted(pictures, "picture"_L1)) : pages;
+    const QString pages = QCoreApplication::translate("Export", "%n page(s)", nullptr, int(documents.size()));
+    if (pictures == 0)
+        return pages;
+    //: Pages and pictures, such as "12 pages and 1 picture".
+    return QCoreApplication::translate("Export", "%1 and %2")
+        .arg(pages, QCoreApplication::translate("Export", "%n picture(s)", nullptr, int(pictures)));
 }

@@ -9,7 +9,7 @@
 namespace
 {
 constexpr timeval answerTime{.tv_sec = 10, .tv_usec = 0};
-const InstanceAnswer noAnswer{1, "pelko: The running Pelko does not answer.\n"};
+const InstanceAnswer noAnswer{InstanceAnswer::silent, {}};
 
 std::string activationToken()
 {

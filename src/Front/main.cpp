@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <climits>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <unistd.h>
 
@@ -45,6 +46,11 @@ int main(int argc, char *argv[])
     const std::vector<std::string> arguments(argv + (argc > 0), argv + argc);
     if (const auto folder = asksAboutTheProgram(arguments) ? std::nullopt : userDataFolder()) {
         const auto answer = askRunningInstance(*folder + "/Pelko", arguments);
+        if (answer && answer->exitCode == InstanceAnswer::silent) {
+            // The program knows how to say it in the user's language.
+            ::setenv(unansweredVariable, "1", 1);
+            return becomeTheProgram(argv);
+        }
         if (answer && answer->exitCode != InstanceAnswer::yours) {
             std::fputs(answer->text.c_str(), answer->exitCode == 0 ? stdout : stderr);
             return answer->exitCode;

@@ -2,9 +2,9 @@
 
 #include "Models/LocalTime.h"
 
-#include <algorithm>
+#include <QCoreApplication>
 
-using namespace Qt::StringLiterals;
+#include <algorithm>
 
 namespace
 {
@@ -21,7 +21,9 @@ bool isTitledBanner(const Block &block)
 
 QString monthAndDay(Timestamp time, const QTimeZone &zone, const QLocale &locale)
 {
-    return locale.toString(localTime(time, zone).date(), u"MMM d"_s);
+    //: Format of a day in a past week: abbreviated month and day. Keep the letters M and d.
+    const QString format = QCoreApplication::translate("PelkoDocument", "MMM d");
+    return locale.toString(localTime(time, zone).date(), format);
 }
 } // namespace
 
@@ -33,7 +35,7 @@ PelkoDocument::PelkoDocument(Space documentSpace, Timestamp creationTime)
 {
 }
 
-QString PelkoDocument::title() const
+std::optional<QString> PelkoDocument::writtenTitle() const
 {
     const auto banner = std::ranges::find_if(blocks, isTitledBanner);
     if (banner != blocks.end())
@@ -41,7 +43,13 @@ QString PelkoDocument::title() const
     const auto heading = std::ranges::find(blocks, BlockType::textLarge, &Block::type);
     if (heading != blocks.end() && !isBlank(heading->content))
         return heading->content;
-    return u"Untitled"_s;
+    return std::nullopt;
+}
+
+QString PelkoDocument::title() const
+{
+    //: Stands for the title of a page that has none.
+    return writtenTitle().value_or(QCoreApplication::translate("PelkoDocument", "Untitled"));
 }
 
 qint64 PelkoDocument::wordCount() const
@@ -57,17 +65,17 @@ QString PelkoDocument::relativeDate(Timestamp now, const QTimeZone &zone, const 
     constexpr double minute = 60, hour = 3600, day = 86400;
     const Timestamp time = updatedAt.value_or(createdAt);
     const double elapsed = now - time;
-    const auto whole = [elapsed](double unit) { return QString::number(static_cast<int>(elapsed / unit)); };
+    const auto whole = [elapsed](double unit) { return static_cast<int>(elapsed / unit); };
     if (elapsed < minute)
-        return u"Just now"_s;
+        return QCoreApplication::translate("PelkoDocument", "Just now");
     if (elapsed < hour)
-        return whole(minute) + u"m ago"_s;
+        return QCoreApplication::translate("PelkoDocument", "%nm ago", "minutes", whole(minute));
     if (elapsed < day)
-        return whole(hour) + u"h ago"_s;
+        return QCoreApplication::translate("PelkoDocument", "%nh ago", "hours", whole(hour));
     if (elapsed < 2 * day)
-        return u"Yesterday"_s;
+        return QCoreApplication::translate("PelkoDocument", "Yesterday");
     if (elapsed < 7 * day)
-        return whole(day) + u"d ago"_s;
+        return QCoreApplication::translate("PelkoDocument", "%nd ago", "days", whole(day));
     return monthAndDay(time, zone, locale);
 }
 

@@ -24,7 +24,9 @@ struct PelkoDocument {
     /// A new page with an id of its own: an empty heading, then an empty body block.
     PelkoDocument(Space space, Timestamp createdAt);
 
-    /// The title of the first banner that has one, else the first heading, else "Untitled".
+    /// The title of the first banner that has one, else the first heading; std::nullopt when both are blank.
+    std::optional<QString> writtenTitle() const;
+    /// The written title, else "Untitled" in the user's language.
     QString title() const;
     /// Runs of characters between white space, over all blocks.
     qint64 wordCount() const;

@@ -1,5 +1,7 @@
 #include "Models/Space.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -21,11 +23,11 @@ QString displayName(Space space)
 {
     switch (space) {
     case Space::ideas:
-        return u"Ideas"_s;
+        return QCoreApplication::translate("Space", "Ideas");
     case Space::work:
-        return u"Work"_s;
+        return QCoreApplication::translate("Space", "Work");
     case Space::journal:
-        return u"Journal"_s;
+        return QCoreApplication::translate("Space", "Journal");
     }
     Q_UNREACHABLE();
 }

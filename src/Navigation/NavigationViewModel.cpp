@@ -3,9 +3,10 @@
 #include "Services/Clock.h"
 #include "Store/AppState.h"
 
-#include <algorithm>
+#include <QCoreApplication>
 
-using namespace Qt::StringLiterals;
+#include <algorithm>
+#include <array>
 
 namespace
 {
@@ -14,10 +15,27 @@ constexpr qsizetype shownHits = 100; // nobody reads on behind them; one more wo
 QString hitsInWords(qsizetype hits)
 {
     if (hits == 0)
-        return u"No hits in any space"_s;
+        return QCoreApplication::translate("NavigationViewModel", "No hits in any space");
     if (hits > shownHits)
-        return u"The best %1 of %2 hits, all spaces"_s.arg(shownHits).arg(hits);
-    return hits == 1 ? u"1 hit, all spaces"_s : u"%1 hits, all spaces"_s.arg(hits);
+        return QCoreApplication::translate("NavigationViewModel", "The best %1 of %n hit(s), all spaces",
+                                           nullptr, int(hits))
+            .arg(shownHits);
+    return QCoreApplication::translate("NavigationViewModel", "%n hit(s), all spaces", nullptr, int(hits));
+}
+
+/// As numbers in words need it: a sentence for each, with the space as %1.
+QString placesInWords(qsizetype left)
+{
+    static constexpr std::array sentences{
+        QT_TRANSLATE_NOOP("NavigationViewModel", "no places left in %1"),
+        QT_TRANSLATE_NOOP("NavigationViewModel", "one place left in %1"),
+        QT_TRANSLATE_NOOP("NavigationViewModel", "two places left in %1"),
+        QT_TRANSLATE_NOOP("NavigationViewModel", "three places left in %1"),
+        QT_TRANSLATE_NOOP("NavigationViewModel", "four places left in %1"),
+        QT_TRANSLATE_NOOP("NavigationViewModel", "five places left in %1"),
+    };
+    static_assert(sentences.size() == AppState::documentLimit + 1);
+    return QCoreApplication::translate("NavigationViewModel", sentences.at(std::size_t(left)));
 }
 } // namespace
 
@@ -36,16 +54,16 @@ QString NavigationViewModel::summary() const
 {
     if (isSearching())
         return hitsInWords(m_hits);
-    return pageCount() == 0 ? u"No pages in %1 yet"_s.arg(displayName(m_appState.currentSpace())) : QString();
+    //: %1 is the name of a space.
+    return pageCount() == 0 ? tr("No pages in %1 yet").arg(displayName(m_appState.currentSpace()))
+                            : QString();
 }
 
 QString NavigationViewModel::placesLeft() const
 {
-    static const QStringList numbers{u"no"_s, u"one"_s, u"two"_s, u"three"_s, u"four"_s, u"five"_s};
     const Space space = m_appState.currentSpace();
     const qsizetype left = std::max<qsizetype>(0, AppState::documentLimit - pagesIn(space));
-    const QString places = left == 1 ? u"place"_s : u"places"_s;
-    return u"%1 %2 left in %3"_s.arg(numbers.at(left), places, displayName(space));
+    return placesInWords(left).arg(displayName(space));
 }
 
 QString NavigationViewModel::chosenPage() const
@@ -59,7 +77,8 @@ QString NavigationViewModel::chosenDescription() const
     if (m_chosenRow < 0)
         return summary();
     if (m_chosenRow == pageCount())
-        return u"New Document, %1"_s.arg(placesLeft());
+        //: %1 is how many places are left, such as "two places left in Work".
+        return tr("New Document, %1").arg(placesLeft());
     return m_pages.data(m_pages.index(m_chosenRow), PageListModel::DescriptionRole).toString();
 }
 

@@ -16,8 +16,8 @@ void PageListModel::begin(QList<PageRow> rows, Timestamp now, const QTimeZone &z
 QString PageListModel::ageAndLength(const PelkoDocument &page) const
 {
     const qint64 words = page.wordCount();
-    return u"%1 · %2 %3"_s.arg(page.relativeDate(m_now, m_zone, QLocale()), QString::number(words),
-                               words == 1 ? u"word"_s : u"words"_s);
+    return u"%1 · %2"_s.arg(page.relativeDate(m_now, m_zone, QLocale()),
+                            tr("%n word(s)", nullptr, static_cast<int>(words)));
 }
 
 MarkedLine PageListModel::name(const PageRow &row) const
@@ -36,13 +36,13 @@ QString PageListModel::description(const PageRow &row) const
     if (row.name)
         parts.append(displayName(row.page.space));
     if (row.isOpen)
-        parts.append(u"open"_s);
+        parts.append(tr("open", "the page, after its name"));
     if (isSpark(row.page))
-        parts.append(u"spark"_s);
+        parts.append(tr("spark", "the page, after its name"));
     if (row.page.isPinned.value_or(false))
-        parts.append(u"pinned"_s);
+        parts.append(tr("pinned", "the page, after its name"));
     if (row.page.isArchived.value_or(false))
-        parts.append(u"archived"_s);
+        parts.append(tr("archived", "the page, after its name"));
     return parts.join(u", "_s);
 }
 

@@ -35,5 +35,5 @@ FileError lastSystemError()
 
 FileError systemError(int code)
 {
-    return {QString::fromLocal8Bit(std::system_category().message(code).c_str())};
+    return FileError(QString::fromLocal8Bit(std::system_category().message(code).c_str()));
 }

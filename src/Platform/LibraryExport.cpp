@@ -6,6 +6,9 @@
 #include "Platform/SystemClock.h"
 #include "Platform/TerminalProgress.h"
 #include "Store/DocumentReader.h"
+#include "Store/StoreError.h"
+
+#include <QCoreApplication>
 
 #include <csignal>
 
@@ -14,6 +17,10 @@ using namespace Qt::StringLiterals;
 namespace
 {
 constexpr int signals[] = {SIGINT, SIGTERM, SIGHUP};
+struct LibraryExportTexts {
+    Q_DECLARE_TR_FUNCTIONS(LibraryExport)
+};
+
 volatile std::sig_atomic_t caughtSignal = 0;
 
 void takeNote(int signal)
@@ -37,16 +44,25 @@ std::optional<QList<PelkoDocument>> read(const DataLocation &location)
 
 QString refusal(const QStringList &taken)
 {
-    const QString others = taken.size() > 1 ? u" and %1 more are"_s.arg(taken.size() - 1) : u" is"_s;
-    return u"%1%2 there already. Nothing was written; --overwrite replaces files."_s.arg(taken.constFirst(),
-                                                                                         others);
+    if (taken.size() == 1)
+        return LibraryExportTexts::tr("%1 is there already. Nothing was written; --overwrite replaces files.")
+            .arg(taken.constFirst());
+    return LibraryExportTexts::tr(
+               "%1 and %n more are there already. Nothing was written; --overwrite replaces files.", nullptr,
+               static_cast<int>(taken.size() - 1))
+        .arg(taken.constFirst());
 }
 
 ExportFolder::Outcome write(const QList<PelkoDocument> &documents, const ExportCommand &command)
 {
     const std::filesystem::path folder = command.folder.toLocal8Bit().toStdString();
     const SystemClock clock;
-    TerminalProgress line(u"Exporting"_s, u"files"_s, clock);
+    TerminalProgress line(
+        [](qsizetype done, qsizetype all) {
+            return LibraryExportTexts::tr("Exporting %1 of %n file(s)", nullptr, static_cast<int>(all))
+                .arg(done);
+        },
+        clock);
     return ExportWriter(folder, command.existing)
         .write(Export::library(documents), [&line](qsizetype written, qsizetype all) {
             line.show(written, all);
@@ -61,11 +77,14 @@ CommandLineAnswer exportLibrary(const DataLocation &location, const ExportComman
         std::signal(signal, takeNote);
     const auto documents = read(location);
     if (!documents)
-        return failure(u"Failed to load your documents."_s);
+        return failure(StoreError{.task = StoreError::Task::load}.description());
     const ExportFolder::Outcome outcome = write(*documents, command);
     if (const auto *taken = std::get_if<ExportFolder::Taken>(&outcome))
         return failure(refusal(taken->paths));
     if (const auto *error = std::get_if<FileError>(&outcome))
-        return failure(u"Export failed: "_s + error->description, caughtSignal ? 128 + caughtSignal : 1);
-    return {u"Exported %1 to %2\n"_s.arg(Export::contents(*documents), command.folder)};
+        return failure(LibraryExportTexts::tr("Export failed: %1").arg(error->description()),
+                       caughtSignal ? 128 + caughtSignal : 1);
+    //: %1 is such as "12 pages and 1 picture", %2 a folder.
+    return {LibraryExportTexts::tr("Exported %1 to %2").arg(Export::contents(*documents), command.folder) +
+            u'\n'};
 }

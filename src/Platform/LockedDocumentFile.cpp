@@ -2,8 +2,6 @@
 
 #include "Platform/SingleInstance.h"
 
-using namespace Qt::StringLiterals;
-
 LockedDocumentFile::LockedDocumentFile(DocumentFile &file, SingleInstance &instance)
     : m_file(file)
     , m_instance(instance)
@@ -36,7 +34,7 @@ std::optional<FileError> LockedDocumentFile::confirm()
 {
     auto error = m_file.confirm();
     if (!m_instance.holdsFolder())
-        return FileError{u"The folder of the documents was removed."_s};
+        return FileError(FileError::Problem::folderRemoved);
     return error;
 }
 

@@ -1,5 +1,6 @@
 #include "Platform/PortalRequest.h"
 
+#include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
@@ -66,7 +67,9 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, Filter &filter)
 
 QString titleFor(FileChooser::Wanted wanted)
 {
-    return wanted == FileChooser::Wanted::folder ? u"Export to a folder"_s : u"Add image"_s;
+    return wanted == FileChooser::Wanted::folder
+               ? QCoreApplication::translate("FileChooser", "Export to a folder")
+               : QCoreApplication::translate("FileChooser", "Add image");
 }
 
 QVariantMap optionsFor(FileChooser::Wanted wanted, const QString &token)
@@ -74,14 +77,15 @@ QVariantMap optionsFor(FileChooser::Wanted wanted, const QString &token)
     QVariantMap options{{u"handle_token"_s, token}, {u"modal"_s, true}, {u"multiple"_s, false}};
     if (wanted == FileChooser::Wanted::folder) {
         options.insert(u"directory"_s, true);
-        options.insert(u"accept_label"_s, u"Export here"_s);
+        options.insert(u"accept_label"_s, QCoreApplication::translate("FileChooser", "Export here"));
         return options;
     }
     qDBusRegisterMetaType<Pattern>();
     qDBusRegisterMetaType<QList<Pattern>>();
     qDBusRegisterMetaType<Filter>();
     qDBusRegisterMetaType<QList<Filter>>();
-    const QList<Filter> filters{{.name = u"Images"_s, .patterns = {{.value = u"image/*"_s}}}};
+    const QList<Filter> filters{{.name = QCoreApplication::translate("FileChooser", "Images"),
+                                 .patterns = {{.value = u"image/*"_s}}}};
     options.insert(u"filters"_s, QVariant::fromValue(filters));
     return options;
 }
@@ -182,7 +186,7 @@ void PortalRequest::portalEnded()
     if (!m_isAccepted || m_path.isEmpty())
         return;
     m_path.clear();
-    finish(FileError{u"The file chooser came to an unexpected end"_s});
+    finish(FileError(FileError::Problem::chooserEnded));
 }
 
 void PortalRequest::close()

@@ -27,6 +27,8 @@ std::optional<CommandLineAnswer> ask(const std::filesystem::path &folder, const 
     const auto answer = askRunningInstance(folder, bytes);
     if (!answer)
         return std::nullopt;
+    if (answer->exitCode == InstanceAnswer::silent)
+        return SingleInstance::unanswered();
     return CommandLineAnswer{QString::fromLocal8Bit(answer->text), answer->exitCode};
 }
 } // namespace
@@ -43,15 +45,22 @@ std::optional<CommandLineAnswer> SingleInstance::yieldTo(const QStringList &argu
             return answer;
         std::this_thread::sleep_for(betweenTries);
     } while (std::chrono::steady_clock::now() < deadline);
-    return CommandLineAnswer{u"pelko: Another Pelko has these documents open and does not answer.\n"_s, 1};
+    return CommandLineAnswer{
+        u"pelko: %1\n"_s.arg(tr("Another Pelko has these documents open and does not answer.")), 1};
+}
+
+CommandLineAnswer SingleInstance::unanswered()
+{
+    return {u"pelko: %1\n"_s.arg(tr("The running Pelko does not answer.")), 1};
 }
 
 std::optional<QString> SingleInstance::warning() const
 {
     if (m_error == 0 || m_error == EWOULDBLOCK)
         return std::nullopt;
-    return u"pelko: The documents cannot be locked (%1): do not open them in another Pelko meanwhile.\n"_s
-        .arg(QString::fromLocal8Bit(std::strerror(m_error)));
+    const QString reason = QString::fromLocal8Bit(std::strerror(m_error));
+    return u"pelko: %1\n"_s.arg(
+        tr("The documents cannot be locked (%1): do not open them in another Pelko meanwhile.").arg(reason));
 }
 
 bool SingleInstance::holdsFolder() const
@@ -68,7 +77,7 @@ std::optional<FileError> SingleInstance::lockAgain()
 {
     if (tryToLock() != Attempt::taken)
         return std::nullopt; // without a lock, the reading or writing that follows says what is wrong
-    return FileError{u"Another Pelko has opened these documents."_s};
+    return FileError(FileError::Problem::openedElsewhere);
 }
 
 SingleInstance::Attempt SingleInstance::tryToLock()

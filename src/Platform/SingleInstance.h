@@ -3,17 +3,24 @@
 #include "Platform/FileDescriptor.h"
 #include "Shell/CommandLine.h"
 
+#include <QCoreApplication>
+
 /// Sees to it that one process at a time has the data of a folder open: it holds a lock beside them. Where
 /// the folder cannot hold a lock (it is read-only, another user's, or on a server that keeps no locks) the
 /// program goes without one, and can say so.
 class SingleInstance
 {
+    Q_DECLARE_TR_FUNCTIONS(SingleInstance)
+
 public:
     explicit SingleInstance(std::filesystem::path dataFolder);
 
     /// Waits until this process is the one, or until the one there is has answered `arguments` in its stead.
     /// That takes no time unless another is just starting or ending.
     std::optional<CommandLineAnswer> yieldTo(const QStringList &arguments);
+
+    /// What is said where the running program was asked and does not answer.
+    static CommandLineAnswer unanswered();
 
     bool isLocked() const { return m_lock.isOpen(); }
 

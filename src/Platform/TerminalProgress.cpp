@@ -2,17 +2,14 @@
 
 #include <unistd.h>
 
-using namespace Qt::StringLiterals;
-
 namespace
 {
 constexpr Timestamp quietTime = 0.4;    // seconds in which most work is done
 constexpr Timestamp betweenLooks = 0.1; // as often as anybody can read
 } // namespace
 
-TerminalProgress::TerminalProgress(QString verb, QString noun, const Clock &clock, std::FILE *stream)
-    : m_verb(std::move(verb))
-    , m_noun(std::move(noun))
+TerminalProgress::TerminalProgress(Words words, const Clock &clock, std::FILE *stream)
+    : m_words(std::move(words))
     , m_clock(clock)
     , m_stream(stream)
     , m_isTerminal(::isatty(::fileno(stream)) == 1)
@@ -35,8 +32,7 @@ void TerminalProgress::show(qsizetype done, qsizetype all)
         return;
     m_isShown = true;
     m_lastShown = now;
-    const QString line =
-        u"\r%1 %2 of %3 %4"_s.arg(m_verb, QString::number(done), QString::number(all), m_noun);
+    const QString line = u'\r' + m_words(done, all);
     std::fputs(line.toLocal8Bit().constData(), m_stream);
     std::fflush(m_stream);
 }

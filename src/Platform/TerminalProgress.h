@@ -5,22 +5,24 @@
 #include <QString>
 
 #include <cstdio>
+#include <functional>
 
 /// A line on a terminal that says how far long work has come. It appears when the work has taken a while,
 /// and is gone in the end. Says nothing to what is no terminal.
 class TerminalProgress
 {
 public:
-    /// As in "Exporting 12 of 100 files".
-    TerminalProgress(QString verb, QString noun, const Clock &clock, std::FILE *stream = stderr);
+    /// The line for so many done of all, such as "Exporting 12 of 100 files".
+    using Words = std::function<QString(qsizetype done, qsizetype all)>;
+
+    explicit TerminalProgress(Words words, const Clock &clock, std::FILE *stream = stderr);
     ~TerminalProgress();
     Q_DISABLE_COPY_MOVE(TerminalProgress)
 
     void show(qsizetype done, qsizetype all);
 
 private:
-    const QString m_verb;
-    const QString m_noun;
+    const Words m_words;
     const Clock &m_clock;
     std::FILE *const m_stream;
     const bool m_isTerminal;

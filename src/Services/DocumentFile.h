@@ -1,16 +1,12 @@
 #pragma once
 
+#include "Services/FileError.h"
+
 #include <QByteArray>
-#include <QString>
 
 #include <functional>
 #include <optional>
 #include <variant>
-
-/// A failure to make, read or write the file, in words for the user: the system's own where it has some.
-struct FileError {
-    QString description;
-};
 
 /// Takes the bytes of a file in order, as they are made.
 class ByteSink

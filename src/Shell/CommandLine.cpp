@@ -1,6 +1,7 @@
 #include "Shell/CommandLine.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -8,23 +9,38 @@ namespace
 {
 constexpr int usageError = 2;
 
+struct CommandLineTexts {
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+};
+
+/// What Qt's parser says; for the catalogues.
+[[maybe_unused]] constexpr const char *textsOfQt[] = {
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unknown option '%1'."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unknown options: %1."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Missing value after '%1'."),
+    QT_TRANSLATE_NOOP("QCommandLineParser", "Unexpected value after '%1'."),
+};
+
 CommandLineAnswer refuse(const QString &reason)
 {
-    return {u"pelko: %1\nTry 'pelko --help' for more information.\n"_s.arg(reason), usageError};
+    const QString hint = CommandLineTexts::tr("Try 'pelko --help' for more information.");
+    return {u"pelko: %1\n%2\n"_s.arg(reason, hint), usageError};
 }
 
 QString helpText()
 {
-    return u"Usage: pelko [OPTION]\n"
-           "Write short pages, block by block.\n"
-           "\n"
-           "      --spark TEXT     capture a spark, without a window\n"
-           "      --pomodoro VERB  start, pause or reset the timer of the running Pelko,\n"
-           "                       or show its status\n"
-           "      --export DIR     write all pages as Markdown, with their pictures, into DIR\n"
-           "      --overwrite      let --export replace files that are there already\n"
-           "  -h, --help           show this help and end\n"
-           "  -v, --version        show the version and end\n"_s;
+    //: Keep the columns: what an option does begins at column 23 and ends before column 80.
+    return CommandLineTexts::tr(
+        "Usage: pelko [OPTION]\n"
+        "Write short pages, block by block.\n"
+        "\n"
+        "      --spark TEXT     capture a spark, without a window\n"
+        "      --pomodoro VERB  start, pause or reset the timer of the running Pelko,\n"
+        "                       or show its status\n"
+        "      --export DIR     write all pages as Markdown, with their pictures, into DIR\n"
+        "      --overwrite      let --export replace files that are there already\n"
+        "  -h, --help           show this help and end\n"
+        "  -v, --version        show the version and end\n");
 }
 
 QString versionText()
@@ -35,7 +51,7 @@ QString versionText()
 CommandLine readSpark(const QString &text)
 {
     if (QStringView(text).trimmed().isEmpty())
-        return refuse(u"A spark needs some text."_s);
+        return refuse(CommandLineTexts::tr("A spark needs some text."));
     return SparkCommand{text};
 }
 
@@ -48,14 +64,15 @@ CommandLine readPomodoro(const QString &word)
         if (word == name)
             return PomodoroCommand{verb};
     }
-    return refuse(u"--pomodoro takes start, pause, reset or status, not '%1'."_s.arg(word));
+    return refuse(
+        CommandLineTexts::tr("--pomodoro takes start, pause, reset or status, not '%1'.").arg(word));
 }
 
 CommandLine readExport(const QString &folder, bool overwrites)
 {
     using Existing = ExportFolder::Existing;
     if (folder.isEmpty())
-        return refuse(u"--export needs a folder."_s);
+        return refuse(CommandLineTexts::tr("--export needs a folder."));
     return ExportCommand{folder, overwrites ? Existing::replace : Existing::keep};
 }
 } // namespace
@@ -78,11 +95,12 @@ CommandLine readCommandLine(const QStringList &arguments)
     if (parser.isSet(version))
         return CommandLineAnswer{versionText()};
     if (!parser.positionalArguments().isEmpty())
-        return refuse(u"Unexpected argument '%1'."_s.arg(parser.positionalArguments().constFirst()));
+        return refuse(
+            CommandLineTexts::tr("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst()));
     if (parser.values(spark).size() + parser.values(pomodoro).size() + parser.values(exportTo).size() > 1)
-        return refuse(u"One command at a time."_s);
+        return refuse(CommandLineTexts::tr("One command at a time."));
     if (parser.isSet(overwrite) && !parser.isSet(exportTo))
-        return refuse(u"--overwrite goes with --export."_s);
+        return refuse(CommandLineTexts::tr("--overwrite goes with --export."));
     if (parser.isSet(spark))
         return readSpark(parser.value(spark));
     if (parser.isSet(pomodoro))

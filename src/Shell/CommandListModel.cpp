@@ -1,5 +1,7 @@
 #include "Shell/CommandListModel.h"
 
+#include "Shell/KeyNames.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -46,15 +48,15 @@ QVariant CommandListModel::data(const QModelIndex &index, int role) const
     case CommandIDRole:
         return row.command.id;
     case TitleRole:
-        return row.command.title;
+        return row.command.title();
     case SymbolRole:
         return row.command.symbol;
     case ShortcutRole:
         return row.command.shortcut;
     case OtherShortcutRole:
         return row.command.otherShortcut;
-    case MenuTitleRole:
-        return menuTitle(row.command.group);
+    case KeyTextRole:
+        return keyNames(row.command.shortcut).join(u'+');
     case SystemRole:
         return systemRole(row.command.role);
     case IsInMenuRole:
@@ -76,7 +78,7 @@ QHash<int, QByteArray> CommandListModel::roleNames() const
 {
     return {{KindRole, "kind"},           {CommandIDRole, "commandID"}, {TitleRole, "title"},
             {SymbolRole, "symbol"},       {ShortcutRole, "shortcut"},   {OtherShortcutRole, "otherShortcut"},
-            {MenuTitleRole, "menuTitle"}, {SystemRole, "systemRole"},   {IsInMenuRole, "isInMenu"},
+            {KeyTextRole, "keyText"},     {SystemRole, "systemRole"},   {IsInMenuRole, "isInMenu"},
             {IsEditingRole, "isEditing"}, {IsEnabledRole, "isEnabled"}, {IsTickableRole, "isTickable"},
             {IsTickedRole, "isTicked"}};
 }

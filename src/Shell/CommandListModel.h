@@ -31,8 +31,8 @@ public:
         ShortcutRole,
         /// A second key.
         OtherShortcutRole,
-        /// Of the menu that it belongs to in a menu bar.
-        MenuTitleRole,
+        /// Its key as it is labelled on the user's keyboard.
+        KeyTextRole,
         /// "about" or "quit" where the system has a place for it.
         SystemRole,
         /// Whether it has a place in the menu and not only a key.
@@ -50,6 +50,7 @@ public:
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
+    CommandGroup group(int row) const { return m_rows.at(row).command.group; }
     bool isEnabled(const QString &id) const;
     bool isTicked(const QString &id) const;
 

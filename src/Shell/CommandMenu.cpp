@@ -2,13 +2,13 @@
 
 #include <algorithm>
 #include <ranges>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
-CommandMenu::CommandMenu(CommandListModel &commands, QString title, QObject *parent)
+CommandMenu::CommandMenu(CommandListModel &commands, BarMenu menu, QObject *parent)
     : QSortFilterProxyModel(parent)
-    , m_title(std::move(title))
+    , m_commands(commands)
+    , m_menu(menu)
 {
     setSourceModel(&commands);
 }
@@ -25,5 +25,5 @@ bool CommandMenu::filterAcceptsRow(int row, const QModelIndex & /*parent*/) cons
 
 bool CommandMenu::belongsHere(int row) const
 {
-    return sourceModel()->index(row, 0).data(CommandListModel::MenuTitleRole) == m_title;
+    return barMenu(m_commands.group(row)) == m_menu;
 }

@@ -12,9 +12,9 @@ class CommandMenu : public QSortFilterProxyModel
     Q_PROPERTY(QString title READ title CONSTANT)
 
 public:
-    CommandMenu(CommandListModel &commands, QString title, QObject *parent = nullptr);
+    CommandMenu(CommandListModel &commands, BarMenu menu, QObject *parent = nullptr);
 
-    QString title() const { return m_title; }
+    QString title() const { return menuTitle(m_menu); }
 
 protected:
     bool filterAcceptsRow(int row, const QModelIndex &parent) const override;
@@ -22,5 +22,6 @@ protected:
 private:
     bool belongsHere(int row) const;
 
-    QString m_title;
+    const CommandListModel &m_commands;
+    BarMenu m_menu;
 };

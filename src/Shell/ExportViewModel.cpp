@@ -91,7 +91,8 @@ void ExportViewModel::take(const FileChooser::Choice &choice)
 
 void ExportViewModel::write(Existing existing)
 {
-    const QString text = u"%1 on the way to “%2”."_s.arg(Export::contents(m_order.documents), folderName());
+    const QString text = //: %1 is such as "12 pages and 1 picture", %2 the name of a folder.
+        tr("%1 on the way to “%2”.").arg(Export::contents(m_order.documents), folderName());
     ChangeScope(*this).assign(m_progressText, text, &ExportViewModel::progressTextChanged);
     m_patience = m_services.scheduler.after(quietTime, [this] { setProgress(true); });
     m_writing = m_services.folder.write(
@@ -119,11 +120,12 @@ void ExportViewModel::ask(const QStringList &taken)
     const bool isOne = taken.size() == 1;
     ChangeScope changes(*this);
     changes.assign(m_questionTitle,
-                   isOne ? u"Replace “%1”?"_s.arg(name) : u"Replace %1 files?"_s.arg(taken.size()),
+                   isOne ? tr("Replace “%1”?").arg(name)
+                         : tr("Replace %n file(s)?", nullptr, static_cast<int>(taken.size())),
                    &ExportViewModel::questionChanged);
     changes.assign(m_questionText,
-                   isOne ? u"“%1” has a file of that name."_s.arg(folderName())
-                         : u"“%1” has files of these names, “%2” for one."_s.arg(folderName(), name),
+                   isOne ? tr("“%1” has a file of that name.").arg(folderName())
+                         : tr("“%1” has files of these names, “%2” for one.").arg(folderName(), name),
                    &ExportViewModel::questionChanged);
     changes.assign(m_asksToReplace, true, &ExportViewModel::asksToReplaceChanged);
 }
@@ -156,14 +158,14 @@ void ExportViewModel::stop()
 void ExportViewModel::tell(const FileError &error)
 {
     setResult(true, PelkoVoice::pick(PelkoVoice::errorPool(), u"error"_s),
-              u"Export failed: %1. Nothing was left behind."_s.arg(error.description));
+              tr("Export failed: %1. Nothing was left behind.").arg(error.description()));
 }
 
 void ExportViewModel::tellSuccess()
 {
-    setResult(false, u"Exported."_s,
-              u"%1 in “%2”. Plain Markdown, yours to keep."_s.arg(Export::contents(m_order.documents),
-                                                                  folderName()));
+    setResult(false, tr("Exported."),
+              tr("%1 in “%2”. Plain Markdown, yours to keep.")
+                  .arg(Export::contents(m_order.documents), folderName()));
 }
 
 void ExportViewModel::setResult(bool failed, const QString &title, const QString &text)

@@ -115,9 +115,9 @@ void FolderChooser::list(const fs::path &folder, const fs::path &cameFrom)
         if (const auto *entries = std::get_if<QList<PictureFolders::Entry>>(&listing))
             show(*entries, folder, cameFrom);
         else if (const auto *error = std::get_if<FileError>(&listing))
-            setProblem(error->description);
+            setProblem(*error);
         else if (wantsFolder())
-            setProblem(u"That is a file, not a folder."_s);
+            setProblem(FileError(FileError::Problem::notAFolder));
         else
             finish(QList{folder});
     });
@@ -156,7 +156,7 @@ void FolderChooser::setIsListing(bool listing)
     ChangeScope(*this).assign(m_isListing, listing, &FolderChooser::isListingChanged);
 }
 
-void FolderChooser::setProblem(const QString &problem)
+void FolderChooser::setProblem(const FileError &problem)
 {
     ChangeScope(*this).assign(m_problem, problem, &FolderChooser::problemChanged);
 }

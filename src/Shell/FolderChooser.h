@@ -36,7 +36,7 @@ public:
     QString folderName() const { return PictureFolders::nameOf(m_folder); }
     bool canGoUp() const { return m_folder.has_relative_path(); }
     /// Why the folder cannot be shown; empty when it can.
-    QString problem() const { return m_problem; }
+    QString problem() const { return m_problem.description(); }
     bool isListing() const { return m_isListing; }
     QObject *entries() { return &m_entries; }
     /// The names of the folders where users keep things.
@@ -71,13 +71,13 @@ private:
     void finish(const Choice &choice);
     void close();
     void setIsListing(bool listing);
-    void setProblem(const QString &problem);
+    void setProblem(const FileError &problem);
 
     PictureFolders &m_folders;
     FolderEntryModel m_entries;
     const QList<std::filesystem::path> m_places;
     std::filesystem::path m_folder;
-    QString m_problem;
+    FileError m_problem;
     Wanted m_wanted = Wanted::picture;
     bool m_isOpen = false;
     bool m_isListing = false;

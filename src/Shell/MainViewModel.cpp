@@ -118,7 +118,7 @@ void MainViewModel::requestDelete(const QString &documentID)
         return;
     ChangeScope changes(*this);
     changes.assign(m_docToDelete, *document, &MainViewModel::docToDeleteChanged);
-    changes.assign(m_deleteConfirmText, u"Delete “%1” for good?"_s.arg(pageName(*document)),
+    changes.assign(m_deleteConfirmText, tr("Delete “%1” for good?").arg(pageName(*document)),
                    &MainViewModel::deleteConfirmTextChanged);
 }
 

@@ -3,9 +3,17 @@
 #include <QList>
 #include <QString>
 
+#include <array>
+#include <optional>
+
 /// The groups of the app menu, in its order, with a hairline between any two. What belongs to none is given
 /// by its key alone.
 enum class CommandGroup { documents, editing, spaces, views, exports, program, none };
+
+/// The menus of the menu bar, in its order.
+enum class BarMenu { file, edit, spaces, view, help };
+inline constexpr std::array allBarMenus{BarMenu::file, BarMenu::edit, BarMenu::spaces, BarMenu::view,
+                                        BarMenu::help};
 
 /// What a command is to a system that knows some of them and gives those a place of its own.
 enum class CommandRole { ordinary, about, quit, windowMenu };
@@ -16,7 +24,8 @@ enum class MenuPlace { window, menuBar };
 /// One command of the program: what it is called wherever it is offered, and its key when it has one.
 struct MenuCommand {
     QString id = {};
-    QString title = {};
+    /// Marked for the catalogues with the context "MenuCommand".
+    const char *englishTitle = nullptr;
     QString symbol = {};
     /// In portable words, where "Ctrl" is Command on a Mac; empty for none.
     QString shortcut = {};
@@ -24,6 +33,8 @@ struct MenuCommand {
     CommandRole role = CommandRole::ordinary;
     /// A second key for it, told of nowhere.
     QString otherShortcut = {};
+
+    QString title() const;
 };
 
 /// Every command, in the order of the menu. The app menu, the keys and the sheet of keys are all made from
@@ -33,8 +44,7 @@ const QList<MenuCommand> &menuCommands();
 /// Those that make sense where the commands are offered there.
 QList<MenuCommand> menuCommands(MenuPlace place);
 
-/// The title of the menu that holds the group in a menu bar. Groups may share one.
-QString menuTitle(CommandGroup group);
+/// The menu that holds the group in a menu bar. Groups may share one; what belongs to none is in none.
+std::optional<BarMenu> barMenu(CommandGroup group);
 
-/// The titles of all its menus, in their order.
-QStringList menuTitles();
+QString menuTitle(BarMenu menu);

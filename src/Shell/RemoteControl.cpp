@@ -9,7 +9,7 @@ CommandLineAnswer captureSpark(AppState &appState, const SparkCommand &command)
 {
     appState.captureSpark(command.text);
     appState.confirmSave();
-    if (const std::optional<QString> &error = appState.lastSaveError())
+    if (const std::optional<QString> error = appState.lastSaveError())
         return {u"pelko: %1\n"_s.arg(*error), 1};
     return {};
 }
@@ -39,7 +39,7 @@ CommandLineAnswer RemoteControl::answer(const QStringList &arguments)
 CommandLineAnswer RemoteControl::letExport()
 {
     m_appState.saveChanges();
-    if (const std::optional<QString> &error = m_appState.lastSaveError())
+    if (const std::optional<QString> error = m_appState.lastSaveError())
         return {u"pelko: %1\n"_s.arg(*error), 1};
     return {{}, CommandLineAnswer::yours};
 }
@@ -66,5 +66,5 @@ CommandLineAnswer RemoteControl::workPomodoro(PomodoroCommand::Verb verb)
 QString RemoteControl::pomodoroStatus() const
 {
     return u"%1 %2 %3\n"_s.arg(m_timer.isFocusPhase() ? "focus"_L1 : "break"_L1, m_timer.displayTime(),
-                               m_timer.isRunning() ? "running"_L1 : "paused"_L1);
+                               m_timer.isRunning() ? "running"_L1 : "paused"_L1); // as scripts know them
 }

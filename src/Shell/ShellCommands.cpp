@@ -70,8 +70,8 @@ void ShellCommands::bindEditing()
 
 void ShellCommands::fillMenuBar()
 {
-    for (const QString &title : menuTitles())
-        m_menus.append(QVariant::fromValue(new CommandMenu(m_list, title, this)));
+    for (const BarMenu menu : allBarMenus)
+        m_menus.append(QVariant::fromValue(new CommandMenu(m_list, menu, this)));
 }
 
 void ShellCommands::followStore()

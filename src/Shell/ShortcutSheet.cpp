@@ -1,24 +1,33 @@
 #include "Shell/ShortcutSheet.h"
 
+#include "Shell/KeyNames.h"
+
+#include <QCoreApplication>
+
 using namespace Qt::StringLiterals;
 
 namespace
 {
-QString heading(CommandGroup group)
+struct ShortcutSheetTexts {
+    Q_DECLARE_TR_FUNCTIONS(ShortcutSheet)
+};
+
+enum class Section { gettingAround, keeping, editing };
+
+Section sectionOf(CommandGroup group)
 {
     if (group == CommandGroup::editing)
-        return {};
+        return Section::editing;
     const bool isAboutKeeping = group == CommandGroup::exports || group == CommandGroup::program;
-    return isAboutKeeping ? u"Keeping"_s : u"Getting around"_s;
+    return isAboutKeeping ? Section::keeping : Section::gettingAround;
 }
 
-/// Of the commands that stand under that heading.
-QList<ShortcutLine> linesUnder(const QString &wanted, const QList<MenuCommand> &commands)
+QList<ShortcutLine> shortcutLines(Section section, const QList<MenuCommand> &commands)
 {
     QList<ShortcutLine> lines;
     for (const MenuCommand &command : commands) {
-        if (heading(command.group) == wanted && !command.shortcut.isEmpty())
-            lines.append({.title = command.title, .keys = command.shortcut.split(u'+')});
+        if (sectionOf(command.group) == section && !command.shortcut.isEmpty())
+            lines.append({.title = command.title(), .keys = keyNames(command.shortcut)});
     }
     return lines;
 }
@@ -27,22 +36,27 @@ QList<ShortcutLine> linesUnder(const QString &wanted, const QList<MenuCommand> &
 QList<ShortcutLine> commandKeys(MenuPlace place)
 {
     const QList<MenuCommand> commands = menuCommands(place);
-    QList<ShortcutLine> lines;
-    for (const QString &title : {heading(CommandGroup::documents), heading(CommandGroup::program)})
-        lines += QList<ShortcutLine>{{.title = title}} + linesUnder(title, commands);
-    return lines;
+    return QList<ShortcutLine>{{.title = ShortcutSheetTexts::tr("Getting around")}} +
+           shortcutLines(Section::gettingAround, commands) +
+           //: Heading of the keys that export, and of those of the program.
+           QList<ShortcutLine>{{.title = ShortcutSheetTexts::tr("Keeping")}} +
+           shortcutLines(Section::keeping, commands);
 }
 
 QList<ShortcutLine> editingKeys()
 {
-    return linesUnder(heading(CommandGroup::editing), menuCommands());
+    return shortcutLines(Section::editing, menuCommands());
 }
 
 QList<ShortcutLine> typingMarkers()
 {
+    const QStringList space = keyNames(u"Space"_s);
     return {
-        {u"At the start of a line"_s},      {u"Heading"_s, {u"#"_s, u"Space"_s}},
-        {u"Quote"_s, {u">"_s, u"Space"_s}}, {u"Code"_s, {u"```"_s}},
-        {u"Divider"_s, {u"---"_s}},         {u"Checklist"_s, {u"[ ]"_s, u"Space"_s}},
+        {ShortcutSheetTexts::tr("At the start of a line")},
+        {ShortcutSheetTexts::tr("Heading"), QStringList{u"#"_s} + space},
+        {ShortcutSheetTexts::tr("Quote"), QStringList{u">"_s} + space},
+        {ShortcutSheetTexts::tr("Code"), {u"```"_s}},
+        {ShortcutSheetTexts::tr("Divider"), {u"---"_s}},
+        {ShortcutSheetTexts::tr("Checklist"), QStringList{u"[ ]"_s} + space},
     };
 }

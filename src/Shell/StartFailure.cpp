@@ -1,5 +1,6 @@
 #include "Shell/StartFailure.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -23,8 +24,10 @@ QString startFailure(const QString &errors)
 {
     const QStringList modules = missingModules(errors);
     if (modules.isEmpty())
-        return u"Pelko cannot start:\n"_s + errors.trimmed();
-    const QString what = modules.size() == 1 ? u"the QML module %1, which is not installed."_s
-                                             : u"these QML modules, which are not installed: %1."_s;
-    return u"Pelko cannot start. It needs "_s + what.arg(modules.join(u", "_s));
+        return QCoreApplication::translate("StartFailure", "Pelko cannot start:") + u'\n' + errors.trimmed();
+    //: The number is not told: %1 lists the modules.
+    return QCoreApplication::translate(
+               "StartFailure", "Pelko cannot start. It needs these QML modules, which are not installed: %1.",
+               nullptr, int(modules.size()))
+        .arg(modules.join(u", "_s));
 }

@@ -8,10 +8,17 @@
 
 #include <algorithm>
 
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 constexpr auto savedIndicatorTime = 1500ms;
+
+namespace
+{
+std::optional<QString> wordsOf(const std::optional<StoreError> &error)
+{
+    return error ? std::optional(error->description()) : std::nullopt;
+}
+} // namespace
 
 AppState::AppState(Scheduler &scheduler, const Clock &clock, DocumentFile &file)
     : m_scheduler(scheduler)
@@ -28,6 +35,16 @@ AppState::AppState(Scheduler &scheduler, const Clock &clock, DocumentFile &file)
 }
 
 AppState::~AppState() = default;
+
+std::optional<QString> AppState::lastError() const
+{
+    return wordsOf(m_lastError);
+}
+
+std::optional<QString> AppState::lastSaveError() const
+{
+    return wordsOf(m_lastSaveError);
+}
 
 const PelkoDocument *AppState::document(const QUuid &id) const
 {
@@ -213,9 +230,9 @@ void AppState::confirmSave()
 void AppState::saveFailed(const FileError &error)
 {
     m_hasUnsavedChanges = true;
-    const QString words = u"Save failed: "_s + error.description;
-    setLastSaveError(words);
-    setLastError(words);
+    const StoreError failure{.task = StoreError::Task::save, .cause = error};
+    setLastSaveError(failure);
+    setLastError(failure);
 }
 
 void AppState::saveChanges()
@@ -258,7 +275,7 @@ void AppState::load()
     if (documents)
         m_documents = std::move(*documents);
     else
-        m_lastError = u"Failed to load your documents."_s;
+        m_lastError = StoreError{.task = StoreError::Task::load};
 }
 
 void AppState::show(Space space, std::optional<QUuid> id)
@@ -287,12 +304,12 @@ void AppState::setShowSavedIndicator(bool shown)
     ChangeScope(*this).assign(m_showSavedIndicator, shown, &AppState::showSavedIndicatorChanged);
 }
 
-void AppState::setLastError(std::optional<QString> error)
+void AppState::setLastError(std::optional<StoreError> error)
 {
     ChangeScope(*this).assign(m_lastError, std::move(error), &AppState::lastErrorChanged);
 }
 
-void AppState::setLastSaveError(std::optional<QString> error)
+void AppState::setLastSaveError(std::optional<StoreError> error)
 {
     ChangeScope(*this).assign(m_lastSaveError, std::move(error), &AppState::lastSaveErrorChanged);
 }

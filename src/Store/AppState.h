@@ -3,6 +3,7 @@
 #include "Models/PelkoDocument.h"
 #include "Store/DocumentWriter.h"
 #include "Store/SaveSchedule.h"
+#include "Store/StoreError.h"
 
 #include <QObject>
 
@@ -34,11 +35,11 @@ public:
     bool showTasksPanel() const { return m_showTasksPanel; }
     bool showAbout() const { return m_showAbout; }
     /// What went wrong, in words for the user, until it is dismissed.
-    const std::optional<QString> &lastError() const { return m_lastError; }
+    std::optional<QString> lastError() const;
 
     /// Why the last save failed, dismissed or not; std::nullopt when it went well. While it is set, the
     /// documents hold changes that are not in the file.
-    const std::optional<QString> &lastSaveError() const { return m_lastSaveError; }
+    std::optional<QString> lastSaveError() const;
 
     /// The document of that id, or nullptr. Valid until the documents next change.
     const PelkoDocument *document(const QUuid &id) const;
@@ -115,8 +116,8 @@ private:
     void announceReplaced(qsizetype row);
     void saveFailed(const FileError &error);
     void setShowSavedIndicator(bool shown);
-    void setLastError(std::optional<QString> error);
-    void setLastSaveError(std::optional<QString> error);
+    void setLastError(std::optional<StoreError> error);
+    void setLastSaveError(std::optional<StoreError> error);
 
     Scheduler &m_scheduler;
     const Clock &m_clock;
@@ -134,8 +135,8 @@ private:
     bool m_showAbout = false;
     quint64 m_changeCount = 0;
     Replacement m_lastReplacement;
-    std::optional<QString> m_lastError;
-    std::optional<QString> m_lastSaveError;
+    std::optional<StoreError> m_lastError;
+    std::optional<StoreError> m_lastSaveError;
     bool m_hasUnsavedChanges = false;
     SaveSchedule m_saveSchedule;
     ScheduledCall m_savedIndicatorTask;

@@ -116,7 +116,7 @@ void JsonText::putUuid(const QUuid &uuid)
 void JsonText::putNumber(double number)
 {
     if (!std::isfinite(number)) {
-        m_error = FileError{u"A document holds a date that is not a number."_s};
+        m_error = FileError(FileError::Problem::undefinedDate);
         return;
     }
     // Written as integers, a number beyond 64 bits would be unreadable and -0 would lose its sign.

@@ -10,7 +10,6 @@
 
 #include <algorithm>
 
-using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace
@@ -68,7 +67,8 @@ double TasksPanelViewModel::wordProgress() const
 
 QString TasksPanelViewModel::streakUnit() const
 {
-    return m_currentStreak == 1 ? u"day"_s : u"days"_s;
+    //: Stands behind the number of the streak.
+    return tr("day(s)", nullptr, static_cast<int>(m_currentStreak));
 }
 
 void TasksPanelViewModel::typed(const QString &text)
@@ -161,7 +161,8 @@ void TasksPanelViewModel::followOpenDocument()
     QString text;
     if (const LibrarySummary::Page *open = openID ? m_library.page(*openID) : nullptr) {
         const QString date = open->doc.relativeDate(m_services.clock.now(), m_zone, m_services.locale);
-        text = u"%1 words · %2"_s.arg(open->words).arg(date);
+        //: Length and age of the open page, such as "107 words · 5m ago".
+        text = tr("%n words · %1", nullptr, static_cast<int>(open->words)).arg(date);
     }
     ChangeScope(*this).assign(m_openDocumentText, text, &TasksPanelViewModel::openDocumentChanged);
 }

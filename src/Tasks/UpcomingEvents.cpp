@@ -97,7 +97,7 @@ QVariant UpcomingEvents::data(const QModelIndex &index, int role) const
     case EventIdentifierRole:
         return event.identifier.value_or(QString());
     case TitleRole:
-        return event.title.value_or(u"Untitled"_s);
+        return event.title.value_or(tr("Untitled", "an appointment"));
     case TimeRole:
         return eventTimeString(event);
     default:

@@ -58,7 +58,8 @@ bool PomodoroViewModel::isRunning() const
 
 QString PomodoroViewModel::phase() const
 {
-    return m_timer.isFocusPhase() ? u"FOCUS"_s : u"BREAK"_s;
+    //: What the timer measures, in capitals: time to write or time to rest.
+    return m_timer.isFocusPhase() ? tr("FOCUS") : tr("BREAK");
 }
 
 int PomodoroViewModel::sessionCount() const

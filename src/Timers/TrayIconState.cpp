@@ -3,7 +3,7 @@
 #include "Timers/PomodoroText.h"
 #include "Timers/PomodoroTimer.h"
 
-using namespace Qt::StringLiterals;
+#include <QCoreApplication>
 
 namespace
 {
@@ -14,18 +14,19 @@ constexpr double dimOpacity = 0.5;
 QList<TrayMenuRow> trayMenu(const PomodoroTimer &timer)
 {
     using Command = TrayMenuRow::Command;
-    return {{Command::open, u"Open Pelko"_s},
-            {Command::startOrPause, timer.isRunning() ? u"Pause"_s : u"Start"_s},
-            {Command::reset, u"Reset"_s},
+    return {{Command::open, QCoreApplication::translate("TrayMenu", "Open Pelko")},
+            {Command::startOrPause, timer.isRunning() ? QCoreApplication::translate("TrayMenu", "Pause")
+                                                      : QCoreApplication::translate("TrayMenu", "Start")},
+            {Command::reset, QCoreApplication::translate("TrayMenu", "Reset")},
             {Command::none, {}},
-            {Command::quit, u"Quit"_s}};
+            {Command::quit, QCoreApplication::translate("TrayMenu", "Quit")}};
 }
 
 QString sessionsDone(qint64 count)
 {
     if (count == 0)
-        return u"No session done yet"_s;
-    return count == 1 ? u"1 session done"_s : u"%1 sessions done"_s.arg(count);
+        return QCoreApplication::translate("TrayMenu", "No session done yet");
+    return QCoreApplication::translate("TrayMenu", "%n session(s) done", nullptr, int(count));
 }
 
 double flameOpacity(const PomodoroTimer &timer)

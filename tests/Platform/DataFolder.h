@@ -29,7 +29,7 @@ public:
     std::optional<Path> applicationSupportDirectory() const override { return support; }
 
     QByteArray read() { return std::get<QByteArray>(LocalDocumentFile(*this).read()); }
-    QString readError() { return std::get<FileError>(LocalDocumentFile(*this).read()).description; }
+    QString readError() { return std::get<FileError>(LocalDocumentFile(*this).read()).description(); }
     bool isMissing()
     {
         return std::holds_alternative<DocumentFile::Missing>(LocalDocumentFile(*this).read());
@@ -42,7 +42,7 @@ public:
         auto error = file.replace([&](ByteSink &sink) { return sink.write(bytes); });
         if (!error)
             error = file.confirm();
-        return error ? error->description : QString();
+        return error ? error->description() : QString();
     }
 
     /// Makes a file and its folder by other means than the program's.

@@ -123,7 +123,7 @@ class TestExportWriter : public QObject
     static QString told(const ExportFolder::Outcome &outcome)
     {
         if (const auto *error = std::get_if<FileError>(&outcome))
-            return error->description;
+            return error->description();
         if (const auto *taken = std::get_if<ExportFolder::Taken>(&outcome))
             return taken->paths.join(u'|');
         return u"written"_s;

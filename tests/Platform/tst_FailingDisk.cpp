@@ -183,7 +183,7 @@ private Q_SLOTS:
             return sinkError ? sinkError : FileError{u"changed my mind"_s};
         });
         QVERIFY(error);
-        QCOMPARE(error->description, u"changed my mind"_s);
+        QCOMPARE(error->description(), u"changed my mind"_s);
         disk->verifyOnlyTheOldFile();
     }
 

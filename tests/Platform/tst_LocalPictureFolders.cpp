@@ -58,7 +58,7 @@ private Q_SLOTS:
     void aFolderThatIsNotThereSaysSo()
     {
         const auto listing = list(folder.filePath(u"gone"_s));
-        QVERIFY(!std::get<FileError>(listing).description.isEmpty());
+        QVERIFY(!std::get<FileError>(listing).description().isEmpty());
     }
 
     void theHomeFolderIsTheFirstPlace()

@@ -79,7 +79,7 @@ private Q_SLOTS:
         DataFolder::put(program.disk.file(), "of the other");
         const auto error = saveInto(program.file, "second");
         QVERIFY(error);
-        QCOMPARE(error->description, u"Another Pelko has opened these documents."_s);
+        QCOMPARE(error->description(), u"Another Pelko has opened these documents."_s);
         QCOMPARE(program.disk.read(), "of the other");
         QCOMPARE(program.folderChanges, 0);
 
@@ -95,7 +95,7 @@ private Q_SLOTS:
         fs::remove_all(program.disk.folder());
         const auto error = program.file.confirm();
         QVERIFY(error);
-        QCOMPARE(error->description, u"The folder of the documents was removed."_s);
+        QCOMPARE(error->description(), u"The folder of the documents was removed."_s);
     }
 };
 

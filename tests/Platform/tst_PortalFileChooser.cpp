@@ -96,7 +96,7 @@ private:
 QString written(const FileChooser::Choice &choice)
 {
     if (const auto *failure = std::get_if<FileError>(&choice))
-        return u"failed: "_s + failure->description;
+        return u"failed: "_s + failure->description();
     QStringList names;
     for (const auto &file : std::get<Files>(choice))
         names << QString::fromStdString(file.string());

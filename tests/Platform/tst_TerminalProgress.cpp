@@ -41,6 +41,11 @@ struct Terminal {
 };
 } // namespace
 
+QString exportingFiles(qsizetype done, qsizetype all)
+{
+    return u"Exporting %1 of %2 files"_s.arg(done).arg(all);
+}
+
 class TestTerminalProgress : public QObject
 {
     Q_OBJECT
@@ -52,7 +57,7 @@ private Q_SLOTS:
         QVERIFY2(terminal.stream, "no pseudo terminal: is /dev/pts mounted?");
         ManualClock clock;
         {
-            TerminalProgress progress(u"Exporting"_s, u"files"_s, clock, terminal.stream);
+            TerminalProgress progress(exportingFiles, clock, terminal.stream);
             clock.time += 0.39;
             progress.show(1, 2);
         }
@@ -65,7 +70,7 @@ private Q_SLOTS:
         QVERIFY2(terminal.stream, "no pseudo terminal: is /dev/pts mounted?");
         ManualClock clock;
         {
-            TerminalProgress progress(u"Exporting"_s, u"files"_s, clock, terminal.stream);
+            TerminalProgress progress(exportingFiles, clock, terminal.stream);
             clock.time += 0.5;
             progress.show(12, 100);
             QCOMPARE(terminal.shown(), "\rExporting 12 of 100 files");
@@ -78,7 +83,7 @@ private Q_SLOTS:
         const Terminal terminal;
         QVERIFY2(terminal.stream, "no pseudo terminal: is /dev/pts mounted?");
         ManualClock clock;
-        TerminalProgress progress(u"Exporting"_s, u"files"_s, clock, terminal.stream);
+        TerminalProgress progress(exportingFiles, clock, terminal.stream);
         clock.time += 0.5;
         progress.show(12, 100);
         clock.time += 0.05;
@@ -96,7 +101,7 @@ private Q_SLOTS:
         std::FILE *stream = std::fopen(qPrintable(file.fileName()), "w");
         ManualClock clock;
         {
-            TerminalProgress progress(u"Exporting"_s, u"files"_s, clock, stream);
+            TerminalProgress progress(exportingFiles, clock, stream);
             clock.time += 0.5;
             progress.show(12, 100);
         }

@@ -29,10 +29,10 @@ QStringList rows(const CommandListModel &model)
 }
 
 const QList<MenuCommand> table{
-    {u"a"_s, u"A"_s, u"plus"_s, u"Ctrl+A"_s, CommandGroup::documents},
-    {u"b"_s, u"B"_s, u"minus"_s, {}, CommandGroup::views},
-    {u"c"_s, u"C"_s, u"minus"_s, {}, CommandGroup::views},
-    {u"d"_s, u"D"_s, {}, u"F1"_s, CommandGroup::none},
+    {u"a"_s, "A", u"plus"_s, u"Ctrl+A"_s, CommandGroup::documents},
+    {u"b"_s, "B", u"minus"_s, {}, CommandGroup::views},
+    {u"c"_s, "C", u"minus"_s, {}, CommandGroup::views},
+    {u"d"_s, "D", {}, u"F1"_s, CommandGroup::none},
 };
 } // namespace
 

@@ -28,40 +28,48 @@ class TestCommandMenu : public QObject
 private Q_SLOTS:
     void holdsItsGroupsWithAHairlineBetweenThem_data()
     {
+        QTest::addColumn<BarMenu>("menu");
         QTest::addColumn<QStringList>("wanted");
-        QTest::newRow("File") << QStringList{
-            u"New Document"_s,         u"Go to…"_s, u"Save"_s, u"-"_s, u"Export…"_s, u"Export everything…"_s,
-            u"Copy page as Markdown"_s};
-        QTest::newRow("Spaces") << QStringList{u"Ideas"_s, u"Work"_s, u"Journal"_s};
-        QTest::newRow("View") << QStringList{u"Tasks"_s, u"Pomodoro"_s, u"Focus mode"_s, u"Full screen"_s};
-        QTest::newRow("Help") << QStringList{u"Keyboard Shortcuts"_s, u"About Pelko"_s, u"Quit"_s};
-        QTest::newRow("Edit") << QStringList{u"Undo"_s, u"Redo"_s,  u"Cut"_s,
-                                             u"Copy"_s, u"Paste"_s, u"Select All"_s};
-        QTest::newRow("Format") << QStringList{};
+        QTest::newRow("File") << BarMenu::file << QStringList{u"New Document"_s,
+                                                              u"Go to…"_s,
+                                                              u"Save"_s,
+                                                              u"-"_s,
+                                                              u"Export…"_s,
+                                                              u"Export everything…"_s,
+                                                              u"Copy page as Markdown"_s};
+        QTest::newRow("Spaces") << BarMenu::spaces << QStringList{u"Ideas"_s, u"Work"_s, u"Journal"_s};
+        QTest::newRow("View") << BarMenu::view
+                              << QStringList{u"Tasks"_s, u"Pomodoro"_s, u"Focus mode"_s, u"Full screen"_s};
+        QTest::newRow("Help") << BarMenu::help
+                              << QStringList{u"Keyboard Shortcuts"_s, u"About Pelko"_s, u"Quit"_s};
+        QTest::newRow("Edit") << BarMenu::edit << QStringList{u"Undo"_s, u"Redo"_s,  u"Cut"_s,
+                                                              u"Copy"_s, u"Paste"_s, u"Select All"_s};
     }
 
     void holdsItsGroupsWithAHairlineBetweenThem()
     {
+        QFETCH(BarMenu, menu);
         QFETCH(QStringList, wanted);
         CommandListModel commands(menuCommands());
-        CommandMenu menu(commands, QString::fromUtf8(QTest::currentDataTag()));
-        const QAbstractItemModelTester tester(&menu, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        CommandMenu rowsOfMenu(commands, menu);
+        const QAbstractItemModelTester tester(&rowsOfMenu,
+                                              QAbstractItemModelTester::FailureReportingMode::QtTest);
 
-        QCOMPARE(menu.title(), QString::fromUtf8(QTest::currentDataTag()));
-        QCOMPARE(rows(menu), wanted);
+        QCOMPARE(rowsOfMenu.title(), QString::fromUtf8(QTest::currentDataTag()));
+        QCOMPARE(rows(rowsOfMenu), wanted);
     }
 
     void everyCommandOfTheMenuIsInOne()
     {
         CommandListModel commands(menuCommands());
         QStringList found;
-        for (const QString &title : menuTitles())
-            found << rows(CommandMenu(commands, title));
+        for (const BarMenu menu : allBarMenus)
+            found << rows(CommandMenu(commands, menu));
         found.removeAll(u"-"_s);
         QStringList wanted;
         for (const MenuCommand &command : menuCommands()) {
             if (command.group != CommandGroup::none)
-                wanted << command.title;
+                wanted << command.title();
         }
         std::ranges::sort(found);
         std::ranges::sort(wanted);
@@ -72,7 +80,7 @@ private Q_SLOTS:
     void whatTheSystemHasAPlaceForSaysSo()
     {
         CommandListModel commands(menuCommands());
-        const CommandMenu menu(commands, u"Help"_s);
+        const CommandMenu menu(commands, BarMenu::help);
         QStringList roles;
         for (int row = 0; row < menu.rowCount(); ++row)
             roles << menu.index(row, 0).data(CommandListModel::SystemRole).toString();
@@ -83,7 +91,7 @@ private Q_SLOTS:
     void followsTheCommands()
     {
         CommandListModel commands(menuCommands());
-        const CommandMenu menu(commands, u"Spaces"_s);
+        const CommandMenu menu(commands, BarMenu::spaces);
         QSignalSpy changes(&menu, &CommandMenu::dataChanged);
         commands.bind(u"work"_s, {.run = [] {}, .isTicked = [] { return true; }});
 

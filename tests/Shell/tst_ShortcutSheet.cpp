@@ -43,7 +43,7 @@ private Q_SLOTS:
         QStringList wanted;
         for (const MenuCommand &command : menuCommands()) {
             if (!command.shortcut.isEmpty())
-                wanted << command.title + u' ' + command.shortcut;
+                wanted << command.title() + u' ' + command.shortcut;
         }
         QStringList shown;
         for (const ShortcutLine &line :

@@ -193,7 +193,7 @@ private Q_SLOTS:
         sink.capacity = 1'000'000;
         const auto error = DocumentWriter().write({pageWithPicture(10'000'000)}, sink);
         QVERIFY(error);
-        QCOMPARE(error->description, u"No space left on device"_s);
+        QCOMPARE(error->description(), u"No space left on device"_s);
         QVERIFY(sink.bytes.size() <= 1'000'000);
     }
 };

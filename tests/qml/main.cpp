@@ -2,9 +2,13 @@
 #include "EditorBench.h"
 #include "ExportBench.h"
 #include "InputMethodBench.h"
+#include "PseudoLocale.h"
 #include "ShellFixture.h"
+#include "ShownTexts.h"
 #include "TasksBench.h"
 #include "TimersBench.h"
+#include "WholeProgram.h"
+#include "support/EnglishCatalogue.h"
 
 #include <QCoreApplication>
 #include <QQmlEngine>
@@ -14,6 +18,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 Q_IMPORT_QML_PLUGIN(PelkoPlugin)
 
@@ -70,7 +75,11 @@ public:
     }
 
 public Q_SLOTS:
-    void applicationAvailable() { QCoreApplication::instance()->installEventFilter(this); }
+    void applicationAvailable()
+    {
+        m_english.emplace();
+        QCoreApplication::instance()->installEventFilter(this);
+    }
 
     void qmlEngineAvailable(QQmlEngine *engine)
     {
@@ -79,11 +88,17 @@ public Q_SLOTS:
         qmlRegisterType<EditorBench>("PelkoTest", 1, 0, "EditorBench");
         qmlRegisterType<ExportBench>("PelkoTest", 1, 0, "ExportBench");
         qmlRegisterType<InputMethodBench>("PelkoTest", 1, 0, "InputMethodBench");
+        qmlRegisterType<PseudoLocale>("PelkoTest", 1, 0, "PseudoLocale");
         qmlRegisterType<ShellFixture>("PelkoTest", 1, 0, "ShellFixture");
         qmlRegisterType<ShellWithMenuBar>("PelkoTest", 1, 0, "ShellWithMenuBar");
+        qmlRegisterType<ShownTexts>("PelkoTest", 1, 0, "ShownTexts");
         qmlRegisterType<TasksBench>("PelkoTest", 1, 0, "TasksBench");
         qmlRegisterType<TimersBench>("PelkoTest", 1, 0, "TimersBench");
+        qmlRegisterType<WholeProgram>("PelkoTest", 1, 0, "WholeProgram");
     }
+
+private:
+    std::optional<EnglishCatalogue> m_english;
 };
 
 QUICK_TEST_MAIN_WITH_SETUP(Pelko, Setup)

@@ -1,3 +1,4 @@
+#include "support/EnglishCatalogue.h"
 #include "support/TestProgram.h"
 
 #ifdef QT_GUI_LIB
@@ -11,5 +12,6 @@ using Application = QCoreApplication;
 int main(int argc, char **argv)
 {
     const Application application(argc, argv);
+    const EnglishCatalogue english;
     return TestProgram::run(argc, argv);
 }

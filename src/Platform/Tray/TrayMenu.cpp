@@ -2,6 +2,8 @@
 
 #include "Platform/Tray/Tray.h"
 
+#include <QGuiApplication>
+
 using namespace Qt::StringLiterals;
 
 TrayMenu::TrayMenu(Tray &tray, QObject *exported) : QDBusAbstractAdaptor(exported), m_tray(tray) {}
@@ -57,6 +59,11 @@ QList<int> TrayMenu::EventGroup(const QList<TrayMenuEvent> &events)
         Event(event.id, event.eventID, event.data, event.timestamp);
     }
     return unknown;
+}
+
+QString TrayMenu::textDirection() const
+{
+    return QGuiApplication::isRightToLeft() ? u"rtl"_s : u"ltr"_s;
 }
 
 bool TrayMenu::AboutToShow(int)

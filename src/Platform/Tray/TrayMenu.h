@@ -24,7 +24,7 @@ public:
     void show(const QList<TrayMenuRow> &rows);
 
     uint version() const { return 3; }
-    QString textDirection() const { return QStringLiteral("ltr"); }
+    QString textDirection() const;
     QString status() const { return QStringLiteral("normal"); }
     QStringList iconThemePath() const { return {}; }
 

@@ -58,7 +58,7 @@ ModalLayer {
 
         x: Math.round((parent.width - width) / 2)
         y: Math.round((parent.height - height) / 2) + rise
-        width: 340
+        width: Math.min(parent.width - 2 * Metrics.space24, Math.max(340, 2 * content.x + row.neededWidth))
         height: content.y + content.height + 22
         kind: Glass.dialog
         backdrop: dialog.backdrop
@@ -122,6 +122,13 @@ ModalLayer {
             Item { width: 1; height: Metrics.space20 }
 
             Row {
+                id: row
+
+                /// The buttons are all as wide as the widest has to be.
+                readonly property real widest: Array.from(children).reduce(
+                    (widest, button) => Math.max(widest, button.implicitWidth), 0)
+                readonly property real neededWidth: buttons.count * (widest + spacing) - spacing
+
                 spacing: Metrics.space10
 
                 Repeater {
@@ -143,8 +150,8 @@ ModalLayer {
                         onTriggered: dialog.choose(modelData)
                         Keys.onTabPressed: dialog.focusChoice(index + 1)
                         Keys.onBacktabPressed: dialog.focusChoice(index - 1)
-                        Keys.onRightPressed: dialog.focusChoice(index + 1)
-                        Keys.onLeftPressed: dialog.focusChoice(index - 1)
+                        Keys.onRightPressed: dialog.focusChoice(index + (mirrored ? -1 : 1))
+                        Keys.onLeftPressed: dialog.focusChoice(index + (mirrored ? 1 : -1))
                     }
                 }
             }

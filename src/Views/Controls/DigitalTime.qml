@@ -21,6 +21,8 @@ Row {
         (widest, digit) => Math.max(widest, metrics.advanceWidth(digit)), 0))
 
     baselineOffset: metrics.ascent
+    // Figures run from left to right everywhere.
+    layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight
 
     FontMetrics {
         id: metrics

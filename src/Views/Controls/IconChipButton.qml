@@ -20,8 +20,7 @@ PressableControl {
     SymbolIcon {
         id: symbol
 
-        x: Metrics.chipPadding
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; leftMargin: Metrics.chipPadding; verticalCenter: parent.verticalCenter }
         name: chip.icon.name
         size: Metrics.chipSymbol
         color: Qt.alpha(FirePalette.ink, 0.72 + 0.23 * chip.hoverAmount)
@@ -39,7 +38,7 @@ PressableControl {
         Text {
             id: label
 
-            anchors.verticalCenter: parent.verticalCenter
+            anchors { left: parent.left; verticalCenter: parent.verticalCenter }
             text: chip.tip
             textFormat: Text.PlainText
             font: Typography.capsule

@@ -35,7 +35,7 @@ Item {
     Rectangle {
         id: handle
 
-        x: bar.width - width - 3
+        anchors { right: parent.right; rightMargin: 3 }
         y: Math.max(0, Math.min(bar.room, bar.room * bar.position))
         width: area.containsMouse || area.pressed ? 6 : bar.thickness
         height: bar.handleHeight

@@ -26,7 +26,8 @@ ModalLayer {
     }
 
     function popUpBelow(item: Item) : void {
-        const corner = item.mapToItem(parent, 0, item.height + Metrics.space6)
+        const beginning = LayoutMirroring.enabled ? item.width - card.width : 0
+        const corner = item.mapToItem(parent, beginning, item.height + Metrics.space6)
         popUp(corner.x, corner.y)
     }
 
@@ -70,8 +71,8 @@ ModalLayer {
     onEscaped: close()
     onClickedBeside: close()
     Keys.onDownPressed: choose(chosen() + 1)
-    Keys.onLeftPressed: chooseBeside(-1)
-    Keys.onRightPressed: chooseBeside(1)
+    Keys.onLeftPressed: chooseBeside(LayoutMirroring.enabled ? 1 : -1)
+    Keys.onRightPressed: chooseBeside(LayoutMirroring.enabled ? -1 : 1)
     Keys.onUpPressed: choose(chosen() < 0 ? -1 : chosen() - 1)
     Keys.onTabPressed: choose(chosen() + 1)
     Keys.onBacktabPressed: choose(chosen() < 0 ? -1 : chosen() - 1)

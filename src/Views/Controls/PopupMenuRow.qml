@@ -58,8 +58,7 @@ T.AbstractButton {
     }
 
     SymbolIcon {
-        x: 10
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; leftMargin: 10; verticalCenter: parent.verticalCenter }
         name: row.icon.name
         size: 14
         color: row.symbolInk
@@ -68,8 +67,7 @@ T.AbstractButton {
     Text {
         id: label
 
-        x: 34
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; leftMargin: 34; verticalCenter: parent.verticalCenter }
         text: row.name
         textFormat: Text.PlainText
         font: Typography.menuRow

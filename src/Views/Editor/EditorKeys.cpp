@@ -62,7 +62,8 @@ QList<EditorKeyBinding> commandKeys()
 QList<EditorKeyBinding> deletingKeys()
 {
     return {
-        combination(Qt::Key_Backspace, Action::deleteBackward, "Join with the block above"),
+        combination(Qt::Key_Backspace, Action::deleteBackward,
+                    QT_TRANSLATE_NOOP("EditorKeys", "Join with the block above")),
         combination(Qt::SHIFT | Qt::Key_Backspace, Action::deleteBackward),
         standard(Standard::Backspace, Action::deleteBackward),
         standard(Standard::Delete, Action::deleteForward),
@@ -76,9 +77,10 @@ QList<EditorKeyBinding> deletingKeys()
 QList<EditorKeyBinding> writingKeys()
 {
     return {
-        combination(Qt::Key_Return, Action::newBlock, "New block"),
+        combination(Qt::Key_Return, Action::newBlock, QT_TRANSLATE_NOOP("EditorKeys", "New block")),
         combination(Qt::Key_Enter, Action::newBlock),
-        combination(Qt::SHIFT | Qt::Key_Return, Action::newLine, "New line in a block"),
+        combination(Qt::SHIFT | Qt::Key_Return, Action::newLine,
+                    QT_TRANSLATE_NOOP("EditorKeys", "New line in a block")),
         combination(Qt::SHIFT | Qt::Key_Enter, Action::newLine),
         combination(Qt::Key_Tab, Action::indent),
         combination(Qt::Key_Backtab, Action::unindent),
@@ -90,11 +92,14 @@ QList<EditorKeyBinding> writingKeys()
 QList<EditorKeyBinding> blockKeys()
 {
     return {
-        combination(Qt::ALT | Qt::Key_Up, Action::moveBlockUp, "Move block up"),
-        combination(Qt::ALT | Qt::Key_Down, Action::moveBlockDown, "Move block down"),
-        combination(Qt::SHIFT | Qt::Key_F10, Action::openBlockMenu, "Menu of the block"),
+        combination(Qt::ALT | Qt::Key_Up, Action::moveBlockUp,
+                    QT_TRANSLATE_NOOP("EditorKeys", "Move block up")),
+        combination(Qt::ALT | Qt::Key_Down, Action::moveBlockDown,
+                    QT_TRANSLATE_NOOP("EditorKeys", "Move block down")),
+        combination(Qt::SHIFT | Qt::Key_F10, Action::openBlockMenu,
+                    QT_TRANSLATE_NOOP("EditorKeys", "Menu of the block")),
         combination(Qt::Key_Menu, Action::openBlockMenu),
-        combination(Qt::CTRL | Qt::Key_Tab, Action::focusNext, "Leave code"),
+        combination(Qt::CTRL | Qt::Key_Tab, Action::focusNext, QT_TRANSLATE_NOOP("EditorKeys", "Leave code")),
         combination(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, Action::focusPrevious),
         combination(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, Action::focusPrevious),
     };

@@ -66,6 +66,9 @@ FocusScope {
     BlockList {
         id: page
 
+        // Sheets of paper are not mirrored. Each text on them keeps its own direction.
+        LayoutMirroring.childrenInherit: true
+        LayoutMirroring.enabled: false
         anchors { fill: parent; bottomMargin: bar.height * (1 - root.focusFade.glide) }
         air: Metrics.focusAir * root.focusFade.glide
         editor: root.editor

@@ -77,7 +77,7 @@ BlockEditor {
         color: FirePalette.inkPlaceholder
         font: Typography.body
         renderType: Text.NativeRendering
-        text: qsTr("This text is too long to be shown as a whole. %L1 more characters are kept.").arg(field.hiddenLength)
+        text: qsTr("This text is too long to be shown as a whole. %Ln more character(s) are kept.", "", field.hiddenLength)
         textFormat: Text.PlainText
         visible: field.isCut
         width: field.width

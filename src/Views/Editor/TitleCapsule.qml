@@ -22,8 +22,7 @@ GlassSurface {
     Row {
         id: row
 
-        anchors.verticalCenter: parent.verticalCenter
-        x: Metrics.space12
+        anchors { left: parent.left; leftMargin: Metrics.space12; verticalCenter: parent.verticalCenter }
         spacing: Metrics.space8
 
         Rectangle {

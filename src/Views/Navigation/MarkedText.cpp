@@ -62,6 +62,11 @@ void MarkedText::setMarkGround(const QColor &color)
     assign(m_markGround, color, &MarkedText::markGroundChanged);
 }
 
+void MarkedText::setStartsRight(bool startsRight)
+{
+    assign(m_startsRight, startsRight, &MarkedText::startsRightChanged);
+}
+
 /// Lays the text out, shortened to what fits.
 void MarkedText::layOut(QTextLayout &layout, qreal width) const
 {
@@ -76,7 +81,7 @@ void MarkedText::layOut(QTextLayout &layout, qreal width) const
     layout.setFormats(formats);
     QTextOption option;
     option.setWrapMode(QTextOption::NoWrap);
-    option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setAlignment((m_startsRight ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute);
     layout.setTextOption(option);
     if (layInOneLine(layout, width) <= width)
         return;

@@ -10,8 +10,8 @@
 class QTextLayout;
 
 /// One line of text whose marked parts are heavier, in a colour of their own, and stand on a ground. What
-/// does not fit into the item gives way to "…". Text that runs from right to left begins at the left all the
-/// same, as the other lines of a list do.
+/// does not fit into the item gives way to "…". Every text begins at the same side, whatever its direction,
+/// as the other lines of a list do.
 class MarkedText : public PictureItem
 {
     Q_OBJECT
@@ -20,6 +20,8 @@ class MarkedText : public PictureItem
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
     Q_PROPERTY(QColor markColor READ markColor WRITE setMarkColor NOTIFY markColorChanged)
     Q_PROPERTY(QColor markGround READ markGround WRITE setMarkGround NOTIFY markGroundChanged)
+    /// Which side that is: the left one if not.
+    Q_PROPERTY(bool startsRight READ startsRight WRITE setStartsRight NOTIFY startsRightChanged)
     QML_ELEMENT
 
 public:
@@ -30,12 +32,14 @@ public:
     QColor color() const { return m_color; }
     QColor markColor() const { return m_markColor; }
     QColor markGround() const { return m_markGround; }
+    bool startsRight() const { return m_startsRight; }
 
     void setLine(const MarkedLine &line);
     void setFont(const QFont &font);
     void setColor(const QColor &color);
     void setMarkColor(const QColor &color);
     void setMarkGround(const QColor &color);
+    void setStartsRight(bool startsRight);
 
 Q_SIGNALS:
     void lineChanged();
@@ -43,6 +47,7 @@ Q_SIGNALS:
     void colorChanged();
     void markColorChanged();
     void markGroundChanged();
+    void startsRightChanged();
 
 protected:
     void paintPicture(QPainter &painter, const QSizeF &size) override;
@@ -58,4 +63,5 @@ private:
     QColor m_color = Qt::white;
     QColor m_markColor = Qt::white;
     QColor m_markGround = Qt::transparent;
+    bool m_startsRight = false;
 };

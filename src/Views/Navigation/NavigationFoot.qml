@@ -12,9 +12,8 @@ Item {
     }
 
     Row {
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; leftMargin: Metrics.space8; verticalCenter: parent.verticalCenter }
         spacing: Metrics.space20
-        x: Metrics.space8
 
         KeyHint { key: "↑ ↓"; does: qsTr("Choose") }
         KeyHint { key: qsTr("Return"); does: qsTr("Open") }

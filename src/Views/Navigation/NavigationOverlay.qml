@@ -8,9 +8,10 @@ ModalLayer {
 
     required property MainViewModel main
     property Item backdrop: null
-    /// From the left edge; the overlay lies over its middle where that is wide enough.
+    /// From the edge where lines begin; the overlay lies over its middle where that is wide enough.
     property real pageWidth: width
     readonly property real room: pageWidth < Metrics.overlayWidth + 2 * Metrics.space24 ? width : pageWidth
+    readonly property real pageLeft: LayoutMirroring.enabled ? width - room : 0
     readonly property NavigationViewModel navigation: main.navigation
     readonly property real highest: height - card.y - Metrics.space24
 
@@ -55,7 +56,7 @@ ModalLayer {
         scale: Motion.reduced ? 1 : 0.98 + 0.02 * overlay.shown
         transformOrigin: Item.Top
         width: Math.min(Metrics.overlayWidth, overlay.width - 2 * Metrics.space24)
-        x: Math.round((overlay.room - width) / 2)
+        x: overlay.pageLeft + Math.round((overlay.room - width) / 2)
         y: Metrics.overlayTop
 
         Behavior on height {
@@ -121,7 +122,7 @@ ModalLayer {
                 text: overlay.navigation.summary
                 textFormat: Text.PlainText
                 visible: overlay.navigation.isSearching
-                x: Metrics.overlayPadding + Metrics.space12
+                anchors { left: parent.left; leftMargin: Metrics.overlayPadding + Metrics.space12 }
                 y: field.y + field.height + Metrics.space12
             }
 

@@ -20,7 +20,7 @@ PressableControl {
     }
 
     SymbolIcon {
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; verticalCenter: parent.verticalCenter }
         color: FirePalette.amberSoft
         height: Metrics.navigationGlyph
         name: "plus"
@@ -29,12 +29,11 @@ PressableControl {
 
     Text {
         Accessible.ignored: true
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; leftMargin: Metrics.pageRowIndent; verticalCenter: parent.verticalCenter }
         color: FirePalette.amberSoft
         font: Typography.listTitle
         renderType: Text.NativeRendering
         text: root.name
-        x: Metrics.pageRowIndent
     }
 
     Text {

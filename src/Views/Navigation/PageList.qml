@@ -24,14 +24,13 @@ Item {
 
         Accessible.name: text
         Accessible.role: Accessible.StaticText
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; leftMargin: Metrics.pageRowIndent; verticalCenter: parent.verticalCenter }
         color: FirePalette.inkMeta
         font: Typography.listTitle
         renderType: Text.NativeRendering
         text: root.navigation.summary
         textFormat: Text.PlainText
         visible: text !== "" && !root.navigation.isSearching
-        x: Metrics.pageRowIndent
     }
 
     ListView {

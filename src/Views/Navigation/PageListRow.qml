@@ -54,7 +54,7 @@ Item {
     }
 
     SpotSymbol {
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; verticalCenter: parent.verticalCenter }
         isOpen: root.isOpen
         isSpark: root.isSpark
         width: Metrics.pageRowIndent
@@ -71,6 +71,7 @@ Item {
             line: root.titleLine
             markColor: FirePalette.hitInk
             markGround: FirePalette.hitGround
+            startsRight: LayoutMirroring.enabled
             width: parent.width
         }
 
@@ -81,6 +82,7 @@ Item {
             line: root.detailLine
             markColor: FirePalette.hitInk
             markGround: FirePalette.hitGround
+            startsRight: LayoutMirroring.enabled
             width: parent.width
         }
     }

@@ -17,11 +17,10 @@ FieldPlate {
     SymbolIcon {
         id: glass
 
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; leftMargin: Metrics.space14; verticalCenter: parent.verticalCenter }
         color: FirePalette.inkMeta
         name: "magnifyingglass"
         size: Metrics.chipSymbol
-        x: Metrics.space14
     }
 
     LineField {

@@ -78,11 +78,10 @@ T.TabButton {
     SymbolIcon {
         id: icon
 
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; leftMargin: Metrics.space14; verticalCenter: parent.verticalCenter }
         color: root.isCurrent ? FirePalette.amberSoft : Qt.alpha(FirePalette.ink, 0.62)
         name: root.symbol
         size: Metrics.spaceSymbol
-        x: Metrics.space14
     }
 
     Column {

@@ -14,10 +14,10 @@ Item {
     AlertDialog {
         open: root.main.showDocLimitNudge
         backdrop: root.backdrop
-        title: "Five is the limit."
-        message: "You've got 5 docs in this space. Archive one first. Constraints breed creativity."
+        title: qsTr("Five is the limit.")
+        message: qsTr("You've got 5 docs in this space. Archive one first. Constraints breed creativity.")
         art: FiveEmbers {}
-        actions: DialogAction { name: "Fine"; cancels: true }
+        actions: DialogAction { name: qsTr("Fine"); cancels: true }
         onDismissed: root.main.dismissDocLimitNudge()
     }
 
@@ -25,9 +25,9 @@ Item {
         open: root.main.showAbout
         backdrop: root.backdrop
         title: "Pelko"
-        message: "Built by Dravel. Fueled by espresso and poor decisions."
+        message: qsTr("Built by Dravel. Fueled by espresso and poor decisions.")
         art: AnimatedFlame { size: 36 }
-        actions: DialogAction { name: "Close"; cancels: true }
+        actions: DialogAction { name: qsTr("Close"); cancels: true }
         onDismissed: root.main.dismissAbout()
     }
 
@@ -37,9 +37,9 @@ Item {
         covered: root.covered
         backdrop: root.backdrop
         symbol: "photo"
-        title: "Couldn't import image."
+        title: qsTr("Couldn't import image.")
         message: root.imageImport?.imageImportError ?? ""
-        actions: DialogAction { name: "OK"; cancels: true }
+        actions: DialogAction { name: qsTr("OK"); cancels: true }
         onDismissed: root.imageImport.dismissImageImportError()
     }
 
@@ -49,8 +49,8 @@ Item {
         symbol: "trash"
         title: root.main.deleteConfirmText
         actions: [
-            DialogAction { name: "Nah"; cancels: true },
-            DialogAction { name: "Delete"; destroys: true; onTriggered: root.main.confirmDelete() }
+            DialogAction { name: qsTr("Nah"); cancels: true },
+            DialogAction { name: qsTr("Delete"); destroys: true; onTriggered: root.main.confirmDelete() }
         ]
         onDismissed: root.main.cancelDelete()
     }

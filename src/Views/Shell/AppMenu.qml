@@ -37,7 +37,7 @@ PopupMenu {
                     required property string commandID
                     required property string title
                     required property string symbol
-                    required property string shortcut
+                    required property string keyText
                     required property bool isInMenu
                     required property bool isEditing
                     required property bool isEnabled
@@ -49,7 +49,7 @@ PopupMenu {
                     enabled: isEnabled
                     name: title
                     icon.name: symbol
-                    keys: isEditing ? "" : shortcut
+                    keys: isEditing ? "" : keyText
                     perLine: isEditing ? 2 : 1
                     tickable: isTickable
                     ticked: isTicked

@@ -64,7 +64,7 @@ FocusScope {
         WarmButton {
             anchors.horizontalCenter: parent.horizontalCenter
             focus: true
-            name: "Start Writing"
+            name: qsTr("Start Writing")
             icon.name: "flame"
             casts: true
             onTriggered: root.main.createDocument()

@@ -17,9 +17,9 @@ Item {
         backdrop: root.backdrop
         symbol: "square.and.arrow.up"
         symbolColor: FirePalette.amberSoft
-        title: "Exporting…"
+        title: qsTr("Exporting…")
         message: root.exports.progressText
-        actions: DialogAction { name: "Stop"; cancels: true; onTriggered: root.exports.stop() }
+        actions: DialogAction { name: qsTr("Stop"); cancels: true; onTriggered: root.exports.stop() }
     }
 
     AlertDialog {
@@ -29,8 +29,8 @@ Item {
         title: root.exports.questionTitle
         message: root.exports.questionText
         actions: [
-            DialogAction { name: "Nah"; cancels: true },
-            DialogAction { name: "Replace"; destroys: true; onTriggered: root.exports.replace() }
+            DialogAction { name: qsTr("Nah"); cancels: true },
+            DialogAction { name: qsTr("Replace"); destroys: true; onTriggered: root.exports.replace() }
         ]
         onDismissed: root.exports.keep()
     }
@@ -44,7 +44,7 @@ Item {
         symbolColor: root.exports.hasFailed ? FirePalette.destructive : FirePalette.amberSoft
         title: root.exports.resultTitle
         message: root.exports.resultText
-        actions: DialogAction { name: "Got it"; cancels: true }
+        actions: DialogAction { name: qsTr("Got it"); cancels: true }
         onDismissed: root.exports.dismissResult()
     }
 }

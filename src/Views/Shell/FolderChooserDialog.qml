@@ -49,10 +49,10 @@ ModalLayer {
             id: title
 
             Accessible.ignored: true
+            anchors { left: parent.left; leftMargin: Metrics.space24 }
             color: FirePalette.inkHeading
             font: Typography.dialogTitle
             text: dialog.chooser.wantsFolder ? qsTr("Export to a folder") : qsTr("Add image")
-            x: Metrics.space24
             y: Metrics.space20
         }
 

@@ -19,7 +19,7 @@ FocusScope {
     CaptionButton {
         id: up
 
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; verticalCenter: parent.verticalCenter }
         enabled: root.chooser.canGoUp
         icon.name: "arrow.up"
         name: qsTr("Up")

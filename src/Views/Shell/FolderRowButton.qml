@@ -32,11 +32,10 @@ PressableControl {
     SymbolIcon {
         id: icon
 
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; leftMargin: Metrics.space10; verticalCenter: parent.verticalCenter }
         color: Qt.alpha(FirePalette.ink, 0.72)
         name: root.symbol
         size: Metrics.chipSymbol
-        x: Metrics.space10
     }
 
     Text {

@@ -23,19 +23,26 @@ Column {
 
             Accessible.name: isHeading ? modelData.title : modelData.title + ", " + modelData.keys.join("+")
             Accessible.role: isHeading ? Accessible.Heading : Accessible.StaticText
-            height: air + (isHeading ? Metrics.sheetHeading : Metrics.sheetRow)
+            height: air + Math.max(isHeading ? Metrics.sheetHeading : Metrics.sheetRow, label.height + Metrics.space8)
             width: column.width
 
             Text {
+                id: label
+
                 Accessible.ignored: true
+                anchors.left: parent.left
                 color: line.isHeading ? FirePalette.amberSoft : FirePalette.inkBody
                 font: line.isHeading ? Typography.caption : Typography.menuRow
                 text: line.isHeading ? line.modelData.title.toUpperCase() : line.modelData.title
                 textFormat: Text.PlainText
+                width: Math.min(implicitWidth, line.width - keys.width - Metrics.space12)
+                wrapMode: Text.Wrap
                 y: line.air + Math.round((line.height - line.air - height) / 2)
             }
 
             Row {
+                id: keys
+
                 anchors { right: parent.right; verticalCenter: parent.verticalCenter }
                 spacing: Metrics.space4
 

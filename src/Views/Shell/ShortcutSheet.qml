@@ -59,11 +59,10 @@ ModalLayer {
             id: title
 
             Accessible.ignored: true
-            anchors.verticalCenter: close.verticalCenter
+            anchors { left: parent.left; leftMargin: Metrics.sheetPadding; verticalCenter: close.verticalCenter }
             color: FirePalette.inkHeading
             font: Typography.sheetTitle
             text: qsTr("Keyboard Shortcuts")
-            x: Metrics.sheetPadding
         }
 
         RoundButton {

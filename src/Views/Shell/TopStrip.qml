@@ -62,9 +62,9 @@ Item {
         CaptionButton {
             id: menuButton
 
-            x: Metrics.captionEdge
+            anchors { left: parent.left; leftMargin: Metrics.captionEdge }
             y: Metrics.captionTop
-            name: "Menu"
+            name: qsTr("Menu")
             icon.name: "line.3.horizontal"
             active: strip.menuOpen
             opacity: buttons.seen
@@ -99,19 +99,19 @@ Item {
             spacing: Metrics.captionSpacing
 
             CaptionButton {
-                name: "Minimise"
+                name: qsTr("Minimise")
                 icon.name: "window.minimise"
                 onTriggered: strip.Window.window.showMinimized()
             }
 
             CaptionButton {
-                name: strip.filled ? "Restore" : "Maximise"
+                name: strip.filled ? qsTr("Restore") : qsTr("Maximise")
                 icon.name: strip.filled ? "window.restore" : "window.maximise"
                 onTriggered: strip.changeSize()
             }
 
             CaptionButton {
-                name: "Close"
+                name: qsTr("Close")
                 icon.name: "window.close"
                 closes: true
                 onTriggered: strip.Window.window.close()

@@ -17,7 +17,7 @@ Item {
         symbol: "exclamationmark.triangle"
         title: root.main.errorTitle
         message: root.main.errorText
-        actions: DialogAction { name: "Got it"; cancels: true }
+        actions: DialogAction { name: qsTr("Got it"); cancels: true }
         onDismissed: root.main.dismissError()
     }
 

@@ -16,6 +16,8 @@ FocusScope {
     required property FolderChooser folderChooser
     readonly property bool tellsOfUnsaved: main.showError || main.quitGuard.asks
 
+    LayoutMirroring.childrenInherit: true
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     anchors.fill: parent
     focus: true
     // Made where there is one only: elsewhere it would load what nobody uses.

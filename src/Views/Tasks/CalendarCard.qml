@@ -22,6 +22,7 @@ PanelCard {
     Text {
         Accessible.name: text
         Accessible.role: Accessible.StaticText
+        anchors.left: parent.left
         color: FirePalette.white(0.5)
         font: Typography.taskText
         text: qsTr("Nothing scheduled")

@@ -19,7 +19,7 @@ Item {
     SymbolIcon {
         id: icon
 
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; verticalCenter: parent.verticalCenter }
         color: Qt.alpha(FirePalette.amber, header.glow)
         name: header.symbol
         size: 10

@@ -18,7 +18,7 @@ PanelCard {
         DigitalTime {
             id: time
 
-            anchors.verticalCenter: parent.verticalCenter
+            anchors { left: parent.left; verticalCenter: parent.verticalCenter }
             color: FirePalette.white(0.95)
             font: Typography.clock
             footColor: FirePalette.white(0.75)

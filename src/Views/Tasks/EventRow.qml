@@ -22,7 +22,7 @@ Item {
     Rectangle {
         id: bar
 
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; verticalCenter: parent.verticalCenter }
         color: Qt.alpha(FirePalette.amber, 0.7)
         height: Metrics.eventBarHeight
         radius: width / 2
@@ -32,8 +32,7 @@ Item {
     Column {
         id: words
 
-        width: parent.width - x
-        x: Metrics.eventTextIndent
+        anchors { left: parent.left; leftMargin: Metrics.eventTextIndent; right: parent.right }
 
         Text {
             Accessible.ignored: true
@@ -50,6 +49,7 @@ Item {
 
         Text {
             Accessible.ignored: true
+            anchors.left: parent.left
             color: FirePalette.white(0.45)
             font: Typography.eventTime
             lineHeight: Typography.eventTimeLine

@@ -33,6 +33,7 @@ Rectangle {
     Rectangle {
         id: fill
 
+        anchors.left: parent.left
         height: parent.height
         radius: height / 2
         visible: width > 0

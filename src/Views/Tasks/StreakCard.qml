@@ -10,7 +10,8 @@ PanelCard {
     property bool inSight: true
 
     Row {
-        Accessible.name: qsTr("Streak: %1 %2").arg(card.panel.currentStreak).arg(card.panel.streakUnit)
+        anchors.left: parent.left
+        Accessible.name: qsTr("Streak: %n day(s)", "", card.panel.currentStreak)
         Accessible.role: Accessible.StaticText
         spacing: Metrics.space12
 
@@ -32,6 +33,7 @@ PanelCard {
 
             Text {
                 Accessible.ignored: true
+                anchors.left: parent.left
                 color: FirePalette.white(0.4)
                 font: Typography.streakCaption
                 text: qsTr("STREAK")
@@ -39,13 +41,14 @@ PanelCard {
             }
 
             Item {
+                anchors.left: parent.left
                 height: Typography.streakLine
-                width: childrenRect.width
+                width: figure.width + Metrics.space6 + unit.width
 
                 DigitalTime {
                     id: figure
 
-                    anchors.verticalCenter: parent.verticalCenter
+                    anchors { left: parent.left; verticalCenter: parent.verticalCenter }
                     color: FirePalette.white(0.95)
                     font: Typography.streakFigure
                     rolls: true
@@ -53,6 +56,8 @@ PanelCard {
                 }
 
                 Text {
+                    id: unit
+
                     Accessible.ignored: true
                     anchors { baseline: figure.baseline; left: figure.right; leftMargin: Metrics.space6 }
                     color: FirePalette.white(0.5)

@@ -35,13 +35,13 @@ FocusScope {
     TaskToggle {
         id: toggle
 
+        // The glyph, not the area that can be hit, stands in the column of the card.
+        anchors { left: parent.left; leftMargin: row.air - (width - Metrics.taskToggleGlyph) / 2 + 0.5 }
         anchors.verticalCenter: parent.verticalCenter
         done: row.done
         focus: true
         focusPolicy: row.isTabStop ? Qt.TabFocus : Qt.NoFocus
         label: row.text
-        // The glyph, not the area that can be hit, stands in the column of the card.
-        x: row.air - (width - Metrics.taskToggleGlyph) / 2 + 0.5
         onTriggered: row.toggled()
     }
 
@@ -49,7 +49,8 @@ FocusScope {
         id: words
 
         Accessible.ignored: true
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; leftMargin: row.air + Metrics.taskTextIndent }
+        anchors { right: cross.left; rightMargin: Metrics.space4; verticalCenter: parent.verticalCenter }
         color: FirePalette.white(row.done ? 0.3 : 0.8)
         elide: Text.ElideRight
         font: Typography.taskText
@@ -58,9 +59,7 @@ FocusScope {
         strikeColor: FirePalette.white(0.25)
         struck: row.done
         text: row.text
-        width: cross.x - Metrics.space4 - x
         wrapMode: Text.Wrap
-        x: row.air + Metrics.taskTextIndent
 
         Behavior on color { ColorAnimation { duration: Motion.fade } }
     }

@@ -34,6 +34,7 @@ PanelCard {
 
             Accessible.name: text
             Accessible.role: Accessible.StaticText
+            anchors.left: parent.left
             color: FirePalette.white(0.4)
             font: Typography.noTasks
             text: qsTr("No tasks yet.")

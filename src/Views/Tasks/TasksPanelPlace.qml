@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The place of the tasks panel at the right edge of the window. The panel comes in from that edge with a fade and
+/// The place of the tasks panel at the edge of the window where lines end. The panel comes in from that edge with a fade and
 /// goes there twice as fast; meanwhile `room` tells how much of the width it takes from what stands beside it.
 FocusScope {
     id: place
@@ -16,6 +16,7 @@ FocusScope {
     readonly property real part: Math.max(0, Math.min(1, entrance.value))
     // Whoever asked for little motion sees a fade: the panel is where it belongs from the first.
     readonly property real room: width * (Motion.reduced ? entrance.goal : part)
+    readonly property real beyondEdge: Motion.reduced ? 0 : width - room
 
     /// The keyboard belongs to what stands beside the panel again.
     signal released
@@ -48,7 +49,7 @@ FocusScope {
             panel: modelData
             visible: place.open || opacity > 0
             width: place.width
-            x: Motion.reduced ? 0 : place.width - place.room
+            x: place.LayoutMirroring.enabled ? -place.beyondEdge : place.beyondEdge
         }
     }
 }

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Window
 import Pelko
 
-/// The column of cards at the right of the editor. It scrolls where the window is too low for it.
+/// The column of cards beside the editor. It scrolls where the window is too low for it.
 FocusScope {
     id: root
 
@@ -63,6 +63,7 @@ FocusScope {
             x: Metrics.panelPadding
 
             DocumentPill {
+                anchors.left: parent.left
                 backdrop: ground
                 text: root.panel.openDocumentText
                 visible: root.panel.hasOpenDocument
@@ -108,6 +109,7 @@ FocusScope {
 
     // The line that divides it from the editor.
     Rectangle {
+        anchors.left: parent.left
         color: FirePalette.white(0.08)
         height: parent.height
         width: 0.5

@@ -15,7 +15,7 @@ PanelCard {
     }
 
     Item {
-        Accessible.name: qsTr("%1 of %2 words").arg(card.panel.wordTotal).arg(card.panel.wordGoal)
+        Accessible.name: qsTr("%1 of %n word(s)", "", card.panel.wordGoal).arg(card.panel.wordTotal)
         Accessible.role: Accessible.StaticText
         height: Typography.goalLine
         width: parent.width
@@ -23,7 +23,7 @@ PanelCard {
         DigitalTime {
             id: figure
 
-            anchors.verticalCenter: parent.verticalCenter
+            anchors { left: parent.left; verticalCenter: parent.verticalCenter }
             color: FirePalette.white(0.95)
             font: Typography.goalFigure
             rolls: true

@@ -25,6 +25,7 @@ FocusScope {
         spacing: Metrics.space10 + 1
 
         Row {
+            anchors.left: parent.left
             height: 11
             spacing: Metrics.space6 + 1
 

@@ -11,7 +11,7 @@ PressableControl {
     readonly property real warmth: Math.min(1, Math.max(0, Math.max(active.value, hoverAmount)))
     readonly property real timeWidth: (Metrics.chipGap + time.implicitWidth) * active.value
 
-    name: flow.isActive ? qsTr("Flow") + " " + flow.displayTime : qsTr("Flow")
+    name: flow.isActive ? qsTr("Flow %1").arg(flow.displayTime) : qsTr("Flow")
     onTriggered: flow.start()
     hoverResponse: 0.35
     hoverDamping: 0.7
@@ -71,8 +71,7 @@ PressableControl {
     FlameShape {
         id: flame
 
-        x: Metrics.chipPadding
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; leftMargin: Metrics.chipPadding; verticalCenter: parent.verticalCenter }
         width: Metrics.chipSymbol
         height: Metrics.chipSymbol
         topColor: FirePalette.smallFlameTop
@@ -101,7 +100,7 @@ PressableControl {
         DigitalTime {
             id: time
 
-            anchors.verticalCenter: parent.verticalCenter
+            anchors { left: parent.left; verticalCenter: parent.verticalCenter }
             text: button.flow.displayTime
             font: Typography.capsule
             color: FirePalette.amberSoft

@@ -7,11 +7,13 @@ FocusScope {
 
     required property PomodoroViewModel panel
 
+    LayoutMirroring.childrenInherit: true
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     implicitWidth: Metrics.timerPanelWidth
     implicitHeight: sections.height + 2 * Metrics.timerPanelPadding + Metrics.space6
 
     Accessible.role: Accessible.Pane
-    Accessible.name: "Pomodoro"
+    Accessible.name: qsTr("Pomodoro")
 
     Item {
         id: surface

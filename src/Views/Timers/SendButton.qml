@@ -5,7 +5,7 @@ import Pelko
 PressableControl {
     id: button
 
-    name: "Send"
+    name: qsTr("Send")
     implicitWidth: 22
     implicitHeight: 22
 

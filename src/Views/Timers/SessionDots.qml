@@ -15,7 +15,7 @@ Row {
 
     spacing: Metrics.space8
     Accessible.role: Accessible.StaticText
-    Accessible.name: total === 0 ? "" : qsTr("Sessions done: %1").arg(total)
+    Accessible.name: total === 0 ? "" : qsTr("Sessions done: %n", "", total)
     Accessible.ignored: count === 0
 
     Repeater {

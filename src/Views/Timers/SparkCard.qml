@@ -16,7 +16,7 @@ T.AbstractButton {
     signal menuRequested(real x, real y)
 
     function requestMenuInside() {
-        menuRequested(Metrics.space48, height / 2)
+        menuRequested(mirrored ? width - Metrics.space48 : Metrics.space48, height / 2)
     }
 
     implicitHeight: words.height + 2 * Metrics.space8
@@ -44,7 +44,7 @@ T.AbstractButton {
     }
 
     SymbolIcon {
-        x: Metrics.space12
+        anchors { left: parent.left; leftMargin: Metrics.space12 }
         y: Metrics.space8 + (Typography.sparkLine - height) / 2
         name: "sparkles"
         size: 10
@@ -54,9 +54,8 @@ T.AbstractButton {
     Text {
         id: words
 
-        x: 31
+        anchors { left: parent.left; leftMargin: 31; right: parent.right; rightMargin: Metrics.space12 }
         y: Metrics.space8
-        width: card.width - x - Metrics.space12
         text: card.isEmpty ? "—" : card.text
         textFormat: Text.PlainText
         font: Typography.sparkText

@@ -24,14 +24,14 @@ PopupMenu {
 
     PopupMenuRow {
         menu: menu
-        name: "Copy"
+        name: qsTr("Copy")
         icon.name: "doc.on.doc"
         onTriggered: menu.panel.copySpark(menu.sparkID)
     }
 
     PopupMenuRow {
         menu: menu
-        name: "Delete"
+        name: qsTr("Delete")
         icon.name: "trash"
         destroys: true
         onTriggered: menu.panel.deleteSpark(menu.sparkID)

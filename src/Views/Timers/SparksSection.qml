@@ -22,13 +22,13 @@ Column {
         height: 11
 
         Text {
-            anchors.verticalCenter: parent.verticalCenter
+            anchors { left: parent.left; verticalCenter: parent.verticalCenter }
             text: qsTr("RECENT")
             textFormat: Text.PlainText
             font: Typography.recentCaption
             color: FirePalette.white(0.45)
             Accessible.role: Accessible.Heading
-            Accessible.name: root.panel.sparkCount === 0 ? text : qsTr("Recent sparks: %1").arg(root.panel.sparkCount)
+            Accessible.name: root.panel.sparkCount === 0 ? text : qsTr("Recent sparks: %n", "", root.panel.sparkCount)
         }
 
         Text {

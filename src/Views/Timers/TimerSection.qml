@@ -105,13 +105,13 @@ Column {
         spacing: Metrics.space12
 
         RoundButton {
-            name: root.panel.isRunning ? "Pause" : "Start"
+            name: root.panel.isRunning ? qsTr("Pause") : qsTr("Start")
             icon.name: root.panel.isRunning ? "pause.fill" : "play.fill"
             onTriggered: root.panel.toggleTimer()
         }
 
         RoundButton {
-            name: "Reset"
+            name: qsTr("Reset")
             icon.name: "arrow.counterclockwise"
             onTriggered: root.panel.resetTimer()
         }

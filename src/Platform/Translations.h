@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QLocale>
+#include <QTranslator>
+
+/// The texts of the program in the user's language, for as long as this lives. Needs an application object,
+/// and comes before the first text. A language without a catalogue gets the English of the sources.
+class Translations
+{
+public:
+    /// The first of the languages of `locale` that there is a catalogue for.
+    explicit Translations(const QLocale &locale = QLocale::system());
+
+private:
+    QTranslator m_english; ///< what is plural, and what is singular
+    QTranslator m_language;
+};
