@@ -37,7 +37,7 @@ PelkoApp::PelkoApp(SingleInstance &instance) : m_documentFile(m_localFile, insta
     followRequests();
     followTimer();
     followTray();
-    outliveTheWindow();
+    keepRunningWithoutWindow();
     followLoading();
     m_engine.addImportPath(u"qrc:/qt/qml"_s);
     m_engine.setInitialProperties({{u"main"_s, QVariant::fromValue(&m_main)},
@@ -50,10 +50,10 @@ PelkoApp::PelkoApp(SingleInstance &instance) : m_documentFile(m_localFile, insta
     followWindow();
 }
 
-MenuPlace PelkoApp::menuPlace()
+MenuLocation PelkoApp::menuLocation()
 {
     const bool isOnMac = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::MacOS;
-    return isOnMac ? MenuPlace::menuBar : MenuPlace::window;
+    return isOnMac ? MenuLocation::menuBar : MenuLocation::window;
 }
 
 /// The name under which a chooser of the desktop's own knows the window it belongs to.
@@ -147,7 +147,7 @@ void PelkoApp::bringToFront()
         ::bringToFront(*window());
 }
 
-ProgramEnd::Answers PelkoApp::answersAtTheEnd()
+OrderlyShutdown::Callbacks PelkoApp::shutdownCallbacks()
 {
     // Without a window there is nowhere to ask.
     return {.mayEnd =
@@ -180,7 +180,7 @@ void PelkoApp::followRequests()
 {
     QObject::connect(m_main.quitGuard(), &QuitGuard::quitRequested, QCoreApplication::instance(),
                      &QCoreApplication::quit, Qt::QueuedConnection);
-    QObject::connect(&m_end, &ProgramEnd::refused, &m_engine, [this] { bringToFront(); });
+    QObject::connect(&m_end, &OrderlyShutdown::refused, &m_engine, [this] { bringToFront(); });
     QObject::connect(m_main.commands(), &ShellCommands::quitRequested, QCoreApplication::instance(),
                      &QCoreApplication::quit, Qt::QueuedConnection);
     QObject::connect(m_main.commands(), &ShellCommands::fullScreenToggled, &m_engine,
@@ -230,7 +230,7 @@ void PelkoApp::followTray()
                      [this] { m_timers.setInTray(m_tray.isPresent()); });
 }
 
-void PelkoApp::outliveTheWindow()
+void PelkoApp::keepRunningWithoutWindow()
 {
     // With a tray the program stays there when its window is closed.
     QGuiApplication::setQuitOnLastWindowClosed(false);

@@ -37,14 +37,14 @@ void tuneMallocForLargeImages()
 #endif
 }
 
-int say(const CommandLineAnswer &answer)
+int say(const CommandLineResult &answer)
 {
     std::fputs(answer.text.toLocal8Bit().constData(), answer.exitCode == 0 ? stdout : stderr);
     return answer.exitCode;
 }
 
 /// Straight into the file. What cannot be read is not written over behind the writer's back.
-CommandLineAnswer captureIntoFile(const DataLocation &location, SingleInstance &instance,
+CommandLineResult captureIntoFile(const DataLocation &location, SingleInstance &instance,
                                   const SparkCommand &command)
 {
     QtScheduler scheduler;
@@ -83,8 +83,8 @@ int main(int argc, char *argv[])
     constexpr rlimit none{0, 0};
     ::setrlimit(RLIMIT_CORE, &none);
     tuneMallocForLargeImages();
-    const CommandLine commandLine = readCommandLine(arguments(argc, argv));
-    if (const auto *known = std::get_if<CommandLineAnswer>(&commandLine))
+    const ParsedCommandLine commandLine = parseCommandLine(arguments(argc, argv));
+    if (const auto *known = std::get_if<CommandLineResult>(&commandLine))
         return say(*known);
     const SystemDataLocation location;
     const auto support = location.applicationSupportDirectory();
@@ -95,7 +95,7 @@ int main(int argc, char *argv[])
         return say(exportLibrary(location, *exportTo));
 
     SingleInstance instance(*support / "Pelko");
-    if (const auto answer = instance.yieldTo(arguments(argc, argv)))
+    if (const auto answer = instance.lockOrForward(arguments(argc, argv)))
         return say(*answer);
     if (const auto warning = instance.warning())
         std::fputs(warning->toLocal8Bit().constData(), stderr);

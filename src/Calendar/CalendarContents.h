@@ -29,8 +29,8 @@ private:
     bool isNear(const CalendarEntry &entry) const;
 
     const QSet<QByteArray> m_except;
-    Span m_span;
-    ZoneTable m_zones;
+    TimeRange m_range;
+    TimeZoneTable m_zones;
     CalendarReader m_reader;
     std::vector<EventSeries> m_series;
     QHash<QByteArray, std::size_t> m_places; // in m_series, by the UID

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Calendar/CalendarEntry.h"
-#include "Calendar/ZoneTable.h"
+#include "Calendar/TimeZoneTable.h"
 
 #include <functional>
 
@@ -27,7 +27,7 @@ class CalendarReader
 public:
     using Take = std::function<void(CalendarEntry &&)>;
 
-    CalendarReader(ZoneTable &zones, Take take) : m_zones(zones), m_take(std::move(take)) {}
+    CalendarReader(TimeZoneTable &zones, Take take) : m_zones(zones), m_take(std::move(take)) {}
 
     void read(QByteArrayView text);
 
@@ -38,10 +38,10 @@ private:
     void readRecurrenceLine(const ContentLine &line);
     void readZoneLine(const ContentLine &line);
     void finishEvent();
-    void addExtraDates(const ContentLine &line);
+    void addRecurrenceDates(const ContentLine &line);
     void addExceptions(const ContentLine &line);
 
-    ZoneTable &m_zones;
+    TimeZoneTable &m_zones;
     Take m_take;
     std::optional<EventDraft> m_event;
     std::optional<ZoneDraft> m_zone;

@@ -5,7 +5,7 @@
 #include <QMap>
 
 /// A stretch of time in seconds of the world's clock, its end not included.
-struct Span {
+struct TimeRange {
     double from = 0;
     double to = 0;
 
@@ -38,15 +38,17 @@ public:
 
     /// The occurrences that overlap a span, in the order of their starts. What was cancelled is not among
     /// them.
-    QList<Occurrence> occurrences(const Span &span, const IsCancelled &isCancelled) const;
+    QList<Occurrence> occurrences(const TimeRange &span, const IsCancelled &isCancelled) const;
 
 private:
-    using Instances = QMap<qint64, CalendarSpan>; // by the wall time in the zone of the entry
+    using Instances = QMap<qint64, CalendarDuration>; // by the wall time in the zone of the entry
 
-    Instances instances(const CalendarEntry &entry, const Span &span, const IsCancelled &isCancelled) const;
-    void addRepeated(QList<Occurrence> &found, const CalendarEntry &entry, const Span &span,
+    Instances instances(const CalendarEntry &entry, const TimeRange &span,
+                        const IsCancelled &isCancelled) const;
+    void addRepeated(QList<Occurrence> &found, const CalendarEntry &entry, const TimeRange &span,
                      const IsCancelled &isCancelled) const;
-    static void addIfOverlapping(QList<Occurrence> &found, const Span &span, const Occurrence &occurrence);
+    static void addIfOverlapping(QList<Occurrence> &found, const TimeRange &span,
+                                 const Occurrence &occurrence);
     QByteArray identifierAt(const CalendarEntry &entry, qint64 start) const;
 
     QList<CalendarEntry> m_entries; // more than one only where somebody made a copy

@@ -94,7 +94,7 @@ bool readLimit(RecurrenceParts &parts, QByteArrayView name, QByteArrayView value
     if (isSame(name, "COUNT"))
         return take(parts.count, numberIn(value, 1, most));
     if (isSame(name, "UNTIL"))
-        return take(parts.until, WrittenTime::parse(value));
+        return take(parts.until, ParsedTime::parse(value));
     if (isSame(name, "WKST")) {
         const auto day = indexIn(weekDays, value);
         parts.firstDayOfWeek = day.value_or(0) + 1;

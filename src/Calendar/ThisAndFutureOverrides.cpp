@@ -20,7 +20,7 @@ ThisAndFutureOverrides::ThisAndFutureOverrides(const CalendarEntry &entry,
     : m_entry(entry)
 {
     for (const CalendarEntry &change : changes) {
-        if (change.isForFuture)
+        if (change.isThisAndFuture)
             m_changes.emplace(wallOf(*change.recurrenceId, entry), &change);
     }
 }

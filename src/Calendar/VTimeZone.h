@@ -24,10 +24,10 @@ struct Observance {
 };
 
 /// A zone that only a calendar knows. One without any observance is the user's own.
-class VTimeZone : public WallZone
+class VTimeZone : public TimeZone
 {
 public:
-    explicit VTimeZone(std::shared_ptr<const WallZone> otherwise) : m_otherwise(std::move(otherwise)) {}
+    explicit VTimeZone(std::shared_ptr<const TimeZone> otherwise) : m_otherwise(std::move(otherwise)) {}
 
     void setObservances(std::vector<Observance> observances);
 
@@ -35,5 +35,5 @@ public:
 
 private:
     std::vector<Observance> m_observances; // by their start
-    std::shared_ptr<const WallZone> m_otherwise;
+    std::shared_ptr<const TimeZone> m_otherwise;
 };

@@ -20,14 +20,14 @@ QString PageListModel::ageAndLength(const PelkoDocument &page) const
                                words == 1 ? u"word"_s : u"words"_s);
 }
 
-MarkedLine PageListModel::name(const PageRow &row) const
+HighlightedLine PageListModel::name(const PageRow &row) const
 {
-    return row.name.value_or(MarkedLine{pageName(row.page), {}});
+    return row.name.value_or(HighlightedLine{pageName(row.page), {}});
 }
 
-MarkedLine PageListModel::detail(const PageRow &row) const
+HighlightedLine PageListModel::detail(const PageRow &row) const
 {
-    return row.context ? *row.context : MarkedLine{ageAndLength(row.page), {}};
+    return row.context ? *row.context : HighlightedLine{ageAndLength(row.page), {}};
 }
 
 QString PageListModel::description(const PageRow &row) const

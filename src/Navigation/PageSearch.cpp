@@ -69,7 +69,7 @@ private:
         for (std::size_t index = 0; index < count(); ++index) {
             if (m_inTexts[index] == Fit::whole)
                 continue;
-            const Found found = word(index).best(m_folded);
+            const WordMatch found = word(index).best(m_folded);
             if (found.fit <= m_inTexts[index])
                 continue;
             m_inTexts[index] = found.fit;

@@ -19,7 +19,7 @@ class InstanceServer : public QObject
     Q_OBJECT
 
 public:
-    using Answer = std::function<CommandLineAnswer(const QStringList &arguments)>;
+    using Answer = std::function<CommandLineResult(const QStringList &arguments)>;
 
     InstanceServer(std::filesystem::path dataFolder, Answer answer, QObject *parent = nullptr);
     ~InstanceServer() override;

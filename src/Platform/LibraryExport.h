@@ -6,4 +6,4 @@ class DataLocation;
 
 /// Writes all pages of the data file into the folder and says what came of it. Only reads the data: nobody
 /// else is in the way, and nobody is disturbed. An interrupt gives it up and leaves nothing behind.
-CommandLineAnswer exportLibrary(const DataLocation &location, const ExportCommand &command);
+CommandLineResult exportLibrary(const DataLocation &location, const ExportCommand &command);

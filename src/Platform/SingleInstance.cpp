@@ -1,6 +1,6 @@
 #include "Platform/SingleInstance.h"
 
-#include "Front/RunningInstance.h"
+#include "Launcher/RunningInstance.h"
 
 #include <cerrno>
 #include <chrono>
@@ -17,9 +17,9 @@ namespace
 {
 constexpr auto longestWait = 10s;
 constexpr auto betweenTries = 20ms;
-static_assert(CommandLineAnswer::yours == InstanceAnswer::yours);
+static_assert(CommandLineResult::runInCaller == InstanceReply::runInCaller);
 
-std::optional<CommandLineAnswer> ask(const std::filesystem::path &folder, const QStringList &arguments)
+std::optional<CommandLineResult> ask(const std::filesystem::path &folder, const QStringList &arguments)
 {
     std::vector<std::string> bytes;
     for (const QString &argument : arguments.mid(1))
@@ -27,13 +27,13 @@ std::optional<CommandLineAnswer> ask(const std::filesystem::path &folder, const 
     const auto answer = askRunningInstance(folder, bytes);
     if (!answer)
         return std::nullopt;
-    return CommandLineAnswer{QString::fromLocal8Bit(answer->text), answer->exitCode};
+    return CommandLineResult{QString::fromLocal8Bit(answer->text), answer->exitCode};
 }
 } // namespace
 
 SingleInstance::SingleInstance(std::filesystem::path dataFolder) : m_folder(std::move(dataFolder)) {}
 
-std::optional<CommandLineAnswer> SingleInstance::yieldTo(const QStringList &arguments)
+std::optional<CommandLineResult> SingleInstance::lockOrForward(const QStringList &arguments)
 {
     const auto deadline = std::chrono::steady_clock::now() + longestWait;
     do {
@@ -43,7 +43,7 @@ std::optional<CommandLineAnswer> SingleInstance::yieldTo(const QStringList &argu
             return answer;
         std::this_thread::sleep_for(betweenTries);
     } while (std::chrono::steady_clock::now() < deadline);
-    return CommandLineAnswer{u"pelko: Another Pelko has these documents open and does not answer.\n"_s, 1};
+    return CommandLineResult{u"pelko: Another Pelko has these documents open and does not answer.\n"_s, 1};
 }
 
 std::optional<QString> SingleInstance::warning() const
@@ -64,7 +64,7 @@ bool SingleInstance::holdsFolder() const
            held.st_dev == there.st_dev && held.st_ino == there.st_ino;
 }
 
-std::optional<FileError> SingleInstance::lockAgain()
+std::optional<FileError> SingleInstance::relock()
 {
     if (tryToLock() != Attempt::taken)
         return std::nullopt; // without a lock, the reading or writing that follows says what is wrong

@@ -13,7 +13,7 @@ public:
 
     /// Waits until this process is the one, or until the one there is has answered `arguments` in its stead.
     /// That takes no time unless another is just starting or ending.
-    std::optional<CommandLineAnswer> yieldTo(const QStringList &arguments);
+    std::optional<CommandLineResult> lockOrForward(const QStringList &arguments);
 
     bool isLocked() const { return m_lock.isOpen(); }
 
@@ -23,7 +23,7 @@ public:
 
     /// Locks the folder that lies at the path now, and makes it where it is missing. An error when another
     /// process has it.
-    [[nodiscard]] std::optional<FileError> lockAgain();
+    [[nodiscard]] std::optional<FileError> relock();
 
     /// A line for the user when this process is the one without a lock to show for it.
     std::optional<QString> warning() const;

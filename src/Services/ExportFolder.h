@@ -16,16 +16,16 @@ public:
     /// What becomes of files that are there already.
     enum class Existing { keep, replace };
 
-    struct Written {
+    struct Success {
     };
 
     /// These paths are there already and were to be kept, so nothing has been written.
-    struct Taken {
+    struct Conflicts {
         QStringList paths;
     };
 
-    /// After `Taken` or an error the folder is what it was before.
-    using Outcome = std::variant<Written, Taken, FileError>;
+    /// After `Conflicts` or an error the folder is what it was before.
+    using Outcome = std::variant<Success, Conflicts, FileError>;
     using Completion = std::function<void(const Outcome &)>;
     /// Makes the files; called on another thread.
     using Producer = std::function<QList<ExportedFile>()>;

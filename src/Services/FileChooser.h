@@ -11,7 +11,7 @@
 class FileChooser
 {
 public:
-    enum class Wanted {
+    enum class Target {
         picture,
         /// One to write into.
         folder,
@@ -25,5 +25,5 @@ public:
 
     /// Shows the chooser and tells once, later and on the interface thread, what came of it. Dropping what is
     /// returned closes the chooser.
-    [[nodiscard]] virtual ScheduledCall choose(Wanted wanted, Completion completion) = 0;
+    [[nodiscard]] virtual ScheduledCall choose(Target target, Completion completion) = 0;
 };

@@ -8,7 +8,7 @@ namespace
 {
 constexpr int usageError = 2;
 
-CommandLineAnswer refuse(const QString &reason)
+CommandLineResult refuse(const QString &reason)
 {
     return {u"pelko: %1\nTry 'pelko --help' for more information.\n"_s.arg(reason), usageError};
 }
@@ -32,14 +32,14 @@ QString versionText()
     return u"pelko %1\n"_s.arg(QLatin1StringView(PELKO_VERSION));
 }
 
-CommandLine readSpark(const QString &text)
+ParsedCommandLine readSpark(const QString &text)
 {
     if (QStringView(text).trimmed().isEmpty())
         return refuse(u"A spark needs some text."_s);
     return SparkCommand{text};
 }
 
-CommandLine readPomodoro(const QString &word)
+ParsedCommandLine readPomodoro(const QString &word)
 {
     using Verb = PomodoroCommand::Verb;
     for (const auto &[name, verb] :
@@ -51,7 +51,7 @@ CommandLine readPomodoro(const QString &word)
     return refuse(u"--pomodoro takes start, pause, reset or status, not '%1'."_s.arg(word));
 }
 
-CommandLine readExport(const QString &folder, bool overwrites)
+ParsedCommandLine readExport(const QString &folder, bool overwrites)
 {
     using Existing = ExportFolder::Existing;
     if (folder.isEmpty())
@@ -60,7 +60,7 @@ CommandLine readExport(const QString &folder, bool overwrites)
 }
 } // namespace
 
-CommandLine readCommandLine(const QStringList &arguments)
+ParsedCommandLine parseCommandLine(const QStringList &arguments)
 {
     const QCommandLineOption help(QStringList{u"h"_s, u"help"_s});
     const QCommandLineOption version(QStringList{u"v"_s, u"version"_s});
@@ -74,9 +74,9 @@ CommandLine readCommandLine(const QStringList &arguments)
     if (!parser.parse(arguments))
         return refuse(parser.errorText());
     if (parser.isSet(help))
-        return CommandLineAnswer{helpText()};
+        return CommandLineResult{helpText()};
     if (parser.isSet(version))
-        return CommandLineAnswer{versionText()};
+        return CommandLineResult{versionText()};
     if (!parser.positionalArguments().isEmpty())
         return refuse(u"Unexpected argument '%1'."_s.arg(parser.positionalArguments().constFirst()));
     if (parser.values(spark).size() + parser.values(pomodoro).size() + parser.values(exportTo).size() > 1)

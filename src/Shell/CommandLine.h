@@ -7,16 +7,16 @@
 #include <variant>
 
 /// What the program says to its command line.
-struct CommandLineAnswer {
+struct CommandLineResult {
     /// In the place of an exit code: nothing is against it, and the process that was given the command line
     /// carries it out itself.
-    static constexpr int yours = 254;
+    static constexpr int runInCaller = 254;
 
     /// For standard output, or for standard error when the exit code is not 0.
     QString text;
     int exitCode = 0;
 
-    bool operator==(const CommandLineAnswer &) const = default;
+    bool operator==(const CommandLineResult &) const = default;
 };
 
 /// To show the window.
@@ -47,9 +47,9 @@ struct ExportCommand {
     bool operator==(const ExportCommand &) const = default;
 };
 
-using CommandLine =
-    std::variant<CommandLineAnswer, OpenCommand, SparkCommand, PomodoroCommand, ExportCommand>;
+using ParsedCommandLine =
+    std::variant<CommandLineResult, OpenCommand, SparkCommand, PomodoroCommand, ExportCommand>;
 
 /// What `arguments`, the first of which names the program, ask for, or the answer to them where that is
 /// already known. Needs no application object, so it works where there is no display.
-CommandLine readCommandLine(const QStringList &arguments);
+ParsedCommandLine parseCommandLine(const QStringList &arguments);

@@ -73,13 +73,13 @@ Q_SIGNALS:
 
 private:
     /// What is to be written, and where.
-    struct Order {
+    struct Request {
         QList<PelkoDocument> documents;
         bool isLibrary = false;
         std::filesystem::path folder = {};
     };
 
-    void begin(Order order);
+    void begin(Request request);
     void take(const FileChooser::Choice &choice);
     void write(ExportFolder::Existing existing);
     void finish(const ExportFolder::Outcome &outcome);
@@ -92,7 +92,7 @@ private:
 
     const AppState &m_appState;
     const Services m_services;
-    Order m_order;
+    Request m_request;
     bool m_isBusy = false;
     ScheduledCall m_choosing;
     ScheduledCall m_writing;

@@ -24,7 +24,7 @@ FolderChooser::FolderChooser(PictureFolders &folders)
 {
 }
 
-ScheduledCall FolderChooser::choose(Wanted wanted, Completion completion)
+ScheduledCall FolderChooser::choose(Target target, Completion completion)
 {
     const auto closes = [chooser = QPointer(this)](const Completion *done) {
         delete done;
@@ -35,7 +35,7 @@ ScheduledCall FolderChooser::choose(Wanted wanted, Completion completion)
     const std::shared_ptr<Completion> request(new Completion(std::move(completion)), closes);
     m_request = request;
     ChangeScope changes(*this);
-    changes.assign(m_wanted, wanted, &FolderChooser::wantsFolderChanged);
+    changes.assign(m_target, target, &FolderChooser::wantsFolderChanged);
     changes.assign(m_isOpen, true, &FolderChooser::isOpenChanged);
     list(m_folder);
     return ScheduledCall(request);

@@ -9,12 +9,12 @@
 using namespace Qt::StringLiterals;
 
 MainViewModel::MainViewModel(AppState &appState, const Clock &clock, const EditorServices &services,
-                             MenuPlace menuPlace, QObject *parent)
+                             MenuLocation menuLocation, QObject *parent)
     : QObject(parent)
     , m_appState(appState)
     , m_services(services)
     , m_navigation(appState, clock)
-    , m_commands(appState, m_navigation, menuPlace)
+    , m_commands(appState, m_navigation, menuLocation)
     , m_quitGuard(appState)
 {
     greet();

@@ -40,7 +40,7 @@ class MainViewModel : public QObject
 
 public:
     MainViewModel(AppState &appState, const Clock &clock, const EditorServices &services,
-                  MenuPlace menuPlace = MenuPlace::window, QObject *parent = nullptr);
+                  MenuLocation menuLocation = MenuLocation::window, QObject *parent = nullptr);
 
     /// Of the document in the editor; empty when the empty state is shown.
     QString openDocumentID() const { return m_openDocumentID; }

@@ -11,7 +11,7 @@ enum class CommandGroup { documents, editing, spaces, views, exports, program, n
 enum class CommandRole { ordinary, about, quit, windowMenu };
 
 /// Where the commands are offered: behind a button of the window, or in the menu bar of the system.
-enum class MenuPlace { window, menuBar };
+enum class MenuLocation { window, menuBar };
 
 /// One command of the program: what it is called wherever it is offered, and its key when it has one.
 struct MenuCommand {
@@ -31,7 +31,7 @@ struct MenuCommand {
 const QList<MenuCommand> &menuCommands();
 
 /// Those that make sense where the commands are offered there.
-QList<MenuCommand> menuCommands(MenuPlace place);
+QList<MenuCommand> menuCommands(MenuLocation place);
 
 /// The title of the menu that holds the group in a menu bar. Groups may share one.
 QString menuTitle(CommandGroup group);

@@ -8,7 +8,7 @@ class AppState;
 class PomodoroTimer;
 
 /// Files the spark at once. The answer says whether it reached the disk; it is in the store either way.
-CommandLineAnswer captureSpark(AppState &appState, const SparkCommand &command);
+CommandLineResult captureSpark(AppState &appState, const SparkCommand &command);
 
 /// What other processes may ask of the running program: command lines that were given to a second one.
 class RemoteControl : public QObject
@@ -19,7 +19,7 @@ public:
     RemoteControl(AppState &appState, PomodoroTimer &timer, QObject *parent = nullptr);
 
     /// Does what the arguments ask for and says what came of it. The first names the program.
-    CommandLineAnswer answer(const QStringList &arguments);
+    CommandLineResult answer(const QStringList &arguments);
 
 Q_SIGNALS:
     /// The window has to come to the front.
@@ -27,8 +27,8 @@ Q_SIGNALS:
 
 private:
     /// An export reads the file, which anybody may; it has to hold the latest words.
-    CommandLineAnswer letExport();
-    CommandLineAnswer workPomodoro(PomodoroCommand::Verb verb);
+    CommandLineResult allowExport();
+    CommandLineResult controlPomodoro(PomodoroCommand::Verb verb);
     QString pomodoroStatus() const;
 
     AppState &m_appState;

@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-ShellCommands::ShellCommands(AppState &appState, NavigationViewModel &navigation, MenuPlace place,
+ShellCommands::ShellCommands(AppState &appState, NavigationViewModel &navigation, MenuLocation place,
                              QObject *parent)
     : QObject(parent)
     , m_appState(appState)

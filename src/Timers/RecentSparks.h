@@ -3,18 +3,18 @@
 #include "Models/PelkoDocument.h"
 
 /// One spark as the panel shows it.
-struct SparkCard {
+struct RecentSpark {
     QUuid id;
     /// The beginning of it, enough for the lines a card has: somebody may paste a whole book.
     QString text;
     bool isNew = false;
 
-    bool operator==(const SparkCard &) const = default;
+    bool operator==(const RecentSpark &) const = default;
 };
 
 struct RecentSparks {
     /// Newest first.
-    QList<SparkCard> cards;
+    QList<RecentSpark> cards;
     /// Of all sparks, not only those on cards.
     qsizetype total = 0;
 };

@@ -12,8 +12,8 @@ struct NavigationViewModelForQml {
     QML_UNCREATABLE("Part of the main window.")
 };
 
-struct MarkedLineForQml {
+struct HighlightedLineForQml {
     Q_GADGET
-    QML_FOREIGN(MarkedLine)
+    QML_FOREIGN(HighlightedLine)
     QML_VALUE_TYPE(markedLine)
 };

@@ -1,4 +1,4 @@
-#include "Calendar/CalendarDesk.h"
+#include "Calendar/CalendarFixture.h"
 #include "support/TestProgram.h"
 
 #include <QElapsedTimer>
@@ -22,7 +22,7 @@ class TestEventSeries : public QObject
 {
     Q_OBJECT
 
-    CalendarDesk desk;
+    CalendarFixture desk;
 
 private Q_SLOTS:
     void init()

@@ -21,7 +21,7 @@ qint64 seconds(const QString &text)
 
 CalendarTime newYork(const QString &text)
 {
-    static const auto zone = std::make_shared<SystemZone>(QTimeZone("America/New_York"));
+    static const auto zone = std::make_shared<SystemTimeZone>(QTimeZone("America/New_York"));
     return {.wall = seconds(text), .zone = zone};
 }
 

@@ -1,4 +1,4 @@
-#include "Calendar/CalendarDesk.h"
+#include "Calendar/CalendarFixture.h"
 #include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
@@ -29,7 +29,7 @@ class TestTimeZones : public QObject
 {
     Q_OBJECT
 
-    CalendarDesk desk;
+    CalendarFixture desk;
 
 private Q_SLOTS:
     void init()
@@ -129,7 +129,7 @@ private Q_SLOTS:
         contents.read(at("Our Town", "20261121T130000"));
         QList<double> hours;
         for (const CalendarEvent &event : contents.events([] { return false; }))
-            hours << (event.start - CalendarDesk::timestamp(desk.from)) / 3600;
+            hours << (event.start - CalendarFixture::timestamp(desk.from)) / 3600;
         QCOMPARE(hours, (QList<double>{11, 13}));
     }
 

@@ -40,13 +40,13 @@ class TestEvolutionCalendars : public QObject
     }
     void startServer() { server = std::make_unique<FakeEvolution>(bus->connection(u"server"_s)); }
 
-    DesktopCalendarStore store(std::chrono::milliseconds longestFetch = 5s)
+    DesktopCalendarStore store(std::chrono::milliseconds fetchTimeout = 5s)
     {
-        return {bus->connection(u"client"_s), home->folders(), longestFetch};
+        return {bus->connection(u"client"_s), home->folders(), fetchTimeout};
     }
-    QString fetch(std::chrono::milliseconds longestFetch = 5s)
+    QString fetch(std::chrono::milliseconds fetchTimeout = 5s)
     {
-        auto calendars = store(longestFetch);
+        auto calendars = store(fetchTimeout);
         return fetched(calendars);
     }
 
@@ -185,7 +185,7 @@ private Q_SLOTS:
         std::optional<CalendarStore::Answer> answer;
         auto calendars = store(60s);
         const ScheduledCall request = calendars.fetch(
-            CalendarDesk().window(), [&answer](const CalendarStore::Answer &told) { answer = told; });
+            CalendarFixture().window(), [&answer](const CalendarStore::Answer &told) { answer = told; });
         QTRY_VERIFY(!unanswered.isEmpty());
         qsizetype most = 0;
         while (!answer) {
@@ -204,7 +204,7 @@ private Q_SLOTS:
         server->addCalendar(u"one"_s, daily(20'000));
         auto calendars =
             std::make_unique<DesktopCalendarStore>(bus->connection(u"client"_s), home->folders(), 60s);
-        const ScheduledCall request = calendars->fetch(CalendarDesk().window(), [](const auto &) {});
+        const ScheduledCall request = calendars->fetch(CalendarFixture().window(), [](const auto &) {});
         QTRY_VERIFY_WITH_TIMEOUT(server->asked.count(u"GetObject"_s) > 0, 30'000);
         QElapsedTimer timer;
         timer.start();

@@ -124,7 +124,7 @@ class TestExportWriter : public QObject
     {
         if (const auto *error = std::get_if<FileError>(&outcome))
             return error->description;
-        if (const auto *taken = std::get_if<ExportFolder::Taken>(&outcome))
+        if (const auto *taken = std::get_if<ExportFolder::Conflicts>(&outcome))
             return taken->paths.join(u'|');
         return u"written"_s;
     }

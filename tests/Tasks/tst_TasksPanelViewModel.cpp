@@ -55,9 +55,9 @@ struct PanelDesk {
     QStringList list() const
     {
         QStringList lines;
-        for (const TaskRow &row : static_cast<TaskListModel *>(panel->tasks())->rows()) {
+        for (const TaskListRow &row : static_cast<TaskListModel *>(panel->tasks())->rows()) {
             const QString mark = row.done ? u"x"_s : u"-"_s;
-            lines << (row.kind == TaskRow::Kind::heading ? row.text : mark + row.text);
+            lines << (row.kind == TaskListRow::Kind::heading ? row.text : mark + row.text);
         }
         return lines;
     }
@@ -66,7 +66,7 @@ struct PanelDesk {
     /// Does that to the task in that line of the list.
     void apply(Operation operation, qsizetype line)
     {
-        const TaskRow row = static_cast<TaskListModel *>(panel->tasks())->rows().at(line);
+        const TaskListRow row = static_cast<TaskListModel *>(panel->tasks())->rows().at(line);
         ((*panel).*operation)(row.docID.toString(), row.blockID.toString(), row.todoID.toString());
     }
 

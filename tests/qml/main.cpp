@@ -1,10 +1,10 @@
-#include "ChooserBench.h"
-#include "EditorBench.h"
-#include "ExportBench.h"
-#include "InputMethodBench.h"
+#include "ChooserFixture.h"
+#include "EditorFixture.h"
+#include "ExportFixture.h"
+#include "InputMethodFixture.h"
 #include "ShellFixture.h"
-#include "TasksBench.h"
-#include "TimersBench.h"
+#include "TasksFixture.h"
+#include "TimersFixture.h"
 
 #include <QCoreApplication>
 #include <QQmlEngine>
@@ -75,14 +75,14 @@ public Q_SLOTS:
     void qmlEngineAvailable(QQmlEngine *engine)
     {
         engine->addImportPath(u"qrc:/qt/qml"_s);
-        qmlRegisterType<ChooserBench>("PelkoTest", 1, 0, "ChooserBench");
-        qmlRegisterType<EditorBench>("PelkoTest", 1, 0, "EditorBench");
-        qmlRegisterType<ExportBench>("PelkoTest", 1, 0, "ExportBench");
-        qmlRegisterType<InputMethodBench>("PelkoTest", 1, 0, "InputMethodBench");
+        qmlRegisterType<ChooserFixture>("PelkoTest", 1, 0, "ChooserFixture");
+        qmlRegisterType<EditorFixture>("PelkoTest", 1, 0, "EditorFixture");
+        qmlRegisterType<ExportFixture>("PelkoTest", 1, 0, "ExportFixture");
+        qmlRegisterType<InputMethodFixture>("PelkoTest", 1, 0, "InputMethodFixture");
         qmlRegisterType<ShellFixture>("PelkoTest", 1, 0, "ShellFixture");
         qmlRegisterType<ShellWithMenuBar>("PelkoTest", 1, 0, "ShellWithMenuBar");
-        qmlRegisterType<TasksBench>("PelkoTest", 1, 0, "TasksBench");
-        qmlRegisterType<TimersBench>("PelkoTest", 1, 0, "TimersBench");
+        qmlRegisterType<TasksFixture>("PelkoTest", 1, 0, "TasksFixture");
+        qmlRegisterType<TimersFixture>("PelkoTest", 1, 0, "TimersFixture");
     }
 };
 

@@ -12,10 +12,10 @@ Item {
     width: 900
     height: 640
 
-    EditorBench { id: bench }
-    InputMethodBench { id: inputMethod }
-    TimersBench { id: timers }
-    TasksBench { id: tasks }
+    EditorFixture { id: bench }
+    InputMethodFixture { id: inputMethod }
+    TimersFixture { id: timers }
+    TasksFixture { id: tasks }
     ShellFixture { id: program }
 
     FocusScope {

@@ -10,7 +10,7 @@ Item {
     width: 900
     height: 1600 // all kinds of blocks in sight
 
-    EditorBench { id: bench }
+    EditorFixture { id: bench }
 
     Component {
         id: view

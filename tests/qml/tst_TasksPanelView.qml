@@ -38,7 +38,7 @@ Item {
             }
 
             // Stands last so that it outlives the views.
-            TasksBench { id: bench }
+            TasksFixture { id: bench }
         }
     }
 
@@ -369,15 +369,15 @@ Item {
             open([["word ".repeat(row.words)]])
             compare(digits(kind(WordGoalCard)), String(row.words))
             verify(text("/ 500"))
-            compare(kind(GoalBar).part, row.part)
+            compare(kind(GoalProgressBar).part, row.part)
         }
 
         function test_the_bar_eases_to_a_new_length() {
             open([["word ".repeat(100)]])
-            compare(kind(GoalBar).part, 0.2)
+            compare(kind(GoalProgressBar).part, 0.2)
             bench.add("word ".repeat(300))
-            verify(kind(GoalBar).part < 0.5)
-            tryCompare(kind(GoalBar), "part", 0.8)
+            verify(kind(GoalProgressBar).part < 0.5)
+            tryCompare(kind(GoalProgressBar), "part", 0.8)
         }
 
         function test_a_streak_of_one_is_a_day() {

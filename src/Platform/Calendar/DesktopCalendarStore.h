@@ -12,7 +12,7 @@ class DesktopCalendarStore : public CalendarStore
 {
 public:
     DesktopCalendarStore(QDBusConnection bus, UserFolders folders,
-                         std::chrono::milliseconds longestFetch = std::chrono::seconds(5));
+                         std::chrono::milliseconds fetchTimeout = std::chrono::seconds(5));
     ~DesktopCalendarStore() override;
     Q_DISABLE_COPY_MOVE(DesktopCalendarStore)
 
@@ -21,7 +21,7 @@ public:
 private:
     QDBusConnection m_bus;
     UserFolders m_folders;
-    std::chrono::milliseconds m_longestFetch;
-    std::shared_ptr<void> m_life;
+    std::chrono::milliseconds m_fetchTimeout;
+    std::shared_ptr<void> m_lifetime;
     std::unique_ptr<QThreadPool> m_thread;
 };

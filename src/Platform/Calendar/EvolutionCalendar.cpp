@@ -97,20 +97,20 @@ void EvolutionCalendar::readList(const QDBusMessage &answer)
     QByteArrayList events;
     for (const QString &event : answer.arguments().first().toStringList())
         events << event.toUtf8();
-    const CalendarNames names = CalendarNames::in(events.join("\r\n"));
+    const CalendarReferences names = CalendarReferences::in(events.join("\r\n"));
     for (const QByteArray &event : std::as_const(events)) {
         if (m_limit.isOver())
             return;
-        if (CalendarNames::in(event).repeatingUids.isEmpty())
+        if (CalendarReferences::in(event).repeatingUids.isEmpty())
             m_once << event;
     }
     askForParts(names);
 }
 
-void EvolutionCalendar::askForParts(const CalendarNames &names)
+void EvolutionCalendar::askForParts(const CalendarReferences &names)
 {
     // The zones first: without them, other events are at a wrong time.
-    for (const QByteArray &zone : names.foreignZones)
+    for (const QByteArray &zone : names.unknownZones)
         m_parts << (toCalendar(u"GetTimezone"_s) << QString::fromUtf8(zone));
     for (const QByteArray &uid : names.repeatingUids)
         m_parts << (toCalendar(u"GetObject"_s) << QString::fromUtf8(uid) << QString());

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Calendar/CalendarNames.h"
+#include "Calendar/CalendarReferences.h"
 #include "Platform/Calendar/FetchDeadline.h"
 #include "Services/CalendarStore.h"
 
@@ -38,7 +38,7 @@ private:
     void open(const QDBusMessage &answer);
     void list();
     void readList(const QDBusMessage &answer);
-    void askForParts(const CalendarNames &names);
+    void askForParts(const CalendarReferences &names);
 
     QDBusConnection m_bus;
     QString m_uid;

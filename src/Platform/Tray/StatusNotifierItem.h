@@ -35,7 +35,7 @@ class StatusNotifierItem : public QDBusAbstractAdaptor
 public:
     explicit StatusNotifierItem(Tray &tray);
 
-    void show(const TrayIconState &face);
+    void show(const TrayIconState &state);
     void setLabels(TrayLabels labels);
 
     QString category() const { return QStringLiteral("ApplicationStatus"); }
@@ -49,7 +49,7 @@ public:
     TrayToolTip toolTip() const;
     bool isMenu() const { return false; }
     QDBusObjectPath menu() const;
-    QString label() const { return m_face.label; }
+    QString label() const { return m_state.label; }
     QString labelGuide() const { return QStringLiteral("00:00"); }
 
 public Q_SLOTS:
@@ -71,6 +71,6 @@ Q_SIGNALS:
 
 private:
     Tray &m_tray;
-    TrayIconState m_face;
+    TrayIconState m_state;
     TrayLabels m_labels = TrayLabels::ignored;
 };

@@ -10,4 +10,4 @@ enum class TrayLabels { drawn, ignored };
 
 /// The icon of `size` pixels: the bare flame at rest and beside a label; otherwise a coin on its own dark
 /// ground with the minutes that are left, whose rim fills with the time spent.
-QImage trayIcon(const TrayIconState &face, int size, TrayLabels labels);
+QImage trayIcon(const TrayIconState &state, int size, TrayLabels labels);

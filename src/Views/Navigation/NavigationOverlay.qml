@@ -151,7 +151,7 @@ ModalLayer {
                 onTriggered: overlay.main.createDocument()
             }
 
-            NavigationFoot {
+            NavigationFooter {
                 id: foot
 
                 width: field.width

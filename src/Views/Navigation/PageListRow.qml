@@ -43,7 +43,7 @@ Item {
         pressScale: 1
         onTriggered: root.opened()
 
-        background: ChosenGround {
+        background: ChosenRowBackground {
             chosen: root.chosen
             pointedAt: root.pointedAt
         }
@@ -53,7 +53,7 @@ Item {
         id: pointer
     }
 
-    SpotSymbol {
+    PageRowSymbol {
         anchors.verticalCenter: parent.verticalCenter
         isOpen: root.isOpen
         isSpark: root.isSpark
@@ -64,23 +64,23 @@ Item {
         anchors { left: parent.left; leftMargin: Metrics.pageRowIndent; right: ends.left; rightMargin: Metrics.space12 }
         anchors.verticalCenter: parent.verticalCenter
 
-        MarkedText {
+        HighlightedText {
             color: FirePalette.inkHeading
             font: Typography.listTitle
             height: Typography.listTitleLine
             line: root.titleLine
-            markColor: FirePalette.hitInk
-            markGround: FirePalette.hitGround
+            highlightColor: FirePalette.hitInk
+            highlightBackground: FirePalette.hitGround
             width: parent.width
         }
 
-        MarkedText {
+        HighlightedText {
             color: FirePalette.inkMeta
             font: Typography.meta
             height: Typography.metaLine
             line: root.detailLine
-            markColor: FirePalette.hitInk
-            markGround: FirePalette.hitGround
+            highlightColor: FirePalette.hitInk
+            highlightBackground: FirePalette.hitGround
             width: parent.width
         }
     }

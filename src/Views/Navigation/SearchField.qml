@@ -3,7 +3,7 @@ import Pelko
 
 /// The field that finds pages. It keeps the keyboard while the arrow keys choose, so that typing and choosing need no
 /// change of place.
-FieldPlate {
+FieldBackground {
     id: root
 
     required property NavigationViewModel navigation

@@ -98,7 +98,7 @@ T.TabButton {
             textFormat: Text.PlainText
         }
 
-        PlaceDots {
+        CapacityDots {
             taken: root.pages
         }
     }

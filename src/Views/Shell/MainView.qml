@@ -99,7 +99,7 @@ FocusScope {
         }
     }
 
-    TasksPanelPlace {
+    TasksPanelContainer {
         id: panel
 
         anchors { bottom: parent.bottom; right: parent.right; top: parent.top }
@@ -116,7 +116,7 @@ FocusScope {
         pageWidth: content.width
     }
 
-    TopStrip {
+    TitleBar {
         id: strip
 
         anchors { left: parent.left; right: parent.right; top: parent.top }

@@ -45,7 +45,7 @@ FocusScope {
         onTriggered: row.toggled()
     }
 
-    StruckText {
+    StrikethroughText {
         id: words
 
         Accessible.ignored: true
