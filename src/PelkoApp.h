@@ -38,8 +38,8 @@
 
 class QQuickWindow;
 
-/// The composition root: the one place that knows every part and hands each what it needs. Making it loads
-/// the documents and shows the window.
+/// The composition root: creates the objects of the program and passes them to each other's constructors. Its
+/// constructor loads the documents and shows the window.
 class PelkoApp
 {
 public:
@@ -68,9 +68,9 @@ private:
     void followLoading();
     void keepRunningWithoutWindow();
     void tellFailure(const QString &errors);
-    void carryOut(TrayMenuRow::Command command);
+    void runTrayCommand(TrayMenuRow::Command command);
 
-    // What is used by others stands first, so that it goes last.
+    // Members are destroyed in reverse order, so dependencies are declared first.
     QtScheduler m_scheduler;
     SystemClock m_clock;
     SystemDataLocation m_dataLocation;

@@ -27,7 +27,7 @@ QStringList arguments(int argc, char *argv[])
     return arguments;
 }
 
-/// The room of a picture that is let go belongs to the system again, not to the next picture of another size.
+/// Returns the memory of freed pictures to the system instead of keeping it in the heap.
 void tuneMallocForLargeImages()
 {
 #ifdef __GLIBC__
@@ -43,7 +43,7 @@ int say(const CommandLineResult &answer)
     return answer.exitCode;
 }
 
-/// Straight into the file. What cannot be read is not written over behind the writer's back.
+/// Adds the spark to the file without a window. A file that cannot be read is not replaced.
 CommandLineResult captureIntoFile(const DataLocation &location, SingleInstance &instance,
                                   const SparkCommand &command)
 {
@@ -77,9 +77,9 @@ int showWindow(int argc, char *argv[], SingleInstance &instance)
 
 int main(int argc, char *argv[])
 {
-    // A file that may not grow any further is a failed save, not the end of the program.
+    // Exceeding the file size limit must fail the save, not kill the process.
     std::signal(SIGXFSZ, SIG_IGN);
-    // What is written is for the writer only: it is left in no core file.
+    // Core dumps would contain the user's text.
     constexpr rlimit none{0, 0};
     ::setrlimit(RLIMIT_CORE, &none);
     tuneMallocForLargeImages();

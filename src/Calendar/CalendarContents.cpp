@@ -42,7 +42,7 @@ void CalendarContents::keep(CalendarEntry &&entry)
     m_series[place].add(std::move(entry));
 }
 
-/// Told by the wall clock alone, which no zone moves by more than a day: most entries are long past.
+/// A cheap test with the wall time, which differs from UTC by less than a day. Most entries are long past.
 bool CalendarContents::isNear(const CalendarEntry &entry) const
 {
     constexpr qint64 slack = 2 * 86400;

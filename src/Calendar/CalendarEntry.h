@@ -6,19 +6,18 @@
 #include <QList>
 #include <QString>
 
-/// Another time at which an entry takes place, and how long it takes then if that differs.
+/// An RDATE: an additional start, and its duration if that differs from the event's.
 struct RecurrenceDate {
     CalendarTime start;
     std::optional<CalendarDuration> span = std::nullopt;
 };
 
-/// One event as a calendar has it written down: by itself, the first of a series, or what one occurrence of a
-/// series was changed to.
+/// One VEVENT: a single event, the master of a series, or the override of an occurrence.
 struct CalendarEntry {
     QByteArray uid = {};
     std::optional<QString> title = std::nullopt;
     CalendarTime start = {};
-    /// How long it takes where no end is told.
+    /// The duration, used if `end` is not set.
     CalendarDuration span = {};
     std::optional<CalendarTime> end = std::nullopt;
     bool isCancelled = false;
@@ -27,11 +26,13 @@ struct CalendarEntry {
     QList<RecurrenceDate> recurrenceDates = {};
     QList<CalendarTime> exceptions = {};
 
-    /// The time of the occurrence that this takes the place of, and of all later ones where it says so.
+    /// The RECURRENCE-ID: the original start of the occurrence that this entry overrides. With
+    /// `isThisAndFuture` it overrides all later occurrences too.
     std::optional<CalendarTime> recurrenceId = std::nullopt;
     bool isThisAndFuture = false;
 
     bool repeats() const { return !rules.isEmpty() || !recurrenceDates.isEmpty(); }
-    /// Between start and end. Not to be asked for before the whole text was read: its zones may come last.
+    /// The duration between start and end. Valid once the whole text was read, because its VTIMEZONEs may
+    /// come last.
     CalendarDuration length() const { return end ? durationBetween(start, *end) : span; }
 };

@@ -5,23 +5,22 @@
 
 #include <functional>
 
-/// An event of which the end was not read yet.
+/// A VEVENT whose END line was not read yet.
 struct EventDraft {
     CalendarEntry entry = {};
     bool hasStart = false;
     bool hasSpan = false;
 };
 
-/// A zone of which the end was not read yet.
+/// A VTIMEZONE whose END line was not read yet.
 struct ZoneDraft {
     QByteArray name = {};
     std::vector<Observance> observances = {};
     bool isInObservance = false;
 };
 
-/// Reads the events of a calendar's text, one after the other: whole calendars and single events alike. An
-/// event that does not end, or that does not say when it begins, is left out, and so is everything else there
-/// may be in a text; nothing in it makes the reading fail, or take longer than its length.
+/// Reads the VEVENTs and VTIMEZONEs of an iCalendar text, with or without an enclosing VCALENDAR. Skips
+/// events without END or DTSTART and all other components. Reading cannot fail and takes linear time.
 class CalendarReader
 {
 public:
@@ -45,5 +44,5 @@ private:
     Take m_take;
     std::optional<EventDraft> m_event;
     std::optional<ZoneDraft> m_zone;
-    int m_depth = 0; // of what is inside the event: alarms, and whatever else
+    int m_depth = 0; // of components nested in the event, such as alarms
 };

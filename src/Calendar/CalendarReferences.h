@@ -3,13 +3,13 @@
 #include <QByteArray>
 #include <QList>
 
-/// What a store has to be asked for besides the events it found.
+/// The UIDs and time zones that a list of events refers to, to be fetched separately.
 struct CalendarReferences {
-    /// The UIDs of what repeats or was changed, each once.
+    /// The UIDs of recurring and overridden events, without duplicates.
     QList<QByteArray> repeatingUids = {};
-    /// The zones that are known neither to the system nor described in the text, each once.
+    /// The TZIDs that are neither in the tz database nor described in the text, without duplicates.
     QList<QByteArray> unknownZones = {};
 
-    /// Of the events of a text.
+    /// Collects the references of the events in an iCalendar text.
     static CalendarReferences in(QByteArrayView text);
 };

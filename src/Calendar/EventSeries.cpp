@@ -39,7 +39,7 @@ bool EventSeries::repeats() const
 QList<Occurrence> EventSeries::occurrences(const TimeRange &span, const IsCancelled &isCancelled) const
 {
     QList<Occurrence> found;
-    // Who calls all of it off says so once, and not of each occurrence that was changed before.
+    // A cancelled master cancels the whole series, also the overridden occurrences.
     if (!m_entries.isEmpty() && std::ranges::all_of(m_entries, &CalendarEntry::isCancelled))
         return found;
     for (const CalendarEntry &entry : m_entries) {

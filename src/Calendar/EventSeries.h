@@ -4,19 +4,19 @@
 
 #include <QMap>
 
-/// A stretch of time in seconds of the world's clock, its end not included.
+/// The half-open interval [from, to) in UTC seconds since 1970.
 struct TimeRange {
     double from = 0;
     double to = 0;
 
-    /// What takes no time at all overlaps where it is.
+    /// An event without duration overlaps the interval that contains its start.
     bool overlaps(qint64 start, qint64 end) const
     {
         return double(start) < to && (double(end) > from || double(start) >= from);
     }
 };
 
-/// One time at which something takes place.
+/// One occurrence of an event; times are UTC seconds since 1970.
 struct Occurrence {
     qint64 start = 0;
     qint64 end = 0;
@@ -26,18 +26,16 @@ struct Occurrence {
     bool operator==(const Occurrence &) const = default;
 };
 
-/// All entries of one UID: something that happens once or again and again, and what single occurrences of it,
-/// or all from one on, were changed to.
+/// All entries of one UID: a single or recurring event and its overrides.
 class EventSeries
 {
 public:
     void add(CalendarEntry entry);
 
-    /// Takes place at more than the one time it was entered for, or was changed.
+    /// Returns whether the event recurs or has overrides.
     bool repeats() const;
 
-    /// The occurrences that overlap a span, in the order of their starts. What was cancelled is not among
-    /// them.
+    /// Returns the occurrences that overlap a time range, sorted by start, without cancelled ones.
     QList<Occurrence> occurrences(const TimeRange &span, const IsCancelled &isCancelled) const;
 
 private:
@@ -51,6 +49,6 @@ private:
                                  const Occurrence &occurrence);
     QByteArray identifierAt(const CalendarEntry &entry, qint64 start) const;
 
-    QList<CalendarEntry> m_entries; // more than one only where somebody made a copy
+    QList<CalendarEntry> m_entries; // more than one only in calendars with duplicates
     QList<CalendarEntry> m_changes;
 };

@@ -4,8 +4,8 @@
 
 #include <unordered_set>
 
-/// Times that are named by other entries of a series: left out of it or replaced. A day names whatever takes
-/// place on it.
+/// The occurrences that a rule does not produce: those excluded by EXDATE and those replaced by an override.
+/// A DATE value excludes all occurrences on that day.
 class ExceptionDates
 {
 public:
@@ -13,7 +13,7 @@ public:
 
     void add(const CalendarTime &time);
 
-    /// Whether what takes place at a wall time in the zone of the series is named.
+    /// Returns whether the occurrence at a wall time in the series' zone is excluded.
     bool contains(qint64 wall) const;
 
 private:

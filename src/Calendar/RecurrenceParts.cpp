@@ -75,7 +75,7 @@ bool readWeekDays(std::vector<RecurrenceParts::WeekDay> &list, QByteArrayView te
     return true;
 }
 
-/// Stores an optional value and tells whether there was one.
+/// Stores an optional value; returns whether it has a value.
 template <typename Value, typename Found>
 bool take(Value &value, const std::optional<Found> &found)
 {

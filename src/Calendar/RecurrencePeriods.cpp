@@ -33,7 +33,7 @@ RecurrencePeriods::RecurrencePeriods(const RecurrenceParts &parts, const Calenda
     , m_firstDay(dayOfWall(start.wall))
 {
     const qint64 second = secondOfWall(start.wall);
-    // Whole days have no hours, whatever the rule says of them.
+    // An all-day event has no times of day, so BYHOUR, BYMINUTE and BYSECOND are ignored.
     m_hours = start.isDay ? std::vector{0} : orElse(parts.hours, second / 3600);
     m_minutes = start.isDay ? std::vector{0} : orElse(parts.minutes, second / 60 % 60);
     m_seconds = start.isDay ? std::vector{0} : orElse(parts.seconds, second % 60);

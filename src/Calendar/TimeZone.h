@@ -2,24 +2,23 @@
 
 #include <QTimeZone>
 
-/// A place where clocks hang on walls. Times are whole seconds since 1970, of the world or, as the clock
-/// shows them, of the wall.
+/// Converts between UTC and wall time. Both are whole seconds since 1970-01-01 00:00.
 class TimeZone
 {
 public:
     virtual ~TimeZone() = default;
 
-    /// By how many seconds the clocks of the place are ahead of the world's at a moment.
+    /// Returns the offset from UTC in seconds at a UTC time; positive to the east.
     virtual qint64 offsetAt(qint64 utc) const = 0;
 
     qint64 wall(qint64 utc) const { return utc + offsetAt(utc); }
 
-    /// When the clocks show a time. Of two moments it is the first; a time that they leave out is counted on
-    /// from before the change.
+    /// Returns the UTC time of a wall time. Of an ambiguous wall time it is the first; a skipped one is
+    /// converted with the offset before the transition.
     qint64 utc(qint64 wall) const;
 };
 
-/// A zone that the system knows.
+/// A zone of the tz database.
 class SystemTimeZone : public TimeZone
 {
 public:

@@ -30,7 +30,7 @@ QTimeZone systemZone(const QByteArray &name)
     const QByteArray ofWindows = QTimeZone::windowsIdToDefaultIanaId(name);
     if (!ofWindows.isEmpty())
         return QTimeZone(ofWindows);
-    // "/somebody.org/2024/Europe/Berlin": the zone is what comes last, in up to three parts.
+    // "/somebody.org/2024/Europe/Berlin": the IANA id is the end of it, up to three components.
     QByteArray rest = name;
     for (;;) {
         if (rest.compare("UTC", Qt::CaseInsensitive) == 0)

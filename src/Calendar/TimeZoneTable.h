@@ -6,25 +6,24 @@
 
 #include <QHash>
 
-/// The zones that calendars name: those of the system under their own names, the names that Windows has for
-/// them, and the paths that some programs put before them. Everything else is looked up in the calendar
-/// itself, and what is not described there hangs where the user is.
+/// Resolves TZIDs: IANA ids, also with a path in front, and Windows zone names come from the tz database,
+/// other names from the VTIMEZONEs of the text. Unknown names get the local zone.
 class TimeZoneTable
 {
 public:
     explicit TimeZoneTable(const QTimeZone &local);
 
-    /// Forgets what the last text said of its own zones.
+    /// Forgets the VTIMEZONEs of the previous text.
     void beginText() { m_written.clear(); }
 
     std::shared_ptr<const TimeZone> local() const { return m_local; }
     std::shared_ptr<const TimeZone> utc() const { return m_utc; }
     std::shared_ptr<const TimeZone> named(QByteArrayView name);
 
-    /// What a text says of a zone, even after the first time in it.
+    /// Sets the observances of a VTIMEZONE, also after times that use it were read.
     void describe(QByteArrayView name, const std::vector<Observance> &observances);
 
-    /// The time a line of a calendar gives.
+    /// Returns the time of a content line, or std::nullopt if it is malformed.
     std::optional<CalendarTime> time(const ContentLine &line, QByteArrayView value);
 
 private:
@@ -36,5 +35,5 @@ private:
     QHash<QByteArray, std::shared_ptr<VTimeZone>> m_written;
 };
 
-/// The zone of the system that a calendar means by a name; invalid where it knows none.
+/// Returns the tz database zone for a TZID; invalid if there is none.
 QTimeZone systemZone(const QByteArray &name);

@@ -4,26 +4,26 @@
 
 #include <limits>
 
-/// A time of year with its own offset, summer or winter, as a calendar describes it.
+/// A STANDARD or DAYLIGHT section of a VTIMEZONE. Offsets are seconds east of UTC.
 struct Observance {
-    /// When it began first, as clocks showed it until then.
+    /// Its first onset, as wall time with `offsetBefore`.
     qint64 start = 0;
     qint64 offsetBefore = 0;
     qint64 offset = 0;
     std::vector<qint64> dates = {};
     std::optional<RecurrenceRule> rule = std::nullopt;
 
-    /// Its last beginning not after a moment.
+    /// Returns its last onset at or before a UTC time, or std::nullopt.
     std::optional<qint64> lastBeginning(qint64 utc) const;
 
-    /// The times of the rule in the four years around a wall time. A zone is asked for every event, so they
-    /// are kept until another time is asked for.
+    /// Returns the rule's onsets in the four years around a wall time. The last result is cached, because
+    /// every event queries its zone.
     const std::vector<qint64> &timesAround(const CalendarTime &first, qint64 wall) const;
     mutable std::vector<qint64> knownTimes = {};
     mutable qint64 knownPart = std::numeric_limits<qint64>::min();
 };
 
-/// A zone that only a calendar knows. One without any observance is the user's own.
+/// A zone described by a VTIMEZONE. Without observances it behaves like the fallback zone.
 class VTimeZone : public TimeZone
 {
 public:

@@ -4,8 +4,8 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
-/// The address of the socket at which the program listens that has a data folder open. It lies beside the
-/// data, so that whoever finds the one finds the other. The object has to live while the address is used.
+/// The address of the local socket of the process that has a data folder open. The socket is a file in that
+/// folder. The address is valid as long as this object lives.
 class InstanceSocket
 {
 public:

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-/// What the running program says to a command line that was handed to it.
+/// The reply of the running program to a command line.
 struct InstanceReply {
-    /// In the place of an exit code: the caller carries its command out itself.
+    /// Reserved exit code: the caller must run the command itself.
     static constexpr int runInCaller = 254;
 
     int exitCode = 0;
@@ -20,6 +20,6 @@ struct InstanceReply {
 std::optional<InstanceReply> askRunningInstance(const std::string &dataFolder,
                                                 const std::vector<std::string> &arguments);
 
-/// What is sent: what the desktop gave the new process to come to the front with, then the arguments, each
-/// ended by a null character.
+/// Returns the request: the activation token of the new process, then the arguments, each followed by a null
+/// character.
 std::string instanceRequest(const std::string &activationToken, const std::vector<std::string> &arguments);

@@ -3,6 +3,6 @@
 #include <optional>
 #include <string>
 
-/// Where this user's programs keep their data by the rules of free desktops, in the system's own bytes;
-/// nothing when the environment names no place. A relative path in the environment is to be ignored.
+/// Returns the user's data folder by the XDG base directory specification, or std::nullopt if neither
+/// $XDG_DATA_HOME nor $HOME is set. Relative paths are ignored.
 std::optional<std::string> userDataFolder();

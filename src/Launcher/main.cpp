@@ -1,6 +1,5 @@
-// What is started as "pelko". Another Pelko may have the data open already: then it gets the command line and
-// this process ends before it has loaded anything but the system's library. Otherwise the program itself
-// takes this process over.
+// The executable "pelko". If a running Pelko has the data folder open, sends it the command line and exits
+// without loading Qt. Otherwise replaces this process by "pelko-window".
 
 #include "Launcher/RunningInstance.h"
 #include "Launcher/UserDataFolder.h"
@@ -21,7 +20,7 @@ std::string ownFolder()
     return program.substr(0, program.rfind('/'));
 }
 
-/// Help and version need no other Pelko, which may be of another version.
+/// --help and --version are answered by this installation: the running Pelko may be of another version.
 bool asksAboutTheProgram(const std::vector<std::string> &arguments)
 {
     return std::ranges::any_of(arguments, [](const std::string &argument) {
@@ -29,7 +28,8 @@ bool asksAboutTheProgram(const std::vector<std::string> &arguments)
     });
 }
 
-/// Beside this one where both are built, below libexec where they are installed.
+/// Calls exec on pelko-window: in the same folder in a build tree, in libexec when installed. Returns only on
+/// failure.
 int execMainProgram(char *argv[])
 {
     const std::string folder = ownFolder();

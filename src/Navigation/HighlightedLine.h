@@ -14,7 +14,7 @@ struct HighlightRange {
     bool operator==(const HighlightRange &) const = default;
 };
 
-/// A line of text in which some parts stand out.
+/// A line of text with highlighted ranges.
 struct HighlightedLine {
     Q_GADGET
     Q_PROPERTY(QString text MEMBER text CONSTANT)

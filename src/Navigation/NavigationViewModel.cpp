@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr qsizetype shownHits = 100; // nobody reads on behind them; one more word finds better
+constexpr qsizetype shownHits = 100; // more are of no use: another word narrows the search
 
 QString hitsInWords(qsizetype hits)
 {

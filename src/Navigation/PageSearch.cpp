@@ -17,7 +17,7 @@ class Reader
 public:
     explicit Reader(const SearchWords &words) : m_words(words) {}
 
-    /// Nothing where a word is missing.
+    /// Returns std::nullopt if a word is missing.
     std::optional<PageHit> read(const PelkoDocument &page)
     {
         m_title = isSpark(page) ? QString() : page.title();

@@ -15,7 +15,7 @@ bool isEdge(QChar before, QChar after)
 
 WordMatch SearchWord::next(QStringView folded, qsizetype from) const
 {
-    // A letter stands in most words, and to start the matcher anew for each costs more than to look for it.
+    // A single letter occurs in most words; restarting the matcher for each would cost more than the search.
     const qsizetype place =
         length() == 1 ? folded.indexOf(m_word.front(), from) : m_matcher.indexIn(folded, from);
     return place < 0 ? WordMatch() : WordMatch{fitAt(folded, place), place};

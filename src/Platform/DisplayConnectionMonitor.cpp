@@ -46,7 +46,7 @@ void runOnInterfaceThread()
     (void)done->tryAcquire(1, int(std::chrono::milliseconds(longestWaitForInterface).count()));
 }
 
-/// Qt says why it is about to end the process; nothing else tells of it before _exit().
+/// Qt logs a warning before it calls _exit(); there is no other notification.
 void hearMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     if (previousHandler)

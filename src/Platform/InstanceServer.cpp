@@ -19,7 +19,7 @@ ino_t inodeOf(const char *path)
     return ::lstat(path, &status) == 0 ? status.st_ino : 0;
 }
 
-/// One client: what it sends is gathered until it has sent all, then it gets its answer.
+/// The connection of one client: reads the whole request, then sends the reply.
 class Client : public QObject
 {
 public:
@@ -62,7 +62,7 @@ private:
             arguments.append(QString::fromLocal8Bit(argument));
         const CommandLineResult answer = m_answer(arguments);
         const QByteArray bytes = char(answer.exitCode) + answer.text.toLocal8Bit();
-        // Answers are a line or a page: they fit into what the system keeps for a client who is slow.
+        // Replies are short enough for the socket buffer, so a slow client does not block.
         ::send(m_socket.number(), bytes.constData(), std::size_t(bytes.size()), MSG_NOSIGNAL | MSG_DONTWAIT);
     }
 

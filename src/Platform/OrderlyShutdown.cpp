@@ -48,7 +48,7 @@ bool OrderlyShutdown::mayEnd()
     return false;
 }
 
-/// Whoever sends a signal does not wait for an answer.
+/// Ends without a question: the sender of a signal cannot answer it.
 void OrderlyShutdown::endBySignal()
 {
     const QString failure = m_callbacks.save();

@@ -8,19 +8,19 @@
 
 class QSessionManager;
 
-/// Has the documents saved before the program ends, in whatever orderly way it ends: the writer quits it or
-/// closes its window, the session ends, a signal asks for it, or the display goes away.
+/// Saves the documents before the program ends: by quit, closed window, end of the session, termination
+/// signal or loss of the display.
 class OrderlyShutdown : public QObject
 {
     Q_OBJECT
 
 public:
     struct Callbacks {
-        /// Saves. Returns whether the program may end; if not, the writer is being asked.
+        /// Saves. Returns whether the program may end; if not, a question is shown.
         std::function<bool()> mayEnd;
-        /// Saves when there is nobody to ask. Returns what failed, in words for the user, or an empty text.
+        /// Saves without interaction. Returns the error for the user, or an empty text.
         std::function<QString()> save;
-        /// The same when windows, timers and event loop must not be used any more.
+        /// Saves without using windows, timers or the event loop.
         std::function<void()> saveWithoutDisplay;
         /// Whether the program ends when its window is closed.
         std::function<bool()> endsWithWindow;
@@ -28,11 +28,11 @@ public:
 
     explicit OrderlyShutdown(Callbacks callbacks, QObject *parent = nullptr);
 
-    /// Has the documents saved before that window closes, and keeps it open while the writer is asked.
+    /// Saves before `window` closes, and keeps it open while the question is shown.
     void guard(QWindow &window);
 
 Q_SIGNALS:
-    /// The program was not allowed to end: the window that asks has to be seen.
+    /// The end of the program was refused; the window with the question must become visible.
     void refused();
 
 protected:

@@ -17,7 +17,7 @@ const QString chooserInterface = u"org.freedesktop.portal.FileChooser"_s;
 const QString requestInterface = u"org.freedesktop.portal.Request"_s;
 constexpr uint successResponse = 0; // 1: cancelled; 2: ended in some other way, with GTK also by Escape
 
-/// One way to tell which files are target, as the bus has it: 1 stands for a media type.
+/// A filter pattern in the portal's format (us); type 1 is a media type.
 struct Pattern {
     uint kind = 1;
     QString value;
@@ -197,7 +197,7 @@ void PortalRequest::close()
 
 void PortalRequest::finish(const FileChooser::Choice &choice)
 {
-    // Whoever hears of the choice may drop this request, and must itself outlive that.
+    // The completion may delete this request; keep a copy of it on the stack.
     const FileChooser::Completion completion = m_completion;
     completion(choice);
 }

@@ -67,7 +67,7 @@ bool SingleInstance::holdsFolder() const
 std::optional<FileError> SingleInstance::relock()
 {
     if (tryToLock() != Attempt::taken)
-        return std::nullopt; // without a lock, the reading or writing that follows says what is wrong
+        return std::nullopt; // the following read or write reports the error
     return FileError{u"Another Pelko has opened these documents."_s};
 }
 

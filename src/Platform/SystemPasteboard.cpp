@@ -17,7 +17,8 @@ namespace
 /// As Qt names an image that has no encoding yet.
 constexpr auto decodedImage = "application/x-qt-image"_L1;
 
-/// What is offered to other programs. A picture is decoded only if one asks for it in another format.
+/// The clipboard formats offered to other programs. A picture is decoded only if one asks for it in another
+/// format.
 class ClipboardMimeData : public QMimeData
 {
 public:

@@ -83,7 +83,7 @@ void ExportViewModel::take(const FileChooser::Choice &choice)
         return;
     }
     m_request.folder = chosen.constFirst();
-    // Whoever chooses the folder of the last time means that one.
+    // If the user chooses the "Pelko" folder of an earlier export, use it itself.
     if (m_request.isLibrary && m_request.folder.filename() != libraryFolder)
         m_request.folder /= libraryFolder;
     write(Existing::keep);

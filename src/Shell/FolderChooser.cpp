@@ -28,7 +28,7 @@ ScheduledCall FolderChooser::choose(Target target, Completion completion)
 {
     const auto closes = [chooser = QPointer(this)](const Completion *done) {
         delete done;
-        // The former request often goes when the next one is made already.
+        // A new request may exist before the old one is destroyed.
         if (chooser && chooser->m_request.expired())
             chooser->close();
     };

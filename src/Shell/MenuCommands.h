@@ -7,13 +7,13 @@
 /// by its key alone.
 enum class CommandGroup { documents, editing, spaces, views, exports, program, none };
 
-/// What a command is to a system that knows some of them and gives those a place of its own.
+/// Roles that systems with a global menu bar treat specially.
 enum class CommandRole { ordinary, about, quit, windowMenu };
 
 /// Where the commands are offered: behind a button of the window, or in the menu bar of the system.
 enum class MenuLocation { window, menuBar };
 
-/// One command of the program: what it is called wherever it is offered, and its key when it has one.
+/// A command of the program: its title and its key.
 struct MenuCommand {
     QString id = {};
     QString title = {};
@@ -22,7 +22,7 @@ struct MenuCommand {
     QString shortcut = {};
     CommandGroup group = CommandGroup::none;
     CommandRole role = CommandRole::ordinary;
-    /// A second key for it, told of nowhere.
+    /// A second key, not shown anywhere.
     QString otherShortcut = {};
 };
 

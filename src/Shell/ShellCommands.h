@@ -24,7 +24,7 @@ public:
     ShellCommands(AppState &appState, NavigationViewModel &navigation,
                   MenuLocation place = MenuLocation::window, QObject *parent = nullptr);
 
-    /// For the menu, for the keys, and for whoever binds a command of his own.
+    /// The list model, for menus, keys and bind().
     CommandListModel *list() { return &m_list; }
 
     /// The system keeps a menu bar, which offers the commands and gives them their keys.
@@ -36,7 +36,7 @@ public:
     bool showShortcuts() const { return m_showShortcuts; }
     QList<ShortcutLine> commandKeys() const { return ::commandKeys(m_place); }
 
-    /// Gives the command of that id. One that is unknown or disabled does nothing.
+    /// Runs the command. Does nothing if it is unknown or disabled.
     Q_INVOKABLE void run(const QString &id);
     Q_INVOKABLE void dismissShortcuts() { setShowShortcuts(false); }
     /// The window fills the screen, or does so no longer.

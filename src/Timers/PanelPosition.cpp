@@ -4,7 +4,7 @@ namespace
 {
 constexpr int gap = 8;
 
-/// What does not fit begins at the edge, so that its beginning can be seen.
+/// A panel that does not fit is aligned to the start, so that its beginning is visible.
 int inside(int start, int length, int roomStart, int roomLength)
 {
     return qMax(roomStart, qMin(start, roomStart + roomLength - length));

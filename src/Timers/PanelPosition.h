@@ -2,6 +2,6 @@
 
 #include <QRect>
 
-/// Where a panel of `size` goes that is opened at `opener`, on a screen with `room` to use: centred below
-/// what opened it, or above in the lower half of the screen, and moved until all of it can be seen.
+/// Returns the top left corner for a panel of `size` that `opener` opens: centred below it, or above it in
+/// the lower half of the screen, and moved into the available geometry `room`.
 QPoint panelPosition(const QRect &opener, QSize size, const QRect &room);

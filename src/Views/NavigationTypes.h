@@ -4,7 +4,7 @@
 
 #include <QtQml/qqml.h>
 
-/// Makes the navigation, which knows nothing of QML, known to it.
+/// QML_FOREIGN registrations of the navigation, which do not depend on QtQml.
 struct NavigationViewModelForQml {
     Q_GADGET
     QML_FOREIGN(NavigationViewModel)

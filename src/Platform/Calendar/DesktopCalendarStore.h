@@ -5,9 +5,9 @@
 #include <QDBusConnection>
 #include <QThreadPool>
 
-/// The calendars of this desktop, looked through on a thread of their own: those of Evolution Data Server,
-/// then the folders that other programs keep. Both may mirror the same account, so a UID of the server is
-/// left out of the folders. When the time is up the answer is what is known by then.
+/// Reads the calendars of Evolution Data Server, then the calendar folders, on a worker thread. Both may
+/// mirror the same account, so events of the folders whose UID the server has are skipped. After the timeout
+/// it returns the events found so far.
 class DesktopCalendarStore : public CalendarStore
 {
 public:

@@ -11,11 +11,10 @@ using namespace Qt::StringLiterals;
 namespace
 {
 const QString interfaceName = u"org.gnome.evolution.dataserver.Calendar"_s;
-/// Calls at the same time. A bus allows so many unanswered calls and no more, and what has been sent cannot
-/// be taken back when nobody waits for it any longer.
+/// The maximum number of parallel calls. The bus limits pending replies, and sent calls cannot be cancelled.
 constexpr int mostCalls = 32;
 
-/// What happens in the window and, because the server does not see what was moved there from elsewhere, all
+/// Events in the window and, because the server does not find occurrences moved into it, all
 /// that repeats. A day more on either side: it has a mind of its own about zones and days, and we look again.
 QString query(const CalendarWindow &window)
 {

@@ -11,8 +11,8 @@ struct ScaledScreen {
     qreal devicePixelRatio = 1;
 };
 
-/// Returns the place of a tray click, which comes in device pixels, in device-independent ones. Outside of
-/// all screens it is left as it is.
+/// Converts the position of a tray click from device pixels to device-independent pixels. A position outside
+/// of all screens is returned unchanged.
 QPoint clickPosition(QPoint devicePixels, const QList<ScaledScreen> &screens);
 
 /// The screens there are on X11. Empty elsewhere, where a tray does not count device pixels.

@@ -56,10 +56,10 @@ public Q_SLOTS:
     void Activate(int x, int y);
     void SecondaryActivate(int x, int y);
     void XAyatanaSecondaryActivate(uint timestamp);
-    /// Of a host that draws no menus: the panel has the same to offer.
+    /// Called by hosts without menus; opens the panel instead.
     void ContextMenu(int x, int y);
     void Scroll(int delta, const QString &orientation);
-    /// What the next window needs to come to the front with.
+    /// The activation token for the next window.
     void ProvideXdgActivationToken(const QString &token);
 
 Q_SIGNALS:

@@ -46,7 +46,7 @@ const QString Tray::menuPath = u"/MenuBar"_s;
 
 Tray::Tray(QObject *parent)
     : QObject(parent)
-    , m_bus(QString()) // connected to nothing
+    , m_bus(QString()) // not connected
     , m_item(new StatusNotifierItem(*this))
     , m_menuObject(new QObject(this))
     , m_menu(new TrayMenu(*this, m_menuObject))
@@ -118,7 +118,7 @@ void Tray::askForHost()
 
 void Tray::askWhetherLabelsAreDrawn()
 {
-    // No property tells. Of the trays in use, the one inside this shell is known to draw them.
+    // There is no property for this. GNOME Shell's tray is known to draw labels.
     call(m_bus, m_registration.get(), ownerOf(u"org.gnome.Shell"_s), [this](const QDBusMessage &shell) {
         call(m_bus, m_registration.get(), ownerOf(watcherService), [this, shell](const QDBusMessage &tray) {
             const bool isSame = !failed(shell) && !failed(tray) && shell.arguments() == tray.arguments();

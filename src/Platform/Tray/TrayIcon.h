@@ -4,8 +4,7 @@
 
 struct TrayIconState;
 
-/// What is beside the icon: a tray that draws labels shows the time as text there, any other leaves it to
-/// the icon.
+/// Whether the tray draws a text label beside the icon; if not, the icon shows the remaining minutes.
 enum class TrayLabels { drawn, ignored };
 
 /// The icon of `size` pixels: the bare flame at rest and beside a label; otherwise a coin on its own dark

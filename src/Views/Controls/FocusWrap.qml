@@ -1,6 +1,6 @@
 import QtQuick
 
-/// One end of the controls of a modal layer: who walks out of them here with Tab comes in again at the other end.
+/// A focus stop at one end of a modal layer's tab chain. It moves the focus to the other end.
 Item {
     required property Item other
     /// Stands behind the last control, and not before the first.

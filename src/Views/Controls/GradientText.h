@@ -6,8 +6,8 @@
 #include <QFont>
 #include <QtQml/qqml.h>
 
-/// A short text whose colour changes from the top of its capitals to the line they stand on. It stands in the
-/// middle of the item, with its line where plain text of that face has it.
+/// A short text with a vertical colour gradient from the cap height to the baseline. It is centred in the
+/// item and has the baseline of plain text in that font.
 class GradientText : public PictureItem
 {
     Q_OBJECT

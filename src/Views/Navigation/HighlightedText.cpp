@@ -62,7 +62,7 @@ void HighlightedText::setHighlightBackground(const QColor &color)
     assign(m_highlightBackground, color, &HighlightedText::highlightBackgroundChanged);
 }
 
-/// Lays the text out, shortened to what fits.
+/// Lays out the text, elided to the width.
 void HighlightedText::layOut(QTextLayout &layout, qreal width) const
 {
     QList<QTextLayout::FormatRange> formats;

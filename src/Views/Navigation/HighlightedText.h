@@ -9,9 +9,9 @@
 
 class QTextLayout;
 
-/// One line of text whose marked parts are heavier, in a colour of their own, and stand on a ground. What
-/// does not fit into the item gives way to "…". Text that runs from right to left begins at the left all the
-/// same, as the other lines of a list do.
+/// One line of text. Highlighted ranges have a heavier weight, another colour and a background. Text that
+/// does not fit is elided with "…". Text that runs from right to left begins at the left all the same, as the
+/// other lines of a list do.
 class HighlightedText : public PictureItem
 {
     Q_OBJECT

@@ -4,7 +4,7 @@ import QtQuick
 import Pelko
 
 /// One page in the list: what it is, its name, a line about it, its marks, and where it is chosen or pointed at the
-/// button that deletes it. What the keys do is known by the search field, which keeps the keyboard.
+/// button that deletes it. Keys are handled by the search field, which keeps the focus.
 Item {
     id: root
 
@@ -32,7 +32,7 @@ Item {
     Accessible.onPressAction: opened()
     implicitHeight: space === "" ? Metrics.pageRowHeight : Metrics.hitRowHeight
 
-    // Is not the row itself: Qt 6.4 takes every button for one, whatever its role.
+    // Not the row itself: Qt 6.4 exposes every button as a button, whatever its role.
     PressableControl {
         id: face
 

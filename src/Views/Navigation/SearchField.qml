@@ -27,7 +27,7 @@ FieldBackground {
     LineField {
         id: field
 
-        // What the arrow keys choose is read out here, where the keyboard is.
+        // The chosen row is announced here, because this field has the focus.
         Accessible.description: root.navigation.chosenDescription
         Keys.onDeletePressed: event => {
             const nothingToDelete = cursorPosition === length && selectedText === "" && !event.isAutoRepeat

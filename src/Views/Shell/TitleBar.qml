@@ -12,7 +12,7 @@ Item {
 
     property bool menuOpen: false
     property bool offersMenu: true
-    /// Something lies over the window's content: a click ends that instead of reaching menu and timer.
+    /// Whether an overlay is open: a click closes it instead of reaching menu and timer.
     property bool covered: false
     property TimersViewModel timers: null
     property FocusFade focusFade: FocusFade {}

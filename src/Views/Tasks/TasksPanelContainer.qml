@@ -3,25 +3,25 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The place of the tasks panel at the right edge of the window. The panel comes in from that edge with a fade and
-/// goes there twice as fast; meanwhile `room` tells how much of the width it takes from what stands beside it.
+/// Contains the tasks panel at the right edge of the window. The panel slides in from that edge with a fade and out
+/// twice as fast; `room` is the width that it currently takes from the editor.
 FocusScope {
     id: place
 
     required property TasksViewModel tasks
 
-    /// Nothing but the page is to be seen; the panel waits out of sight.
+    /// Focus mode: the panel is hidden.
     property bool quiet: false
     readonly property bool open: (tasks?.isOpen ?? false) && !quiet
     readonly property real part: Math.max(0, Math.min(1, entrance.value))
-    // Whoever asked for little motion sees a fade: the panel is where it belongs from the first.
+    // With reduced motion the panel does not slide, it only fades.
     readonly property real room: width * (Motion.reduced ? entrance.goal : part)
 
-    /// The keyboard belongs to what stands beside the panel again.
+    /// The editor gets the focus back.
     signal released
 
     Keys.onEscapePressed: released()
-    // What made it quiet has a say first in where the keyboard goes.
+    // Let the cause of focus mode set the focus first.
     onOpenChanged: if (!open && !quiet) released()
     onPartChanged: if (part === 0) released()
     onVisibleChanged: if (!visible) released()

@@ -46,7 +46,7 @@ void PanelWindow::place()
 
 void PanelWindow::cutCorners()
 {
-    // Where nothing composes windows, what is transparent is black.
+    // Without a compositor, transparent pixels are black.
     if (QGuiApplication::platformName() == "xcb"_L1)
         setMask(roundedRegion(size(), m_cornerRadius));
 }
