@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The navigation overlay, on a sheet of glass above an almost invisible layer: the greeting, the field that finds, the spaces,
+/// The navigation overlay, on a sheet of glass above an almost invisible layer: the greeting, the search field, the spaces,
 /// and the pages of one space or of a search. A click beside the sheet ends it, and so does Escape.
 ModalLayer {
     id: overlay

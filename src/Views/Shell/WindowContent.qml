@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The contents of the main window: the launch card over the main view, the alerts, the edges to resize by, and the keys of
+/// The contents of the main window: the launch card over the main view, the alerts, the resize edges, and the keys of
 /// the commands or the menu bar that has them.
 FocusScope {
     id: root
