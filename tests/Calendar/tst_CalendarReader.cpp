@@ -116,7 +116,7 @@ private Q_SLOTS:
                  QStringList{u"21 10:00 Tea"_s});
     }
 
-    void whatIsGoodIsTakenFromATextThatIsNot_data()
+    void readsValidEventsOfABrokenText_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QStringList>("told");
@@ -157,7 +157,7 @@ private Q_SLOTS:
         QTest::newRow("quotes that do not end")
             << eventText("X;A=\"b:c\r\nDTSTART:20261121T100000Z\r\nSUMMARY:Tea") << one;
     }
-    void whatIsGoodIsTakenFromATextThatIsNot()
+    void readsValidEventsOfABrokenText()
     {
         QFETCH(QByteArray, text);
         QFETCH(QStringList, told);

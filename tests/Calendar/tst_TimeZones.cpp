@@ -80,7 +80,7 @@ private Q_SLOTS:
         QCOMPARE(desk.told(at("Nowhere/Else", "20261121T120000")), QStringList{u"21 12:00 Tea"_s});
     }
 
-    void aZoneIsWhatTheCalendarSays_data()
+    void usesTheZoneThatTheCalendarDescribes_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QStringList>("told");
@@ -115,7 +115,7 @@ private Q_SLOTS:
                                       "TZOFFSETTO:+0100\r\nRRULE:FREQ=SECONDLY\r\nEND:STANDARD\r\n")
             << QStringList{u"21 11:00 Tea"_s};
     }
-    void aZoneIsWhatTheCalendarSays()
+    void usesTheZoneThatTheCalendarDescribes()
     {
         QFETCH(QByteArray, text);
         QFETCH(QStringList, told);
@@ -199,7 +199,7 @@ private Q_SLOTS:
         QCOMPARE(desk.told(trip + described), QStringList());
     }
 
-    void aChangeOfClocksThatNeverComesIsLookedForOnce()
+    void searchesOnceForAnOnsetThatNeverOccurs()
     {
         QByteArray text =
             zone("Our Town", "BEGIN:STANDARD\r\nDTSTART:19961027T030000\r\nTZOFFSETFROM:+0200\r\n"

@@ -109,7 +109,7 @@ private Q_SLOTS:
                  library.appState.openDocumentID()->toString(QUuid::WithoutBraces));
     }
 
-    void nothingIsFollowedWhileItIsClosed()
+    void ignoresChangesWhileClosed()
     {
         Library library = threePages();
         QSignalSpy changes(&library.navigation, &NavigationViewModel::pagesChanged);
@@ -287,7 +287,7 @@ private Q_SLOTS:
         QCOMPARE(library.appState.openDocument()->title(), u"hour"_s);
     }
 
-    void whereNothingIsFoundNothingIsChosen()
+    void noRowIsChosenWithoutHits()
     {
         Library library = threePages();
         library.appState.setShowNav(true);

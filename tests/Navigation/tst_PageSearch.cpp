@@ -115,7 +115,7 @@ private Q_SLOTS:
         QCOMPARE(found(library, query), order);
     }
 
-    void ofEqualsTheLastWrittenComesFirst()
+    void equalHitsSortLastWrittenFirst()
     {
         QList<PelkoDocument> library{page(u"hour"_s), page(u"hour"_s), page(u"hour"_s), page(u"hour"_s)};
         library[1].createdAt = 5;

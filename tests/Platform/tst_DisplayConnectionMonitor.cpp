@@ -58,7 +58,7 @@ private Q_SLOTS:
         QCOMPARE(runs, 0);
     }
 
-    void nothingIsRunOnceItIsGone()
+    void doesNothingAfterDestruction()
     {
         int runs = 0;
         {

@@ -72,7 +72,7 @@ private Q_SLOTS:
         QCOMPARE(fetch(), u"Tea Milk Bread Folder"_s);
     }
 
-    void whatIsNotInUseIsNotAsked_data()
+    void disabledCalendarsAreNotAsked_data()
     {
         QTest::addColumn<QString>("source");
         QTest::newRow("off") << u"[Data Source]\nEnabled=false\n[Calendar]\n"_s;
@@ -83,7 +83,7 @@ private Q_SLOTS:
         QTest::newRow("no calendar") << u"[Data Source]\nEnabled=true\n[Task List]\n"_s;
         QTest::newRow("nothing") << u""_s;
     }
-    void whatIsNotInUseIsNotAsked()
+    void disabledCalendarsAreNotAsked()
     {
         QFETCH(QString, source);
         startServer();
@@ -125,7 +125,7 @@ private Q_SLOTS:
         QCOMPARE(fetch(), u"Tea Folder"_s);
     }
 
-    void whatRepeatsIsAskedForAgain()
+    void recurringEventsAreFetchedByUid()
     {
         startServer();
         server->addCalendar(u"one"_s, {at("Tea", "RRULE:FREQ=DAILY\r\n"), at("Milk")});
@@ -138,7 +138,7 @@ private Q_SLOTS:
         QCOMPARE(server->asked.count(u"GetObject"_s), 1);
     }
 
-    void zonesThatNobodyKnowsAreAskedFor()
+    void unknownZonesAreFetched()
     {
         startServer();
         server->addCalendar(u"one"_s,
@@ -255,8 +255,8 @@ private Q_SLOTS:
         QCOMPARE(fetch(500ms), u"Tea Milk Folder"_s);
     }
 
-    void anErrorLeavesOutOnlyWhatItIsAbout_data() { aFrozenCalendarDoesNotHideTheOthers_data(); }
-    void anErrorLeavesOutOnlyWhatItIsAbout()
+    void errorSkipsOnlyTheAffectedEvents_data() { aFrozenCalendarDoesNotHideTheOthers_data(); }
+    void errorSkipsOnlyTheAffectedEvents()
     {
         QFETCH(QString, method);
         startServer();
@@ -314,7 +314,7 @@ private Q_SLOTS:
         QCOMPARE(fetch().count(u"Tea"_s), 10'000);
     }
 
-    void whoeverLeavesIsNotHeldUpByAFrozenServer()
+    void quitDoesNotWaitForAFrozenServer()
     {
         startServer();
         server->addCalendar(u"one"_s, {});

@@ -55,21 +55,21 @@ private Q_SLOTS:
         QCOMPARE(exportTo(), CommandLineResult{u"Exported 0 pages to %1\n"_s.arg(target())});
     }
 
-    void whatCannotBeReadIsNotExported()
+    void unreadableFileIsNotExported()
     {
         DataFolder::put(data->file(), "[not json");
         QCOMPARE(exportTo(), (CommandLineResult{u"pelko: Failed to load your documents.\n"_s, 1}));
         QVERIFY(!std::filesystem::exists(data->support / "my notes"));
     }
 
-    void whatCannotBeWrittenIsTold()
+    void writeErrorIsReported()
     {
         DataFolder::put(data->support / "my notes", "a file");
         QCOMPARE(exportTo(), (CommandLineResult{u"pelko: Export failed: Not a directory\n"_s, 1}));
     }
 
     // The last one: the signal is remembered.
-    void anInterruptLeavesNothing()
+    void interruptLeavesNoFiles()
     {
         exportTo(); // from here on signals are taken note of
         std::filesystem::remove_all(data->support / "my notes");

@@ -70,7 +70,7 @@ private Q_SLOTS:
         QCOMPARE(program.disk.read(), "restored");
     }
 
-    void nothingIsWrittenWhileAnotherProcessHasTheNewFolder()
+    void saveFailsWhileAnotherProcessLocksTheNewFolder()
     {
         RunningProgram program;
         fs::remove_all(program.disk.folder());

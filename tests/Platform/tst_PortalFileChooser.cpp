@@ -173,7 +173,7 @@ private Q_SLOTS:
         QTRY_COMPARE(choices, QStringList{u"chosen: /home/me/a \u00e9.png"_s});
     }
 
-    void whatIsNotOnThisMachineIsNoFile()
+    void ignoresRemoteFiles()
     {
         offerPortal();
         choose(program());

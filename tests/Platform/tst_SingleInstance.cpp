@@ -220,7 +220,7 @@ private Q_SLOTS:
         QVERIFY(first.isLocked() && second.isLocked());
     }
 
-    void nobodyAnswersWhereNobodyListens()
+    void returnsNulloptWithoutListener()
     {
         const DataFolder data;
         QVERIFY(!askRunningInstance(data.folder(), {}));

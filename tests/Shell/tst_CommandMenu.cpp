@@ -69,7 +69,7 @@ private Q_SLOTS:
         QCOMPARE(found, wanted);
     }
 
-    void whatTheSystemHasAPlaceForSaysSo()
+    void systemCommandsReportTheirRole()
     {
         CommandListModel commands(menuCommands());
         const CommandMenu menu(commands, u"Help"_s);

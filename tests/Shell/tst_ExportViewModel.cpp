@@ -137,7 +137,7 @@ private Q_SLOTS:
         QCOMPARE(m_program->desktop.fileChooser.asked, 2);
     }
 
-    void whoChoosesNoFolderExportsNothing()
+    void cancelledChooserExportsNothing()
     {
         exports().exportDocument();
         m_program->desktop.fileChooser.answer(Folders{});
@@ -166,7 +166,7 @@ private Q_SLOTS:
                  u"Export failed: No space left on device. Nothing was left behind."_s);
     }
 
-    void whatIsThereIsReplacedOnlyWhenAskedFor()
+    void existingFilesAreReplacedOnlyOnRequest()
     {
         exportDocumentTo("/home/me/notes");
         answer(ExportFolder::Conflicts{{u"Ridge.md"_s}});
@@ -238,7 +238,7 @@ private Q_SLOTS:
         QVERIFY(exports().showResult());
     }
 
-    void whatIsExportedIsThePageOfTheCommand()
+    void exportsThePageThatWasOpenAtTheCommand()
     {
         exports().exportDocument();
         const PelkoDocument open = *m_program->appState.openDocument();

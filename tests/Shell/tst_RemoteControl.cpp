@@ -129,7 +129,7 @@ private Q_SLOTS:
         QCOMPARE(m_program->status(), u"break 05:00 paused\n"_s);
     }
 
-    void whatIsUnknownIsRefused() { QCOMPARE(m_program->answer({u"--frobnicate"_s}).exitCode, 2); }
+    void refusesUnknownOptions() { QCOMPARE(m_program->answer({u"--frobnicate"_s}).exitCode, 2); }
 };
 
 PELKO_TEST(TestRemoteControl)

@@ -64,14 +64,14 @@ private Q_SLOTS:
         QCOMPARE(commandKeys(MenuLocation::menuBar).size() + 1, commandKeys(MenuLocation::window).size());
     }
 
-    void whatIsAboutKeepingStandsApart()
+    void keepingCommandsHaveTheirOwnHeading()
     {
         QCOMPARE(titles(linesUnder(u"Keeping"_s)),
                  (QStringList{u"Export…"_s, u"Export everything…"_s, u"Copy page as Markdown"_s,
                               u"Keyboard Shortcuts"_s, u"Quit"_s}));
     }
 
-    void whatIsTypedBecomesWhatIsSaid_data()
+    void typedMarkersMakeTheirKindOfBlock_data()
     {
         QTest::addColumn<QString>("title");
         QTest::addColumn<BlockType>("type");
@@ -82,7 +82,7 @@ private Q_SLOTS:
         QTest::newRow("checklist") << u"Checklist"_s << BlockType::sticky;
     }
 
-    void whatIsTypedBecomesWhatIsSaid()
+    void typedMarkersMakeTheirKindOfBlock()
     {
         QFETCH(QString, title);
         QFETCH(BlockType, type);

@@ -33,7 +33,7 @@ QStringList texts(const QList<TaskGroup> &groups)
 }
 } // namespace
 
-class tst_TaskGroups : public QObject
+class TestTaskGroups : public QObject
 {
     Q_OBJECT
 
@@ -46,7 +46,7 @@ private Q_SLOTS:
     void aTaskKnowsItsBlockAndItsPage();
 };
 
-void tst_TaskGroups::aLibraryWithoutEntriesHasNoGroups()
+void TestTaskGroups::aLibraryWithoutEntriesHasNoGroups()
 {
     const QList<PelkoDocument> library{page(Space::work, {Block(BlockType::textLarge, u"Title"_s)}),
                                        page(Space::work, {Block(BlockType::sticky)}),
@@ -56,7 +56,7 @@ void tst_TaskGroups::aLibraryWithoutEntriesHasNoGroups()
     QCOMPARE(pendingCount(todosByDoc(library)), 0);
 }
 
-void tst_TaskGroups::onlyChecklistsCount()
+void TestTaskGroups::onlyChecklistsCount()
 {
     Block text(BlockType::textSmall, u"words"_s);
     text.todos = QList<TodoItem>{{.text = u"not a task"_s}};
@@ -64,7 +64,7 @@ void tst_TaskGroups::onlyChecklistsCount()
     QCOMPARE(todosByDoc({page(Space::work, {text})}), QList<TaskGroup>{});
 }
 
-void tst_TaskGroups::tickedEntriesAreListedAndNotCounted()
+void TestTaskGroups::tickedEntriesAreListedAndNotCounted()
 {
     const auto groups = todosByDoc({page(Space::work, {checklist({u"xwool socks"_s, u"xnotebook"_s})})});
 
@@ -72,7 +72,7 @@ void tst_TaskGroups::tickedEntriesAreListedAndNotCounted()
     QCOMPARE(pendingCount(groups), 0);
 }
 
-void tst_TaskGroups::archivedPagesAndAllSpacesCountInTheOrderOfTheStore()
+void TestTaskGroups::archivedPagesAndAllSpacesCountInTheOrderOfTheStore()
 {
     QList<PelkoDocument> library;
     for (const Space space : {Space::journal, Space::work, Space::ideas}) {
@@ -87,7 +87,7 @@ void tst_TaskGroups::archivedPagesAndAllSpacesCountInTheOrderOfTheStore()
     QCOMPARE(pendingCount(groups), 3);
 }
 
-void tst_TaskGroups::twoChecklistsOfAPageStandUnderOneHeading()
+void TestTaskGroups::twoChecklistsOfAPageStandUnderOneHeading()
 {
     const auto groups =
         todosByDoc({page(Space::work, {checklist({u"-one"_s, u"xtwo"_s}), Block(BlockType::textSmall),
@@ -97,7 +97,7 @@ void tst_TaskGroups::twoChecklistsOfAPageStandUnderOneHeading()
     QCOMPARE(pendingCount(groups), 2);
 }
 
-void tst_TaskGroups::aTaskKnowsItsBlockAndItsPage()
+void TestTaskGroups::aTaskKnowsItsBlockAndItsPage()
 {
     const PelkoDocument document = page(Space::work, {checklist({u"-one"_s}), checklist({u"-two"_s})});
 
@@ -109,5 +109,5 @@ void tst_TaskGroups::aTaskKnowsItsBlockAndItsPage()
     }
 }
 
-PELKO_TEST(tst_TaskGroups)
+PELKO_TEST(TestTaskGroups)
 #include "tst_TaskGroups.moc"

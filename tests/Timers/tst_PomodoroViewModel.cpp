@@ -257,7 +257,7 @@ private Q_SLOTS:
         QVERIFY(!m_program->cards()[0].isNew);
     }
 
-    void whatFailsToBeSavedIsStillASpark()
+    void sparkStaysInTheStoreWhenItsSaveFails()
     {
         m_program->file.writeError = u"No space left on device"_s;
 
@@ -267,7 +267,7 @@ private Q_SLOTS:
         QVERIFY(m_program->appState.lastError());
     }
 
-    void whatFailsToBeSavedStaysInTheFieldWithTheReason()
+    void failedSparkStaysInTheFieldWithItsError()
     {
         m_program->file.writeError = u"No space left on device"_s;
         const QSignalSpy told(&m_program->panel, &PomodoroViewModel::captureErrorChanged);
@@ -277,7 +277,7 @@ private Q_SLOTS:
         QCOMPARE(told.count(), 1);
     }
 
-    void whatFailedToBeSavedIsSavedByTheNextReturnAndNotCapturedTwice()
+    void returnAfterAFailedSaveSavesTheSparkOnce()
     {
         m_program->file.writeError = u"No space left on device"_s;
         m_program->capture(u"kept"_s);

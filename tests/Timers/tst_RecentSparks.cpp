@@ -68,7 +68,7 @@ private Q_SLOTS:
         QVERIFY(!recent.cards[1].isNew);
     }
 
-    void aSparkWithoutBlocksSaysNothing()
+    void sparkWithoutBlocksHasNoText()
     {
         PelkoDocument bare(Space::ideas, 1);
         bare.blocks.clear();

@@ -101,7 +101,7 @@ private Q_SLOTS:
                                      u"Quit"_s}));
     }
 
-    void aChosenRowGivesItsCommand()
+    void chosenRowRunsItsCommand()
     {
         Window window;
         const MenuOnBus bar = menuBar();

@@ -79,7 +79,7 @@ Item {
             return find(view, item => item instanceof EditorView)
         }
 
-        function test_the_toggle_says_what_it_will_do() {
+        function test_theToggleSaysWhatItWillDo() {
             compare(toggle().name, "Tasks")
             compare(toggle().icon.name, "sidebar.right")
             compare(toggle().Accessible.checked, false)
@@ -89,7 +89,7 @@ Item {
             compare(toggle().Accessible.checked, true)
         }
 
-        function test_the_panel_comes_and_the_page_gives_way() {
+        function test_thePanelComesAndThePageGivesWay() {
             mouseClick(toggle())
             verify(panel())
             verify(panel().opacity < 1)
@@ -102,7 +102,7 @@ Item {
             tryVerify(() => editor().width === 1100)
         }
 
-        function test_it_closes_twice_as_fast_as_it_opens() {
+        function test_itClosesTwiceAsFastAsItOpens() {
             let start = Date.now()
             mouseClick(toggle())
             tryVerify(() => panel().mapToItem(view, 0, 0).x <= 860)
@@ -114,7 +114,7 @@ Item {
             verify(Date.now() - start < opening)
         }
 
-        function test_a_release_outside_leaves_nothing_pressed() {
+        function test_aReleaseOutsideLeavesNothingPressed() {
             const button = toggle()
             mousePress(button)
             verify(button.down)
@@ -124,7 +124,7 @@ Item {
             verify(!bench.tasks.isShown)
         }
 
-        function test_other_spaces_have_neither_toggle_nor_panel() {
+        function test_otherSpacesHaveNeitherToggleNorPanel() {
             bench.tasks.toggle()
             tryVerify(() => panel())
             bench.goTo("journal")
@@ -136,7 +136,7 @@ Item {
             tryVerify(() => panel())
         }
 
-        function test_what_was_typed_is_gone_at_the_next_opening() {
+        function test_whatWasTypedIsGoneAtTheNextOpening() {
             bench.tasks.toggle()
             const first = panel()
             bench.tasks.panel.typed("half a thou")
@@ -146,7 +146,7 @@ Item {
             compare(find(panel(), item => item instanceof LineField).text, "")
         }
 
-        function test_another_page_leaves_the_panel_alone() {
+        function test_anotherPageLeavesThePanelAlone() {
             bench.tasks.toggle()
             const first = panel()
             bench.tasks.panel.typed("half a thou")
@@ -156,14 +156,14 @@ Item {
             compare(find(first, item => item instanceof LineField).text, "half a thou")
         }
 
-        function test_it_stands_beside_the_empty_state_too() {
+        function test_itStandsBesideTheEmptyStateToo() {
             bench.tasks.toggle()
             bench.closeDocument()
             tryVerify(() => find(view, item => item instanceof EmptyState))
             verify(panel())
         }
 
-        function test_the_keyboard_goes_back_to_the_page_data() {
+        function test_theKeyboardGoesBackToThePage_data() {
             return [
                 { tag: "closed", leave: () => bench.tasks.toggle() },
                 { tag: "Escape", leave: () => keyClick(Qt.Key_Escape) },
@@ -171,7 +171,7 @@ Item {
             ]
         }
 
-        function test_the_keyboard_goes_back_to_the_page(row: var) {
+        function test_theKeyboardGoesBackToThePage(row: var) {
             bench.tasks.toggle()
             tryCompare(panel(), "opacity", 1)
             find(panel(), item => item instanceof LineField).forceActiveFocus()
@@ -180,7 +180,7 @@ Item {
             verify(editor().activeFocus)
         }
 
-        function test_focus_mode_sends_it_away_and_brings_it_back() {
+        function test_focusModeSendsItAwayAndBringsItBack() {
             bench.tasks.toggle()
             const first = panel()
             tryCompare(first, "opacity", 1)
@@ -196,7 +196,7 @@ Item {
             tryVerify(() => editor().width === 860)
         }
 
-        function test_focus_mode_sends_a_panel_away_that_opens() {
+        function test_focusModeSendsAPanelAwayThatOpens() {
             bench.main.commands.run("focusMode")
             bench.tasks.toggle()
             wait(100)
@@ -205,7 +205,7 @@ Item {
             tryVerify(() => panel())
         }
 
-        function test_the_events_are_fetched_whenever_the_panel_comes_into_sight() {
+        function test_theEventsAreFetchedWheneverThePanelComesIntoSight() {
             bench.tasks.toggle()
             tryCompare(panel(), "opacity", 1)
             compare(bench.fetches(), 1)
@@ -221,7 +221,7 @@ Item {
             tryVerify(() => stage.Window.active)
         }
 
-        function test_little_motion_is_a_fade_in_place() {
+        function test_littleMotionIsAFadeInPlace() {
             Motion.reduced = true
             bench.tasks.toggle()
             compare(panel().mapToItem(view, 0, 0).x, 860)
