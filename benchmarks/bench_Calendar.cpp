@@ -59,11 +59,11 @@ public:
 
     qsizetype look() const
     {
-        const auto asker = std::make_shared<int>();
+        const auto receiver = std::make_shared<int>();
         const Timestamp noon = 817'041'600;
         const auto answer = CalendarFolders::events(
             {.home = home()}, {.from = noon, .to = noon + 86400, .zone = QTimeZone("Europe/Berlin")},
-            FetchDeadline(60s, asker, asker));
+            FetchDeadline(60s, receiver, receiver));
         return answer ? answer->size() : 0;
     }
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds what is shipped with warnings as errors, each file alone, and checks that the programs are hardened.
+# Builds the release with warnings as errors, without unity builds, and checks the hardening of the programs.
 set -euo pipefail
 
 cd "$(dirname "$0")/.."

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Brings every C++ file into the project's form; with --check only says which are not. One version of the
+# Formats every C++ file; with --check only lists those that are not formatted. One version of the
 # formatter for everybody, because versions differ in small things.
 set -euo pipefail
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Looks for files that the program and a second reader of the same rules read differently.
+# Searches for files that the program and an independent reader read differently.
 # Usage: scripts/fuzz.sh [SECONDS for each target]; what is found stays in build/fuzz/found.
 set -euo pipefail
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Writes at random in the real views and in a model of the page, under the sanitizers, and compares the two. What fails
-# is made short and printed with its seed. A fifth of a long time goes to random keys in the real window of the release
+# Writes at random in the real views and in a model of the page, under the sanitizers, and compares the two. A failure
+# is shrunk and printed with its seed. A fifth of a long time goes to random keys in the real window of the release
 # build.
 # Usage: scripts/random-writer.sh [SECONDS [SEED]]
 set -euo pipefail

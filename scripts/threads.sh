@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs what fetches calendars and what settles saves on a thread of its own under the thread sanitizer.
+# Runs the tests of the worker threads of calendars and saves under the thread sanitizer.
 set -euo pipefail
 
 cd "$(dirname "$0")/.."

@@ -23,7 +23,7 @@ namespace
 {
 constexpr auto trayRestartTime = 5s;
 
-/// What an input method is composing is shown on the page, but it is not in the document yet.
+/// Commits preedit text, which is shown on the page but not in the document yet.
 void settleComposition()
 {
     Composition::settle(qobject_cast<QQuickItem *>(QGuiApplication::focusObject()));
@@ -37,7 +37,7 @@ PelkoApp::PelkoApp(SingleInstance &instance) : m_documentFile(m_localFile, insta
     followRequests();
     followTimer();
     followTray();
-    outliveTheWindow();
+    keepRunningWithoutWindow();
     followLoading();
     m_engine.addImportPath(u"qrc:/qt/qml"_s);
     m_engine.setInitialProperties({{u"main"_s, QVariant::fromValue(&m_main)},
@@ -50,10 +50,10 @@ PelkoApp::PelkoApp(SingleInstance &instance) : m_documentFile(m_localFile, insta
     followWindow();
 }
 
-MenuPlace PelkoApp::menuPlace()
+MenuLocation PelkoApp::menuLocation()
 {
     const bool isOnMac = QOperatingSystemVersion::currentType() == QOperatingSystemVersion::MacOS;
-    return isOnMac ? MenuPlace::menuBar : MenuPlace::window;
+    return isOnMac ? MenuLocation::menuBar : MenuLocation::window;
 }
 
 /// The name under which a chooser of the desktop's own knows the window it belongs to.
@@ -68,7 +68,7 @@ PelkoApp::~PelkoApp()
 {
     if (!window())
         return;
-    window()->hide(); // while everybody who hears of it is there
+    window()->hide(); // while all receivers of its signals exist
     tearDownScene(*window());
 }
 
@@ -95,7 +95,7 @@ void PelkoApp::followDataFolder(const SingleInstance &instance)
 
 void PelkoApp::watchDataFolder()
 {
-    // Of a folder that is moved, only the one above it tells.
+    // Moving a folder only notifies watchers of its parent.
     const QStringList folders{QFile::decodeName(dataFolder().c_str()),
                               QFile::decodeName(dataFolder().parent_path().c_str())};
     m_folderWatcher.removePaths(folders); // which may stand for folders that are gone
@@ -127,7 +127,7 @@ void PelkoApp::followLoading()
         Qt::QueuedConnection);
 }
 
-/// A system without some QML module. An empty window would say nothing, for ever.
+/// Shows the errors if a QML module is missing, instead of an empty window.
 void PelkoApp::tellFailure(const QString &errors)
 {
     const QString text = startFailure(errors);
@@ -147,7 +147,7 @@ void PelkoApp::bringToFront()
         ::bringToFront(*window());
 }
 
-ProgramEnd::Answers PelkoApp::answersAtTheEnd()
+OrderlyShutdown::Callbacks PelkoApp::shutdownCallbacks()
 {
     // Without a window there is nowhere to ask.
     return {.mayEnd =
@@ -168,7 +168,7 @@ ProgramEnd::Answers PelkoApp::answersAtTheEnd()
             .endsWithWindow = [this] { return !m_tray.isPresent(); }};
 }
 
-/// Returns what failed, in words for the user.
+/// Returns the error for the user, or an empty text.
 QString PelkoApp::save()
 {
     m_appState.saveChanges();
@@ -180,14 +180,14 @@ void PelkoApp::followRequests()
 {
     QObject::connect(m_main.quitGuard(), &QuitGuard::quitRequested, QCoreApplication::instance(),
                      &QCoreApplication::quit, Qt::QueuedConnection);
-    QObject::connect(&m_end, &ProgramEnd::refused, &m_engine, [this] { bringToFront(); });
+    QObject::connect(&m_end, &OrderlyShutdown::refused, &m_engine, [this] { bringToFront(); });
     QObject::connect(m_main.commands(), &ShellCommands::quitRequested, QCoreApplication::instance(),
                      &QCoreApplication::quit, Qt::QueuedConnection);
     QObject::connect(m_main.commands(), &ShellCommands::fullScreenToggled, &m_engine,
                      [this] { toggleFullScreen(*window()); });
     QObject::connect(&m_remote, &RemoteControl::openRequested, &m_engine, [this] { bringToFront(); });
     QObject::connect(&m_onBus, &ApplicationOnBus::openRequested, &m_engine, [this] { bringToFront(); });
-    // The bus and the panel can wait until there is something to see; the launch card covers what they cost.
+    // D-Bus and the panel are set up after the first frame; the launch card hides the delay.
     QObject::connect(&m_launch, &LaunchSequence::showFlameChanged, &m_tray, [this] {
         m_tray.connectTo(QDBusConnection::sessionBus());
         m_onBus.connectTo(QDBusConnection::sessionBus());
@@ -225,12 +225,12 @@ void PelkoApp::followTray()
     QObject::connect(&m_tray, &Tray::secondaryActivated, &m_timers,
                      [this] { startOrPause(m_pomodoroTimer); });
     QObject::connect(&m_tray, &Tray::chosen, &m_timers,
-                     [this](TrayMenuRow::Command command) { carryOut(command); });
+                     [this](TrayMenuRow::Command command) { runTrayCommand(command); });
     QObject::connect(&m_tray, &Tray::isPresentChanged, &m_timers,
                      [this] { m_timers.setInTray(m_tray.isPresent()); });
 }
 
-void PelkoApp::outliveTheWindow()
+void PelkoApp::keepRunningWithoutWindow()
 {
     // With a tray the program stays there when its window is closed.
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -238,7 +238,7 @@ void PelkoApp::outliveTheWindow()
         if (!m_tray.isPresent())
             QCoreApplication::quit();
     });
-    // A tray that crashed comes back. If it does not, a closed window would be out of reach.
+    // A crashed tray restarts. If it does not, show the window, which could not be reached otherwise.
     QObject::connect(&m_tray, &Tray::isPresentChanged, &m_engine, [this] {
         m_return = m_scheduler.after(trayRestartTime, [this] {
             if (!m_tray.isPresent() && window() && !window()->isVisible())
@@ -247,7 +247,7 @@ void PelkoApp::outliveTheWindow()
     });
 }
 
-void PelkoApp::carryOut(TrayMenuRow::Command command)
+void PelkoApp::runTrayCommand(TrayMenuRow::Command command)
 {
     switch (command) {
     case TrayMenuRow::Command::open:

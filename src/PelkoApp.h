@@ -8,9 +8,9 @@
 #include "Platform/LocalPictureFiles.h"
 #include "Platform/LocalPictureFolders.h"
 #include "Platform/LockedDocumentFile.h"
+#include "Platform/OrderlyShutdown.h"
 #include "Platform/PasteGuard.h"
 #include "Platform/PortalFileChooser.h"
-#include "Platform/ProgramEnd.h"
 #include "Platform/QtScheduler.h"
 #include "Platform/SingleInstance.h"
 #include "Platform/SystemClock.h"
@@ -38,8 +38,8 @@
 
 class QQuickWindow;
 
-/// The composition root: the one place that knows every part and hands each what it needs. Making it loads
-/// the documents and shows the window.
+/// The composition root: creates the objects of the program and passes them to each other's constructors. Its
+/// constructor loads the documents and shows the window.
 class PelkoApp
 {
 public:
@@ -52,12 +52,12 @@ public:
     int run();
 
 private:
-    static MenuPlace menuPlace();
+    static MenuLocation menuLocation();
     static QString activeWindowName();
     std::filesystem::path dataFolder() const;
     QQuickWindow *window() const;
     void bringToFront();
-    ProgramEnd::Answers answersAtTheEnd();
+    OrderlyShutdown::Callbacks shutdownCallbacks();
     QString save();
     void followDataFolder(const SingleInstance &instance);
     void watchDataFolder();
@@ -66,11 +66,11 @@ private:
     void followTimer();
     void followTray();
     void followLoading();
-    void outliveTheWindow();
+    void keepRunningWithoutWindow();
     void tellFailure(const QString &errors);
-    void carryOut(TrayMenuRow::Command command);
+    void runTrayCommand(TrayMenuRow::Command command);
 
-    // What is used by others stands first, so that it goes last.
+    // Members are destroyed in reverse order, so dependencies are declared first.
     QtScheduler m_scheduler;
     SystemClock m_clock;
     SystemDataLocation m_dataLocation;
@@ -88,7 +88,7 @@ private:
     AppState m_appState{m_scheduler, m_clock, m_documentFile};
     SaveRetry m_saveRetry{m_appState, m_documentFile, m_scheduler};
     MainViewModel m_main{
-        m_appState, m_clock, {m_scheduler, m_pasteboard, m_fileChooser, m_pictureFiles}, menuPlace()};
+        m_appState, m_clock, {m_scheduler, m_pasteboard, m_fileChooser, m_pictureFiles}, menuLocation()};
     ExportViewModel m_exports{m_appState, {m_scheduler, m_fileChooser, m_exportFolder, m_pasteboard}};
     LaunchSequence m_launch{m_scheduler};
     PomodoroTimer m_pomodoroTimer{m_scheduler};
@@ -105,5 +105,5 @@ private:
     InstanceServer m_server{dataFolder(),
                             [this](const QStringList &arguments) { return m_remote.answer(arguments); }};
     QFileSystemWatcher m_folderWatcher;
-    ProgramEnd m_end{answersAtTheEnd()};
+    OrderlyShutdown m_end{shutdownCallbacks()};
 };

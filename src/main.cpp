@@ -1,4 +1,4 @@
-#include "Front/RunningInstance.h"
+#include "Launcher/RunningInstance.h"
 #include "PelkoApp.h"
 #include "Platform/LibraryExport.h"
 #include "Platform/SceneGraphChoice.h"
@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// The room of a picture that is let go belongs to the system again, not to the next picture of another size.
+/// Returns the memory of freed pictures to the system instead of keeping it in the heap.
 void tuneMallocForLargeImages()
 {
 #ifdef __GLIBC__
@@ -31,14 +31,14 @@ void tuneMallocForLargeImages()
 #endif
 }
 
-int say(const CommandLineAnswer &answer)
+int say(const CommandLineResult &answer)
 {
     std::fputs(answer.text.toLocal8Bit().constData(), answer.exitCode == 0 ? stdout : stderr);
     return answer.exitCode;
 }
 
-/// Straight into the file. What cannot be read is not written over behind the writer's back.
-CommandLineAnswer captureIntoFile(const DataLocation &location, SingleInstance &instance,
+/// Adds the spark to the file without a window. A file that cannot be read is not replaced.
+CommandLineResult captureIntoFile(const DataLocation &location, SingleInstance &instance,
                                   const SparkCommand &command)
 {
     QtScheduler scheduler;
@@ -68,11 +68,11 @@ int sayThereIsNoFolder()
     return say({MainTexts::tr("Pelko: Could not locate Application Support directory.") + u'\n', 1});
 }
 
-/// Where another process has the data folder, says what it answers and returns the exit code. Else this one
-/// has it.
-std::optional<int> yieldToAnother(SingleInstance &instance)
+/// If another process has locked the data folder, prints its reply and returns the exit code. Otherwise this
+/// one has it.
+std::optional<int> forwardToRunning(SingleInstance &instance)
 {
-    if (const auto answer = instance.yieldTo(QCoreApplication::arguments()))
+    if (const auto answer = instance.lockOrForward(QCoreApplication::arguments()))
         return say(*answer);
     if (const auto warning = instance.warning())
         std::fputs(warning->toLocal8Bit().constData(), stderr);
@@ -90,20 +90,20 @@ int showWindow(int &argc, char *argv[])
     if (!support)
         return sayThereIsNoFolder();
     SingleInstance instance(*support / "Pelko");
-    if (const std::optional<int> exitCode = yieldToAnother(instance))
+    if (const std::optional<int> exitCode = forwardToRunning(instance))
         return *exitCode;
     return PelkoApp(instance).run();
 }
 
-/// Carries out what needs no window.
+/// Runs a command that needs no window.
 int runInTerminal(int &argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     const Translations translations;
     if (qEnvironmentVariableIsSet(unansweredVariable))
         return say(SingleInstance::unanswered());
-    const CommandLine commandLine = readCommandLine(QCoreApplication::arguments());
-    if (const auto *known = std::get_if<CommandLineAnswer>(&commandLine))
+    const ParsedCommandLine commandLine = parseCommandLine(QCoreApplication::arguments());
+    if (const auto *known = std::get_if<CommandLineResult>(&commandLine))
         return say(*known);
     const SystemDataLocation location;
     const auto support = location.applicationSupportDirectory();
@@ -112,7 +112,7 @@ int runInTerminal(int &argc, char *argv[])
     if (const auto *exportTo = std::get_if<ExportCommand>(&commandLine))
         return say(exportLibrary(location, *exportTo));
     SingleInstance instance(*support / "Pelko");
-    if (const std::optional<int> exitCode = yieldToAnother(instance))
+    if (const std::optional<int> exitCode = forwardToRunning(instance))
         return *exitCode;
     if (const auto *spark = std::get_if<SparkCommand>(&commandLine))
         return say(captureIntoFile(location, instance, *spark));
@@ -126,16 +126,16 @@ bool wantsWindow(int argc, char *argv[])
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments << QString::fromLocal8Bit(argv[i]);
-    return std::holds_alternative<OpenCommand>(readCommandLine(arguments)) &&
+    return std::holds_alternative<OpenCommand>(parseCommandLine(arguments)) &&
            !qEnvironmentVariableIsSet(unansweredVariable);
 }
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    // A file that may not grow any further is a failed save, not the end of the program.
+    // Exceeding the file size limit must fail the save, not kill the process.
     std::signal(SIGXFSZ, SIG_IGN);
-    // What is written is for the writer only: it is left in no core file.
+    // Core dumps would contain the user's text.
     constexpr rlimit none{0, 0};
     ::setrlimit(RLIMIT_CORE, &none);
     tuneMallocForLargeImages();

@@ -713,7 +713,7 @@ Schreibt kurze Seiten, Block für Block.
     </message>
 </context>
 <context>
-    <name>NavigationFoot</name>
+    <name>NavigationFooter</name>
     <message>
         <source>Choose</source>
         <translation>Wählen</translation>
@@ -1314,7 +1314,7 @@ Schreibt kurze Seiten, Block für Block.
     </message>
 </context>
 <context>
-    <name>TopStrip</name>
+    <name>TitleBar</name>
     <message>
         <source>Menu</source>
         <translation>Menü</translation>

@@ -713,7 +713,7 @@ Write short pages, block by block.
     </message>
 </context>
 <context>
-    <name>NavigationFoot</name>
+    <name>NavigationFooter</name>
     <message>
         <source>Choose</source>
         <translation>Choisir</translation>
@@ -1314,7 +1314,7 @@ Write short pages, block by block.
     </message>
 </context>
 <context>
-    <name>TopStrip</name>
+    <name>TitleBar</name>
     <message>
         <source>Menu</source>
         <translation>Menu</translation>

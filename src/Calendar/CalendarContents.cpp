@@ -19,7 +19,7 @@ CalendarEvent eventFrom(const Occurrence &occurrence)
 
 CalendarContents::CalendarContents(const CalendarWindow &window, QSet<QByteArray> except)
     : m_except(std::move(except))
-    , m_span{.from = window.from + referenceDate, .to = window.to + referenceDate}
+    , m_range{.from = window.from + referenceDate, .to = window.to + referenceDate}
     , m_zones(window.zone)
     , m_reader(m_zones, [this](CalendarEntry &&entry) { keep(std::move(entry)); })
 {
@@ -42,15 +42,15 @@ void CalendarContents::keep(CalendarEntry &&entry)
     m_series[place].add(std::move(entry));
 }
 
-/// Told by the wall clock alone, which no zone moves by more than a day: most entries are long past.
+/// A cheap test with the wall time, which differs from UTC by less than a day. Most entries are long past.
 bool CalendarContents::isNear(const CalendarEntry &entry) const
 {
     constexpr qint64 slack = 2 * 86400;
     if (entry.repeats() || entry.recurrenceId)
         return true;
     const qint64 end = entry.end ? entry.end->wall : entry.start.wall + entry.span.roughSeconds();
-    return double(entry.start.wall - slack)<m_span.to &&double(std::max(entry.start.wall, end) + slack)>
-        m_span.from;
+    return double(entry.start.wall - slack)<m_range.to &&double(std::max(entry.start.wall, end) + slack)>
+        m_range.from;
 }
 
 QList<CalendarEvent> CalendarContents::events(const IsCancelled &isCancelled) const
@@ -62,7 +62,7 @@ QList<CalendarEvent> CalendarContents::events(const IsCancelled &isCancelled) co
                 continue;
             if (isCancelled())
                 return events;
-            for (const Occurrence &occurrence : series.occurrences(m_span, isCancelled))
+            for (const Occurrence &occurrence : series.occurrences(m_range, isCancelled))
                 events.append(eventFrom(occurrence));
         }
     }

@@ -6,22 +6,22 @@
 
 #include <QSet>
 
-/// One calendar, read from one or many texts for the sake of a window of time: what has nothing to do with
-/// the window is not kept.
+/// The events of one calendar, read from one or more iCalendar texts. Keeps only what can affect the events
+/// in a time window.
 class CalendarContents
 {
 public:
-    /// Leaves out events with the UIDs in `except`: they are known from another calendar.
+    /// Skips events with the UIDs in `except`, which another calendar has.
     explicit CalendarContents(const CalendarWindow &window, QSet<QByteArray> except = {});
     Q_DISABLE_COPY_MOVE(CalendarContents)
 
     void read(QByteArrayView text);
 
-    /// The events that overlap the window: first those that happen once, then the others, each in the order
-    /// in which they were read. Those that are known by the time that all is given up, if it is.
+    /// Returns the events that overlap the window: first the single ones, then the recurring ones, each in
+    /// the order in which they were read. After cancellation, returns the events found so far.
     QList<CalendarEvent> events(const IsCancelled &isCancelled) const;
 
-    /// The UIDs of what was kept.
+    /// The UIDs of the events that were kept.
     QSet<QByteArray> uids() const { return {m_places.keyBegin(), m_places.keyEnd()}; }
 
 private:
@@ -29,8 +29,8 @@ private:
     bool isNear(const CalendarEntry &entry) const;
 
     const QSet<QByteArray> m_except;
-    Span m_span;
-    ZoneTable m_zones;
+    TimeRange m_range;
+    TimeZoneTable m_zones;
     CalendarReader m_reader;
     std::vector<EventSeries> m_series;
     QHash<QByteArray, std::size_t> m_places; // in m_series, by the UID

@@ -6,32 +6,33 @@
 #include <QList>
 #include <QString>
 
-/// Another time at which an entry takes place, and how long it takes then if that differs.
-struct ExtraDate {
+/// An RDATE: an additional start, and its duration if that differs from the event's.
+struct RecurrenceDate {
     CalendarTime start;
-    std::optional<CalendarSpan> span = std::nullopt;
+    std::optional<CalendarDuration> span = std::nullopt;
 };
 
-/// One event as a calendar has it written down: by itself, the first of a series, or what one occurrence of a
-/// series was changed to.
+/// One VEVENT: a single event, the master of a series, or the override of an occurrence.
 struct CalendarEntry {
     QByteArray uid = {};
     std::optional<QString> title = std::nullopt;
     CalendarTime start = {};
-    /// How long it takes where no end is told.
-    CalendarSpan span = {};
+    /// The duration, used if `end` is not set.
+    CalendarDuration span = {};
     std::optional<CalendarTime> end = std::nullopt;
     bool isCancelled = false;
 
     QList<RecurrenceRule> rules = {};
-    QList<ExtraDate> extraDates = {};
+    QList<RecurrenceDate> recurrenceDates = {};
     QList<CalendarTime> exceptions = {};
 
-    /// The time of the occurrence that this takes the place of, and of all later ones where it says so.
+    /// The RECURRENCE-ID: the original start of the occurrence that this entry overrides. With
+    /// `isThisAndFuture` it overrides all later occurrences too.
     std::optional<CalendarTime> recurrenceId = std::nullopt;
-    bool isForFuture = false;
+    bool isThisAndFuture = false;
 
-    bool repeats() const { return !rules.isEmpty() || !extraDates.isEmpty(); }
-    /// Between start and end. Not to be asked for before the whole text was read: its zones may come last.
-    CalendarSpan length() const { return end ? spanBetween(start, *end) : span; }
+    bool repeats() const { return !rules.isEmpty() || !recurrenceDates.isEmpty(); }
+    /// The duration between start and end. Valid once the whole text was read, because its VTIMEZONEs may
+    /// come last.
+    CalendarDuration length() const { return end ? durationBetween(start, *end) : span; }
 };

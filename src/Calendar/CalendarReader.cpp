@@ -83,9 +83,9 @@ void CalendarReader::readEventLine(const ContentLine &line)
     } else if (line.is("DTEND")) {
         entry.end = m_zones.time(line, line.value);
     } else if (line.is("DURATION")) {
-        const auto span = parseSpan(line.value);
+        const auto span = parseDuration(line.value);
         m_event->hasSpan = span.has_value();
-        entry.span = span.value_or(CalendarSpan{});
+        entry.span = span.value_or(CalendarDuration{});
     } else if (line.is("STATUS")) {
         entry.isCancelled = isNamed(line.value, "CANCELLED");
     } else {
@@ -101,31 +101,31 @@ void CalendarReader::readRecurrenceLine(const ContentLine &line)
         if (rule && entry.rules.size() < mostRules)
             entry.rules.append(*rule);
     } else if (line.is("RDATE")) {
-        addExtraDates(line);
+        addRecurrenceDates(line);
     } else if (line.is("EXDATE")) {
         addExceptions(line);
     } else if (line.is("RECURRENCE-ID")) {
         entry.recurrenceId = m_zones.time(line, line.value);
         const auto range = line.parameter("RANGE");
-        entry.isForFuture = range && isNamed(*range, "THISANDFUTURE");
+        entry.isThisAndFuture = range && isNamed(*range, "THISANDFUTURE");
     }
 }
 
-void CalendarReader::addExtraDates(const ContentLine &line)
+void CalendarReader::addRecurrenceDates(const ContentLine &line)
 {
     for (const QByteArrayView value : listItems(line.value)) {
         const qsizetype slash = value.indexOf('/');
         const auto start = m_zones.time(line, slash < 0 ? value : value.first(slash));
         if (!start)
             continue;
-        ExtraDate extra{.start = *start};
+        RecurrenceDate extra{.start = *start};
         if (slash >= 0) {
             const QByteArrayView rest = value.sliced(slash + 1);
-            extra.span = parseSpan(rest);
+            extra.span = parseDuration(rest);
             if (const auto end = m_zones.time(line, rest); end && !extra.span)
-                extra.span = spanBetween(*start, *end);
+                extra.span = durationBetween(*start, *end);
         }
-        m_event->entry.extraDates.append(extra);
+        m_event->entry.recurrenceDates.append(extra);
     }
 }
 
@@ -156,14 +156,14 @@ void CalendarReader::readZoneLine(const ContentLine &line)
         return;
     Observance &observance = m_zone->observances.back();
     if (line.is("DTSTART")) {
-        observance.start = WrittenTime::parse(line.value).value_or(WrittenTime{}).wall;
+        observance.start = ParsedTime::parse(line.value).value_or(ParsedTime{}).wall;
     } else if (line.is("TZOFFSETFROM")) {
         observance.offsetBefore = offsetFrom(line.value);
     } else if (line.is("TZOFFSETTO")) {
         observance.offset = offsetFrom(line.value);
     } else if (line.is("RDATE")) {
         for (const QByteArrayView value : listItems(line.value)) {
-            if (const auto time = WrittenTime::parse(value))
+            if (const auto time = ParsedTime::parse(value))
                 observance.dates.push_back(time->wall);
         }
     } else if (line.is("RRULE")) {

@@ -6,8 +6,8 @@
 #include <optional>
 #include <vector>
 
-/// A title as a calendar writes it, for the user to read on one line; nothing where it is blank. Text that is
-/// not UTF-8 is taken for Latin-1.
+/// Unescapes a SUMMARY to one line of text. Returns std::nullopt if it is blank. Text that is not UTF-8 is
+/// read as Latin-1.
 std::optional<QString> titleFrom(QByteArrayView value);
 
 /// "one,two" as two.

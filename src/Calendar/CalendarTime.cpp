@@ -1,6 +1,6 @@
 #include "Calendar/CalendarTime.h"
 
-#include "Calendar/WallDay.h"
+#include "Calendar/WallTime.h"
 
 #include <algorithm>
 
@@ -39,7 +39,7 @@ std::optional<qint64> midnight(QByteArrayView digits)
     return wallOf(QDate(*year, *month, *day));
 }
 
-bool addPart(CalendarSpan &span, char unit, qint64 count)
+bool addPart(CalendarDuration &span, char unit, qint64 count)
 {
     switch (unit) {
     case 'W':
@@ -63,19 +63,19 @@ bool addPart(CalendarSpan &span, char unit, qint64 count)
 }
 } // namespace
 
-qint64 CalendarSpan::endUtc(qint64 wall, const WallZone &zone) const
+qint64 CalendarDuration::endUtc(qint64 wall, const TimeZone &zone) const
 {
-    return std::max(zone.utc(wall), zone.utc(wall + days * secondsOfDay) + seconds);
+    return std::max(zone.utc(wall), zone.utc(wall + days * secondsPerDay) + seconds);
 }
 
-CalendarSpan spanBetween(const CalendarTime &start, const CalendarTime &end)
+CalendarDuration durationBetween(const CalendarTime &start, const CalendarTime &end)
 {
     if (start.isDay)
         return {.days = std::max<qint64>(1, (end.wall - start.wall) / 86400)};
     return {.seconds = std::max<qint64>(0, end.utc() - start.utc())};
 }
 
-std::optional<WrittenTime> WrittenTime::parse(QByteArrayView text)
+std::optional<ParsedTime> ParsedTime::parse(QByteArrayView text)
 {
     text = text.trimmed();
     if (text.size() < 8)
@@ -84,17 +84,17 @@ std::optional<WrittenTime> WrittenTime::parse(QByteArrayView text)
     if (!day)
         return std::nullopt;
     if (text.size() == 8)
-        return WrittenTime{.wall = *day, .isDay = true};
+        return ParsedTime{.wall = *day, .isDay = true};
     if (text.size() < 15 || (text[8] != 'T' && text[8] != 't'))
         return std::nullopt;
     const auto time = secondsOfTime(text.sliced(9, 6));
     const QByteArrayView zone = text.sliced(15);
     if (!time || (!zone.isEmpty() && zone != "Z" && zone != "z"))
         return std::nullopt;
-    return WrittenTime{.wall = *day + *time, .isUtc = !zone.isEmpty()};
+    return ParsedTime{.wall = *day + *time, .isUtc = !zone.isEmpty()};
 }
 
-std::optional<CalendarSpan> parseSpan(QByteArrayView text)
+std::optional<CalendarDuration> parseDuration(QByteArrayView text)
 {
     text = text.trimmed();
     const bool isNegative = text.startsWith('-');
@@ -102,11 +102,11 @@ std::optional<CalendarSpan> parseSpan(QByteArrayView text)
         text = text.sliced(1);
     if (text.size() < 2 || (text.front() != 'P' && text.front() != 'p'))
         return std::nullopt;
-    CalendarSpan span;
+    CalendarDuration span;
     qint64 count = 0;
     for (const char letter : text.sliced(1)) {
         if (letter >= '0' && letter <= '9') {
-            count = std::min(count * 10 + (letter - '0'), mostDays * secondsOfDay);
+            count = std::min(count * 10 + (letter - '0'), mostDays * secondsPerDay);
         } else if (letter != 'T' && letter != 't') {
             if (!addPart(span, char(letter & ~0x20), count))
                 return std::nullopt;
@@ -114,6 +114,6 @@ std::optional<CalendarSpan> parseSpan(QByteArrayView text)
         }
     }
     const qint64 sign = isNegative ? -1 : 1;
-    return CalendarSpan{.days = sign * std::min(span.days, mostDays),
-                        .seconds = sign * std::min(span.seconds, mostDays * secondsOfDay)};
+    return CalendarDuration{.days = sign * std::min(span.days, mostDays),
+                            .seconds = sign * std::min(span.seconds, mostDays * secondsPerDay)};
 }

@@ -7,7 +7,7 @@ namespace
 {
 constexpr qsizetype longestLine = qsizetype(1) << 20;
 
-/// Where a character stands outside of quotation marks; -1 where it does not.
+/// Returns the position of a character outside of quotation marks, or -1.
 qsizetype unquoted(QByteArrayView text, char first, char second)
 {
     bool isQuoted = false;
@@ -75,7 +75,7 @@ std::optional<ContentLine> ContentLines::next()
     return std::nullopt;
 }
 
-/// What stands before the next end of a line, which is taken as well.
+/// Returns the text up to the next line ending and skips the line ending.
 QByteArrayView ContentLines::takePiece()
 {
     const void *end = std::memchr(m_rest.data(), '\n', std::size_t(m_rest.size()));

@@ -4,26 +4,26 @@
 
 #include <optional>
 
-/// One line of a calendar's text, taken apart: "NAME;PARAMETER=VALUE:VALUE". The parts are views into the
+/// One parsed content line of iCalendar: "NAME;PARAMETER=VALUE:VALUE". The parts are views into the
 /// text or, where a line was folded, into the lines it was read from, and hold until the next one is read.
 struct ContentLine {
     QByteArrayView name;
     QByteArrayView parameters;
     QByteArrayView value;
 
-    /// Names of components, properties and parameters may be written in either case.
+    /// Compares the name, ignoring case.
     bool is(QByteArrayView other) const;
     std::optional<QByteArrayView> parameter(QByteArrayView name) const;
 };
 
-/// Reads the lines of a text, whatever they end in, and joins those that were folded. What is no line of a
-/// calendar is passed over, and so is what is longer than a megabyte.
+/// Reads the content lines of a text, with any line ending, and unfolds them. Skips malformed lines and lines
+/// longer than a megabyte.
 class ContentLines
 {
 public:
     explicit ContentLines(QByteArrayView text) : m_rest(text) {}
 
-    /// Nothing at the end of the text.
+    /// Returns the next line, or std::nullopt at the end of the text.
     std::optional<ContentLine> next();
 
 private:

@@ -1,7 +1,8 @@
 #include "Calendar/EventSeries.h"
 
+#include "Calendar/ExceptionDates.h"
 #include "Calendar/ThisAndFutureOverrides.h"
-#include "Calendar/TimeSet.h"
+#include "Calendar/WallTime.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,8 +10,6 @@
 
 namespace
 {
-constexpr qint64 secondsPerDay = 86400;
-
 /// Sorts pointers: sorting the values makes GCC warn of an uninitialised title, which is optional.
 QList<Occurrence> byStartWithoutDuplicates(const QList<Occurrence> &occurrences)
 {
@@ -37,10 +36,10 @@ bool EventSeries::repeats() const
     return !m_changes.isEmpty() || std::ranges::any_of(m_entries, &CalendarEntry::repeats);
 }
 
-QList<Occurrence> EventSeries::occurrences(const Span &span, const IsCancelled &isCancelled) const
+QList<Occurrence> EventSeries::occurrences(const TimeRange &span, const IsCancelled &isCancelled) const
 {
     QList<Occurrence> found;
-    // Who calls all of it off says so once, and not of each occurrence that was changed before.
+    // A cancelled master cancels the whole series, also the overridden occurrences.
     if (!m_entries.isEmpty() && std::ranges::all_of(m_entries, &CalendarEntry::isCancelled))
         return found;
     for (const CalendarEntry &entry : m_entries) {
@@ -57,7 +56,7 @@ QList<Occurrence> EventSeries::occurrences(const Span &span, const IsCancelled &
     return byStartWithoutDuplicates(found);
 }
 
-void EventSeries::addRepeated(QList<Occurrence> &found, const CalendarEntry &entry, const Span &span,
+void EventSeries::addRepeated(QList<Occurrence> &found, const CalendarEntry &entry, const TimeRange &span,
                               const IsCancelled &isCancelled) const
 {
     const Instances all = instances(entry, span, isCancelled);
@@ -67,7 +66,7 @@ void EventSeries::addRepeated(QList<Occurrence> &found, const CalendarEntry &ent
         if (change && change->isCancelled)
             continue;
         const qint64 wall = instance.key() + (change ? later.shiftOf(*change) : 0);
-        const CalendarSpan length = change ? change->length() : instance.value();
+        const CalendarDuration length = change ? change->length() : instance.value();
         const qint64 start = entry.start.zone->utc(wall);
         addIfOverlapping(found, span,
                          {start, length.endUtc(wall, *entry.start.zone), change ? change->title : entry.title,
@@ -76,14 +75,14 @@ void EventSeries::addRepeated(QList<Occurrence> &found, const CalendarEntry &ent
 }
 
 /// The times an entry has by itself, near a span: without those that were left out or changed one by one.
-EventSeries::Instances EventSeries::instances(const CalendarEntry &entry, const Span &span,
+EventSeries::Instances EventSeries::instances(const CalendarEntry &entry, const TimeRange &span,
                                               const IsCancelled &isCancelled) const
 {
-    const WallZone &zone = *entry.start.zone;
-    const CalendarSpan length = entry.length();
+    const TimeZone &zone = *entry.start.zone;
+    const CalendarDuration length = entry.length();
     const ThisAndFutureOverrides later(entry, m_changes);
     qint64 longest = std::max(length.roughSeconds(), later.longest());
-    for (const ExtraDate &extra : entry.extraDates)
+    for (const RecurrenceDate &extra : entry.recurrenceDates)
         longest = std::max(longest, extra.span.value_or(length).roughSeconds());
     const qint64 slack = later.farthestShift() + secondsPerDay;
     const RecurrenceRule::Range range{.from = zone.wall(qint64(std::floor(span.from))) - longest - slack,
@@ -93,11 +92,11 @@ EventSeries::Instances EventSeries::instances(const CalendarEntry &entry, const 
         for (const qint64 wall : rule.times(entry.start, range, isCancelled))
             all.insert(wall, length);
     }
-    for (const ExtraDate &extra : entry.extraDates)
+    for (const RecurrenceDate &extra : entry.recurrenceDates)
         all.insert(extra.start.isDay ? extra.start.wall : zone.wall(extra.start.utc()),
                    extra.span.value_or(length));
 
-    TimeSet elsewhere(entry.start);
+    ExceptionDates elsewhere(entry.start);
     for (const CalendarTime &time : entry.exceptions)
         elsewhere.add(time);
     for (const CalendarEntry &change : m_changes)
@@ -109,7 +108,8 @@ EventSeries::Instances EventSeries::instances(const CalendarEntry &entry, const 
     return all;
 }
 
-void EventSeries::addIfOverlapping(QList<Occurrence> &found, const Span &span, const Occurrence &occurrence)
+void EventSeries::addIfOverlapping(QList<Occurrence> &found, const TimeRange &span,
+                                   const Occurrence &occurrence)
 {
     if (span.overlaps(occurrence.start, occurrence.end))
         found.append(occurrence);

@@ -18,7 +18,7 @@ bool names(const std::vector<int> &values, int place, int count)
 
 bool RecurrenceDays::isOn(QDate day) const
 {
-    // Most lists are empty, and what a date tells has to be worked out.
+    // Most lists are empty, and the fields of a QDate are computed.
     return (m_parts.months.empty() || names(m_parts.months, day.month(), 12)) &&
            (m_parts.monthDays.empty() || names(m_parts.monthDays, day.day(), day.daysInMonth())) &&
            (m_parts.yearDays.empty() || names(m_parts.yearDays, day.dayOfYear(), day.daysInYear())) &&

@@ -6,17 +6,17 @@
 
 #include <vector>
 
-/// Which days a rule names, by its parts that tell of days. What it leaves open, it takes from the first day.
+/// The days that a rule selects by its BY parts. Missing parts are taken from the start day.
 class RecurrenceDays
 {
 public:
-    /// `parts` have to live as long.
+    /// `parts` must outlive this object.
     RecurrenceDays(const RecurrenceParts &parts, QDate start) : m_parts(parts), m_start(start) {}
 
-    /// Of a rule that repeats within a day or each so many days.
+    /// Returns whether a daily or shorter rule selects the day.
     bool isOn(QDate day) const;
-    /// The days that the rule names in a week, month or year. A year of a rule with week numbers consists of
-    /// whole weeks.
+    /// Return the days that the rule selects in a week, month or year. The year of a rule with BYWEEKNO
+    /// consists of whole weeks.
     std::vector<QDate> inWeek(QDate first) const;
     std::vector<QDate> inMonth(int year, int month) const;
     std::vector<QDate> inYear(int year) const;

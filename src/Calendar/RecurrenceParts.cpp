@@ -75,7 +75,7 @@ bool readWeekDays(std::vector<RecurrenceParts::WeekDay> &list, QByteArrayView te
     return true;
 }
 
-/// Stores an optional value and tells whether there was one.
+/// Stores an optional value; returns whether it has a value.
 template <typename Value, typename Found>
 bool take(Value &value, const std::optional<Found> &found)
 {
@@ -94,7 +94,7 @@ bool readLimit(RecurrenceParts &parts, QByteArrayView name, QByteArrayView value
     if (isSame(name, "COUNT"))
         return take(parts.count, numberIn(value, 1, most));
     if (isSame(name, "UNTIL"))
-        return take(parts.until, WrittenTime::parse(value));
+        return take(parts.until, ParsedTime::parse(value));
     if (isSame(name, "WKST")) {
         const auto day = indexIn(weekDays, value);
         parts.firstDayOfWeek = day.value_or(0) + 1;

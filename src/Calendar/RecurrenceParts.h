@@ -19,7 +19,7 @@ struct RecurrenceParts {
     Frequency frequency = Frequency::daily;
     int interval = 1;
     std::optional<int> count = std::nullopt;
-    std::optional<WrittenTime> until = std::nullopt;
+    std::optional<ParsedTime> until = std::nullopt;
     int firstDayOfWeek = 1;
     std::vector<int> months = {};
     std::vector<int> weeks = {};

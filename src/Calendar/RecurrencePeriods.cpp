@@ -1,6 +1,6 @@
 #include "Calendar/RecurrencePeriods.h"
 
-#include "Calendar/WallDay.h"
+#include "Calendar/WallTime.h"
 
 #include <algorithm>
 #include <limits>
@@ -33,7 +33,7 @@ RecurrencePeriods::RecurrencePeriods(const RecurrenceParts &parts, const Calenda
     , m_firstDay(dayOfWall(start.wall))
 {
     const qint64 second = secondOfWall(start.wall);
-    // Whole days have no hours, whatever the rule says of them.
+    // An all-day event has no times of day, so BYHOUR, BYMINUTE and BYSECOND are ignored.
     m_hours = start.isDay ? std::vector{0} : orElse(parts.hours, second / 3600);
     m_minutes = start.isDay ? std::vector{0} : orElse(parts.minutes, second / 60 % 60);
     m_seconds = start.isDay ? std::vector{0} : orElse(parts.seconds, second % 60);
@@ -145,7 +145,7 @@ std::vector<qint64> RecurrencePeriods::takeTimesWithinDay()
     const qint64 second = secondOfWall(begin);
     std::vector<qint64> times;
     if (!m_days.isOn(dayOfWall(begin))) {
-        goToFirstAt(begin - second + secondsOfDay);
+        goToFirstAt(begin - second + secondsPerDay);
     } else if (!names(m_parts.hours, second / 3600)) {
         goToFirstAt(begin - second % 3600 + 3600);
     } else if (m_length < 3600 && !names(m_parts.minutes, second / 60 % 60)) {

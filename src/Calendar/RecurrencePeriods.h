@@ -2,22 +2,22 @@
 
 #include "Calendar/RecurrenceDays.h"
 
-/// Walks over the periods of a rule, from the one of the first time on: every second week, each third hour.
-/// Times are wall times, in seconds since 1970. Skips what names no day without looking into it.
+/// Iterates over the periods of a rule, such as every second week, starting with the period of the first
+/// occurrence. Times are wall times, in seconds since 1970. Periods that cannot contain a day are skipped.
 class RecurrencePeriods
 {
 public:
-    /// `parts` have to live as long.
+    /// `parts` must outlive this object.
     RecurrencePeriods(const RecurrenceParts &parts, const CalendarTime &start);
 
-    /// Goes on to the last period that does not begin after `moment`, if that is further on.
+    /// Advances to the last period that begins at or before `moment`; never goes back.
     void skipTo(qint64 moment);
 
-    /// When the current period begins. Later than any calendar when there is no further one.
+    /// The start of the current period; the maximum of qint64 after the last one.
     qint64 begin() const { return m_begin; }
 
-    /// Returns the times that the rule names in the current period, in order, and goes on to the next one.
-    /// There may be none. std::nullopt: they are more than anybody would enter, and were not worked out.
+    /// Returns the sorted times of the current period, possibly none, and advances to the next one. Returns
+    /// std::nullopt if the period has more times than the limit.
     std::optional<std::vector<qint64>> takeTimes();
 
 private:

@@ -1,7 +1,7 @@
 #include "Calendar/RecurrenceRule.h"
 
 #include "Calendar/RecurrencePeriods.h"
-#include "Calendar/WallDay.h"
+#include "Calendar/WallTime.h"
 
 #include <algorithm>
 
@@ -34,7 +34,7 @@ std::optional<qint64> RecurrenceRule::until(const CalendarTime &start) const
     if (!until)
         return std::nullopt;
     if (until->isDay)
-        return until->wall + secondsOfDay - 1;
+        return until->wall + secondsPerDay - 1;
     return until->isUtc ? start.zone->wall(until->wall) : until->wall;
 }
 

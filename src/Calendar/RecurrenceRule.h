@@ -6,16 +6,15 @@
 #include <memory>
 #include <vector>
 
-/// Nobody waits any more for what is being worked out.
+/// Returns true when the result is no longer needed; the computation then stops early.
 using IsCancelled = std::function<bool()>;
 
-/// A recurrence rule: "FREQ=WEEKLY;BYDAY=MO". Whatever it says, working out its times ends soon: after ten
-/// thousand times it counts as if it ended, and one that nobody would enter, like every second of a year, has
-/// none.
+/// A recurrence rule such as "FREQ=WEEKLY;BYDAY=MO". The cost is bounded: a rule ends after ten thousand
+/// times, and a rule with excessive periods, such as every second of a year, has no times.
 class RecurrenceRule
 {
 public:
-    /// Wall times: from the first moment to the last but one.
+    /// The half-open interval [from, to) of wall times.
     struct Range {
         qint64 from = 0;
         qint64 to = 0;
@@ -26,12 +25,12 @@ public:
 
     bool isYearly() const;
 
-    /// The times in the range, in order, of what begins at `start`. The start itself is among them only where
-    /// the rule names it.
+    /// Returns the sorted times in the range for an event that starts at `start`. The start itself is
+    /// included only if the rule selects it.
     std::vector<qint64> times(const CalendarTime &start, const Range &range,
                               const IsCancelled &isCancelled) const;
 
-    /// The wall time of the rule's end, if it has one, for what starts in a zone.
+    /// Returns UNTIL as a wall time in the zone of `start`, or std::nullopt if the rule has no UNTIL.
     std::optional<qint64> until(const CalendarTime &start) const;
 
 private:

@@ -5,10 +5,10 @@
 
 namespace
 {
-/// Nobody moves a series by more than a year; who looked for it would look through all of that time.
+/// The largest shift that is supported, one year: the search range grows with it.
 constexpr qint64 farthestMove = qint64(86400) * 366;
 
-/// What a clock of the entry's zone shows at a time of another.
+/// Converts a time to wall time in the entry's zone.
 qint64 wallOf(const CalendarTime &time, const CalendarEntry &entry)
 {
     return time.isDay ? time.wall : entry.start.zone->wall(time.utc());
@@ -20,7 +20,7 @@ ThisAndFutureOverrides::ThisAndFutureOverrides(const CalendarEntry &entry,
     : m_entry(entry)
 {
     for (const CalendarEntry &change : changes) {
-        if (change.isForFuture)
+        if (change.isThisAndFuture)
             m_changes.emplace(wallOf(*change.recurrenceId, entry), &change);
     }
 }

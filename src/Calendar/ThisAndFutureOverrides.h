@@ -4,19 +4,19 @@
 
 #include <map>
 
-/// What all occurrences of a series from one on were changed to, as they count for one entry of it.
+/// The RANGE=THISANDFUTURE overrides that apply to one entry of a series.
 class ThisAndFutureOverrides
 {
 public:
     ThisAndFutureOverrides(const CalendarEntry &entry, const QList<CalendarEntry> &changes);
 
-    /// The change that holds for what the entry had at a wall time; null where none does.
+    /// Returns the override for the occurrence at a wall time, or nullptr.
     const CalendarEntry *at(qint64 wall) const;
-    /// By how much such a change moves what it holds for.
+    /// Returns by how many seconds an override moves its occurrences.
     qint64 shiftOf(const CalendarEntry &change) const;
-    /// By how much a change moves the entry at most, up to a year.
+    /// Returns the largest shift in seconds, up to a year.
     qint64 farthestShift() const;
-    /// How long the entry takes at most after a change.
+    /// Returns the longest duration of an override, in seconds.
     qint64 longest() const;
 
 private:

@@ -7,10 +7,10 @@ namespace
 constexpr qint64 twoYears = qint64(86400) * 731;
 
 /// How far ahead of the world's clocks those of a zone stay.
-class FixedZone : public WallZone
+class FixedTimeZone : public TimeZone
 {
 public:
-    explicit FixedZone(qint64 offset) : m_offset(offset) {}
+    explicit FixedTimeZone(qint64 offset) : m_offset(offset) {}
 
     qint64 offsetAt(qint64) const override { return m_offset; }
 
@@ -30,7 +30,7 @@ std::optional<qint64> Observance::lastBeginning(qint64 utc) const
             last = std::max(last, date);
     }
     if (rule) {
-        const CalendarTime first{.wall = start, .zone = std::make_shared<FixedZone>(offsetBefore)};
+        const CalendarTime first{.wall = start, .zone = std::make_shared<FixedTimeZone>(offsetBefore)};
         const qint64 end = std::min(wall, rule->until(first).value_or(wall));
         const auto &times = timesAround(first, end);
         const auto next = std::ranges::upper_bound(times, end);

@@ -4,30 +4,30 @@
 
 #include <limits>
 
-/// A time of year with its own offset, summer or winter, as a calendar describes it.
+/// A STANDARD or DAYLIGHT section of a VTIMEZONE. Offsets are seconds east of UTC.
 struct Observance {
-    /// When it began first, as clocks showed it until then.
+    /// Its first onset, as wall time with `offsetBefore`.
     qint64 start = 0;
     qint64 offsetBefore = 0;
     qint64 offset = 0;
     std::vector<qint64> dates = {};
     std::optional<RecurrenceRule> rule = std::nullopt;
 
-    /// Its last beginning not after a moment.
+    /// Returns its last onset at or before a UTC time, or std::nullopt.
     std::optional<qint64> lastBeginning(qint64 utc) const;
 
-    /// The times of the rule in the four years around a wall time. A zone is asked for every event, so they
-    /// are kept until another time is asked for.
+    /// Returns the rule's onsets in the four years around a wall time. The last result is cached, because
+    /// every event queries its zone.
     const std::vector<qint64> &timesAround(const CalendarTime &first, qint64 wall) const;
     mutable std::vector<qint64> knownTimes = {};
     mutable qint64 knownPart = std::numeric_limits<qint64>::min();
 };
 
-/// A zone that only a calendar knows. One without any observance is the user's own.
-class VTimeZone : public WallZone
+/// A zone described by a VTIMEZONE. Without observances it behaves like the fallback zone.
+class VTimeZone : public TimeZone
 {
 public:
-    explicit VTimeZone(std::shared_ptr<const WallZone> otherwise) : m_otherwise(std::move(otherwise)) {}
+    explicit VTimeZone(std::shared_ptr<const TimeZone> otherwise) : m_otherwise(std::move(otherwise)) {}
 
     void setObservances(std::vector<Observance> observances);
 
@@ -35,5 +35,5 @@ public:
 
 private:
     std::vector<Observance> m_observances; // by their start
-    std::shared_ptr<const WallZone> m_otherwise;
+    std::shared_ptr<const TimeZone> m_otherwise;
 };

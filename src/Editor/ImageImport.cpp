@@ -16,7 +16,7 @@ void ImageImport::addImage(const QString &blockID)
     if (m_showImagePicker)
         return;
     setShowImagePicker(true);
-    m_choosing = m_chooser.choose(FileChooser::Wanted::picture,
+    m_choosing = m_chooser.choose(FileChooser::Target::picture,
                                   [this](const FileChooser::Choice &choice) { take(choice); });
 }
 

@@ -16,7 +16,7 @@ QList<ExportedFile> page(const PelkoDocument &document);
 /// library is always the same files.
 QList<ExportedFile> library(const QList<PelkoDocument> &documents);
 
-/// How much that is, such as "12 pages and 1 picture".
+/// Returns the number of pages and pictures as text, such as "12 pages and 1 picture".
 QString contents(const QList<PelkoDocument> &documents);
 
 } // namespace Export

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-// File systems allow 255 bytes, encrypting ones about 140. What is added to a name stays below 60.
+// File systems allow 255 bytes, encrypting ones about 140. Suffixes stay below 60.
 constexpr qsizetype longestName = 80;
 
 bool isDropped(QChar character)
@@ -56,7 +56,7 @@ QString shortened(const QString &name, qsizetype bytes)
     return name.first(lastSpace > end / 2 ? lastSpace : end);
 }
 
-/// Names that stand for devices on some systems, whatever follows their first dot.
+/// Reserved device names on some systems, with any suffix.
 bool isReserved(const QString &name)
 {
     static const QRegularExpression devices(
@@ -88,7 +88,7 @@ QString FileNames::take(const QString &text, const QUuid &id)
         if (takeIfFree(name))
             return name;
     }
-    // Only a file written by hand holds the same id twice.
+    // Duplicate ids only occur in hand-written files.
     for (int number = 2;; ++number) {
         const QString name = plain + u' ' + QString::number(number);
         if (takeIfFree(name))

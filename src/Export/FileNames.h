@@ -9,13 +9,13 @@
 /// enough for a number and a suffix to be added. "Untitled" where nothing is left.
 QString fileNameFrom(const QString &text);
 
-/// Gives the files of one folder names of their own. Names that differ only in case, or in how an accent is
+/// Assigns unique names to the files of one folder. Names that differ only in case, or in how an accent is
 /// put together, are the same name on some file systems, so they are here.
 class FileNames
 {
 public:
-    /// The name the text makes, if it is free; else with the beginning of the id after it. Who asks first has
-    /// the plain name: ask for the oldest first and a newcomer never takes a name away.
+    /// Returns the file name for the text and reserves it. If it is taken, appends the beginning of the id.
+    /// Call it for the oldest page first, so that a new page never changes the name of an older one.
     QString take(const QString &text, const QUuid &id);
 
 private:

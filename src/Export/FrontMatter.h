@@ -2,6 +2,6 @@
 
 #include "Models/PelkoDocument.h"
 
-/// What is to be known of a page besides its text, as the block of YAML that stands before Markdown: title,
-/// space, dates in ISO 8601 and UTC, marks that are set, and the id. A date beyond the calendar is left out.
+/// Returns the YAML front matter of a page: title, space, dates in ISO 8601 and UTC, flags that are set, and
+/// the id. A date out of range is omitted.
 QString frontMatter(const PelkoDocument &document);

@@ -22,7 +22,7 @@ QString spelledOut(QChar c)
     return u"&#%1;"_s.arg(c.unicode());
 }
 
-/// One line of text and what a reader of CommonMark would see in it.
+/// One line of text and how a CommonMark parser would interpret it.
 class Line
 {
 public:

@@ -28,7 +28,7 @@ QByteArrayView bytes(QLatin1StringView text)
 
 constexpr Mark none{0, {}};
 
-// Of two formats that share their first mark the narrower stands first.
+// If two formats have the same signature, the more specific one is first.
 const Format formats[] = {
     {{0, bytes("\x89PNG\r\n\x1a\n"_L1)}, none, "png"_L1},
     {{0, bytes("\xff\xd8\xff"_L1)}, none, "jpg"_L1},

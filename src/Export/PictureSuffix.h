@@ -3,6 +3,6 @@
 #include <QByteArrayView>
 #include <QString>
 
-/// How files of that format usually end, without the dot. The first bytes tell the format; "bin" where they
-/// tell nothing.
+/// Returns the usual file name suffix of a picture, without the dot, from its first bytes; "bin" if the
+/// format is unknown.
 QString pictureSuffix(QByteArrayView picture);

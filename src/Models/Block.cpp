@@ -12,7 +12,7 @@ bool isSameID(const QUuid &one, const QUuid &other)
     return std::memcmp(&one, &other, sizeof(QUuid)) == 0;
 }
 
-/// Versions of a page share the texts that did not change: most are told to be equal without being read.
+/// Versions of a page share unchanged texts, so comparing addresses decides most cases.
 bool isSameText(const QString &one, const QString &other)
 {
     return (one.constData() == other.constData() && one.size() == other.size()) || one == other;

@@ -23,7 +23,7 @@ struct Block {
     /// The title laid over a banner.
     std::optional<QString> bannerTitle;
 
-    /// Nobody's block, to be filled: a fresh id costs a system call.
+    /// Null id, for readers that fill it in. Generating a UUID costs a system call.
     Block() = default;
     /// A new block, with an id of its own.
     explicit Block(BlockType blockType, QString text = {})
@@ -39,5 +39,6 @@ struct Block {
     bool operator==(const Block &other) const;
 };
 
-/// Copies of a picture share its bytes; to compare all of them with every key would be felt.
+/// Compares the addresses first: copies of a picture share their bytes, and comparing megabytes with every
+/// key would be slow.
 bool isSamePicture(const std::optional<QByteArray> &one, const std::optional<QByteArray> &other);

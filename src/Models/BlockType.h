@@ -16,5 +16,5 @@ constexpr bool isTextLike(BlockType type)
 /// The name under which the kind stands in the data file.
 QString rawValue(BlockType type);
 
-/// The kind of that exact name, or nothing.
+/// Returns the kind with this exact name, or std::nullopt.
 std::optional<BlockType> blockTypeFromRawValue(QAnyStringView raw);

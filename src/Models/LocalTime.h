@@ -5,9 +5,9 @@
 #include <QDateTime>
 #include <QTimeZone>
 
-/// What calendar and clock of that zone say at that moment. A file may hold any number, a calendar may not:
-/// times beyond some 270,000 years count as its edge.
+/// Converts a timestamp to a date and time in a zone. Timestamps beyond the range of QDateTime, about 270,000
+/// years, are clamped.
 QDateTime localTime(Timestamp time, const QTimeZone &zone);
 
-/// The moment that a date and a time of day name, to the millisecond.
+/// Converts a date and time to a timestamp with a precision of a millisecond.
 Timestamp timestampOf(const QDateTime &time);

@@ -19,7 +19,7 @@ struct PelkoDocument {
     std::optional<bool> isPinned;
     std::optional<bool> isArchived;
 
-    /// Nobody's page, to be filled: a fresh id costs a system call.
+    /// Null id and no blocks, for readers that fill it in. Generating a UUID costs a system call.
     PelkoDocument() = default;
     /// A new page with an id of its own: an empty heading, then an empty body block.
     PelkoDocument(Space space, Timestamp createdAt);
@@ -36,7 +36,6 @@ struct PelkoDocument {
     bool operator==(const PelkoDocument &) const = default;
 };
 
-/// Whether the page is still as it was when the other was copied from it, told without reading the blocks:
-/// whoever changes one of two lists that share their elements gets elements of his own. So as long as a copy
-/// is kept, sharing with it means that nothing has changed.
+/// Returns whether `document` is unchanged since `kept` was copied from it, without comparing the blocks. A
+/// list detaches when it is changed, so a list that still shares its data with the copy is unchanged.
 bool isUnchanged(const PelkoDocument &document, const PelkoDocument &kept);

@@ -16,5 +16,5 @@ QString rawValue(Space space);
 /// What the space is called on screen.
 QString displayName(Space space);
 
-/// The space of that exact name, or nothing.
+/// Returns the space with this exact name, or std::nullopt.
 std::optional<Space> spaceFromRawValue(QAnyStringView raw);

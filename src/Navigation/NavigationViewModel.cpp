@@ -10,7 +10,7 @@
 
 namespace
 {
-constexpr qsizetype shownHits = 100; // nobody reads on behind them; one more word finds better
+constexpr qsizetype shownHits = 100; // more are of no use: another word narrows the search
 
 QString hitsInWords(qsizetype hits)
 {

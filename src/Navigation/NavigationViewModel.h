@@ -8,9 +8,9 @@
 class AppState;
 class Clock;
 
-/// The way around: the three spaces, the pages of the current one, and a search over all of them. One row is
-/// chosen, by arrow keys; the one behind the last page makes a new one. While the navigation is closed it
-/// follows nothing, and with each opening it begins anew.
+/// The view model of the navigation overlay: the three spaces, the pages of the current one, and a search
+/// over all of them. One row is chosen, by arrow keys; the one behind the last page makes a new one. While
+/// the navigation is closed it follows nothing, and with each opening it begins anew.
 class NavigationViewModel : public QObject
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ public:
 
     QString query() const { return m_query; }
     bool isSearching() const { return !m_query.trimmed().isEmpty(); }
-    /// What a search came to, or that the space is empty; else nothing.
+    /// The number of search results, or that the space is empty; otherwise an empty text.
     QString summary() const;
     /// Beside the row that makes a new page.
     QString placesLeft() const;

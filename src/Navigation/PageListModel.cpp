@@ -20,14 +20,14 @@ QString PageListModel::ageAndLength(const PelkoDocument &page) const
                             tr("%n word(s)", nullptr, static_cast<int>(words)));
 }
 
-MarkedLine PageListModel::name(const PageRow &row) const
+HighlightedLine PageListModel::name(const PageRow &row) const
 {
-    return row.name.value_or(MarkedLine{pageName(row.page), {}});
+    return row.name.value_or(HighlightedLine{pageName(row.page), {}});
 }
 
-MarkedLine PageListModel::detail(const PageRow &row) const
+HighlightedLine PageListModel::detail(const PageRow &row) const
 {
-    return row.context ? *row.context : MarkedLine{ageAndLength(row.page), {}};
+    return row.context ? *row.context : HighlightedLine{ageAndLength(row.page), {}};
 }
 
 QString PageListModel::description(const PageRow &row) const
@@ -77,7 +77,7 @@ QVariant PageListModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> PageListModel::roleNames() const
 {
-    // A control's name is what is read out of it.
+    // Screen readers read the accessible name.
     return {{PageIDRole, "pageID"}, {NameRole, "titleLine"},   {DetailRole, "detailLine"},
             {IsOpenRole, "isOpen"}, {IsSparkRole, "isSpark"},  {IsPinnedRole, "isPinned"},
             {SpaceRole, "space"},   {DescriptionRole, "name"}, {IsArchivedRole, "isArchived"}};

@@ -38,8 +38,8 @@ protected:
 
 private:
     QString ageAndLength(const PelkoDocument &page) const;
-    MarkedLine name(const PageRow &row) const;
-    MarkedLine detail(const PageRow &row) const;
+    HighlightedLine name(const PageRow &row) const;
+    HighlightedLine detail(const PageRow &row) const;
     QString description(const PageRow &row) const;
 
     Timestamp m_now = 0;

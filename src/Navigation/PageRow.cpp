@@ -17,13 +17,13 @@ QString textNumber(const PelkoDocument &page, qsizetype number)
     return found;
 }
 
-MarkedLine nameOfHit(const PelkoDocument &page, const SearchWords &words)
+HighlightedLine nameOfHit(const PelkoDocument &page, const SearchWords &words)
 {
     const QString name = namingText(page);
-    Found best;
+    WordMatch best;
     const QString folded = FoldedText::folded(name);
     for (const SearchWord &word : words.all()) {
-        const Found found = word.best(folded);
+        const WordMatch found = word.best(folded);
         if (found.fit > best.fit)
             best = found;
     }
@@ -41,7 +41,7 @@ PageRow hitRow(const PelkoDocument &page, const PageHit &hit, const SearchWords 
         return row;
     }
     const QString text = textNumber(page, hit.text);
-    const MarkedLine line = lineAround(text, FoldedText::originOf(text, hit.place), words);
+    const HighlightedLine line = lineAround(text, FoldedText::originOf(text, hit.place), words);
     if (isSpark(page)) {
         row.name = line;
         return row;

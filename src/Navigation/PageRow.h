@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Navigation/MarkedLine.h"
+#include "Navigation/HighlightedLine.h"
 #include "Navigation/PageSearch.h"
 
 /// One page in the list of the navigation. What costs something to tell of the page is left until it is asked
@@ -9,8 +9,8 @@ struct PageRow {
     PelkoDocument page;
     bool isOpen = false;
     /// Where a search found it: its name, and the text that speaks of it.
-    std::optional<MarkedLine> name;
-    std::optional<MarkedLine> context;
+    std::optional<HighlightedLine> name;
+    std::optional<HighlightedLine> context;
 
     bool operator==(const PageRow &) const = default;
 };

@@ -17,7 +17,7 @@ class Reader
 public:
     explicit Reader(const SearchWords &words) : m_words(words) {}
 
-    /// Nothing where a word is missing.
+    /// Returns std::nullopt if a word is missing.
     std::optional<PageHit> read(const PelkoDocument &page)
     {
         m_title = isSpark(page) ? QString() : page.title();
@@ -69,7 +69,7 @@ private:
         for (std::size_t index = 0; index < count(); ++index) {
             if (m_inTexts[index] == Fit::whole)
                 continue;
-            const Found found = word(index).best(m_folded);
+            const WordMatch found = word(index).best(m_folded);
             if (found.fit <= m_inTexts[index])
                 continue;
             m_inTexts[index] = found.fit;

@@ -13,18 +13,18 @@ bool isEdge(QChar before, QChar after)
 }
 } // namespace
 
-Found SearchWord::next(QStringView folded, qsizetype from) const
+WordMatch SearchWord::next(QStringView folded, qsizetype from) const
 {
-    // A letter stands in most words, and to start the matcher anew for each costs more than to look for it.
+    // A single letter occurs in most words; restarting the matcher for each would cost more than the search.
     const qsizetype place =
         length() == 1 ? folded.indexOf(m_word.front(), from) : m_matcher.indexIn(folded, from);
-    return place < 0 ? Found() : Found{fitAt(folded, place), place};
+    return place < 0 ? WordMatch() : WordMatch{fitAt(folded, place), place};
 }
 
-Found SearchWord::best(QStringView folded) const
+WordMatch SearchWord::best(QStringView folded) const
 {
-    Found best;
-    for (Found found = next(folded, 0); found.fit != Fit::none; found = next(folded, found.place + 1)) {
+    WordMatch best;
+    for (WordMatch found = next(folded, 0); found.fit != Fit::none; found = next(folded, found.place + 1)) {
         if (found.fit > best.fit)
             best = found;
         if (best.fit == Fit::whole)

@@ -8,7 +8,7 @@
 enum class Fit { none, within, beginning, whole };
 
 /// Where a word was found in a folded text.
-struct Found {
+struct WordMatch {
     Fit fit = Fit::none;
     qsizetype place = -1;
 };
@@ -21,9 +21,9 @@ public:
 
     qsizetype length() const { return m_word.size(); }
     /// The first place from `from` on where it stands in the folded text.
-    Found next(QStringView folded, qsizetype from) const;
+    WordMatch next(QStringView folded, qsizetype from) const;
     /// The first of the places that it fits best.
-    Found best(QStringView folded) const;
+    WordMatch best(QStringView folded) const;
 
 private:
     Fit fitAt(QStringView folded, qsizetype place) const;

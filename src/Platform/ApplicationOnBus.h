@@ -5,7 +5,7 @@
 #include <QVariantMap>
 
 /// The program under its name on the session bus, as desktops expect it: `Activate` brings its window to the
-/// front. The name goes to the first; a second, with another data folder, does without.
+/// front. Only the first process owns the name; a second one, with another data folder, has none.
 class ApplicationOnBus : public QObject
 {
     Q_OBJECT

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 namespace
 {
 constexpr qint64 writeBackStep = 1024 * 1024;
-constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR; // what mkostemp gives
+constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR; // as mkostemp sets it
 constexpr std::string_view uniquePart = "XXXXXX";
 
 /// The file itself, also behind links to files that do not exist yet.
@@ -128,7 +128,7 @@ void AtomicFile::removeAbandoned(const fs::path &path)
     }
 }
 
-/// Has the disk begin with what there is, so that the final flush of a large file has little left to do.
+/// Starts asynchronous write-back, which shortens the final fdatasync of a large file.
 void AtomicFile::startWriteBack()
 {
 #ifdef Q_OS_LINUX

@@ -16,13 +16,14 @@ public:
 
     [[nodiscard]] std::optional<FileError> open(const std::filesystem::path &path);
     [[nodiscard]] std::optional<FileError> write(QByteArrayView bytes) override;
-    /// Gives the file's name to the new version, whose bytes have reached the disk.
+    /// Synchronises the new version and renames it over the target.
     [[nodiscard]] std::optional<FileError> commit();
-    /// Makes the name outlive a power cut, and frees the room of the version that had it. After `commit`, and
-    /// on any thread: either can take as long as the writing did.
+    /// Synchronises the directory and frees the replaced version. Call it after `commit`, on any thread; it
+    /// can take as long as writing.
     [[nodiscard]] std::optional<FileError> settle();
 
-    /// Removes what versions of `path` a killed process left behind, but none that is being written.
+    /// Removes temporary files of `path` that a killed process left behind. Files being written are locked
+    /// and stay.
     static void removeAbandoned(const std::filesystem::path &path);
 
 private:
@@ -31,7 +32,7 @@ private:
     std::filesystem::path m_target;
     std::filesystem::path m_temporary; // empty when there is none to remove
     FileDescriptor m_descriptor;
-    FileDescriptor m_replaced; // a file's room is freed when nobody holds it any longer
+    FileDescriptor m_replaced; // the last open descriptor: closing it frees the blocks
     qint64 m_written = 0;
     qint64 m_writtenBack = 0;
 };

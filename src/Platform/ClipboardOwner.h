@@ -8,14 +8,14 @@
 struct xcb_connection_t;
 
 /// Tells whether the program that owns the X11 clipboard or primary selection still answers. It has a
-/// connection to the X server beside Qt's, so that nobody else takes the answers, and keeps it: the owner may
+/// own connection to the X server, so that Qt does not receive the answers, and keeps it open: the owner may
 /// answer late, to a window that must still be there.
 class ClipboardOwner
 {
 public:
     ClipboardOwner();
 
-    /// Waits for an answer for a fifth of a second at most. True also where nobody owns it, where this
+    /// Waits for an answer for a fifth of a second at most. Also true if there is no owner, if this
     /// program does, and on platforms other than X11.
     bool answers(QClipboard::Mode mode) const;
 

@@ -99,7 +99,7 @@ ExportFolder::Outcome ExportWriter::write(const QList<ExportedFile> &files, cons
 {
     const QStringList paths = taken(files);
     if (m_existing == ExportFolder::Existing::keep && !paths.isEmpty())
-        return ExportFolder::Taken{paths};
+        return ExportFolder::Conflicts{paths};
     Attempt attempt(m_folder, m_existing);
     Error error = attempt.prepare();
     if (!error)
@@ -109,7 +109,7 @@ ExportFolder::Outcome ExportWriter::write(const QList<ExportedFile> &files, cons
     if (error)
         return *error;
     attempt.keep();
-    return ExportFolder::Written{};
+    return ExportFolder::Success{};
 }
 
 QStringList ExportWriter::taken(const QList<ExportedFile> &files) const

@@ -2,12 +2,12 @@
 
 #include "Services/ExportFolder.h"
 
-/// Writes an export: all files into a hidden folder beside their places, then onto the disk, and only then to
-/// where they belong. Whatever fails in between, the user's folder is what it was before.
+/// Writes an export: all files into a hidden staging folder, synchronises them, then renames them into place.
+/// If a step fails, the user's folder is unchanged.
 class ExportWriter
 {
 public:
-    /// Told how many files of how many are written; says whether to go on.
+    /// Called after each file. Returns false to cancel.
     using Progress = std::function<bool(qsizetype written, qsizetype all)>;
 
     ExportWriter(const std::filesystem::path &folder, ExportFolder::Existing existing)
@@ -16,7 +16,7 @@ public:
     {
     }
 
-    /// Takes its time; on any thread. Given up is an error too.
+    /// Blocks; may be called on any thread. Cancellation is returned as an error.
     ExportFolder::Outcome write(const QList<ExportedFile> &files, const Progress &progress) const;
 
 private:

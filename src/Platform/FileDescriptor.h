@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <utility>
 
-/// An open file of the operating system, closed with its owner; or none, where opening failed.
+/// Owns a POSIX file descriptor, or none if opening failed.
 class FileDescriptor
 {
 public:
@@ -24,14 +24,14 @@ public:
 
     /// Writes all of it.
     [[nodiscard]] std::optional<FileError> write(QByteArrayView bytes) const;
-    /// Some file systems tell only now that what was written has found no room.
+    /// Closes the file. Some file systems report a full disk only here.
     [[nodiscard]] std::optional<FileError> close();
 
 private:
     int m_number = -1;
 };
 
-/// What the last system call that failed has to say, in the user's language.
+/// Returns the localised message of errno.
 FileError lastSystemError();
 /// The same for an error number.
 FileError systemError(int code);

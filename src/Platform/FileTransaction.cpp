@@ -51,7 +51,7 @@ std::optional<FileError> FileTransaction::makeFolder(const fs::path &folder)
             return error;
     }
     if (::mkdir(folder.c_str(), S_IRWXU | S_IRWXG | S_IRWXO) != 0)
-        return errno == EEXIST ? systemError(ENOTDIR) : lastSystemError(); // something else has its name
+        return errno == EEXIST ? systemError(ENOTDIR) : lastSystemError(); // a file has that name
     m_steps.push_back({Step::Kind::madeFolder, folder});
     return std::nullopt;
 }

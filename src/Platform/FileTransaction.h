@@ -26,7 +26,7 @@ public:
     [[nodiscard]] std::optional<FileError> moveAside(const std::filesystem::path &target,
                                                      const std::filesystem::path &aside);
 
-    /// What was done stays.
+    /// Keeps the changes: the destructor will not roll back.
     void keep() { m_steps.clear(); }
 
 private:

@@ -1,6 +1,6 @@
 #include "Platform/InstanceServer.h"
 
-#include "Front/InstanceSocket.h"
+#include "Launcher/InstanceSocket.h"
 
 #include <QSocketNotifier>
 
@@ -19,17 +19,17 @@ ino_t inodeOf(const char *path)
     return ::lstat(path, &status) == 0 ? status.st_ino : 0;
 }
 
-/// One caller: what it sends is gathered until it has sent all, then it gets its answer.
-class Caller : public QObject
+/// The connection of one client: reads the whole request, then sends the reply.
+class Client : public QObject
 {
 public:
-    Caller(FileDescriptor socket, InstanceServer::Answer answer, QObject *parent)
+    Client(FileDescriptor socket, InstanceServer::Answer answer, QObject *parent)
         : QObject(parent)
         , m_socket(std::move(socket))
         , m_answer(std::move(answer))
         , m_notifier(m_socket.number(), QSocketNotifier::Read)
     {
-        connect(&m_notifier, &QSocketNotifier::activated, this, &Caller::receive);
+        connect(&m_notifier, &QSocketNotifier::activated, this, &Client::receive);
     }
 
 private:
@@ -60,9 +60,9 @@ private:
         QStringList arguments{QStringLiteral("pelko")};
         for (const QByteArray &argument : parts.mid(1))
             arguments.append(QString::fromLocal8Bit(argument));
-        const CommandLineAnswer answer = m_answer(arguments);
+        const CommandLineResult answer = m_answer(arguments);
         const QByteArray bytes = char(answer.exitCode) + answer.text.toLocal8Bit();
-        // Answers are a line or a page: they fit into what the system keeps for a caller who is slow.
+        // Replies are short enough for the socket buffer, so a slow client does not block.
         ::send(m_socket.number(), bytes.constData(), std::size_t(bytes.size()), MSG_NOSIGNAL | MSG_DONTWAIT);
     }
 
@@ -107,7 +107,7 @@ InstanceServer::~InstanceServer()
 
 void InstanceServer::accept()
 {
-    FileDescriptor caller(::accept4(m_socket.number(), nullptr, nullptr, SOCK_CLOEXEC));
-    if (caller.isOpen())
-        new Caller(std::move(caller), m_answer, this);
+    FileDescriptor client(::accept4(m_socket.number(), nullptr, nullptr, SOCK_CLOEXEC));
+    if (client.isOpen())
+        new Client(std::move(client), m_answer, this);
 }

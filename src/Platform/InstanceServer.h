@@ -11,15 +11,15 @@
 
 class QSocketNotifier;
 
-/// Listens beside the data for command lines that were given to another process, and answers them. Only the
-/// process that holds the lock of the folder may listen there. Where the file system knows no sockets nobody
-/// is heard, and a second start says so.
+/// Listens on a local socket in the data folder for the command lines of other processes, and replies to
+/// them. Only the process that holds the folder's lock may listen. On file systems without sockets it does
+/// not listen, and a second start reports that.
 class InstanceServer : public QObject
 {
     Q_OBJECT
 
 public:
-    using Answer = std::function<CommandLineAnswer(const QStringList &arguments)>;
+    using Answer = std::function<CommandLineResult(const QStringList &arguments)>;
 
     InstanceServer(std::filesystem::path dataFolder, Answer answer, QObject *parent = nullptr);
     ~InstanceServer() override;
@@ -33,6 +33,6 @@ private:
     std::filesystem::path m_folder;
     Answer m_answer;
     FileDescriptor m_socket;
-    ino_t m_socketFile = 0; ///< that no other process's is removed in the end
+    ino_t m_socketFile = 0; ///< inode, so that only the own socket file is removed at the end
     std::unique_ptr<QSocketNotifier> m_notifier;
 };

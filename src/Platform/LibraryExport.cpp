@@ -28,7 +28,7 @@ void takeNote(int signal)
     caughtSignal = signal;
 }
 
-CommandLineAnswer failure(const QString &reason, int exitCode = 1)
+CommandLineResult failure(const QString &reason, int exitCode = 1)
 {
     return {u"pelko: %1\n"_s.arg(reason), exitCode};
 }
@@ -71,7 +71,7 @@ ExportFolder::Outcome write(const QList<PelkoDocument> &documents, const ExportC
 }
 } // namespace
 
-CommandLineAnswer exportLibrary(const DataLocation &location, const ExportCommand &command)
+CommandLineResult exportLibrary(const DataLocation &location, const ExportCommand &command)
 {
     for (const int signal : signals)
         std::signal(signal, takeNote);
@@ -79,7 +79,7 @@ CommandLineAnswer exportLibrary(const DataLocation &location, const ExportComman
     if (!documents)
         return failure(StoreError{.task = StoreError::Task::load}.description());
     const ExportFolder::Outcome outcome = write(*documents, command);
-    if (const auto *taken = std::get_if<ExportFolder::Taken>(&outcome))
+    if (const auto *taken = std::get_if<ExportFolder::Conflicts>(&outcome))
         return failure(refusal(taken->paths));
     if (const auto *error = std::get_if<FileError>(&outcome))
         return failure(LibraryExportTexts::tr("Export failed: %1").arg(error->description()),

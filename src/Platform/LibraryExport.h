@@ -4,6 +4,6 @@
 
 class DataLocation;
 
-/// Writes all pages of the data file into the folder and says what came of it. Only reads the data: nobody
-/// else is in the way, and nobody is disturbed. An interrupt gives it up and leaves nothing behind.
-CommandLineAnswer exportLibrary(const DataLocation &location, const ExportCommand &command);
+/// Exports all pages of the data file into a folder and returns the output and exit code. Reads the data file
+/// without the instance lock. SIGINT, SIGTERM and SIGHUP cancel it and leave no files behind.
+CommandLineResult exportLibrary(const DataLocation &location, const ExportCommand &command);

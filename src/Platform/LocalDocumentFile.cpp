@@ -16,7 +16,7 @@ namespace fs = std::filesystem;
 namespace
 {
 constexpr qint64 longestReadable = std::numeric_limits<quint32>::max(); // the parser's own limit
-constexpr std::uintmax_t roomToSpare = 64 * 1024;                       // what is to be saved may have grown
+constexpr std::uintmax_t roomToSpare = 64 * 1024;                       // the documents may have grown
 constexpr qsizetype parserPadding = 64; // room that a parser may look at, so that it need not copy the file
 
 DocumentFile::Contents readAll(int descriptor, qint64 expectedSize)
@@ -37,7 +37,7 @@ DocumentFile::Contents readAll(int descriptor, qint64 expectedSize)
     return systemError(EFBIG);
 }
 
-/// Not blocking: to open a pipe would otherwise wait for somebody at its other end.
+/// Non-blocking, because opening a FIFO would wait for a writer.
 DocumentFile::Contents readFile(const fs::path &path)
 {
     const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
@@ -82,7 +82,7 @@ DocumentFile::Contents LocalDocumentFile::read()
     const auto file = path();
     if (!file)
         return systemError(ENOENT);
-    createPrivateFolder(file->parent_path()); // without one there is nothing to read; a save says why
+    createPrivateFolder(file->parent_path()); // ignore errors here: the next save reports them
     AtomicFile::removeAbandoned(*file);
     return readFile(*file);
 }

@@ -4,8 +4,8 @@
 
 #include <QThreadPool>
 
-/// Folders of this machine, written to on a thread of their own. An export under way when the program ends
-/// is given up and leaves nothing.
+/// Folders of this machine, written to on a thread of their own. When the program ends, a running
+/// export is cancelled and leaves no files.
 class LocalExportFolder : public ExportFolder
 {
 public:

@@ -16,7 +16,7 @@ namespace
 constexpr qint64 longestPicture = qint64(1) << 30;
 constexpr qsizetype step = 1 << 20;
 
-/// Nobody waits any more for what is being read.
+/// Returns whether the request was cancelled.
 using IsCancelled = std::function<bool()>;
 
 std::optional<QByteArray> readAll(int descriptor, qint64 expectedSize, const IsCancelled &isCancelled)
@@ -41,7 +41,7 @@ std::optional<QByteArray> readAll(int descriptor, qint64 expectedSize, const IsC
 std::optional<QByteArray> readFile(const std::filesystem::path &path, const IsCancelled &isCancelled)
 {
     std::error_code unreachable;
-    if (!std::filesystem::is_regular_file(path, unreachable)) // to open a device may already do something
+    if (!std::filesystem::is_regular_file(path, unreachable)) // opening a device can have side effects
         return std::nullopt;
     const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     struct stat status = {};

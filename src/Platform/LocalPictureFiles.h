@@ -4,8 +4,8 @@
 
 #include <QThreadPool>
 
-/// Files of this machine, read on a thread of their own. Whatever is not a plain file is refused at once:
-/// reading a pipe or a device may never end. So is what is larger than the data file can hold.
+/// Reads local files on a worker thread. Rejects files that are not regular, because reading a pipe or a
+/// device may block forever, and files larger than the data file can hold.
 class LocalPictureFiles : public PictureFiles
 {
 public:

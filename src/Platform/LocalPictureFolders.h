@@ -4,7 +4,7 @@
 
 #include <QThreadPool>
 
-/// Folders of this machine, looked at on a thread of their own: a disk may be slow and far away.
+/// Lists local folders on a worker thread, because a network mount may be slow.
 class LocalPictureFolders : public PictureFolders
 {
 public:

@@ -12,7 +12,7 @@ std::optional<FileError> LockedDocumentFile::followFolder()
 {
     if (m_instance.holdsFolder())
         return std::nullopt;
-    if (auto error = m_instance.lockAgain())
+    if (auto error = m_instance.relock())
         return error;
     m_folderChanged();
     return std::nullopt;

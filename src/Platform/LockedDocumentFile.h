@@ -22,7 +22,7 @@ public:
 
     Contents read() override;
     [[nodiscard]] std::optional<FileError> replace(const Producer &produce) override;
-    /// An error also when the folder has gone with what was written.
+    /// Also an error if the folder was removed after the write.
     [[nodiscard]] std::optional<FileError> confirm() override;
     bool canReplace() const override;
 

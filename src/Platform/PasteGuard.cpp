@@ -8,7 +8,7 @@
 
 namespace
 {
-/// What of the desktop the event would paste.
+/// Returns which clipboard the event would paste, or std::nullopt.
 std::optional<QClipboard::Mode> pasted(const QEvent &event)
 {
     if (event.type() == QEvent::KeyPress &&

@@ -3,17 +3,17 @@
 #include "Platform/PortalRequest.h"
 
 PortalFileChooser::PortalFileChooser(QDBusConnection bus, ParentWindow parentWindow, FileChooser &otherwise,
-                                     std::chrono::milliseconds longestAnswer)
+                                     std::chrono::milliseconds replyTimeout)
     : m_bus(std::move(bus))
     , m_parentWindow(std::move(parentWindow))
     , m_otherwise(otherwise)
-    , m_longestAnswer(longestAnswer)
+    , m_replyTimeout(replyTimeout)
 {
 }
 
-ScheduledCall PortalFileChooser::choose(Wanted wanted, Completion completion)
+ScheduledCall PortalFileChooser::choose(Target target, Completion completion)
 {
-    const auto request = std::make_shared<PortalRequest>(m_bus, wanted, std::move(completion), m_otherwise);
-    request->send(m_parentWindow(), m_longestAnswer);
+    const auto request = std::make_shared<PortalRequest>(m_bus, target, std::move(completion), m_otherwise);
+    request->send(m_parentWindow(), m_replyTimeout);
     return ScheduledCall(request);
 }

@@ -12,16 +12,16 @@ public:
     /// Names the window that the chooser belongs to, in the way the desktop names windows; empty for none.
     using ParentWindow = std::function<QString()>;
 
-    /// `longestAnswer`: how long the portal may take to accept a request before `otherwise` is shown.
+    /// `replyTimeout`: how long the portal may take to accept a request before `otherwise` is shown.
     /// Starting the service is part of it, showing the dialog is not.
     PortalFileChooser(QDBusConnection bus, ParentWindow parentWindow, FileChooser &otherwise,
-                      std::chrono::milliseconds longestAnswer = std::chrono::seconds(10));
+                      std::chrono::milliseconds replyTimeout = std::chrono::seconds(10));
 
-    ScheduledCall choose(Wanted wanted, Completion completion) override;
+    ScheduledCall choose(Target target, Completion completion) override;
 
 private:
     const QDBusConnection m_bus;
     const ParentWindow m_parentWindow;
     FileChooser &m_otherwise;
-    const std::chrono::milliseconds m_longestAnswer;
+    const std::chrono::milliseconds m_replyTimeout;
 };

@@ -18,7 +18,7 @@ const QString chooserInterface = u"org.freedesktop.portal.FileChooser"_s;
 const QString requestInterface = u"org.freedesktop.portal.Request"_s;
 constexpr uint successResponse = 0; // 1: cancelled; 2: ended in some other way, with GTK also by Escape
 
-/// One way to tell which files are wanted, as the bus has it: 1 stands for a media type.
+/// A filter pattern in the portal's format (us); type 1 is a media type.
 struct Pattern {
     uint kind = 1;
     QString value;
@@ -65,17 +65,17 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, Filter &filter)
 
 // NOLINTEND(bugprone-return-const-ref-from-parameter)
 
-QString titleFor(FileChooser::Wanted wanted)
+QString titleFor(FileChooser::Target target)
 {
-    return wanted == FileChooser::Wanted::folder
+    return target == FileChooser::Target::folder
                ? QCoreApplication::translate("FileChooser", "Export to a folder")
                : QCoreApplication::translate("FileChooser", "Add image");
 }
 
-QVariantMap optionsFor(FileChooser::Wanted wanted, const QString &token)
+QVariantMap optionsFor(FileChooser::Target target, const QString &token)
 {
     QVariantMap options{{u"handle_token"_s, token}, {u"modal"_s, true}, {u"multiple"_s, false}};
-    if (wanted == FileChooser::Wanted::folder) {
+    if (target == FileChooser::Target::folder) {
         options.insert(u"directory"_s, true);
         options.insert(u"accept_label"_s, QCoreApplication::translate("FileChooser", "Export here"));
         return options;
@@ -114,10 +114,10 @@ QString requestPath(const QDBusConnection &bus, const QString &token)
 }
 } // namespace
 
-PortalRequest::PortalRequest(QDBusConnection bus, FileChooser::Wanted wanted,
+PortalRequest::PortalRequest(QDBusConnection bus, FileChooser::Target target,
                              FileChooser::Completion completion, FileChooser &otherwise)
     : m_bus(std::move(bus))
-    , m_wanted(wanted)
+    , m_target(target)
     , m_completion(std::move(completion))
     , m_otherwise(otherwise)
 {
@@ -128,7 +128,7 @@ PortalRequest::~PortalRequest()
     close();
 }
 
-void PortalRequest::send(const QString &parentWindow, std::chrono::milliseconds longestAnswer)
+void PortalRequest::send(const QString &parentWindow, std::chrono::milliseconds replyTimeout)
 {
     if (!m_bus.isConnected()) {
         QMetaObject::invokeMethod(this, &PortalRequest::refused, Qt::QueuedConnection);
@@ -141,8 +141,8 @@ void PortalRequest::send(const QString &parentWindow, std::chrono::milliseconds 
     connect(portal, &QDBusServiceWatcher::serviceUnregistered, this, &PortalRequest::portalEnded);
     auto question =
         QDBusMessage::createMethodCall(portalService, portalPath, chooserInterface, u"OpenFile"_s);
-    question << parentWindow << titleFor(m_wanted) << optionsFor(m_wanted, token);
-    auto *reply = new QDBusPendingCallWatcher(m_bus.asyncCall(question, int(longestAnswer.count())), this);
+    question << parentWindow << titleFor(m_target) << optionsFor(m_target, token);
+    auto *reply = new QDBusPendingCallWatcher(m_bus.asyncCall(question, int(replyTimeout.count())), this);
     connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply] {
         const QDBusPendingReply<QDBusObjectPath> handle = *reply;
         reply->deleteLater();
@@ -161,7 +161,7 @@ void PortalRequest::refused()
 {
     close(); // It may only be late.
     m_otherChooser =
-        m_otherwise.choose(m_wanted, [this](const FileChooser::Choice &choice) { finish(choice); });
+        m_otherwise.choose(m_target, [this](const FileChooser::Choice &choice) { finish(choice); });
 }
 
 void PortalRequest::listenTo(const QString &path)
@@ -201,7 +201,7 @@ void PortalRequest::close()
 
 void PortalRequest::finish(const FileChooser::Choice &choice)
 {
-    // Whoever hears of the choice may drop this request, and must itself outlive that.
+    // The completion may delete this request; keep a copy of it on the stack.
     const FileChooser::Completion completion = m_completion;
     completion(choice);
 }

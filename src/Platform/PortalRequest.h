@@ -16,11 +16,11 @@ class PortalRequest : public QObject
     Q_OBJECT
 
 public:
-    PortalRequest(QDBusConnection bus, FileChooser::Wanted wanted, FileChooser::Completion completion,
+    PortalRequest(QDBusConnection bus, FileChooser::Target target, FileChooser::Completion completion,
                   FileChooser &otherwise);
     ~PortalRequest() override;
 
-    void send(const QString &parentWindow, std::chrono::milliseconds longestAnswer);
+    void send(const QString &parentWindow, std::chrono::milliseconds replyTimeout);
 
 private Q_SLOTS:
     /// The signal of the bus that ends the request.
@@ -35,7 +35,7 @@ private:
     void finish(const FileChooser::Choice &choice);
 
     QDBusConnection m_bus;
-    const FileChooser::Wanted m_wanted;
+    const FileChooser::Target m_target;
     FileChooser::Completion m_completion;
     FileChooser &m_otherwise;
     QString m_path; // of the request on the bus, empty when nothing is under way there

@@ -3,7 +3,7 @@
 #include <QDir>
 #include <QProcessEnvironment>
 
-/// How to draw on this machine. Without a GPU the software scene graph starts in less than half the time and
-/// repaints only what changed, so it is chosen there; but whoever has set one of the variables that steer
-/// drawing knows better. `deviceFolder` is where the kernel lists its render nodes.
+/// Returns whether to use the software scene graph: if there is no GPU and no environment variable selects a
+/// backend. Without a GPU it starts in less than half the time and repaints only damaged areas.
+/// `deviceFolder` contains the kernel's render nodes.
 bool prefersSoftwareSceneGraph(const QProcessEnvironment &environment, const QDir &deviceFolder);

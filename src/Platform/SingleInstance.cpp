@@ -1,6 +1,6 @@
 #include "Platform/SingleInstance.h"
 
-#include "Front/RunningInstance.h"
+#include "Launcher/RunningInstance.h"
 
 #include <cerrno>
 #include <chrono>
@@ -17,9 +17,9 @@ namespace
 {
 constexpr auto longestWait = 10s;
 constexpr auto betweenTries = 20ms;
-static_assert(CommandLineAnswer::yours == InstanceAnswer::yours);
+static_assert(CommandLineResult::runInCaller == InstanceReply::runInCaller);
 
-std::optional<CommandLineAnswer> ask(const std::filesystem::path &folder, const QStringList &arguments)
+std::optional<CommandLineResult> ask(const std::filesystem::path &folder, const QStringList &arguments)
 {
     std::vector<std::string> bytes;
     for (const QString &argument : arguments.mid(1))
@@ -27,15 +27,15 @@ std::optional<CommandLineAnswer> ask(const std::filesystem::path &folder, const 
     const auto answer = askRunningInstance(folder, bytes);
     if (!answer)
         return std::nullopt;
-    if (answer->exitCode == InstanceAnswer::silent)
+    if (answer->exitCode == InstanceReply::silent)
         return SingleInstance::unanswered();
-    return CommandLineAnswer{QString::fromLocal8Bit(answer->text), answer->exitCode};
+    return CommandLineResult{QString::fromLocal8Bit(answer->text), answer->exitCode};
 }
 } // namespace
 
 SingleInstance::SingleInstance(std::filesystem::path dataFolder) : m_folder(std::move(dataFolder)) {}
 
-std::optional<CommandLineAnswer> SingleInstance::yieldTo(const QStringList &arguments)
+std::optional<CommandLineResult> SingleInstance::lockOrForward(const QStringList &arguments)
 {
     const auto deadline = std::chrono::steady_clock::now() + longestWait;
     do {
@@ -45,11 +45,11 @@ std::optional<CommandLineAnswer> SingleInstance::yieldTo(const QStringList &argu
             return answer;
         std::this_thread::sleep_for(betweenTries);
     } while (std::chrono::steady_clock::now() < deadline);
-    return CommandLineAnswer{
+    return CommandLineResult{
         u"pelko: %1\n"_s.arg(tr("Another Pelko has these documents open and does not answer.")), 1};
 }
 
-CommandLineAnswer SingleInstance::unanswered()
+CommandLineResult SingleInstance::unanswered()
 {
     return {u"pelko: %1\n"_s.arg(tr("The running Pelko does not answer.")), 1};
 }
@@ -73,10 +73,10 @@ bool SingleInstance::holdsFolder() const
            held.st_dev == there.st_dev && held.st_ino == there.st_ino;
 }
 
-std::optional<FileError> SingleInstance::lockAgain()
+std::optional<FileError> SingleInstance::relock()
 {
     if (tryToLock() != Attempt::taken)
-        return std::nullopt; // without a lock, the reading or writing that follows says what is wrong
+        return std::nullopt; // the following read or write reports the error
     return FileError(FileError::Problem::openedElsewhere);
 }
 

@@ -5,9 +5,9 @@
 
 #include <QCoreApplication>
 
-/// Sees to it that one process at a time has the data of a folder open: it holds a lock beside them. Where
-/// the folder cannot hold a lock (it is read-only, another user's, or on a server that keeps no locks) the
-/// program goes without one, and can say so.
+/// Ensures by a lock file that one process at a time has a data folder open. If the folder cannot be locked
+/// (it is read-only, another user's, or on a server without locks), the program runs without a lock and can
+/// warn.
 class SingleInstance
 {
     Q_DECLARE_TR_FUNCTIONS(SingleInstance)
@@ -15,24 +15,24 @@ class SingleInstance
 public:
     explicit SingleInstance(std::filesystem::path dataFolder);
 
-    /// Waits until this process is the one, or until the one there is has answered `arguments` in its stead.
-    /// That takes no time unless another is just starting or ending.
-    std::optional<CommandLineAnswer> yieldTo(const QStringList &arguments);
+    /// Locks the folder and returns std::nullopt, or sends `arguments` to the process that holds the lock and
+    /// returns its reply. Waits only while another process is starting or ending.
+    std::optional<CommandLineResult> lockOrForward(const QStringList &arguments);
 
-    /// What is said where the running program was asked and does not answer.
-    static CommandLineAnswer unanswered();
+    /// Returns the message that the running program was asked and does not answer.
+    static CommandLineResult unanswered();
 
     bool isLocked() const { return m_lock.isOpen(); }
 
-    /// Whether the folder at the path is still the one that this process has locked, and not missing or
-    /// another one in its place. True where there could be no lock to begin with.
+    /// Returns whether the folder at the path is still the locked one, not missing or replaced. True if the
+    /// folder could not be locked at the start.
     bool holdsFolder() const;
 
-    /// Locks the folder that lies at the path now, and makes it where it is missing. An error when another
-    /// process has it.
-    [[nodiscard]] std::optional<FileError> lockAgain();
+    /// Locks the folder that is at the path now and creates it if it is missing. An error if another process
+    /// has locked it.
+    [[nodiscard]] std::optional<FileError> relock();
 
-    /// A line for the user when this process is the one without a lock to show for it.
+    /// Returns a warning for the user if this process runs without a lock.
     std::optional<QString> warning() const;
 
 private:
@@ -43,5 +43,5 @@ private:
 
     std::filesystem::path m_folder;
     FileDescriptor m_lock;
-    int m_error = 0; ///< why there is no lock
+    int m_error = 0; ///< errno of the failed lock
 };

@@ -2,8 +2,8 @@
 
 #include "Platform/FileDescriptor.h"
 
-/// A hidden folder inside another one, for files that are to appear there all at once. It goes with its
-/// owner, and with everything that is still in it; one that a killed process left behind goes with the next.
+/// A hidden temporary folder inside another one, for files that are to be moved into place together. The
+/// destructor removes it with its contents. `removeAbandoned` removes those of killed processes.
 class StagingFolder
 {
 public:
@@ -15,12 +15,12 @@ public:
 
     const std::filesystem::path &path() const { return m_path; }
 
-    /// Returns when everything on its disk has reached it.
+    /// Synchronises the whole file system it is on.
     [[nodiscard]] std::optional<FileError> sync() const;
 
 private:
     static void removeAbandoned(const std::filesystem::path &folder);
 
     std::filesystem::path m_path; // empty until it is made
-    FileDescriptor m_descriptor;  // locked: somebody is at work here
+    FileDescriptor m_descriptor;  // locked while the folder is in use
 };

@@ -1,6 +1,6 @@
 #include "Platform/SystemDataLocation.h"
 
-#include "Front/UserDataFolder.h"
+#include "Launcher/UserDataFolder.h"
 
 #include <QFile>
 #include <QStandardPaths>

@@ -2,8 +2,7 @@
 
 #include "Services/DataLocation.h"
 
-/// On free desktops $XDG_DATA_HOME or ~/.local/share, as far as the environment names them; elsewhere what
-/// the system says.
+/// On Unix $XDG_DATA_HOME or ~/.local/share; on other systems QStandardPaths.
 class SystemDataLocation : public DataLocation
 {
 public:

@@ -17,8 +17,9 @@ namespace
 /// As Qt names an image that has no encoding yet.
 constexpr auto decodedImage = "application/x-qt-image"_L1;
 
-/// What is offered to other programs. A picture is decoded only if one asks for it in another format.
-class OfferedForms : public QMimeData
+/// The clipboard formats offered to other programs. A picture is decoded only if one asks for it in another
+/// format.
+class ClipboardMimeData : public QMimeData
 {
 public:
     void setPicture(const QByteArray &file)
@@ -47,7 +48,7 @@ private:
 
 std::unique_ptr<QMimeData> formsOf(const PasteboardItem &item)
 {
-    auto forms = std::make_unique<OfferedForms>();
+    auto forms = std::make_unique<ClipboardMimeData>();
     if (!item.text.isEmpty())
         forms->setText(item.text);
     if (!item.markdown.isEmpty())

@@ -5,7 +5,7 @@
 namespace
 {
 constexpr Timestamp quietTime = 0.4;    // seconds in which most work is done
-constexpr Timestamp betweenLooks = 0.1; // as often as anybody can read
+constexpr Timestamp betweenLooks = 0.1; // seconds between updates
 } // namespace
 
 TerminalProgress::TerminalProgress(Words words, const Clock &clock, std::FILE *stream)

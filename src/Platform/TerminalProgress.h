@@ -7,8 +7,8 @@
 #include <cstdio>
 #include <functional>
 
-/// A line on a terminal that says how far long work has come. It appears when the work has taken a while,
-/// and is gone in the end. Says nothing to what is no terminal.
+/// A progress line on a terminal. It appears after a delay and is erased at the end. Prints nothing if the
+/// stream is not a terminal.
 class TerminalProgress
 {
 public:

@@ -10,7 +10,7 @@ namespace
 constexpr int terminating[] = {SIGTERM, SIGINT, SIGHUP};
 volatile std::sig_atomic_t pipeEnd = -1;
 
-/// Only what a signal handler may do: the event loop takes it from there.
+/// Async-signal-safe: writes to a pipe that the event loop reads.
 void passOn(int)
 {
     const int error = errno;

@@ -8,8 +8,8 @@
 #include <memory>
 
 /// Calls `action` in the event loop when the system asks the process to end, by SIGTERM, SIGINT or SIGHUP. A
-/// signal that was ignored at the start, as `nohup` does, stays ignored. Each is heard once: the second of a
-/// kind ends the process at once, for the case that it hangs. One object a process; interface thread only.
+/// signal that was ignored at the start, as `nohup` does, stays ignored. A second signal of
+/// the same kind ends the process at once, in case it hangs. One object a process; interface thread only.
 class TerminationSignals
 {
 public:

@@ -2,7 +2,7 @@
 
 #include <QRasterWindow>
 
-/// A window that shows one text and nothing else, drawn without Qt Quick: for when that cannot be loaded.
+/// A window that shows a text, drawn without Qt Quick, for the case that QML cannot be loaded.
 /// Escape and Return close it.
 class TextWindow : public QRasterWindow
 {

@@ -20,25 +20,24 @@ struct CalendarEvent {
     bool operator==(const CalendarEvent &) const = default;
 };
 
-/// A stretch of time, its end not included, and the zone whose midnights begin the days of it.
+/// The half-open interval [from, to), and the zone in which its days begin.
 struct CalendarWindow {
     Timestamp from = 0;
     Timestamp to = 0;
     QTimeZone zone = QTimeZone::utc();
 };
 
-/// The calendars that the user keeps on this desktop, to be read only.
+/// Read-only access to the user's calendars.
 class CalendarStore
 {
 public:
-    /// Nothing where the user's calendars may not be read, or where there are none.
+    /// std::nullopt if access is denied or there are no calendars.
     using Answer = std::optional<QList<CalendarEvent>>;
     using Completion = std::function<void(const Answer &)>;
 
     virtual ~CalendarStore() = default;
 
-    /// Asks for access to all calendars and, with it, for every event that overlaps the window, without
-    /// holding up the interface. Answers once and on the interface thread, unless what is returned has been
-    /// dropped by then.
+    /// Requests access to all calendars and fetches the events that overlap the window, asynchronously. Calls
+    /// `completion` once on the interface thread, unless the returned ScheduledCall is destroyed first.
     [[nodiscard]] virtual ScheduledCall fetch(const CalendarWindow &window, Completion completion) = 0;
 };

@@ -4,7 +4,7 @@
 
 #include <QTimeZone>
 
-/// What time it is, and where.
+/// The wall clock and the local time zone.
 class Clock
 {
 public:

@@ -3,13 +3,14 @@
 #include <filesystem>
 #include <optional>
 
-/// Where this user's programs keep their data. Paths are the system's own bytes: a QString could not name
-/// every folder there may be.
+/// The folder for application data. Paths are std::filesystem::path because a QString cannot represent every
+/// POSIX path.
 class DataLocation
 {
 public:
     virtual ~DataLocation() = default;
 
-    /// The application-support directory, which need not exist yet; nothing when the system names none.
+    /// The application-support directory, which need not exist yet, or std::nullopt if the environment sets
+    /// none.
     virtual std::optional<std::filesystem::path> applicationSupportDirectory() const = 0;
 };

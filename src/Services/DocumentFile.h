@@ -8,13 +8,13 @@
 #include <optional>
 #include <variant>
 
-/// Takes the bytes of a file in order, as they are made.
+/// Receives the bytes of a file in order.
 class ByteSink
 {
 public:
     virtual ~ByteSink() = default;
 
-    /// After an error nothing more need be offered.
+    /// After an error, further writes are unnecessary.
     [[nodiscard]] virtual std::optional<FileError> write(QByteArrayView bytes) = 0;
 };
 
@@ -29,18 +29,18 @@ public:
 
     virtual ~DocumentFile() = default;
 
-    /// The whole file, all of it in memory.
+    /// Reads the whole file into memory.
     virtual Contents read() = 0;
 
-    /// Replaces the file by what `produce` writes. After an error, `produce`'s own included, the file is what
-    /// it was before; without one, the new bytes are on the disk and the file's name stands for them. Until
-    /// `confirm` has returned, a power cut may give it back to the old bytes.
+    /// Replaces the contents with the bytes that `produce` writes. After an error, also of `produce`, the
+    /// file is unchanged. After success the new bytes are on the disk, but until `confirm` returns a power
+    /// cut can restore the old version.
     [[nodiscard]] virtual std::optional<FileError> replace(const Producer &produce) = 0;
 
-    /// Waits until the last replacement is there to stay. The disk is at it already, so that after a moment
-    /// there is nothing to wait for.
+    /// Waits until the last replacement is durable. The synchronisation runs already, so this is usually
+    /// short.
     [[nodiscard]] virtual std::optional<FileError> confirm() = 0;
 
-    /// Whether a replacement looks possible now. Cheap, and no promise.
+    /// Returns whether `replace` would probably succeed now. Cheap.
     virtual bool canReplace() const = 0;
 };

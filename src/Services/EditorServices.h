@@ -5,7 +5,7 @@ class Pasteboard;
 class PictureFiles;
 class Scheduler;
 
-/// What editors need of the desktop they run on. All of it outlives them.
+/// The services that an editor uses. They must outlive it.
 struct EditorServices {
     Scheduler &scheduler;
     Pasteboard &pasteboard;

@@ -9,31 +9,31 @@
 
 #include <filesystem>
 
-/// Puts the files of an export into a folder of the user's: all of them or none.
+/// Writes the files of an export into a folder: all of them or none.
 class ExportFolder
 {
 public:
-    /// What becomes of files that are there already.
+    /// Whether to replace files that already exist.
     enum class Existing { keep, replace };
 
-    struct Written {
+    struct Success {
     };
 
-    /// These paths are there already and were to be kept, so nothing has been written.
-    struct Taken {
+    /// These paths already exist and `Existing::keep` was requested, so nothing was written.
+    struct Conflicts {
         QStringList paths;
     };
 
-    /// After `Taken` or an error the folder is what it was before.
-    using Outcome = std::variant<Written, Taken, FileError>;
+    /// After `Conflicts` or an error the folder is unchanged.
+    using Outcome = std::variant<Success, Conflicts, FileError>;
     using Completion = std::function<void(const Outcome &)>;
-    /// Makes the files; called on another thread.
+    /// Returns the files; called on a worker thread.
     using Producer = std::function<QList<ExportedFile>()>;
 
     virtual ~ExportFolder() = default;
 
-    /// Makes the folder where there is none. Tells on the interface thread. Dropping what is returned gives
-    /// the export up.
+    /// Creates the folder if it is missing. Calls `completion` on the interface thread. Destroying the
+    /// returned ScheduledCall cancels the export.
     [[nodiscard]] virtual ScheduledCall write(const std::filesystem::path &folder, Producer produce,
                                               Existing existing, Completion completion) = 0;
 };

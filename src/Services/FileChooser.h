@@ -11,19 +11,19 @@
 class FileChooser
 {
 public:
-    enum class Wanted {
+    enum class Target {
         picture,
         /// One to write into.
         folder,
     };
 
-    /// What was chosen: nothing when the user thought better of it, or why nothing could be chosen.
+    /// The chosen paths, empty after cancellation, or an error.
     using Choice = std::variant<QList<std::filesystem::path>, FileError>;
     using Completion = std::function<void(const Choice &)>;
 
     virtual ~FileChooser() = default;
 
-    /// Shows the chooser and tells once, later and on the interface thread, what came of it. Dropping what is
-    /// returned closes the chooser.
-    [[nodiscard]] virtual ScheduledCall choose(Wanted wanted, Completion completion) = 0;
+    /// Shows the chooser. Calls `completion` once, later, on the interface thread. Destroying the returned
+    /// ScheduledCall closes the chooser.
+    [[nodiscard]] virtual ScheduledCall choose(Target target, Completion completion) = 0;
 };

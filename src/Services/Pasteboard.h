@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-/// The same thing in the forms that other programs may ask for. An empty form is not offered.
+/// The clipboard contents in several formats. Empty formats are not offered.
 struct PasteboardItem {
     QString text = {};
     QString markdown = {};
@@ -15,7 +15,7 @@ struct PasteboardItem {
     bool operator==(const PasteboardItem &) const = default;
 };
 
-/// What the user has copied, shared by all programs of the desktop.
+/// The system clipboard and the primary selection.
 class Pasteboard
 {
 public:
@@ -27,12 +27,10 @@ public:
     /// The bytes of a picture file when there is a picture and no text; else empty.
     virtual QByteArray picture() const = 0;
 
-    /// Replaces all that was there. An item that is empty, or whose picture cannot be told for one and that
-    /// has nothing else, leaves it.
+    /// Replaces the contents. An empty item, or one with only a picture of unknown format, changes nothing.
     virtual void put(const PasteboardItem &item) = 0;
 
-    /// The text that was selected last, in whatever program: what the middle button pastes. Empty where the
-    /// desktop has no such thing.
+    /// The text of the primary selection, which the middle button pastes; empty on platforms without one.
     virtual QString selectedText() const = 0;
     virtual void putSelectedText(const QString &text) = 0;
 };

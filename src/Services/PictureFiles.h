@@ -7,16 +7,16 @@
 #include <filesystem>
 #include <optional>
 
-/// The files that pictures are taken from.
+/// Reads picture files.
 class PictureFiles
 {
 public:
-    /// Nothing where the file cannot be read.
+    /// std::nullopt if the file cannot be read.
     using Completion = std::function<void(const std::optional<QByteArray> &)>;
 
     virtual ~PictureFiles() = default;
 
-    /// Reads the whole file without holding up the interface, and hands its bytes over on the interface
-    /// thread, unless what is returned has been dropped by then.
+    /// Reads the whole file asynchronously. Calls `completion` on the interface thread, unless the returned
+    /// ScheduledCall is destroyed first.
     [[nodiscard]] virtual ScheduledCall read(const std::filesystem::path &file, Completion completion) = 0;
 };

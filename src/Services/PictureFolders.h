@@ -7,7 +7,7 @@
 
 #include <filesystem>
 
-/// The user's folders, as far as there are pictures in them.
+/// Lists folders and the pictures in them.
 class PictureFolders
 {
 public:
@@ -29,15 +29,15 @@ public:
 
     virtual ~PictureFolders() = default;
 
-    /// Where users keep things: the home folder first.
+    /// The standard folders of the user, the home folder first.
     virtual QList<std::filesystem::path> places() const = 0;
 
     /// The folders and the picture files in a folder, folders first and each by name; hidden ones are left
-    /// out. Tells on the interface thread, unless what is returned has been dropped by then.
+    /// out. Calls `completion` on the interface thread,
+    /// unless the returned ScheduledCall is destroyed first.
     [[nodiscard]] virtual ScheduledCall list(const std::filesystem::path &folder, Completion completion) = 0;
 
-    /// The last part of a path for the user to read. Names are bytes; those that are no text are shown as
-    /// well as can be.
+    /// Returns the last component of a path for display. Bytes that are not valid text are replaced.
     static QString nameOf(const std::filesystem::path &path)
     {
         return QString::fromLocal8Bit((path.has_filename() ? path.filename() : path).c_str());

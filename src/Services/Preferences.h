@@ -6,9 +6,7 @@
 
 #include <optional>
 
-/// The few values kept for the user from one run to the next, by name. A value that is of another kind than
-/// the one asked for counts as absent. Nothing tells whether the values were really kept: nobody could do
-/// anything about it.
+/// Persistent settings by key. A value of another type counts as absent. Failures to save are ignored.
 class Preferences
 {
 public:

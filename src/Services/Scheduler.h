@@ -4,8 +4,7 @@
 #include <functional>
 #include <memory>
 
-/// A call that a Scheduler has been asked to make. Dropping or resetting it takes the request back, so an
-/// owner that dies is never called.
+/// Owns a scheduled call. Destroying or cancelling it cancels the call, so a destroyed owner is never called.
 class ScheduledCall
 {
 public:
@@ -20,7 +19,7 @@ private:
     std::shared_ptr<void> m_token;
 };
 
-/// Makes calls later, on the interface thread, and measures how long something took.
+/// Delayed calls on the interface thread, and a monotonic clock.
 class Scheduler
 {
 public:
@@ -28,12 +27,12 @@ public:
 
     virtual ~Scheduler() = default;
 
-    /// Time that has passed since some fixed moment. It never goes back, whatever the wall clock does.
+    /// Monotonic time since an arbitrary fixed point.
     virtual std::chrono::milliseconds now() const = 0;
 
-    /// Calls `action` once when `delay` has passed. The request lives as long as what is returned.
+    /// Calls `action` once after `delay`, unless the returned ScheduledCall is destroyed first.
     [[nodiscard]] virtual ScheduledCall after(std::chrono::milliseconds delay, Action action) = 0;
 
-    /// Calls `action` each time another `interval` has passed, until what is returned is dropped.
+    /// Calls `action` every `interval` until the returned ScheduledCall is destroyed.
     [[nodiscard]] virtual ScheduledCall every(std::chrono::milliseconds interval, Action action) = 0;
 };

@@ -21,7 +21,7 @@ struct CommandLineTexts {
     QT_TRANSLATE_NOOP("QCommandLineParser", "Unexpected value after '%1'."),
 };
 
-CommandLineAnswer refuse(const QString &reason)
+CommandLineResult refuse(const QString &reason)
 {
     const QString hint = CommandLineTexts::tr("Try 'pelko --help' for more information.");
     return {u"pelko: %1\n%2\n"_s.arg(reason, hint), usageError};
@@ -48,14 +48,14 @@ QString versionText()
     return u"pelko %1\n"_s.arg(QLatin1StringView(PELKO_VERSION));
 }
 
-CommandLine readSpark(const QString &text)
+ParsedCommandLine readSpark(const QString &text)
 {
     if (QStringView(text).trimmed().isEmpty())
         return refuse(CommandLineTexts::tr("A spark needs some text."));
     return SparkCommand{text};
 }
 
-CommandLine readPomodoro(const QString &word)
+ParsedCommandLine readPomodoro(const QString &word)
 {
     using Verb = PomodoroCommand::Verb;
     for (const auto &[name, verb] :
@@ -68,7 +68,7 @@ CommandLine readPomodoro(const QString &word)
         CommandLineTexts::tr("--pomodoro takes start, pause, reset or status, not '%1'.").arg(word));
 }
 
-CommandLine readExport(const QString &folder, bool overwrites)
+ParsedCommandLine readExport(const QString &folder, bool overwrites)
 {
     using Existing = ExportFolder::Existing;
     if (folder.isEmpty())
@@ -77,7 +77,7 @@ CommandLine readExport(const QString &folder, bool overwrites)
 }
 } // namespace
 
-CommandLine readCommandLine(const QStringList &arguments)
+ParsedCommandLine parseCommandLine(const QStringList &arguments)
 {
     const QCommandLineOption help(QStringList{u"h"_s, u"help"_s});
     const QCommandLineOption version(QStringList{u"v"_s, u"version"_s});
@@ -91,9 +91,9 @@ CommandLine readCommandLine(const QStringList &arguments)
     if (!parser.parse(arguments))
         return refuse(parser.errorText());
     if (parser.isSet(help))
-        return CommandLineAnswer{helpText()};
+        return CommandLineResult{helpText()};
     if (parser.isSet(version))
-        return CommandLineAnswer{versionText()};
+        return CommandLineResult{versionText()};
     if (!parser.positionalArguments().isEmpty())
         return refuse(
             CommandLineTexts::tr("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst()));

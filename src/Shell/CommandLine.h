@@ -6,32 +6,31 @@
 
 #include <variant>
 
-/// What the program says to its command line.
-struct CommandLineAnswer {
-    /// In the place of an exit code: nothing is against it, and the process that was given the command line
-    /// carries it out itself.
-    static constexpr int yours = 254;
+/// The output and exit code for a command line.
+struct CommandLineResult {
+    /// Reserved exit code: the process that received the command line must run the command itself.
+    static constexpr int runInCaller = 254;
 
     /// For standard output, or for standard error when the exit code is not 0.
     QString text;
     int exitCode = 0;
 
-    bool operator==(const CommandLineAnswer &) const = default;
+    bool operator==(const CommandLineResult &) const = default;
 };
 
-/// To show the window.
+/// Show the window.
 struct OpenCommand {
     bool operator==(const OpenCommand &) const = default;
 };
 
-/// To file one line as a spark. The text is not blank.
+/// Save one line as a spark. The text is not blank.
 struct SparkCommand {
     QString text;
 
     bool operator==(const SparkCommand &) const = default;
 };
 
-/// To work the pomodoro of the running program.
+/// Control the pomodoro timer of the running program.
 struct PomodoroCommand {
     enum class Verb { start, pause, reset, status };
     Verb verb = Verb::status;
@@ -39,7 +38,7 @@ struct PomodoroCommand {
     bool operator==(const PomodoroCommand &) const = default;
 };
 
-/// To write all pages into a folder. Its path is not empty.
+/// Export all pages into a folder. Its path is not empty.
 struct ExportCommand {
     QString folder;
     ExportFolder::Existing existing = ExportFolder::Existing::keep;
@@ -47,9 +46,9 @@ struct ExportCommand {
     bool operator==(const ExportCommand &) const = default;
 };
 
-using CommandLine =
-    std::variant<CommandLineAnswer, OpenCommand, SparkCommand, PomodoroCommand, ExportCommand>;
+using ParsedCommandLine =
+    std::variant<CommandLineResult, OpenCommand, SparkCommand, PomodoroCommand, ExportCommand>;
 
-/// What `arguments`, the first of which names the program, ask for, or the answer to them where that is
-/// already known. Needs no application object, so it works where there is no display.
-CommandLine readCommandLine(const QStringList &arguments);
+/// Parses the command line; the first argument is the program name. Returns a CommandLineResult for --help,
+/// --version and errors. Needs no QCoreApplication.
+ParsedCommandLine parseCommandLine(const QStringList &arguments);

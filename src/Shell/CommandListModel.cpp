@@ -110,7 +110,7 @@ void CommandListModel::run(const QString &id) const
 {
     if (!isEnabled(id))
         return;
-    // What it does may bind and refresh.
+    // The action may call bind() and refresh(), so run a copy.
     const std::function<void()> action = row(id)->action.run;
     action();
 }

@@ -15,8 +15,8 @@ struct CommandAction {
     std::function<bool()> isTicked = nullptr;
 };
 
-/// The commands as the app menu shows them, with the hairlines between their groups. Each is bound to its
-/// action by whoever can do it; until then it is disabled.
+/// The rows of the app menu: the commands, and separators between their groups. A command without an action
+/// is disabled; see bind().
 class CommandListModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -55,7 +55,7 @@ public:
     bool isTicked(const QString &id) const;
 
     void bind(const QString &id, CommandAction action);
-    /// Gives the command of that id. One that is unknown or disabled does nothing.
+    /// Runs the command. Does nothing if it is unknown or disabled.
     void run(const QString &id) const;
     /// Asks every action again whether it is enabled and ticked.
     void refresh();
@@ -70,7 +70,7 @@ private:
     };
 
     const Row *row(const QString &id) const;
-    /// Tells whether the answers differ from those before.
+    /// Updates the row; returns whether it changed.
     static bool ask(Row &row);
 
     QList<Row> m_rows;

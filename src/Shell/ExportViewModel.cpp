@@ -61,13 +61,13 @@ void ExportViewModel::exportLibrary()
     begin({.documents = m_appState.documents(), .isLibrary = true});
 }
 
-void ExportViewModel::begin(Order order)
+void ExportViewModel::begin(Request request)
 {
     if (m_isBusy)
         return;
     m_isBusy = true;
-    m_order = std::move(order);
-    m_choosing = m_services.chooser.choose(FileChooser::Wanted::folder,
+    m_request = std::move(request);
+    m_choosing = m_services.chooser.choose(FileChooser::Target::folder,
                                            [this](const FileChooser::Choice &choice) { take(choice); });
 }
 
@@ -82,22 +82,22 @@ void ExportViewModel::take(const FileChooser::Choice &choice)
         m_isBusy = false;
         return;
     }
-    m_order.folder = chosen.constFirst();
-    // Whoever chooses the folder of the last time means that one.
-    if (m_order.isLibrary && m_order.folder.filename() != libraryFolder)
-        m_order.folder /= libraryFolder;
+    m_request.folder = chosen.constFirst();
+    // If the user chooses the "Pelko" folder of an earlier export, use it itself.
+    if (m_request.isLibrary && m_request.folder.filename() != libraryFolder)
+        m_request.folder /= libraryFolder;
     write(Existing::keep);
 }
 
 void ExportViewModel::write(Existing existing)
 {
     const QString text = //: %1 is such as "12 pages and 1 picture", %2 the name of a folder.
-        tr("%1 on the way to “%2”.").arg(Export::contents(m_order.documents), folderName());
+        tr("%1 on the way to “%2”.").arg(Export::contents(m_request.documents), folderName());
     ChangeScope(*this).assign(m_progressText, text, &ExportViewModel::progressTextChanged);
     m_patience = m_services.scheduler.after(quietTime, [this] { setProgress(true); });
     m_writing = m_services.folder.write(
-        m_order.folder,
-        [documents = m_order.documents, isLibrary = m_order.isLibrary] {
+        m_request.folder,
+        [documents = m_request.documents, isLibrary = m_request.isLibrary] {
             return filesOf(documents, isLibrary);
         },
         existing, [this](const ExportFolder::Outcome &outcome) { finish(outcome); });
@@ -106,7 +106,7 @@ void ExportViewModel::write(Existing existing)
 void ExportViewModel::finish(const ExportFolder::Outcome &outcome)
 {
     setProgress(false);
-    if (const auto *taken = std::get_if<ExportFolder::Taken>(&outcome))
+    if (const auto *taken = std::get_if<ExportFolder::Conflicts>(&outcome))
         ask(taken->paths);
     else if (const auto *error = std::get_if<FileError>(&outcome))
         tell(*error);
@@ -165,7 +165,7 @@ void ExportViewModel::tellSuccess()
 {
     setResult(false, tr("Exported."),
               tr("%1 in “%2”. Plain Markdown, yours to keep.")
-                  .arg(Export::contents(m_order.documents), folderName()));
+                  .arg(Export::contents(m_request.documents), folderName()));
 }
 
 void ExportViewModel::setResult(bool failed, const QString &title, const QString &text)
@@ -191,5 +191,5 @@ void ExportViewModel::setProgress(bool shown)
 
 QString ExportViewModel::folderName() const
 {
-    return PictureFolders::nameOf(m_order.folder);
+    return PictureFolders::nameOf(m_request.folder);
 }

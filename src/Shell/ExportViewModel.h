@@ -10,8 +10,8 @@ class AppState;
 class CommandListModel;
 class Pasteboard;
 
-/// Exports from the window: asks for a folder, writes there without holding up the interface, asks before it
-/// replaces anything, and says in the end what came of it. One export at a time.
+/// The export of the window: asks for a folder, writes asynchronously, asks before it replaces files, and
+/// reports the result. One export at a time.
 class ExportViewModel : public QObject
 {
     Q_OBJECT
@@ -35,12 +35,12 @@ public:
 
     ExportViewModel(const AppState &appState, const Services &services, QObject *parent = nullptr);
 
-    /// Carries out the commands that are about exports.
+    /// Binds the export commands.
     void bindTo(CommandListModel &commands);
 
     /// While an export takes longer than a moment.
     bool showProgress() const { return m_showProgress; }
-    // The words of an alert stay while it goes away.
+    // Alerts keep their text while they fade out.
     QString progressText() const { return m_progressText; }
     bool asksToReplace() const { return m_asksToReplace; }
     QString questionTitle() const { return m_questionTitle; }
@@ -50,16 +50,16 @@ public:
     QString resultTitle() const { return m_resultTitle; }
     QString resultText() const { return m_resultText; }
 
-    /// Puts the open page as Markdown on the pasteboard. None open, nothing happens.
+    /// Copies the open page as Markdown. Does nothing if no page is open.
     Q_INVOKABLE void copyAsMarkdown();
     /// Into the folder that the user chooses.
     Q_INVOKABLE void exportDocument();
     /// Into a folder "Pelko" in the one that the user chooses.
     Q_INVOKABLE void exportLibrary();
-    // The answers to what is asked. Where nothing is asked any more they do nothing.
+    // The answers to the question about existing files. They do nothing if no question is shown.
     Q_INVOKABLE void replace();
     Q_INVOKABLE void keep();
-    /// Gives up the export that is on show.
+    /// Cancels the running export.
     Q_INVOKABLE void stop();
     Q_INVOKABLE void dismissResult();
 
@@ -72,14 +72,14 @@ Q_SIGNALS:
     void resultChanged();
 
 private:
-    /// What is to be written, and where.
-    struct Order {
+    /// The documents to export, and the target folder.
+    struct Request {
         QList<PelkoDocument> documents;
         bool isLibrary = false;
         std::filesystem::path folder = {};
     };
 
-    void begin(Order order);
+    void begin(Request request);
     void take(const FileChooser::Choice &choice);
     void write(ExportFolder::Existing existing);
     void finish(const ExportFolder::Outcome &outcome);
@@ -92,7 +92,7 @@ private:
 
     const AppState &m_appState;
     const Services m_services;
-    Order m_order;
+    Request m_request;
     bool m_isBusy = false;
     ScheduledCall m_choosing;
     ScheduledCall m_writing;

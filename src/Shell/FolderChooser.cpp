@@ -24,18 +24,18 @@ FolderChooser::FolderChooser(PictureFolders &folders)
 {
 }
 
-ScheduledCall FolderChooser::choose(Wanted wanted, Completion completion)
+ScheduledCall FolderChooser::choose(Target target, Completion completion)
 {
     const auto closes = [chooser = QPointer(this)](const Completion *done) {
         delete done;
-        // The former request often goes when the next one is made already.
+        // A new request may exist before the old one is destroyed.
         if (chooser && chooser->m_request.expired())
             chooser->close();
     };
     const std::shared_ptr<Completion> request(new Completion(std::move(completion)), closes);
     m_request = request;
     ChangeScope changes(*this);
-    changes.assign(m_wanted, wanted, &FolderChooser::wantsFolderChanged);
+    changes.assign(m_target, target, &FolderChooser::wantsFolderChanged);
     changes.assign(m_isOpen, true, &FolderChooser::isOpenChanged);
     list(m_folder);
     return ScheduledCall(request);

@@ -25,11 +25,11 @@ class FolderChooser : public QObject, public FileChooser
 public:
     explicit FolderChooser(PictureFolders &folders);
 
-    ScheduledCall choose(Wanted wanted, Completion completion) override;
+    ScheduledCall choose(Target target, Completion completion) override;
 
     bool isOpen() const { return m_isOpen; }
     /// A folder is to be chosen, and not a picture; then no pictures are shown.
-    bool wantsFolder() const { return m_wanted == Wanted::folder; }
+    bool wantsFolder() const { return m_target == Target::folder; }
     /// The path of the folder that is shown.
     QString folder() const;
     /// The last part of it.
@@ -78,7 +78,7 @@ private:
     const QList<std::filesystem::path> m_places;
     std::filesystem::path m_folder;
     FileError m_problem;
-    Wanted m_wanted = Wanted::picture;
+    Target m_target = Target::picture;
     bool m_isOpen = false;
     bool m_isListing = false;
     ScheduledCall m_listing;

@@ -4,7 +4,7 @@
 
 #include <QAbstractListModel>
 
-/// What is in the folder that the file chooser shows, for QML.
+/// The entries of the folder that the file chooser shows.
 class FolderEntryModel : public QAbstractListModel
 {
     Q_OBJECT

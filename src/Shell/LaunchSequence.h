@@ -4,8 +4,8 @@
 
 #include <QObject>
 
-/// The title card that covers a new window: flame and name come at once with `start`, and one second later
-/// the card goes. Each of the three states turns once and never back; how they fade is the view's affair.
+/// The state of the launch card: `start` shows flame and name, and the card is removed one second later. Each
+/// of the three properties changes once. The view animates them.
 class LaunchSequence : public QObject
 {
     Q_OBJECT
@@ -20,9 +20,9 @@ public:
     bool showFlame() const { return m_showFlame; }
     bool showTitle() const { return m_showTitle; }
 
-    /// For the first time the card is seen; later calls do nothing.
+    /// Called when the card is visible for the first time; later calls do nothing.
     Q_INVOKABLE void start();
-    /// Ends the wait: the card goes now. It never stays up.
+    /// Removes the card now.
     Q_INVOKABLE void cancel();
     /// The window's contents cannot be loaded. `errors` are the lines of the QML engine.
     Q_INVOKABLE void fail(const QString &errors) { Q_EMIT failed(errors); }

@@ -9,12 +9,12 @@
 using namespace Qt::StringLiterals;
 
 MainViewModel::MainViewModel(AppState &appState, const Clock &clock, const EditorServices &services,
-                             MenuPlace menuPlace, QObject *parent)
+                             MenuLocation menuLocation, QObject *parent)
     : QObject(parent)
     , m_appState(appState)
     , m_services(services)
     , m_navigation(appState, clock)
-    , m_commands(appState, m_navigation, menuPlace)
+    , m_commands(appState, m_navigation, menuLocation)
     , m_quitGuard(appState)
 {
     greet();
@@ -126,7 +126,7 @@ void MainViewModel::confirmDelete()
 {
     if (!m_docToDelete)
         return;
-    // The alert closes first and gives the focus back; then whatever is opened next can take it.
+    // Close the alert first, so that it restores the focus before the next view takes it.
     const PelkoDocument document = *m_docToDelete;
     cancelDelete();
     m_appState.permanentlyDeleteDocument(document);
@@ -162,7 +162,7 @@ void MainViewModel::followError()
 {
     const std::optional<QString> error = m_appState.lastError();
     if (error && error == m_knownSaveError) {
-        m_appState.clearLastError(); // told already; the mark at the title stays
+        m_appState.clearLastError(); // reported already; the title still shows it
         return;
     }
     ChangeScope changes(*this);
@@ -186,7 +186,7 @@ void MainViewModel::followLastSave()
     Q_EMIT saveErrorChanged();
 }
 
-/// Who asks wants an answer, even if it is the same as before.
+/// Shows the alert again for an explicit save, even if the error is the same.
 void MainViewModel::save()
 {
     m_knownSaveError.reset();

@@ -40,7 +40,7 @@ class MainViewModel : public QObject
 
 public:
     MainViewModel(AppState &appState, const Clock &clock, const EditorServices &services,
-                  MenuPlace menuPlace = MenuPlace::window, QObject *parent = nullptr);
+                  MenuLocation menuLocation = MenuLocation::window, QObject *parent = nullptr);
 
     /// Of the document in the editor; empty when the empty state is shown.
     QString openDocumentID() const { return m_openDocumentID; }
@@ -52,14 +52,14 @@ public:
     QString topMessage() const { return m_topMessage; }
     /// Picked again whenever the empty state comes up, and stays while it is read.
     QString emptyMessage() const { return m_emptyMessage; }
-    /// Nothing but the page is to be seen. Without a page there is nothing to focus on.
+    /// Focus mode: only the page is visible. False without an open page.
     bool isFocused() const { return m_isFocused; }
     bool showNav() const;
     bool showSavedIndicator() const;
     bool showDocLimitNudge() const;
     bool showAbout() const;
     bool showError() const { return m_showError; }
-    /// Both keep their last words while the alert goes away.
+    /// Both keep their last text while the alert fades out.
     QString errorTitle() const { return m_errorTitle; }
     QString errorText() const { return m_errorText; }
     /// Why the last save failed; empty while all is well.
@@ -73,18 +73,18 @@ public:
 
     /// The window was closed: it opens with another greeting than before.
     void greet();
-    /// A new editor of that document. Whoever shows it calls its `release` when done.
+    /// Creates an editor for the document. The caller must call its `release`.
     Q_INVOKABLE EditorViewModel *openEditor(const QString &documentID);
     /// Creates a document in the current space and closes the navigation, or raises the limit alert.
     Q_INVOKABLE void createDocument();
     Q_INVOKABLE void toggleNav();
-    /// Ends focus mode. Tells whether there was something to end.
+    /// Ends focus mode. Returns whether it was active.
     Q_INVOKABLE bool leaveFocusMode();
     Q_INVOKABLE void dismissNav();
     Q_INVOKABLE void dismissDocLimitNudge();
     Q_INVOKABLE void dismissAbout();
     Q_INVOKABLE void dismissError();
-    /// Asks before deleting. An unknown id asks nothing.
+    /// Shows the question before deleting. Does nothing for an unknown id.
     Q_INVOKABLE void requestDelete(const QString &documentID);
     Q_INVOKABLE void confirmDelete();
     Q_INVOKABLE void cancelDelete();

@@ -70,11 +70,11 @@ QString MenuCommand::title() const
     return QCoreApplication::translate("MenuCommand", englishTitle);
 }
 
-QList<MenuCommand> menuCommands(MenuPlace place)
+QList<MenuCommand> menuCommands(MenuLocation place)
 {
     QList<MenuCommand> commands;
     std::ranges::copy_if(menuCommands(), std::back_inserter(commands), [place](const MenuCommand &command) {
-        return place == MenuPlace::window || command.role != CommandRole::windowMenu;
+        return place == MenuLocation::window || command.role != CommandRole::windowMenu;
     });
     return commands;
 }

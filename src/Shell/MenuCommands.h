@@ -15,13 +15,13 @@ enum class BarMenu { file, edit, spaces, view, help };
 inline constexpr std::array allBarMenus{BarMenu::file, BarMenu::edit, BarMenu::spaces, BarMenu::view,
                                         BarMenu::help};
 
-/// What a command is to a system that knows some of them and gives those a place of its own.
+/// Roles that systems with a global menu bar treat specially.
 enum class CommandRole { ordinary, about, quit, windowMenu };
 
 /// Where the commands are offered: behind a button of the window, or in the menu bar of the system.
-enum class MenuPlace { window, menuBar };
+enum class MenuLocation { window, menuBar };
 
-/// One command of the program: what it is called wherever it is offered, and its key when it has one.
+/// A command of the program: its title and its key.
 struct MenuCommand {
     QString id = {};
     /// Marked for the catalogues with the context "MenuCommand".
@@ -31,7 +31,7 @@ struct MenuCommand {
     QString shortcut = {};
     CommandGroup group = CommandGroup::none;
     CommandRole role = CommandRole::ordinary;
-    /// A second key for it, told of nowhere.
+    /// A second key, not shown anywhere.
     QString otherShortcut = {};
 
     QString title() const;
@@ -42,7 +42,7 @@ struct MenuCommand {
 const QList<MenuCommand> &menuCommands();
 
 /// Those that make sense where the commands are offered there.
-QList<MenuCommand> menuCommands(MenuPlace place);
+QList<MenuCommand> menuCommands(MenuLocation place);
 
 /// The menu that holds the group in a menu bar. Groups may share one; what belongs to none is in none.
 std::optional<BarMenu> barMenu(CommandGroup group);

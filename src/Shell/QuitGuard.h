@@ -15,12 +15,12 @@ class QuitGuard : public QObject
 public:
     explicit QuitGuard(AppState &appState, QObject *parent = nullptr);
 
-    /// The question is on show.
+    /// Whether the question is shown.
     bool asks() const { return m_asks; }
-    /// Why the changes could not be saved. Keeps its last words while the question goes away.
+    /// Why the changes could not be saved. Keeps its text while the question fades out.
     QString reason() const { return m_reason; }
 
-    /// Saves the changes. Returns whether the program may end; if not, the question is on show.
+    /// Saves the changes. Returns whether the program may end; if not, the question is shown.
     Q_INVOKABLE bool mayQuit();
     /// Ends the program without the changes that could not be saved.
     Q_INVOKABLE void quitAnyway();

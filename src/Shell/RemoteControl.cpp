@@ -5,7 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-CommandLineAnswer captureSpark(AppState &appState, const SparkCommand &command)
+CommandLineResult captureSpark(AppState &appState, const SparkCommand &command)
 {
     appState.captureSpark(command.text);
     appState.confirmSave();
@@ -21,30 +21,30 @@ RemoteControl::RemoteControl(AppState &appState, PomodoroTimer &timer, QObject *
 {
 }
 
-CommandLineAnswer RemoteControl::answer(const QStringList &arguments)
+CommandLineResult RemoteControl::answer(const QStringList &arguments)
 {
-    const CommandLine commandLine = readCommandLine(arguments);
-    if (const auto *known = std::get_if<CommandLineAnswer>(&commandLine))
+    const ParsedCommandLine commandLine = parseCommandLine(arguments);
+    if (const auto *known = std::get_if<CommandLineResult>(&commandLine))
         return *known;
     if (const auto *spark = std::get_if<SparkCommand>(&commandLine))
         return captureSpark(m_appState, *spark);
     if (const auto *pomodoro = std::get_if<PomodoroCommand>(&commandLine))
-        return workPomodoro(pomodoro->verb);
+        return controlPomodoro(pomodoro->verb);
     if (std::holds_alternative<ExportCommand>(commandLine))
-        return letExport();
+        return allowExport();
     Q_EMIT openRequested();
     return {};
 }
 
-CommandLineAnswer RemoteControl::letExport()
+CommandLineResult RemoteControl::allowExport()
 {
     m_appState.saveChanges();
     if (const std::optional<QString> error = m_appState.lastSaveError())
         return {u"pelko: %1\n"_s.arg(*error), 1};
-    return {{}, CommandLineAnswer::yours};
+    return {{}, CommandLineResult::runInCaller};
 }
 
-CommandLineAnswer RemoteControl::workPomodoro(PomodoroCommand::Verb verb)
+CommandLineResult RemoteControl::controlPomodoro(PomodoroCommand::Verb verb)
 {
     switch (verb) {
     case PomodoroCommand::Verb::start:

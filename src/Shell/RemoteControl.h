@@ -7,10 +7,10 @@
 class AppState;
 class PomodoroTimer;
 
-/// Files the spark at once. The answer says whether it reached the disk; it is in the store either way.
-CommandLineAnswer captureSpark(AppState &appState, const SparkCommand &command);
+/// Adds the spark and saves. An error means that it was not saved; the store has it either way.
+CommandLineResult captureSpark(AppState &appState, const SparkCommand &command);
 
-/// What other processes may ask of the running program: command lines that were given to a second one.
+/// Runs the command lines that other processes send to this one.
 class RemoteControl : public QObject
 {
     Q_OBJECT
@@ -18,17 +18,17 @@ class RemoteControl : public QObject
 public:
     RemoteControl(AppState &appState, PomodoroTimer &timer, QObject *parent = nullptr);
 
-    /// Does what the arguments ask for and says what came of it. The first names the program.
-    CommandLineAnswer answer(const QStringList &arguments);
+    /// Runs a command line and returns its result. The first argument is the program name.
+    CommandLineResult answer(const QStringList &arguments);
 
 Q_SIGNALS:
-    /// The window has to come to the front.
+    /// The window must be raised.
     void openRequested();
 
 private:
-    /// An export reads the file, which anybody may; it has to hold the latest words.
-    CommandLineAnswer letExport();
-    CommandLineAnswer workPomodoro(PomodoroCommand::Verb verb);
+    /// Saves, then lets the caller export from the file.
+    CommandLineResult allowExport();
+    CommandLineResult controlPomodoro(PomodoroCommand::Verb verb);
     QString pomodoroStatus() const;
 
     AppState &m_appState;

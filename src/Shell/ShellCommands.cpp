@@ -6,7 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-ShellCommands::ShellCommands(AppState &appState, NavigationViewModel &navigation, MenuPlace place,
+ShellCommands::ShellCommands(AppState &appState, NavigationViewModel &navigation, MenuLocation place,
                              QObject *parent)
     : QObject(parent)
     , m_appState(appState)
@@ -29,7 +29,7 @@ ShellCommands::ShellCommands(AppState &appState, NavigationViewModel &navigation
 void ShellCommands::bindViews()
 {
     const auto toggleFocusMode = [this] {
-        // The navigation is none of the page. It gives the focus back before focus mode looks for it.
+        // Close the navigation first, so that it restores the focus to the page.
         m_appState.setShowNav(false);
         m_appState.setFocusMode(!m_appState.focusMode());
     };

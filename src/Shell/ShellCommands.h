@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Shell/CommandMenu.h"
-#include "Shell/ShortcutSheet.h"
+#include "Shell/ShortcutLine.h"
 
 #include <QObject>
 #include <QVariantList>
@@ -21,14 +21,14 @@ class ShellCommands : public QObject
     Q_PROPERTY(QList<ShortcutLine> commandKeys READ commandKeys CONSTANT)
 
 public:
-    ShellCommands(AppState &appState, NavigationViewModel &navigation, MenuPlace place = MenuPlace::window,
-                  QObject *parent = nullptr);
+    ShellCommands(AppState &appState, NavigationViewModel &navigation,
+                  MenuLocation place = MenuLocation::window, QObject *parent = nullptr);
 
-    /// For the menu, for the keys, and for whoever binds a command of his own.
+    /// The list model, for menus, keys and bind().
     CommandListModel *list() { return &m_list; }
 
     /// The system keeps a menu bar, which offers the commands and gives them their keys.
-    bool hasMenuBar() const { return m_place == MenuPlace::menuBar; }
+    bool hasMenuBar() const { return m_place == MenuLocation::menuBar; }
     /// The menus of that bar, each a `CommandMenu`.
     QVariantList menus() const { return m_menus; }
 
@@ -36,7 +36,7 @@ public:
     bool showShortcuts() const { return m_showShortcuts; }
     QList<ShortcutLine> commandKeys() const { return ::commandKeys(m_place); }
 
-    /// Gives the command of that id. One that is unknown or disabled does nothing.
+    /// Runs the command. Does nothing if it is unknown or disabled.
     Q_INVOKABLE void run(const QString &id);
     Q_INVOKABLE void dismissShortcuts() { setShowShortcuts(false); }
     /// The window fills the screen, or does so no longer.
@@ -64,7 +64,7 @@ private:
 
     AppState &m_appState;
     NavigationViewModel &m_navigation;
-    MenuPlace m_place;
+    MenuLocation m_place;
     CommandListModel m_list{menuCommands(m_place)};
     QVariantList m_menus;
     bool m_showShortcuts = false;

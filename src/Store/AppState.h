@@ -47,7 +47,7 @@ public:
     std::optional<PelkoDocument> openDocument() const;
     /// How often the documents have changed. With `documentsChanged` this has grown already.
     quint64 changeCount() const { return m_changeCount; }
-    /// The row whose document alone differs since the change before the last; nothing when more may differ.
+    /// Returns the row of the document if the last change replaced only this one, otherwise std::nullopt.
     std::optional<qsizetype> replacedRow() const;
     /// The documents of the current space, newest first.
     QList<PelkoDocument> currentSpaceDocuments() const;
@@ -74,25 +74,25 @@ public:
     void updateDocument(PelkoDocument document);
     /// Removes the document; if it was open, the newest of the current space is opened instead.
     void permanentlyDeleteDocument(const PelkoDocument &document);
-    /// Files one line as a new ideas document and saves at once. Blank text gives nothing.
+    /// Adds one line as a new ideas document and saves at once. Returns std::nullopt for blank text.
     std::optional<PelkoDocument> captureSpark(const QString &text);
     /// Moves one block of a document in memory without saving or stamping, for the live moves of a drag.
     void moveBlock(const QUuid &documentID, qsizetype from, qsizetype to);
     /// Writes all documents now. A failure becomes `lastError`.
     void save();
-    /// Writes them if anything has changed that is not in the file yet. `lastSaveError` tells what came of
-    /// it.
+    /// Writes all documents if there are unsaved changes. Sets `lastSaveError`.
     void saveChanges();
-    /// The file is gone, or was replaced by another program: adds its documents that are not here, and notes
-    /// as unsaved what it lacks. One that cannot be read is left alone until the next save.
+    /// Call it when the file was removed, or replaced by another program. Adds the file's documents that the
+    /// store does not have and marks the rest as unsaved. A file that cannot be read is kept until the next
+    /// save.
     void adoptFile();
-    /// Waits until the last save would outlive a power cut. A failure becomes `lastError`.
+    /// Waits until the last save is synchronised to the disk. A failure becomes `lastError`.
     void confirmSave();
 
 Q_SIGNALS:
     void documentsChanged();
     void currentSpaceChanged();
-    /// Another document is about to be opened: the last moment to hand in what belongs to this one.
+    /// Emitted before another document is opened. Uncommitted input for the open one must be stored now.
     void openDocumentIDAboutToChange();
     void openDocumentIDChanged();
     void showDocLimitNudgeChanged();

@@ -11,7 +11,7 @@
 inline constexpr std::string_view base64Alphabet =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
-/// The room that any such bytes fit in: for each three begun four characters, all of them escaped slashes.
+/// Returns the largest size of the escaped text: eight characters for each group of three bytes.
 constexpr qsizetype longestEscapedBase64(qsizetype byteCount)
 {
     return (byteCount + 2) / 3 * 8;
@@ -21,6 +21,6 @@ constexpr qsizetype longestEscapedBase64(qsizetype byteCount)
 /// written. There must be room for `longestEscapedBase64`.
 char *encodeEscapedBase64(QByteArrayView bytes, char *out);
 
-/// Nothing when a character is foreign to the alphabet or the padding is missing or wrong. Bits of the last
-/// character that stand for no byte are not looked at.
+/// Returns std::nullopt if a character is not in the alphabet or the padding is missing or wrong. Unused bits
+/// of the last character are ignored.
 std::optional<QByteArray> decodeBase64(std::string_view text);

@@ -15,7 +15,7 @@
 
 namespace
 {
-constexpr std::uint8_t nothing = 0x80; // the place stays empty when bytes are shuffled
+constexpr std::uint8_t nothing = 0x80; // shuffles a zero byte
 
 /// How eight characters move apart to make room for the backslashes, for each set of slashes among them.
 struct Escape {

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <span>
 
-/// Base64 in the registers of the processor, where it has them and this program knows them.
+/// Base64 with SIMD instructions, as far as the processor has them.
 namespace Base64Vector
 {
 
@@ -17,7 +17,7 @@ struct Encoded {
 /// the rest. There must be room for the longest text of all bytes.
 using Encoder = Encoded (*)(const char *bytes, std::size_t count, char *out);
 
-/// Those that this processor has the instructions for, the fastest first.
+/// Returns the encoders that this processor supports, the fastest first.
 std::span<const Encoder> encoders();
 
 } // namespace Base64Vector

@@ -4,8 +4,8 @@
 #include <utility>
 #include <vector>
 
-/// Assigns fields at once and announces them when the scope ends, each signal once and only for fields that
-/// really changed. So nobody who hears a signal can see the owner half changed.
+/// Assigns fields immediately and emits their change signals when the scope ends, each signal once and only
+/// for fields that changed. Receivers therefore never see the owner in an intermediate state.
 template <typename Owner>
 class ChangeScope
 {

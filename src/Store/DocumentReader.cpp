@@ -41,7 +41,7 @@ std::array<std::optional<dom::element>, count> membersOf(dom::element json,
     return members;
 }
 
-// What "data.json" may hold, value by value. Each is false when the JSON is of another kind.
+// The value types of "data.json". Each function returns false if the JSON has another type.
 
 bool read(dom::element json, bool &value)
 {
@@ -116,14 +116,14 @@ bool read(dom::element json, BlockType &value)
 template <typename Value>
 bool read(dom::element json, QList<Value> &values);
 
-/// False when the member is missing or is not what `value` can hold.
+/// Returns false if the member is missing or has the wrong type.
 template <typename Value>
 bool required(const std::optional<dom::element> &member, Value &value)
 {
     return member && read(*member, value);
 }
 
-/// False when the member is there and is not what `value` can hold.
+/// Returns false if the member exists and has the wrong type.
 template <typename Value>
 bool optional(const std::optional<dom::element> &member, std::optional<Value> &value)
 {
@@ -190,7 +190,7 @@ bool read(dom::element json, QList<Value> &values)
     return true;
 }
 
-/// Reads the last run, the rest of whose text is given back, into as many documents.
+/// Parses the last run and frees its text.
 bool takeLast(QByteArray &json, const ObjectRun &run, dom::parser &parser,
               QList<PelkoDocument>::iterator document)
 {

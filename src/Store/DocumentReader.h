@@ -7,6 +7,6 @@
 /// documents. Unknown keys are skipped; of a key given twice the last one counts; null is as good as absent
 /// where a value may be absent; a byte order mark before the text is allowed.
 ///
-/// The bytes are taken over and given back while the documents are made, so that both together take little
-/// more memory than the larger of the two; hand in the only copy of a large file.
+/// The bytes are freed while the documents are built, so the peak memory is little more than the larger of
+/// the two; pass the only copy of a large file. Returns std::nullopt on any error.
 std::optional<QList<PelkoDocument>> readDocuments(QByteArray json);

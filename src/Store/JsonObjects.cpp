@@ -30,7 +30,7 @@ std::size_t closingBrace(std::string_view text, std::size_t at)
     return text.size();
 }
 
-/// A text that is taken in from its front, with what JSON allows between its parts.
+/// A cursor over JSON text.
 class Remaining
 {
 public:

@@ -15,11 +15,11 @@ struct ObjectRun {
     bool operator==(const ObjectRun &) const = default;
 };
 
-/// What `findObjects` goes by, in bytes.
+/// Limits for `findObjects`, in bytes.
 struct ObjectLengths {
-    /// A shorter object is taken for a fault, so that the number of them is bounded by the text.
+    /// A shorter object is an error, which bounds the number of objects.
     std::size_t shortest = 0;
-    /// What is at least so long is a run.
+    /// The minimum length of a run.
     std::size_t run = 0;
 };
 

@@ -26,12 +26,12 @@ public:
     /// As a string of base64.
     void putBytes(QByteArrayView bytes);
 
-    /// Drains the rest. The first error there was, in making the text or in draining it.
+    /// Drains the rest. Returns the first error of encoding or writing.
     [[nodiscard]] std::optional<FileError> finish();
     /// The text that was not drained.
     QByteArray take();
     bool hasFailed() const { return m_error.has_value(); }
-    /// For text that was made apart and put in.
+    /// For text that was encoded separately and inserted.
     void inheritError(const JsonText &other);
 
 private:

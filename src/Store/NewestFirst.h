@@ -5,5 +5,5 @@
 /// The documents of a space, newest first. Those made in the same instant keep their order.
 QList<PelkoDocument> newestFirst(const QList<PelkoDocument> &documents, Space space);
 
-/// The first of those, or nothing where the space is empty.
+/// Returns the id of the newest document, or std::nullopt if the space is empty.
 std::optional<QUuid> newestOf(const QList<PelkoDocument> &documents, Space space);

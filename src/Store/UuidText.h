@@ -12,5 +12,5 @@ using UuidText = std::array<char, 36>;
 /// Upper-case, as the data file has it.
 UuidText uuidToText(const QUuid &uuid);
 
-/// Either case. Nothing when the text is in any other form: QUuid itself reads many.
+/// Accepts both cases. Returns std::nullopt for all other forms, some of which QUuid accepts.
 std::optional<QUuid> uuidFromText(std::string_view text);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Tasks/TaskList.h"
+#include "Tasks/TaskGroups.h"
 
 #include <span>
 #include <vector>

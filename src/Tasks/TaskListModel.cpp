@@ -2,13 +2,13 @@
 
 using namespace Qt::StringLiterals;
 
-QList<TaskRow> taskRows(const QList<TaskGroup> &groups)
+QList<TaskListRow> taskRows(const QList<TaskGroup> &groups)
 {
-    QList<TaskRow> rows;
+    QList<TaskListRow> rows;
     for (const TaskGroup &group : groups) {
         rows.append({.docID = group.doc.id, .text = group.doc.title().toUpper()});
         for (const Task &task : group.todos) {
-            rows.append({.kind = TaskRow::Kind::task,
+            rows.append({.kind = TaskListRow::Kind::task,
                          .docID = group.doc.id,
                          .blockID = task.block.id,
                          .todoID = task.todo.id,
@@ -22,7 +22,7 @@ QList<TaskRow> taskRows(const QList<TaskGroup> &groups)
 int TaskListModel::taskFrom(int row, int step) const
 {
     while (row >= 0 && row < rowCount()) {
-        if (rows().at(row).kind == TaskRow::Kind::task)
+        if (rows().at(row).kind == TaskListRow::Kind::task)
             return row;
         row += step;
     }
@@ -33,10 +33,10 @@ QVariant TaskListModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const TaskRow &row = rows().at(index.row());
+    const TaskListRow &row = rows().at(index.row());
     switch (role) {
     case RowKindRole:
-        return row.kind == TaskRow::Kind::heading ? u"heading"_s : u"task"_s;
+        return row.kind == TaskListRow::Kind::heading ? u"heading"_s : u"task"_s;
     case DocIDRole:
         return row.docID.toString(QUuid::WithoutBraces);
     case BlockIDRole:
@@ -58,7 +58,7 @@ QHash<int, QByteArray> TaskListModel::roleNames() const
             {TodoIDRole, "todoID"},   {TextRole, "text"},   {DoneRole, "done"}};
 }
 
-QList<int> TaskListModel::changedRoles(const TaskRow &before, const TaskRow &after) const
+QList<int> TaskListModel::changedRoles(const TaskListRow &before, const TaskListRow &after) const
 {
     QList<int> roles;
     if (before.kind != after.kind)

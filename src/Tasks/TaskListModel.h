@@ -1,10 +1,10 @@
 #pragma once
 
 #include "Editor/IdListModel.h"
-#include "Tasks/TaskList.h"
+#include "Tasks/TaskGroups.h"
 
 /// One line of the list: the heading of a document's tasks, or a task.
-struct TaskRow {
+struct TaskListRow {
     enum class Kind { heading, task };
 
     Kind kind = Kind::heading;
@@ -16,19 +16,19 @@ struct TaskRow {
     QString text = {};
     bool done = false;
 
-    bool operator==(const TaskRow &) const = default;
+    bool operator==(const TaskListRow &) const = default;
 };
 
-inline QUuid rowKey(const TaskRow &row)
+inline QUuid rowKey(const TaskListRow &row)
 {
-    return row.kind == TaskRow::Kind::heading ? row.docID : row.todoID;
+    return row.kind == TaskListRow::Kind::heading ? row.docID : row.todoID;
 }
 
 /// Each group's heading, and its tasks below it.
-QList<TaskRow> taskRows(const QList<TaskGroup> &groups);
+QList<TaskListRow> taskRows(const QList<TaskGroup> &groups);
 
 /// The list of the tasks card for QML.
-class TaskListModel : public IdListModel<TaskRow>
+class TaskListModel : public IdListModel<TaskListRow>
 {
     Q_OBJECT
 
@@ -44,5 +44,5 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
 protected:
-    QList<int> changedRoles(const TaskRow &before, const TaskRow &after) const override;
+    QList<int> changedRoles(const TaskListRow &before, const TaskListRow &after) const override;
 };

@@ -141,7 +141,7 @@ void TasksPanelViewModel::followClock()
 
 void TasksPanelViewModel::followStore()
 {
-    // A row that was replaced is all there is to see only for who has seen every change before.
+    // replacedRow() is only valid if no earlier change was missed.
     const bool missedNone = m_appState.changeCount() == m_lastChange + 1;
     m_lastChange = m_appState.changeCount();
     if (m_library.read(m_appState.documents(), missedNone ? m_appState.replacedRow() : std::nullopt)) {

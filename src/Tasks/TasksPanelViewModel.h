@@ -10,8 +10,7 @@ class AppState;
 
 /// What the tasks panel shows and can do, from its opening to its closing. It follows the store and, once a
 /// minute counted from its opening, the clock; so the minute it shows may be up to 59 seconds old. While the
-/// panel is out of sight, the clock, the streak and the events wait. Whatever it changes is changed in the
-/// page as it was shown. Ids cross into QML as strings.
+/// panel is hidden, the clock, the streak and the events are not updated. Ids cross into QML as strings.
 class TasksPanelViewModel : public QObject
 {
     Q_OBJECT
@@ -35,9 +34,9 @@ public:
     TasksPanelViewModel(AppState &appState, const TasksServices &services, QObject *parent = nullptr);
 
     bool hasOpenDocument() const { return !m_openDocumentText.isEmpty(); }
-    /// How much is written there and how long ago, like "107 words · 5m ago".
+    /// The word count of the open page and its age, such as "107 words · 5m ago".
     const QString &openDocumentText() const { return m_openDocumentText; }
-    /// Like "7:42", and beside it "AM".
+    /// Such as "7:42", and the marker "AM".
     QString time() const;
     QString timeMarker() const;
     /// Like "Thursday, Oct 16".
@@ -45,7 +44,7 @@ public:
     /// A TaskListModel.
     QObject *tasks() { return &m_tasks; }
     qint64 pendingCount() const { return m_pendingCount; }
-    /// What stands in the field for a new task.
+    /// The text of the field for a new task.
     const QString &newTaskText() const { return m_newTaskText; }
     /// The words of the whole library.
     qint64 wordTotal() const { return m_wordTotal; }
@@ -56,21 +55,22 @@ public:
     qint64 currentStreak() const { return m_currentStreak; }
     /// "day" or "days".
     QString streakUnit() const;
-    /// Fetched when the panel comes into sight, and whenever they are outdated while it is.
+    /// Fetched when the panel becomes visible, and again when they are outdated.
     UpcomingEvents *upcomingEvents() { return &m_upcomingEvents; }
 
-    /// Whether the panel can be seen: its window is shown and the panel in it. A new panel counts as seen.
+    /// Set by the view: whether the panel and its window are visible. Initially true.
     Q_INVOKABLE void setSeen(bool isSeen);
-    /// The field holds `text` now.
+    /// Called by the view when the text of the field changes.
     Q_INVOKABLE void typed(const QString &text);
-    /// Adds what stands in the field and empties it, unless there are only blanks in it.
+    /// Adds a task with the text of the field and clears it. Does nothing if the text is blank.
     Q_INVOKABLE void submitNewTask();
     /// Adds an entry to the open document; does nothing when none is open.
     Q_INVOKABLE void addQuickTask(const QString &text);
     Q_INVOKABLE void toggleTodo(const QString &docID, const QString &blockID, const QString &todoID);
     Q_INVOKABLE void deleteTodo(const QString &docID, const QString &blockID, const QString &todoID);
 
-    /// The rows of tasks around one of the list; -1 where there is none. A heading lies near the task below.
+    /// Return the row of the next, previous or nearest task, or -1. Nearest to a heading is the task below
+    /// it.
     Q_INVOKABLE int taskAfter(int row) const { return m_tasks.taskFrom(row + 1, 1); }
     Q_INVOKABLE int taskBefore(int row) const { return m_tasks.taskFrom(row - 1, -1); }
     Q_INVOKABLE int taskNear(int row) const;

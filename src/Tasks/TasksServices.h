@@ -7,7 +7,7 @@ class Clock;
 class Preferences;
 class Scheduler;
 
-/// What tasks panels need of the desktop they run on. All of it outlives them.
+/// The services that a tasks panel uses. They must outlive it.
 struct TasksServices {
     Scheduler &scheduler;
     const Clock &clock;

@@ -48,7 +48,7 @@ void TasksViewModel::setPanel(TasksPanelViewModel *panel)
 {
     TasksPanelViewModel *before = m_panel;
     ChangeScope(*this).assign(m_panel, panel, &TasksViewModel::panelChanged);
-    // The view goes with the signal, but not before the event loop turns: its panel outlives it.
+    // The view is deleted later, by the event loop, so the view model must outlive it.
     if (before && before != panel)
         before->deleteLater();
 }

@@ -2,8 +2,7 @@
 
 #include "Tasks/TasksPanelViewModel.h"
 
-/// What the main window knows of the tasks panel: whether there is one to be had, whether it is open, and the
-/// panel itself, which is made anew each time it opens.
+/// Whether the tasks panel is available and open, and its view model, which is created each time it opens.
 class TasksViewModel : public QObject
 {
     Q_OBJECT
@@ -15,16 +14,16 @@ class TasksViewModel : public QObject
 public:
     TasksViewModel(AppState &appState, TasksServices services, QObject *parent = nullptr);
 
-    /// The panel belongs to the work space.
+    /// Whether the current space has a tasks panel: only the work space.
     bool isOffered() const;
-    /// Whether the panel is wanted, on show or not.
+    /// Whether the user has opened the panel, even if it is not available now.
     bool isShown() const;
     bool isOpen() const { return m_isOpen; }
-    /// The panel that was opened last, until it has left the screen; then null.
+    /// The view model of the open panel; null once the panel has disappeared.
     TasksPanelViewModel *panel() const { return m_panel; }
 
     Q_INVOKABLE void toggle();
-    /// The panel that was closed is out of sight and goes.
+    /// Called by the view when the closed panel has disappeared; deletes its view model.
     Q_INVOKABLE void panelLeft();
 
 Q_SIGNALS:

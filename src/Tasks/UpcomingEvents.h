@@ -8,7 +8,7 @@
 class Clock;
 
 /// The events of the 24 hours after a fetch, sorted by start. The rows, for QML, are the first three; the
-/// total counts all. Where calendars cannot be read, the list silently stays as it was.
+/// total counts all. If the calendars cannot be read, the list stays unchanged.
 class UpcomingEvents : public QAbstractListModel
 {
     Q_OBJECT
@@ -24,8 +24,7 @@ public:
     const QList<CalendarEvent> &upcomingEvents() const { return m_upcomingEvents; }
     int total() const { return static_cast<int>(m_upcomingEvents.size()); }
 
-    /// Asks for access and, with it, for the events of the coming day. The list is replaced as a whole,
-    /// later.
+    /// Requests access and fetches the events of the next 24 hours. The list is replaced when they arrive.
     void fetchEvents();
 
     /// Fetches again if one of the events has ended, a day has begun, or the clock or the time zone was

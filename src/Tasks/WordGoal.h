@@ -2,13 +2,13 @@
 
 #include <QtGlobal>
 
-/// How far the writer has come.
+/// The word goal of the library.
 namespace WordGoal
 {
 
 constexpr qint64 words = 500;
 
-/// From 0 to 1, where it stays however much is written.
+/// Returns the progress from 0 to 1.
 constexpr double progress(qint64 total)
 {
     const double part = static_cast<double>(total) / static_cast<double>(words);

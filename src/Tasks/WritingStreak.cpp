@@ -10,7 +10,7 @@ namespace
 const QString lastWriteDateKey = u"pelko.lastWriteDate"_s;
 const QString currentStreakKey = u"pelko.currentStreak"_s;
 
-/// Whole days, nothing when a calendar does not reach that far.
+/// Returns the number of days, or std::nullopt if the date is out of range.
 std::optional<qint64> daysBetween(const QDate &first, const QDate &second)
 {
     return first.isValid() && second.isValid() ? std::optional(first.daysTo(second)) : std::nullopt;

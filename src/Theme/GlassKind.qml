@@ -1,6 +1,6 @@
 import QtQuick
 
-/// What one kind of glass is made of. `tint` lies over the blurred ground; `plain` stands in for both of them where
+/// The parameters of one kind of glass. `tint` lies over the blurred ground; `plain` stands in for both of them where
 /// nothing can be blurred.
 QtObject {
     property color tint

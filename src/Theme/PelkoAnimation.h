@@ -4,8 +4,7 @@
 
 #include <QObject>
 
-/// A spring made ready for an animation: how long it takes and the curve it follows meanwhile. Made once,
-/// then only copied; the copies share the curve.
+/// The duration and easing curve of a spring, for animations. Copies share the curve.
 class SpringMotion
 {
     Q_GADGET

@@ -3,7 +3,7 @@
 #include <QStringList>
 
 /// The program's voice: one line at random from a pool, never the line that was picked last time under the
-/// same key. What was picked is forgotten when the program ends. Interface thread only.
+/// same key. Not stored between launches. Interface thread only.
 class PelkoVoice
 {
 public:

@@ -62,7 +62,7 @@ Spring::State Spring::pulledToZero(State start, qreal seconds) const
 
 qreal Spring::settlingTime() const
 {
-    // Walking back from a moment when surely all is still finds the last excursion whatever the damping.
+    // Searching backwards from an upper bound finds the last excursion for any damping.
     const qreal step = response / 2000;
     qreal seconds = 2 * response / dampingFraction;
     while (qAbs(1 - position(seconds)) < settleThreshold)

@@ -14,7 +14,7 @@ struct Spring {
 
     /// The knots lie closer together at the start, where the spring moves fastest.
     static constexpr int segmentCount = 10;
-    /// What is left of the way when the spring counts as settled.
+    /// The remaining distance at which the spring counts as settled.
     static constexpr qreal settleThreshold = 0.001;
 
     qreal response;

@@ -20,21 +20,21 @@ public:
 
     explicit FlowTimer(Scheduler &scheduler, QObject *parent = nullptr);
 
-    /// The one of the process, made on first use and never destroyed. It lives in real time, so it is the
-    /// platform layer that defines it.
+    /// Returns the timer of the process, created on first use and never destroyed. Defined in Platform,
+    /// because it uses a QtScheduler.
     static FlowTimer &shared();
 
     /// Seconds left in the current run.
     qint64 remaining() const { return m_remaining; }
     bool isRunning() const { return m_isRunning; }
-    /// Whether there is a time worth showing: a run that goes on, or one that was begun.
+    /// Whether a run has started and is not finished.
     bool isActive() const { return m_isRunning || m_remaining < totalSeconds; }
     /// "m:ss".
     QString displayTime() const;
 
     /// Does nothing while a run goes on.
     Q_INVOKABLE void start();
-    /// Keeps what remains.
+    /// Stops and keeps the remaining time.
     void stop();
 
 Q_SIGNALS:

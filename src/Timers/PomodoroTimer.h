@@ -9,7 +9,7 @@
 
 /// A count-down that alternates between 25 minutes of focus and 5 minutes of break and stops at each
 /// boundary: the next phase is started by hand. It rests on "00:00" for one second before a phase ends, so a
-/// phase takes one tick more than it has seconds. Nothing is kept between launches.
+/// phase takes one tick more than it has seconds. Nothing is stored between launches.
 class PomodoroTimer : public QObject
 {
     Q_OBJECT
@@ -26,15 +26,15 @@ public:
     bool isFocusPhase() const { return m_isFocusPhase; }
     /// Focus phases completed since launch.
     qint64 sessionCount() const { return m_sessionCount; }
-    /// The seconds that the current phase has from its beginning to its end.
+    /// The duration of the current phase in seconds.
     qint64 phaseLength() const { return m_isFocusPhase ? focusSeconds : breakSeconds; }
     /// "mm:ss".
     QString displayTime() const;
 
-    /// Counts down from what remains. It does not look whether it already does: started twice, the first
-    /// tick goes on beside the second and nothing but the end of the timer stops it.
+    /// Starts the count-down. Must not be called while it runs: that starts a second tick, which only the
+    /// destructor stops.
     void start();
-    /// Keeps what remains.
+    /// Stops and keeps the remaining time.
     void pause();
     /// Pauses and refills the current phase.
     void reset();

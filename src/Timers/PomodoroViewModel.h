@@ -7,9 +7,8 @@ class AppState;
 class Pasteboard;
 class PomodoroTimer;
 
-/// What the pomodoro panel shows and can do: the timer, the field a spark is caught in, and the latest
-/// sparks. Timer and sparks live elsewhere; what stands in the field and which spark glows lasts from one
-/// opening of the panel to its closing.
+/// The view model of the pomodoro panel: the timer, the capture field and the latest sparks. The text of the
+/// field and the highlighted spark are reset each time the panel opens.
 class PomodoroViewModel : public QObject
 {
     Q_OBJECT
@@ -42,24 +41,24 @@ public:
     int sessionDots() const;
     /// "+N" for the sessions that have no dot; empty when all have.
     QString moreSessions() const;
-    /// What stands in the capture field.
+    /// The text of the capture field.
     const QString &quickNote() const { return m_quickNote; }
     bool canSubmit() const;
-    /// Why the spark that stands in the field is not saved yet; otherwise empty.
+    /// The error of the last attempt to save the spark in the field; otherwise empty.
     const QString &captureError() const { return m_captureError; }
     /// Of all sparks.
     int sparkCount() const { return m_sparkCount; }
     QObject *sparks() { return &m_sparks; }
 
-    /// The panel is on screen: soon the field wants the keyboard.
+    /// Called when the panel is shown; focuses the field after a delay.
     Q_INVOKABLE void shown();
-    /// The panel has closed: the next opening is to know nothing of this one.
+    /// Called when the panel has closed; resets its state.
     Q_INVOKABLE void startFresh();
     Q_INVOKABLE void toggleTimer();
     Q_INVOKABLE void resetTimer();
-    /// The field holds `text` now.
+    /// Called by the view when the text of the field changes.
     Q_INVOKABLE void typed(const QString &text);
-    /// Captures what stands in the field, unless that is blank. A spark that cannot be saved stays in the
+    /// Captures the text of the field, unless it is blank. A spark that cannot be saved stays in the
     /// field; the next submission of the same text tries to save it again, and captures it no second time.
     Q_INVOKABLE void submitSpark();
     /// Puts all of the spark's text on the pasteboard.
@@ -75,7 +74,7 @@ Q_SIGNALS:
     void captureErrorChanged();
     void sparkCountChanged();
     void startedFresh();
-    /// The capture field has to take the keyboard.
+    /// The capture field must take the focus.
     void captureFocusRequested();
 
 private:

@@ -13,7 +13,7 @@ bool comesFirst(const PelkoDocument *left, const PelkoDocument *right)
     return left->createdAt != right->createdAt ? left->createdAt > right->createdAt : left < right;
 }
 
-SparkCard card(const PelkoDocument &spark, bool isNew)
+RecentSpark card(const PelkoDocument &spark, bool isNew)
 {
     return {.id = spark.id, .text = sparkText(spark).left(shownCharacters), .isNew = isNew};
 }

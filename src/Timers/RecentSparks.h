@@ -2,27 +2,27 @@
 
 #include "Models/PelkoDocument.h"
 
-/// One spark as the panel shows it.
-struct SparkCard {
+/// One row of the list of recent sparks.
+struct RecentSpark {
     QUuid id;
-    /// The beginning of it, enough for the lines a card has: somebody may paste a whole book.
+    /// The beginning of its text, as much as a card can show.
     QString text;
     bool isNew = false;
 
-    bool operator==(const SparkCard &) const = default;
+    bool operator==(const RecentSpark &) const = default;
 };
 
 struct RecentSparks {
     /// Newest first.
-    QList<SparkCard> cards;
+    QList<RecentSpark> cards;
     /// Of all sparks, not only those on cards.
     qsizetype total = 0;
 };
 
-/// What a spark says: its first block.
+/// Returns the text of a spark: its first block.
 QString sparkText(const PelkoDocument &spark);
 
 /// The newest `limit` documents of the ideas space, in the order of AppState::sparks, found without sorting
-/// the others: there may be ten thousand.
+/// all documents.
 RecentSparks recentSparks(const QList<PelkoDocument> &documents, qsizetype limit,
                           const std::optional<QUuid> &newest);

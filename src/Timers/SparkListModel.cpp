@@ -4,7 +4,7 @@ QVariant SparkListModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const SparkCard &card = rows().at(index.row());
+    const RecentSpark &card = rows().at(index.row());
     switch (role) {
     case SparkIDRole:
         return card.id.toString(QUuid::WithoutBraces);
@@ -22,7 +22,7 @@ QHash<int, QByteArray> SparkListModel::roleNames() const
     return {{SparkIDRole, "sparkID"}, {TextRole, "text"}, {IsNewRole, "isNew"}};
 }
 
-QList<int> SparkListModel::changedRoles(const SparkCard &before, const SparkCard &after) const
+QList<int> SparkListModel::changedRoles(const RecentSpark &before, const RecentSpark &after) const
 {
     QList<int> roles;
     if (before.text != after.text)

@@ -3,13 +3,13 @@
 #include "Editor/IdListModel.h"
 #include "Timers/RecentSparks.h"
 
-inline QUuid rowKey(const SparkCard &card)
+inline QUuid rowKey(const RecentSpark &card)
 {
     return card.id;
 }
 
 /// The sparks on cards for QML.
-class SparkListModel : public IdListModel<SparkCard>
+class SparkListModel : public IdListModel<RecentSpark>
 {
     Q_OBJECT
 
@@ -22,5 +22,5 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
 protected:
-    QList<int> changedRoles(const SparkCard &before, const SparkCard &after) const override;
+    QList<int> changedRoles(const RecentSpark &before, const RecentSpark &after) const override;
 };

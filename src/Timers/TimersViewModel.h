@@ -10,8 +10,8 @@ class AppState;
 class Pasteboard;
 class PomodoroTimer;
 
-/// What the windows know of the timers: the flow timer, the label that tells how the pomodoro stands and
-/// opens its panel, and whether a tray shows that label already.
+/// The timers as the windows show them: the flow timer, the label of the pomodoro that opens its panel, and
+/// whether the tray shows this label instead.
 class TimersViewModel : public QObject
 {
     Q_OBJECT
@@ -28,10 +28,9 @@ public:
 
     FlowTimer *flow() const { return &m_flow; }
     bool isRunning() const;
-    /// The remaining time while the pomodoro runs, otherwise nothing: a paused timer and an idle one look
-    /// the same.
+    /// The remaining time while the pomodoro runs, otherwise empty.
     QString labelText() const;
-    /// The same in words, for who cannot see a flame.
+    /// The accessible name of the label.
     QString labelName() const;
     bool isInTray() const { return m_isInTray; }
     bool isPanelOpen() const { return m_isPanelOpen; }
@@ -42,9 +41,8 @@ public:
     /// Opens the panel at a place of the screen or closes the one that is open.
     Q_INVOKABLE void togglePanel(const QRect &opener);
     Q_INVOKABLE void closePanel();
-    /// Something else took the keyboard: the panel goes, unless a spark is being written in it. What took it
-    /// may be a press on the very label that opened the panel, so the click that follows is not to open it
-    /// again.
+    /// Called when the panel loses the focus: closes it, unless the capture field has text. If the focus was
+    /// lost by a press on the label, the following click does not open the panel again.
     Q_INVOKABLE void leavePanel();
 
 Q_SIGNALS:

@@ -14,7 +14,7 @@ struct TrayMenuRow {
     bool operator==(const TrayMenuRow &) const = default;
 };
 
-/// What the tray shows of the pomodoro.
+/// The state of the pomodoro that the tray shows.
 struct TrayIconState {
     bool isRunning = false;
     /// Of the flame: 0.8 at rest; while the timer runs the two ends of its pulse, second by second.
@@ -31,5 +31,5 @@ struct TrayIconState {
     bool operator==(const TrayIconState &) const = default;
 };
 
-/// `saveError` tells why the last save failed, empty when it did not; the tool tip says so as well.
+/// `saveError` is the error of the last save or empty; the tool tip contains it.
 TrayIconState trayIconState(const PomodoroTimer &timer, const QString &saveError = {});

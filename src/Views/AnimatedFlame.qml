@@ -5,7 +5,7 @@ import QtQuick.Window
 import Pelko
 
 /// A flame that flickers and glows by itself. Each of the three states, once set, swings for ever between its two
-/// ends; the periods differ so that the flame never repeats visibly. It moves only while somebody can see it.
+/// ends; the periods differ so that the flame never repeats visibly. It only moves while it is visible.
 Item {
     id: flame
 

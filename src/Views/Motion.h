@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QtQml/qqml.h>
 
-/// Whether the writer asked for little motion: then nothing moves or flickers and changes are short fades.
+/// Whether motion is reduced: then nothing moves or flickers, and changes are short fades.
 /// Starts from the environment variable PELKO_REDUCED_MOTION and may be changed while the program runs.
 class Motion : public QObject
 {
@@ -22,7 +22,7 @@ public:
     void setReduced(bool reduced);
     /// Milliseconds of the only animation left when motion is reduced.
     int fade() const { return 120; }
-    /// How the tick beside the title comes and goes.
+    /// Durations in milliseconds of the tick beside the title.
     int savedIn() const { return m_isReduced ? fade() : 150; }
     int savedOut() const { return m_isReduced ? fade() : 450; }
 

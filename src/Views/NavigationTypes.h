@@ -4,7 +4,7 @@
 
 #include <QtQml/qqml.h>
 
-/// Makes the navigation, which knows nothing of QML, known to it.
+/// QML_FOREIGN registrations of the navigation, which do not depend on QtQml.
 struct NavigationViewModelForQml {
     Q_GADGET
     QML_FOREIGN(NavigationViewModel)
@@ -12,8 +12,8 @@ struct NavigationViewModelForQml {
     QML_UNCREATABLE("Part of the main window.")
 };
 
-struct MarkedLineForQml {
+struct HighlightedLineForQml {
     Q_GADGET
-    QML_FOREIGN(MarkedLine)
+    QML_FOREIGN(HighlightedLine)
     QML_VALUE_TYPE(markedLine)
 };

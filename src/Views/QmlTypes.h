@@ -9,7 +9,7 @@
 
 #include <QtQml/qqml.h>
 
-/// Makes the view models, which know nothing of QML, known to it.
+/// QML_FOREIGN registrations of the view models, which do not depend on QtQml.
 struct MainViewModelForQml {
     Q_GADGET
     QML_FOREIGN(MainViewModel)

@@ -8,7 +8,7 @@ namespace
 // The layers of a window stand in its content.
 constexpr int layerDepth = 2;
 
-/// Uppermost first, because glass looks at what lies below.
+/// Topmost first, because glass items use the items below them.
 void takeDownItem(QQuickItem &item, int depth)
 {
     QList<QQuickItem *> children = item.childItems();

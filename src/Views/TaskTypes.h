@@ -6,7 +6,7 @@
 
 #include <QtQml/qqml.h>
 
-/// Makes the view models of the tasks panel, which know nothing of QML, known to it.
+/// QML_FOREIGN registrations of the view models, which do not depend on QtQml.
 struct TasksViewModelForQml {
     Q_GADGET
     QML_FOREIGN(TasksViewModel)

@@ -4,7 +4,7 @@
 
 #include <QtQml/qqml.h>
 
-/// Makes the springs, which know nothing of QML, known to it.
+/// QML_FOREIGN registrations of the springs, which do not depend on QtQml.
 struct SpringMotionForQml {
     Q_GADGET
     QML_FOREIGN(SpringMotion)

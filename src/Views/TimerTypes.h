@@ -5,7 +5,7 @@
 
 #include <QtQml/qqml.h>
 
-/// Makes the timers and their view models, which know nothing of QML, known to it.
+/// QML_FOREIGN registrations of the timers, which do not depend on QtQml.
 struct FlowTimerForQml {
     Q_GADGET
     QML_FOREIGN(FlowTimer)

@@ -4,10 +4,9 @@
 #include <QObject>
 #include <QtQml/qqml.h>
 
-/// Every face of the app with size, weight and tracking, and beside them the line heights of those that run
-/// over several lines. Sizes are meant in device-independent pixels. QML's fonts take whole pixels only and
-/// some of our sizes are fractions, so the faces are made here and carry points, counted back from what a
-/// point measures.
+/// All fonts of the app with size, weight and tracking, and the line heights of multi-line text. Sizes are in
+/// device-independent pixels. QML fonts have integer pixel sizes and some sizes are fractional, so the fonts
+/// are created here with point sizes that correspond to them.
 class Typography : public QObject
 {
     Q_OBJECT
@@ -79,8 +78,7 @@ public:
     QFont bannerTitle() const { return face(m_displayFamily, 38, QFont::Bold, -0.7); }
     QFont heading() const { return face(m_displayFamily, 34, QFont::Bold, -0.5); }
     QFont body() const { return face(m_textFamily, 16.5, QFont::Normal); }
-    /// Of the text family, as a quote is read and not looked at; the display family's italic q is broken in
-    /// Debian 12.
+    /// The text family, because the display family's italic q is broken in Debian 12.
     QFont quote() const { return italic(face(m_textFamily, 18, QFont::Normal)); }
     QFont code() const { return face(m_monoFamily, 13.5, QFont::Normal); }
     QFont checklist() const { return face(m_textFamily, 15, QFont::Normal); }
@@ -136,9 +134,9 @@ public:
 
     /// A face of the given height in pixels, with `tracking` pixels added after each letter.
     Q_INVOKABLE QFont face(const QString &family, qreal pixels, int weight, qreal tracking = 0) const;
-    /// The face without kerning and ligatures, which lays out a long text in a fraction of the time.
+    /// Returns the font without kerning and ligatures, which makes the layout of long texts much faster.
     Q_INVOKABLE static QFont unshaped(QFont font);
-    /// What a point measures on this desktop.
+    /// The size of a point in device-independent pixels.
     Q_INVOKABLE qreal pixelsPerPoint() const;
 
 private:

@@ -1,4 +1,4 @@
-#include "Calendar/CalendarDesk.h"
+#include "Calendar/CalendarFixture.h"
 #include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
@@ -8,7 +8,7 @@ class TestCalendarReader : public QObject
 {
     Q_OBJECT
 
-    CalendarDesk desk;
+    CalendarFixture desk;
 
 private Q_SLOTS:
     void readsTheLinesOfAnEvent_data()
@@ -99,7 +99,7 @@ private Q_SLOTS:
                                                        "DURATION:PT1H") +
                                              eventText("SUMMARY:Other\r\nUID:2\r\nDTSTART:20261121T100000Z"));
         const Timestamp ten =
-            CalendarDesk::timestamp(QDateTime(QDate(2026, 11, 21), QTime(10, 0), QTimeZone::utc()));
+            CalendarFixture::timestamp(QDateTime(QDate(2026, 11, 21), QTime(10, 0), QTimeZone::utc()));
         const QList<CalendarEvent> expected{
             {.title = u"Late"_s, .start = ten + 36000, .end = ten + 36000},
             {.title = u"One"_s, .start = ten, .end = ten + 3600, .identifier = u"1"_s},
@@ -116,7 +116,7 @@ private Q_SLOTS:
                  QStringList{u"21 10:00 Tea"_s});
     }
 
-    void whatIsGoodIsTakenFromATextThatIsNot_data()
+    void readsValidEventsOfABrokenText_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QStringList>("told");
@@ -157,7 +157,7 @@ private Q_SLOTS:
         QTest::newRow("quotes that do not end")
             << eventText("X;A=\"b:c\r\nDTSTART:20261121T100000Z\r\nSUMMARY:Tea") << one;
     }
-    void whatIsGoodIsTakenFromATextThatIsNot()
+    void readsValidEventsOfABrokenText()
     {
         QFETCH(QByteArray, text);
         QFETCH(QStringList, told);

@@ -1,4 +1,4 @@
-#include "Calendar/CalendarDesk.h"
+#include "Calendar/CalendarFixture.h"
 #include "support/TestProgram.h"
 
 #include <QElapsedTimer>
@@ -22,7 +22,7 @@ class TestEventSeries : public QObject
 {
     Q_OBJECT
 
-    CalendarDesk desk;
+    CalendarFixture desk;
 
 private Q_SLOTS:
     void init()
@@ -31,7 +31,7 @@ private Q_SLOTS:
         desk.look(QDate(2026, 11, 21), QDate(2026, 11, 23));
     }
 
-    void aSeriesIsWhatItsEntriesSay_data()
+    void seriesCombinesItsEntries_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QStringList>("told");
@@ -88,7 +88,7 @@ private Q_SLOTS:
                 changed("SUMMARY:Brunch\r\nRECURRENCE-ID:20261121T080000Z\r\nDTSTART:20261121T100000Z"),
             {u"21 11:00 Brunch"_s, second});
     }
-    void aSeriesIsWhatItsEntriesSay()
+    void seriesCombinesItsEntries()
     {
         QFETCH(QByteArray, text);
         QFETCH(QStringList, told);

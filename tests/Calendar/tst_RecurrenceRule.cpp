@@ -21,7 +21,7 @@ qint64 seconds(const QString &text)
 
 CalendarTime newYork(const QString &text)
 {
-    static const auto zone = std::make_shared<SystemZone>(QTimeZone("America/New_York"));
+    static const auto zone = std::make_shared<SystemTimeZone>(QTimeZone("America/New_York"));
     return {.wall = seconds(text), .zone = zone};
 }
 
@@ -92,7 +92,7 @@ class TestRecurrenceRule : public QObject
     void addUncommonRules();
 
 private Q_SLOTS:
-    void aRuleComesTrueOnItsDays_data()
+    void ruleSelectsItsDays_data()
     {
         QTest::addColumn<QString>("start");
         QTest::addColumn<QString>("end");
@@ -102,7 +102,7 @@ private Q_SLOTS:
         addOwnRules();
         addUncommonRules();
     }
-    void aRuleComesTrueOnItsDays()
+    void ruleSelectsItsDays()
     {
         QFETCH(QString, start);
         QFETCH(QString, end);
@@ -125,7 +125,7 @@ private Q_SLOTS:
         }
     }
 
-    void whatIsNoRuleIsRefused()
+    void refusesMalformedRules()
     {
         for (const char *rule : {"",
                                  "FREQ",

@@ -1,4 +1,4 @@
-#include "Calendar/CalendarDesk.h"
+#include "Calendar/CalendarFixture.h"
 #include "support/TestProgram.h"
 
 using namespace Qt::StringLiterals;
@@ -29,7 +29,7 @@ class TestTimeZones : public QObject
 {
     Q_OBJECT
 
-    CalendarDesk desk;
+    CalendarFixture desk;
 
 private Q_SLOTS:
     void init()
@@ -80,7 +80,7 @@ private Q_SLOTS:
         QCOMPARE(desk.told(at("Nowhere/Else", "20261121T120000")), QStringList{u"21 12:00 Tea"_s});
     }
 
-    void aZoneIsWhatTheCalendarSays_data()
+    void usesTheZoneThatTheCalendarDescribes_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QStringList>("told");
@@ -115,7 +115,7 @@ private Q_SLOTS:
                                       "TZOFFSETTO:+0100\r\nRRULE:FREQ=SECONDLY\r\nEND:STANDARD\r\n")
             << QStringList{u"21 11:00 Tea"_s};
     }
-    void aZoneIsWhatTheCalendarSays()
+    void usesTheZoneThatTheCalendarDescribes()
     {
         QFETCH(QByteArray, text);
         QFETCH(QStringList, told);
@@ -129,7 +129,7 @@ private Q_SLOTS:
         contents.read(at("Our Town", "20261121T130000"));
         QList<double> hours;
         for (const CalendarEvent &event : contents.events([] { return false; }))
-            hours << (event.start - CalendarDesk::timestamp(desk.from)) / 3600;
+            hours << (event.start - CalendarFixture::timestamp(desk.from)) / 3600;
         QCOMPARE(hours, (QList<double>{11, 13}));
     }
 
@@ -199,7 +199,7 @@ private Q_SLOTS:
         QCOMPARE(desk.told(trip + described), QStringList());
     }
 
-    void aChangeOfClocksThatNeverComesIsLookedForOnce()
+    void searchesOnceForAnOnsetThatNeverOccurs()
     {
         QByteArray text =
             zone("Our Town", "BEGIN:STANDARD\r\nDTSTART:19961027T030000\r\nTZOFFSETFROM:+0200\r\n"

@@ -94,7 +94,7 @@ private Q_SLOTS:
         QCOMPARE(file.writes(), writes);
     }
 
-    void whatWasWrittenMeanwhileSurvivesACancel()
+    void textWrittenMeanwhileSurvivesACancel()
     {
         drag->begin(id('A'));
         pass("B");

@@ -95,14 +95,14 @@ class TestEditHistory : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void aFreshHistoryHasNothingToTakeBack()
+    void newHistoryCannotUndo()
     {
         RememberedPage desk{.page = page({block('A')})};
         QVERIFY(!desk.undo() && !desk.redo());
         QVERIFY(!desk.history.canUndo() && !desk.history.canRedo());
     }
 
-    void stepsAreTakenBackAndDoneAgainInOrder()
+    void undoAndRedoRestoreStepsInOrder()
     {
         RememberedPage desk{.page = page({block('A')})};
         for (const QString &content : {u"one"_s, u"two"_s, u"three"_s})
@@ -117,7 +117,7 @@ private Q_SLOTS:
         QCOMPARE(seen, (QStringList{u"one"_s, u"two"_s, u"three"_s}));
     }
 
-    void aNewStepForgetsWhatWasTakenBack()
+    void newStepDiscardsRedo()
     {
         RememberedPage desk{.page = page({block('A')})};
         desk.type(u"a|"_s);
@@ -128,7 +128,7 @@ private Q_SLOTS:
         QCOMPARE(desk.page.blocks.first().content, u""_s);
     }
 
-    void whatChangesNothingIsNoStep()
+    void unchangedPageIsNoStep()
     {
         RememberedPage desk{.page = page({block('A')})};
         desk.type(u"a|"_s);
@@ -231,7 +231,7 @@ private Q_SLOTS:
                                       u"A textSmall \"\"; B sticky \"\" todos(x[ ] \"\")"_s}));
     }
 
-    void aChangeMadeElsewhereIsTakenBackBeforeWhatWasDoneHere()
+    void undoRevertsAnExternalChangeFirst()
     {
         RememberedPage desk{.page = page({block('A'), sticky('B', {todo('x')})})};
         desk.type(u"a|"_s);
@@ -246,7 +246,7 @@ private Q_SLOTS:
         QCOMPARE(desk.page.blocks[1].content, u"a"_s);
     }
 
-    void afterAChangeMadeElsewhereNothingIsDoneAgain()
+    void externalChangeDiscardsRedo()
     {
         RememberedPage desk{.page = page({block('A'), block('B')})};
         desk.type(u"a|"_s);
@@ -301,7 +301,7 @@ private Q_SLOTS:
         QCOMPARE(letters(desk.page), u"BC"_s);
     }
 
-    void aLongRunOfKeysWeighsWhatItHolds()
+    void longTypingRunCountsItsTextSize()
     {
         RememberedPage desk{.history = EditHistory({.textBytes = 2'000}), .page = page({block('A')})};
         desk.change(withBlocks(desk.page, {block('A', BlockType::textSmall, u"-"_s)}));

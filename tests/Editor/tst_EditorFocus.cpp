@@ -29,7 +29,7 @@ private Q_SLOTS:
         QCOMPARE(focused, {});
     }
 
-    void whatWantsTheFocusWaitsUntilTheNavigationCloses()
+    void focusRequestWaitsUntilTheNavigationCloses()
     {
         edit({block('A', heading, u"Title"_s), block('B')});
         state->setShowNav(true);

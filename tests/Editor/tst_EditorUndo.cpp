@@ -94,7 +94,7 @@ private Q_SLOTS:
         QCOMPARE(takeLastFocused(), u"+@0"_s);
     }
 
-    void aDeletedBlockComesBackWithFocusAndCaret()
+    void undoRestoresDeletedBlockWithFocusAndCaret()
     {
         edit({block('A'), block('B', body, u"text"_s)});
         editor->focusGained(id('B'));
@@ -107,7 +107,7 @@ private Q_SLOTS:
         QCOMPARE(editor->focusedBlockID(), id('B'));
     }
 
-    void aTypedShortcutFirstGivesBackItsCharacters_data()
+    void firstUndoOfAShortcutRestoresItsCharacters_data()
     {
         QTest::addColumn<QStringList>("keys");
         QTest::newRow("heading") << QStringList{u"#"_s, u"# "_s};
@@ -117,7 +117,7 @@ private Q_SLOTS:
         QTest::newRow("checklist") << QStringList{u"["_s, u"[]"_s, u"[] "_s};
     }
 
-    void aTypedShortcutFirstGivesBackItsCharacters()
+    void firstUndoOfAShortcutRestoresItsCharacters()
     {
         QFETCH(const QStringList, keys);
         edit({block('A', body)});
@@ -137,7 +137,7 @@ private Q_SLOTS:
         QCOMPARE(lines(stored()), converted);
     }
 
-    void stepsOfTheCaretAreNeitherStoredNorTakenBack()
+    void caretMovesAreNeitherStoredNorUndone()
     {
         edit({block('A', BlockType::divider), block('B', body, u"text"_s)});
         const PelkoDocument before = stored();
@@ -289,7 +289,7 @@ private Q_SLOTS:
         QCOMPARE(*state->openDocument(), other);
     }
 
-    void whatReachesAnotherPageIsNoStepOfThisOne()
+    void changeOfAnotherPageIsNoStep()
     {
         edit({block('A', body)});
         state->createDocument(Space::work);
@@ -302,7 +302,7 @@ private Q_SLOTS:
         QCOMPARE(lines(*state->openDocument()), {u"Z textSmall \"text\""_s});
     }
 
-    void withNothingDoneUndoAndRedoDoNothing()
+    void undoAndRedoDoNothingWithoutSteps()
     {
         edit({block('A', body, u"text"_s)});
         editor->undo();

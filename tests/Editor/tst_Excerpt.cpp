@@ -40,7 +40,7 @@ private Q_SLOTS:
         QCOMPARE(lines(cut), (QStringList{u"D sticky \"\" todos(y[x] \"ye\")"_s, u"F code \"a\""_s}));
     }
 
-    void thingsOnlyTouchedAreLeftOut()
+    void blocksOnlyTouchedAreExcluded()
     {
         PelkoDocument cut = pageToCopy();
         cut.blocks = excerpt(pageToCopy(), between('B', 0, 'C', 0));
@@ -63,7 +63,7 @@ private Q_SLOTS:
         QCOMPARE(excerpt(pageToCopy(), between('A', 0, 'Z', 0)), QList<Block>{});
     }
 
-    void plainTextIsWhatStandsThere()
+    void plainTextContainsTheTextOfAllBlocks()
     {
         QCOMPARE(ClipboardFormats::plainText(pageToCopy().blocks),
                  u"Head\nBody\n& soul\n---\nso\nsaid\nmilk\nrye\na<b\n```"_s);
@@ -76,7 +76,7 @@ private Q_SLOTS:
                  "````\na<b\n```\n````"_s);
     }
 
-    void htmlHoldsNothingButElements()
+    void htmlContainsOnlyElements()
     {
         QCOMPARE(
             ClipboardFormats::html(pageToCopy().blocks),

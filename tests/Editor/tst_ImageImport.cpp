@@ -107,7 +107,7 @@ private Q_SLOTS:
         QCOMPARE(import->imageImportError(), u"why"_s);
     }
 
-    void aFailureWithoutWordsIsAFailureAllTheSame()
+    void failureWithoutMessageIsReported()
     {
         import->addImage(id('A'));
         desktop->fileChooser.answer(FileError{});

@@ -55,7 +55,7 @@ private Q_SLOTS:
         QCOMPARE(edit->document.title(), u"Summer"_s);
     }
 
-    void whatComesIntoATitleIsOneLine()
+    void titleTextIsPutOnOneLine()
     {
         const auto edit = ImageOperations::setBannerTitle(page({image('A', true)}), idOf('A'),
                                                           u"a\nb\r\nc\u2028d\u2029e\tf"_s, 11);

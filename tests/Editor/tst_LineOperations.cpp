@@ -151,7 +151,7 @@ private Q_SLOTS:
         QCOMPARE(lines(edit.value().document), {u"A textSmall \"on\n\""_s});
     }
 
-    void whatHasNoTextTakesNoLine()
+    void blocksWithoutTextIgnoreReturn()
     {
         const PelkoDocument other =
             page({block('A', BlockType::divider), image('B'), sticky('C', {todo('x')})});

@@ -126,7 +126,7 @@ private Q_SLOTS:
         leadsBothWays(split, joined);
     }
 
-    void aPictureThatIsMovedWeighsNothing()
+    void movedPictureCountsNoMemory()
     {
         const QList<Block> before{image('A'), block('B')};
         const QList<Block> after{block('B'), image('A')};

@@ -33,7 +33,7 @@ class TestPassages : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyTextAndEveryThingBetweenThemIsAPassage()
+    void everyTextAndEveryBlockWithoutTextIsAPassage()
     {
         QCOMPARE(all(page({block('A', BlockType::textLarge, u"a"_s), block('B', BlockType::divider),
                            image('C'), sticky('D', {todo('x', u"milk"_s), todo('y')}), sticky('E', {}),

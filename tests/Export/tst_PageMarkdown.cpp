@@ -58,7 +58,7 @@ a<b
 )"));
     }
 
-    void whatSaysNothingIsLeftOut()
+    void emptyBlocksAreLeftOut()
     {
         const QList<Block> blocks{
             block('A', BlockType::textLarge), block('B'),      block('C', BlockType::quote),
@@ -110,7 +110,7 @@ a<b
         QCOMPARE(pageMarkdown({block('A', BlockType::textLarge, text)}), markdown + u'\n');
     }
 
-    void whatNeedsNoEscapingStays_data()
+    void plainTextIsNotEscaped_data()
     {
         QTest::addColumn<QString>("text");
         for (const auto &text : {u"2 * 3 - 1 = 5"_s, u"snake_case and AT&T, R&D, 50%"_s, u"C:\\Users\\me"_s,
@@ -120,7 +120,7 @@ a<b
             QTest::newRow(qPrintable(text)) << text;
     }
 
-    void whatNeedsNoEscapingStays()
+    void plainTextIsNotEscaped()
     {
         QFETCH(QString, text);
         QCOMPARE(ofBody(text), text);

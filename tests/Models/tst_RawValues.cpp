@@ -30,7 +30,7 @@ private Q_SLOTS:
         }
     }
 
-    void otherNamesAreNothing()
+    void otherNamesAreRejected()
     {
         for (const QString &name : {u""_s, u"Work"_s, u"work "_s, u"archive"_s, u"textlarge"_s}) {
             QCOMPARE(spaceFromRawValue(name), std::nullopt);

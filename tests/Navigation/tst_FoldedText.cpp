@@ -50,7 +50,7 @@ private Q_SLOTS:
         QCOMPARE(folded, u"short"_s);
     }
 
-    void everyLetterKnowsWhereItComesFrom()
+    void mapsFoldedLettersToTheirOrigin()
     {
         const QString text = u"Zu\u0308ß."_s; // Z u ¨ ß . become z u s s .
 

@@ -48,8 +48,8 @@ struct Library {
         return model->data(model->index(row), role);
     }
 
-    QString name(int row) { return value(row, PageListModel::NameRole).value<MarkedLine>().text; }
-    QString detail(int row) { return value(row, PageListModel::DetailRole).value<MarkedLine>().text; }
+    QString name(int row) { return value(row, PageListModel::NameRole).value<HighlightedLine>().text; }
+    QString detail(int row) { return value(row, PageListModel::DetailRole).value<HighlightedLine>().text; }
 
     /// The names of the pages, the open one in brackets, the chosen row behind an arrow.
     QString list()
@@ -109,7 +109,7 @@ private Q_SLOTS:
                  library.appState.openDocumentID()->toString(QUuid::WithoutBraces));
     }
 
-    void nothingIsFollowedWhileItIsClosed()
+    void ignoresChangesWhileClosed()
     {
         Library library = threePages();
         QSignalSpy changes(&library.navigation, &NavigationViewModel::pagesChanged);
@@ -287,7 +287,7 @@ private Q_SLOTS:
         QCOMPARE(library.appState.openDocument()->title(), u"hour"_s);
     }
 
-    void whereNothingIsFoundNothingIsChosen()
+    void noRowIsChosenWithoutHits()
     {
         Library library = threePages();
         library.appState.setShowNav(true);

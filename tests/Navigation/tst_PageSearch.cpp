@@ -115,7 +115,7 @@ private Q_SLOTS:
         QCOMPARE(found(library, query), order);
     }
 
-    void ofEqualsTheLastWrittenComesFirst()
+    void equalHitsSortLastWrittenFirst()
     {
         QList<PelkoDocument> library{page(u"hour"_s), page(u"hour"_s), page(u"hour"_s), page(u"hour"_s)};
         library[1].createdAt = 5;
@@ -166,7 +166,7 @@ private Q_SLOTS:
 
         QCOMPARE(row.page, document);
         QCOMPARE(row.name->text, name);
-        QCOMPARE(row.context.value_or(MarkedLine()).text, context);
+        QCOMPARE(row.context.value_or(HighlightedLine()).text, context);
         QVERIFY(!row.context || !row.context->marks.isEmpty());
     }
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Calendar/CalendarDesk.h"
+#include "Calendar/CalendarFixture.h"
 #include "Platform/Calendar/DesktopCalendarStore.h"
 
 #include <QDir>
@@ -50,7 +50,7 @@ inline QString titles(const std::optional<CalendarStore::Answer> &answer)
     return titles.join(u' ');
 }
 
-inline QString fetched(CalendarStore &store, const CalendarWindow &window = CalendarDesk().window())
+inline QString fetched(CalendarStore &store, const CalendarWindow &window = CalendarFixture().window())
 {
     std::optional<CalendarStore::Answer> answer;
     const ScheduledCall request =

@@ -111,7 +111,7 @@ private Q_SLOTS:
         QCOMPARE(fetch(), u"Tea Deep"_s);
     }
 
-    void whatIsGoodIsTakenFromBadFolders()
+    void readsValidFilesOfBrokenFolders()
     {
         home->put(".calendars/a.ics", at("Tea", "10"));
         home->put(".calendars/empty.ics", "");

@@ -40,13 +40,13 @@ class TestEvolutionCalendars : public QObject
     }
     void startServer() { server = std::make_unique<FakeEvolution>(bus->connection(u"server"_s)); }
 
-    DesktopCalendarStore store(std::chrono::milliseconds longestFetch = 5s)
+    DesktopCalendarStore store(std::chrono::milliseconds fetchTimeout = 5s)
     {
-        return {bus->connection(u"client"_s), home->folders(), longestFetch};
+        return {bus->connection(u"client"_s), home->folders(), fetchTimeout};
     }
-    QString fetch(std::chrono::milliseconds longestFetch = 5s)
+    QString fetch(std::chrono::milliseconds fetchTimeout = 5s)
     {
-        auto calendars = store(longestFetch);
+        auto calendars = store(fetchTimeout);
         return fetched(calendars);
     }
 
@@ -72,7 +72,7 @@ private Q_SLOTS:
         QCOMPARE(fetch(), u"Tea Milk Bread Folder"_s);
     }
 
-    void whatIsNotInUseIsNotAsked_data()
+    void disabledCalendarsAreNotAsked_data()
     {
         QTest::addColumn<QString>("source");
         QTest::newRow("off") << u"[Data Source]\nEnabled=false\n[Calendar]\n"_s;
@@ -83,7 +83,7 @@ private Q_SLOTS:
         QTest::newRow("no calendar") << u"[Data Source]\nEnabled=true\n[Task List]\n"_s;
         QTest::newRow("nothing") << u""_s;
     }
-    void whatIsNotInUseIsNotAsked()
+    void disabledCalendarsAreNotAsked()
     {
         QFETCH(QString, source);
         startServer();
@@ -125,7 +125,7 @@ private Q_SLOTS:
         QCOMPARE(fetch(), u"Tea Folder"_s);
     }
 
-    void whatRepeatsIsAskedForAgain()
+    void recurringEventsAreFetchedByUid()
     {
         startServer();
         server->addCalendar(u"one"_s, {at("Tea", "RRULE:FREQ=DAILY\r\n"), at("Milk")});
@@ -138,7 +138,7 @@ private Q_SLOTS:
         QCOMPARE(server->asked.count(u"GetObject"_s), 1);
     }
 
-    void zonesThatNobodyKnowsAreAskedFor()
+    void unknownZonesAreFetched()
     {
         startServer();
         server->addCalendar(u"one"_s,
@@ -185,7 +185,7 @@ private Q_SLOTS:
         std::optional<CalendarStore::Answer> answer;
         auto calendars = store(60s);
         const ScheduledCall request = calendars.fetch(
-            CalendarDesk().window(), [&answer](const CalendarStore::Answer &told) { answer = told; });
+            CalendarFixture().window(), [&answer](const CalendarStore::Answer &told) { answer = told; });
         QTRY_VERIFY(!unanswered.isEmpty());
         qsizetype most = 0;
         while (!answer) {
@@ -204,7 +204,7 @@ private Q_SLOTS:
         server->addCalendar(u"one"_s, daily(20'000));
         auto calendars =
             std::make_unique<DesktopCalendarStore>(bus->connection(u"client"_s), home->folders(), 60s);
-        const ScheduledCall request = calendars->fetch(CalendarDesk().window(), [](const auto &) {});
+        const ScheduledCall request = calendars->fetch(CalendarFixture().window(), [](const auto &) {});
         QTRY_VERIFY_WITH_TIMEOUT(server->asked.count(u"GetObject"_s) > 0, 30'000);
         QElapsedTimer timer;
         timer.start();
@@ -255,8 +255,8 @@ private Q_SLOTS:
         QCOMPARE(fetch(500ms), u"Tea Milk Folder"_s);
     }
 
-    void anErrorLeavesOutOnlyWhatItIsAbout_data() { aFrozenCalendarDoesNotHideTheOthers_data(); }
-    void anErrorLeavesOutOnlyWhatItIsAbout()
+    void errorSkipsOnlyTheAffectedEvents_data() { aFrozenCalendarDoesNotHideTheOthers_data(); }
+    void errorSkipsOnlyTheAffectedEvents()
     {
         QFETCH(QString, method);
         startServer();
@@ -314,7 +314,7 @@ private Q_SLOTS:
         QCOMPARE(fetch().count(u"Tea"_s), 10'000);
     }
 
-    void whoeverLeavesIsNotHeldUpByAFrozenServer()
+    void quitDoesNotWaitForAFrozenServer()
     {
         startServer();
         server->addCalendar(u"one"_s, {});

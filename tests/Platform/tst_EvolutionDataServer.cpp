@@ -110,7 +110,7 @@ private Q_SLOTS:
         QVERIFY(fetch().contains(u"?"_s));
     }
 
-    void whatRepeatsIsToldWithItsChanges()
+    void recurringEventsIncludeTheirOverrides()
     {
         QVERIFY(writer->add("UID:5\r\nSUMMARY:Daily\r\nDTSTART:20261101T120000Z\r\nDTEND:20261101T123000Z\r\n"
                             "RRULE:FREQ=DAILY"));

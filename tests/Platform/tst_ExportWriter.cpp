@@ -124,7 +124,7 @@ class TestExportWriter : public QObject
     {
         if (const auto *error = std::get_if<FileError>(&outcome))
             return error->description();
-        if (const auto *taken = std::get_if<ExportFolder::Taken>(&outcome))
+        if (const auto *taken = std::get_if<ExportFolder::Conflicts>(&outcome))
             return taken->paths.join(u'|');
         return u"written"_s;
     }
@@ -169,7 +169,7 @@ private Q_SLOTS:
         QCOMPARE(contents(folder / "work/A.md"), "new a");
     }
 
-    void whatIsThereIsNotReplacedUnasked()
+    void existingFilesAreNotReplacedByDefault()
     {
         put("work/A.md", "old a");
         fs::create_symlink("nowhere", folder / "work/A 1.png");
@@ -179,7 +179,7 @@ private Q_SLOTS:
         QVERIFY(!fs::exists(folder / "ideas"));
     }
 
-    void whatIsThereIsReplacedWhenAsked()
+    void existingFilesAreReplacedOnRequest()
     {
         put("work/A.md", "old a");
         put("elsewhere", "untouched");
@@ -206,14 +206,14 @@ private Q_SLOTS:
         QCOMPARE(everything(), before);
     }
 
-    void whereverItFailsTheFolderIsWhatItWas_data()
+    void failureAtAnyStepLeavesTheFolderUnchanged_data()
     {
         QTest::addColumn<bool>("isThere");
         QTest::newRow("into a new folder") << false;
         QTest::newRow("over an old export") << true;
     }
 
-    void whereverItFailsTheFolderIsWhatItWas()
+    void failureAtAnyStepLeavesTheFolderUnchanged()
     {
         QFETCH(bool, isThere);
         if (isThere) {
@@ -242,14 +242,14 @@ private Q_SLOTS:
         QCOMPARE(write(Existing::replace), u"written"_s);
     }
 
-    void whatAppearsInBetweenIsKept_data()
+    void filesCreatedMeanwhileAreKept_data()
     {
         QTest::addColumn<bool>("promisesFreePlaces");
         QTest::newRow("promised by the disk") << true;
         QTest::newRow("looked at") << false;
     }
 
-    void whatAppearsInBetweenIsKept()
+    void filesCreatedMeanwhileAreKept()
     {
         QFETCH(bool, promisesFreePlaces);
         knowsFreePlaces = promisesFreePlaces;
@@ -274,7 +274,7 @@ private Q_SLOTS:
         QCOMPARE(everything(), QStringList());
     }
 
-    void givenUpItLeavesNothing()
+    void cancelledExportLeavesNoFiles()
     {
         QList<qsizetype> steps;
         const auto giveUp = [&steps](qsizetype written, qsizetype all) {
@@ -286,7 +286,7 @@ private Q_SLOTS:
         QCOMPARE(everything(), QStringList());
     }
 
-    void whatAKilledProcessLeftGoesAndWhatAnotherWritesStays()
+    void removesAbandonedFilesAndKeepsLockedOnes()
     {
         put(".pelko-export-killed/0", "half");
         put(".pelko-export-living/0", "being written");
@@ -335,7 +335,7 @@ private Q_SLOTS:
         QCOMPARE(contents(folder / "work/A.md"), "new a");
     }
 
-    void anExportThatNobodyWaitsForIsGivenUp()
+    void droppedExportIsCancelled()
     {
         QSemaphore isDropped;
         bool isTold = false;

@@ -189,7 +189,7 @@ private Q_SLOTS:
 
     // After a killed process
 
-    void whatAKilledSaveLeftBehindIsRemovedByTheNextReading()
+    void readRemovesFilesOfAKilledSave()
     {
         DataFolder::put(disk->file(), "old");
         DataFolder::put(disk->folder() / ".data.json.saving-Ab12Cd", "half");

@@ -17,7 +17,7 @@ class TestLibraryExport : public QObject
     std::unique_ptr<DataFolder> data;
 
     QString target() const { return QString::fromStdString(data->support / "my notes"); }
-    CommandLineAnswer exportTo(ExportFolder::Existing existing = ExportFolder::Existing::keep) const
+    CommandLineResult exportTo(ExportFolder::Existing existing = ExportFolder::Existing::keep) const
     {
         return exportLibrary(*data, {target(), existing});
     }
@@ -33,7 +33,7 @@ private Q_SLOTS:
 
     void allPagesAreWritten()
     {
-        const CommandLineAnswer expected{u"Exported 1 page and 1 picture to %1\n"_s.arg(target())};
+        const CommandLineResult expected{u"Exported 1 page and 1 picture to %1\n"_s.arg(target())};
         QCOMPARE(exportTo(), expected);
         QCOMPARE(DataFolder::filesIn(data->support / "my notes" / "work"),
                  (QStringList{u"Ridge 1.bin"_s, u"Ridge.md"_s}));
@@ -43,7 +43,7 @@ private Q_SLOTS:
     {
         exportTo();
         QCOMPARE(exportTo(),
-                 (CommandLineAnswer{u"pelko: work/Ridge.md and 1 more are there already. Nothing was "
+                 (CommandLineResult{u"pelko: work/Ridge.md and 1 more are there already. Nothing was "
                                     "written; --overwrite replaces files.\n"_s,
                                     1}));
         QCOMPARE(exportTo(ExportFolder::Existing::replace).exitCode, 0);
@@ -52,30 +52,30 @@ private Q_SLOTS:
     void anEmptyLibraryIsExportedToo()
     {
         std::filesystem::remove(data->file());
-        QCOMPARE(exportTo(), CommandLineAnswer{u"Exported 0 pages to %1\n"_s.arg(target())});
+        QCOMPARE(exportTo(), CommandLineResult{u"Exported 0 pages to %1\n"_s.arg(target())});
     }
 
-    void whatCannotBeReadIsNotExported()
+    void unreadableFileIsNotExported()
     {
         DataFolder::put(data->file(), "[not json");
-        QCOMPARE(exportTo(), (CommandLineAnswer{u"pelko: Failed to load your documents.\n"_s, 1}));
+        QCOMPARE(exportTo(), (CommandLineResult{u"pelko: Failed to load your documents.\n"_s, 1}));
         QVERIFY(!std::filesystem::exists(data->support / "my notes"));
     }
 
-    void whatCannotBeWrittenIsTold()
+    void writeErrorIsReported()
     {
         DataFolder::put(data->support / "my notes", "a file");
-        QCOMPARE(exportTo(), (CommandLineAnswer{u"pelko: Export failed: Not a directory\n"_s, 1}));
+        QCOMPARE(exportTo(), (CommandLineResult{u"pelko: Export failed: Not a directory\n"_s, 1}));
     }
 
     // The last one: the signal is remembered.
-    void anInterruptLeavesNothing()
+    void interruptLeavesNoFiles()
     {
         exportTo(); // from here on signals are taken note of
         std::filesystem::remove_all(data->support / "my notes");
         std::raise(SIGTERM);
         QCOMPARE(exportTo(),
-                 (CommandLineAnswer{u"pelko: Export failed: Operation canceled\n"_s, 128 + SIGTERM}));
+                 (CommandLineResult{u"pelko: Export failed: Operation canceled\n"_s, 128 + SIGTERM}));
         QVERIFY(!std::filesystem::exists(data->support / "my notes"));
     }
 };

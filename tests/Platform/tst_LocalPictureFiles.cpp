@@ -77,14 +77,14 @@ private Q_SLOTS:
         QVERIFY(isRead);
     }
 
-    void whatIsNoReadableFileIsRefused_data()
+    void refusesUnreadableFiles_data()
     {
         QTest::addColumn<QString>("kind");
         for (const char *kind : {"missing", "folder", "pipe", "socket", "/dev/zero", "/dev/tty"})
             QTest::newRow(kind) << QString::fromLatin1(kind);
     }
 
-    void whatIsNoReadableFileIsRefused()
+    void refusesUnreadableFiles()
     {
         QFETCH(const QString, kind);
         const std::filesystem::path file =

@@ -22,7 +22,7 @@ struct RunningProgram {
     LocalDocumentFile localFile{disk};
     LockedDocumentFile file{localFile, instance};
     int folderChanges = 0;
-    bool hasStarted = !instance.yieldTo(plainStart) && instance.isLocked() && !saveInto(file, "first");
+    bool hasStarted = !instance.lockOrForward(plainStart) && instance.isLocked() && !saveInto(file, "first");
 
     RunningProgram()
     {
@@ -55,7 +55,7 @@ private Q_SLOTS:
         QCOMPARE(program.folderChanges, 1);
         QCOMPARE(program.disk.read(), "second");
         SingleInstance second(program.disk.folder());
-        QVERIFY(second.lockAgain());
+        QVERIFY(second.relock());
     }
 
     void aFolderThatWasReplacedIsLockedAgain()
@@ -70,12 +70,12 @@ private Q_SLOTS:
         QCOMPARE(program.disk.read(), "restored");
     }
 
-    void nothingIsWrittenWhileAnotherProcessHasTheNewFolder()
+    void saveFailsWhileAnotherProcessLocksTheNewFolder()
     {
         RunningProgram program;
         fs::remove_all(program.disk.folder());
         auto other = std::make_unique<SingleInstance>(program.disk.folder());
-        QVERIFY(!other->yieldTo(plainStart));
+        QVERIFY(!other->lockOrForward(plainStart));
         DataFolder::put(program.disk.file(), "of the other");
         const auto error = saveInto(program.file, "second");
         QVERIFY(error);

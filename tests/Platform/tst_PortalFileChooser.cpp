@@ -116,10 +116,10 @@ class TestPortalFileChooser : public QObject
 
     QDBusConnection program() { return bus->connection(u"program"_s); }
 
-    void choose(const QDBusConnection &connection, FileChooser::Wanted wanted = FileChooser::Wanted::picture,
-                std::chrono::milliseconds longestAnswer = std::chrono::seconds(10))
+    void choose(const QDBusConnection &connection, FileChooser::Target wanted = FileChooser::Target::picture,
+                std::chrono::milliseconds replyTimeout = std::chrono::seconds(10))
     {
-        PortalFileChooser chooser(connection, [] { return u"x11:2a"_s; }, otherwise, longestAnswer);
+        PortalFileChooser chooser(connection, [] { return u"x11:2a"_s; }, otherwise, replyTimeout);
         request =
             chooser.choose(wanted, [this](const FileChooser::Choice &choice) { choices << written(choice); });
     }
@@ -156,7 +156,7 @@ private Q_SLOTS:
     void theDesktopIsAskedForAFolder()
     {
         offerPortal();
-        choose(program(), FileChooser::Wanted::folder);
+        choose(program(), FileChooser::Target::folder);
         QTRY_VERIFY(!portal->handle.isEmpty());
         QCOMPARE(portal->options[u"directory"_s].toBool(), true);
         QVERIFY(!portal->options.contains(u"filters"_s));
@@ -173,7 +173,7 @@ private Q_SLOTS:
         QTRY_COMPARE(choices, QStringList{u"chosen: /home/me/a \u00e9.png"_s});
     }
 
-    void whatIsNotOnThisMachineIsNoFile()
+    void ignoresRemoteFiles()
     {
         offerPortal();
         choose(program());
@@ -222,7 +222,7 @@ private Q_SLOTS:
     {
         offerPortal();
         portal->isSilent = true;
-        choose(program(), FileChooser::Wanted::picture, std::chrono::milliseconds(100));
+        choose(program(), FileChooser::Target::picture, std::chrono::milliseconds(100));
         QTRY_COMPARE(otherwise.asked, 1);
     }
 
@@ -230,7 +230,7 @@ private Q_SLOTS:
     {
         offerPortal();
         portal->isSilent = true;
-        choose(program(), FileChooser::Wanted::picture, std::chrono::milliseconds(100));
+        choose(program(), FileChooser::Target::picture, std::chrono::milliseconds(100));
         QTRY_COMPARE(otherwise.asked, 1);
         QTRY_COMPARE(portal->dialogs.closed, QStringList{portal->handle});
 
@@ -264,9 +264,9 @@ private Q_SLOTS:
 
     void withoutAPortalTheOtherChooserIsShown()
     {
-        choose(program(), FileChooser::Wanted::folder);
+        choose(program(), FileChooser::Target::folder);
         QTRY_COMPARE(otherwise.asked, 1);
-        QCOMPARE(otherwise.wanted, FileChooser::Wanted::folder);
+        QCOMPARE(otherwise.target, FileChooser::Target::folder);
         otherwise.answer(Files{"/a.png"});
         QCOMPARE(choices, QStringList{u"chosen: /a.png"_s});
     }

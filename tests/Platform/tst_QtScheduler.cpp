@@ -50,7 +50,7 @@ private Q_SLOTS:
         QCOMPARE(calls, made);
     }
 
-    void whatWasMissedIsNotMadeUpFor()
+    void missedTicksAreNotRepeated()
     {
         int calls = 0;
         const ScheduledCall call = scheduler.every(50ms, [&] { ++calls; });

@@ -1,4 +1,4 @@
-#include "Front/RunningInstance.h"
+#include "Launcher/RunningInstance.h"
 #include "Platform/DataFolder.h"
 #include "Platform/InstanceServer.h"
 #include "Platform/SingleInstance.h"
@@ -16,8 +16,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 /// The real client waits for its answer, so it asks from a thread of its own, as another process would.
-std::future<std::optional<InstanceAnswer>> ask(const std::filesystem::path &folder,
-                                               std::vector<std::string> arguments)
+std::future<std::optional<InstanceReply>> ask(const std::filesystem::path &folder,
+                                              std::vector<std::string> arguments)
 {
     return std::async(std::launch::async, [folder, arguments = std::move(arguments)] {
         return askRunningInstance(folder, arguments);
@@ -34,7 +34,7 @@ Result settled(std::future<Result> future)
 }
 
 /// An answer that repeats the question.
-CommandLineAnswer echo(const QStringList &arguments)
+CommandLineResult echo(const QStringList &arguments)
 {
     return {arguments.join('|'_L1), int(arguments.size())};
 }
@@ -75,7 +75,7 @@ private:
     [[noreturn]] static void hold(const std::filesystem::path &folder, int ready)
     {
         SingleInstance instance(folder);
-        const char mark = !instance.yieldTo({u"pelko"_s}) && instance.isLocked();
+        const char mark = !instance.lockOrForward({u"pelko"_s}) && instance.isLocked();
         const InstanceServer server(folder, echo);
         if (::write(ready, &mark, 1) != 1)
             ::_exit(1);
@@ -106,7 +106,7 @@ private Q_SLOTS:
         const DataFolder data;
         SingleInstance first(data.folder());
 
-        QVERIFY(!first.yieldTo({u"pelko"_s}));
+        QVERIFY(!first.lockOrForward({u"pelko"_s}));
         QVERIFY(first.isLocked());
     }
 
@@ -114,14 +114,14 @@ private Q_SLOTS:
     {
         const DataFolder data;
         SingleInstance first(data.folder());
-        QVERIFY(!first.yieldTo({u"pelko"_s}));
+        QVERIFY(!first.lockOrForward({u"pelko"_s}));
         const InstanceServer server(data.folder(), echo);
 
         const auto answer = settled(std::async(std::launch::async, [&data] {
-            return SingleInstance(data.folder()).yieldTo({u"pelko"_s, u"--spark"_s, u"a\nb ü"_s});
+            return SingleInstance(data.folder()).lockOrForward({u"pelko"_s, u"--spark"_s, u"a\nb ü"_s});
         }));
 
-        QCOMPARE(answer, (std::optional<CommandLineAnswer>({u"pelko|--spark|a\nb ü"_s, 3})));
+        QCOMPARE(answer, (std::optional<CommandLineResult>({u"pelko|--spark|a\nb ü"_s, 3})));
     }
 
     void afterTheFirstHasGoneTheNextIsTheOne()
@@ -129,11 +129,11 @@ private Q_SLOTS:
         const DataFolder data;
         {
             SingleInstance first(data.folder());
-            QVERIFY(!first.yieldTo({u"pelko"_s}));
+            QVERIFY(!first.lockOrForward({u"pelko"_s}));
             const InstanceServer server(data.folder(), echo);
         }
         SingleInstance next(data.folder());
-        QVERIFY(!next.yieldTo({u"pelko"_s}));
+        QVERIFY(!next.lockOrForward({u"pelko"_s}));
         QCOMPARE(DataFolder::filesIn(data.folder()), QStringList{u"instance.lock"_s});
     }
 
@@ -143,7 +143,7 @@ private Q_SLOTS:
         DataFolder::put(data.folder() / "instance.lock", "");
         SingleInstance next(data.folder());
 
-        QVERIFY(!next.yieldTo({u"pelko"_s}));
+        QVERIFY(!next.lockOrForward({u"pelko"_s}));
         QVERIFY(next.isLocked());
     }
 
@@ -159,7 +159,7 @@ private Q_SLOTS:
         holder.kill();
 
         SingleInstance next(data.folder());
-        QVERIFY(!next.yieldTo({u"pelko"_s}));
+        QVERIFY(!next.lockOrForward({u"pelko"_s}));
         QVERIFY(next.isLocked() && !next.warning());
         const InstanceServer server(data.folder(), echo); // in the place of the socket that was left
         QVERIFY(settled(ask(data.folder(), {})));
@@ -169,7 +169,7 @@ private Q_SLOTS:
     {
         SingleInstance instance("/proc/no such folder/Pelko");
 
-        QVERIFY(!instance.yieldTo({u"pelko"_s}));
+        QVERIFY(!instance.lockOrForward({u"pelko"_s}));
         QVERIFY(!instance.isLocked() && instance.warning());
     }
 
@@ -186,7 +186,7 @@ private Q_SLOTS:
         const DataFolder data;
         SingleInstance instance(data.folder());
         lockError = error;
-        const auto answer = instance.yieldTo({u"pelko"_s});
+        const auto answer = instance.lockOrForward({u"pelko"_s});
         lockError = 0;
 
         QVERIFY(!answer && !instance.isLocked());
@@ -198,14 +198,14 @@ private Q_SLOTS:
     {
         DataFolder data;
         SingleInstance first(data.folder());
-        QVERIFY(!first.yieldTo({u"pelko"_s}));
+        QVERIFY(!first.lockOrForward({u"pelko"_s}));
         if (::geteuid() != 0)
             QSKIP("Only the superuser can act for a second user.");
         data.openToEverybody();
         const Unprivileged user;
         SingleInstance second(data.folder());
 
-        QVERIFY(!second.yieldTo({u"pelko"_s}));
+        QVERIFY(!second.lockOrForward({u"pelko"_s}));
         QVERIFY(!second.isLocked() && second.warning());
     }
 
@@ -216,11 +216,11 @@ private Q_SLOTS:
         SingleInstance first(one.folder());
         SingleInstance second(other.folder());
 
-        QVERIFY(!first.yieldTo({u"pelko"_s}) && !second.yieldTo({u"pelko"_s}));
+        QVERIFY(!first.lockOrForward({u"pelko"_s}) && !second.lockOrForward({u"pelko"_s}));
         QVERIFY(first.isLocked() && second.isLocked());
     }
 
-    void nobodyAnswersWhereNobodyListens()
+    void returnsNulloptWithoutListener()
     {
         const DataFolder data;
         QVERIFY(!askRunningInstance(data.folder(), {}));
@@ -290,7 +290,7 @@ private Q_SLOTS:
         qsizetype size = 0;
         const InstanceServer server(data.folder(), [&size](const QStringList &arguments) {
             size = arguments.value(2).size();
-            return CommandLineAnswer();
+            return CommandLineResult();
         });
 
         const auto answer = settled(ask(data.folder(), {"--spark", std::string(1'000'000, 'x')}));
@@ -305,7 +305,7 @@ private Q_SLOTS:
         const DataFolder data;
         std::filesystem::create_directories(data.folder());
         const InstanceServer server(data.folder(), echo);
-        std::vector<std::future<std::optional<InstanceAnswer>>> callers;
+        std::vector<std::future<std::optional<InstanceReply>>> callers;
         for (int i = 0; i < 20; ++i)
             callers.push_back(ask(data.folder(), {std::to_string(i)}));
 

@@ -47,7 +47,7 @@ private Q_SLOTS:
         QCOMPARE(offered()->formats(), QStringList{u"text/plain"_s});
     }
 
-    void whatIsPutReplacesAllThatWasThere()
+    void putReplacesAllFormats()
     {
         SystemPasteboard().put({.text = u"one"_s, .html = u"<p>one"_s});
         SystemPasteboard().put({.text = u"two"_s});
@@ -106,7 +106,7 @@ private Q_SLOTS:
         QCOMPARE(SystemPasteboard().text(), u"words"_s);
     }
 
-    void whatHasNoFormLeavesThePasteboard()
+    void itemWithoutFormatsKeepsThePasteboard()
     {
         SystemPasteboard().put({.text = u"kept"_s});
         SystemPasteboard().put({});

@@ -94,7 +94,7 @@ private Q_SLOTS:
         QCOMPARE(terminal.shown(), "\rExporting 14 of 100 files");
     }
 
-    void nobodyReadsProgressInAFile()
+    void printsNoProgressToAFile()
     {
         QTemporaryFile file;
         QVERIFY(file.open());

@@ -115,7 +115,7 @@ private Q_SLOTS:
         QDBusConnection::disconnectFromBus(u"pelko"_s);
     }
 
-    void aListNobodyShowsIsNoTray()
+    void watcherWithoutHostIsNoTray()
     {
         TrayWatcher watcher(m_bus->connection(u"host"_s));
         watcher.hasHost = false;
@@ -131,7 +131,7 @@ private Q_SLOTS:
         QTRY_VERIFY(!m_tray->isPresent());
     }
 
-    void enrolsAgainWhenTheTrayComesBack()
+    void registersAgainWhenTheTrayComesBack()
     {
         const QDBusConnection host = m_bus->connection(u"host"_s);
         auto watcher = std::make_unique<TrayWatcher>(host);

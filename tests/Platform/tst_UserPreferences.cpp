@@ -12,15 +12,15 @@ namespace
 const Timestamp midnight = timestampOf(QDateTime(QDate(2026, 11, 21), QTime(0, 0), QTimeZone::utc()));
 } // namespace
 
-class tst_UserPreferences : public QObject
+class TestUserPreferences : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
-    void whatIsSetIsThereInTheNextRun();
-    void whatIsSetIsOnTheDiskAtOnce();
-    void nothingIsThereInTheBeginning();
+    void setPersistsToTheNextRun();
+    void setWritesToTheDiskAtOnce();
+    void startsEmpty();
     void aValueOfAnotherKindIsAbsent_data();
     void aValueOfAnotherKindIsAbsent();
     void aFolderThatCannotBeWrittenIsBorne();
@@ -33,13 +33,13 @@ private:
     QTemporaryDir m_folder;
 };
 
-void tst_UserPreferences::initTestCase()
+void TestUserPreferences::initTestCase()
 {
     QVERIFY(m_folder.isValid());
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_folder.path()));
 }
 
-void tst_UserPreferences::write(const QByteArray &text) const
+void TestUserPreferences::write(const QByteArray &text) const
 {
     QFile::remove(file());
     QFile written(file());
@@ -47,7 +47,7 @@ void tst_UserPreferences::write(const QByteArray &text) const
     written.write(text);
 }
 
-void tst_UserPreferences::whatIsSetIsThereInTheNextRun()
+void TestUserPreferences::setPersistsToTheNextRun()
 {
     {
         UserPreferences preferences(file());
@@ -59,7 +59,7 @@ void tst_UserPreferences::whatIsSetIsThereInTheNextRun()
     QCOMPARE(preferences.date(u"pelko.lastWriteDate"_s), midnight);
 }
 
-void tst_UserPreferences::whatIsSetIsOnTheDiskAtOnce()
+void TestUserPreferences::setWritesToTheDiskAtOnce()
 {
     UserPreferences preferences(file());
     preferences.setInteger(u"pelko.currentStreak"_s, 12);
@@ -72,14 +72,14 @@ void tst_UserPreferences::whatIsSetIsOnTheDiskAtOnce()
     QVERIFY2(text.contains("pelko.lastWriteDate=2026-11-21T00:00:00.000Z\n"), text);
 }
 
-void tst_UserPreferences::nothingIsThereInTheBeginning()
+void TestUserPreferences::startsEmpty()
 {
     const UserPreferences preferences(m_folder.filePath(u"none.ini"_s));
     QCOMPARE(preferences.integer(u"pelko.currentStreak"_s), std::nullopt);
     QCOMPARE(preferences.date(u"pelko.lastWriteDate"_s), std::nullopt);
 }
 
-void tst_UserPreferences::aValueOfAnotherKindIsAbsent_data()
+void TestUserPreferences::aValueOfAnotherKindIsAbsent_data()
 {
     QTest::addColumn<QByteArray>("text");
 
@@ -93,7 +93,7 @@ void tst_UserPreferences::aValueOfAnotherKindIsAbsent_data()
     QTest::newRow("something serialised") << QByteArray("@Variant(\\0\\0\\0\\x7f)");
 }
 
-void tst_UserPreferences::aValueOfAnotherKindIsAbsent()
+void TestUserPreferences::aValueOfAnotherKindIsAbsent()
 {
     QFETCH(const QByteArray, text);
     write("[General]\nvalue=" + text + "\n");
@@ -103,7 +103,7 @@ void tst_UserPreferences::aValueOfAnotherKindIsAbsent()
     QCOMPARE(preferences.date(u"value"_s), std::nullopt);
 }
 
-void tst_UserPreferences::aFolderThatCannotBeWrittenIsBorne()
+void TestUserPreferences::aFolderThatCannotBeWrittenIsBorne()
 {
     write("in the way"); // a file where a folder would have to be
     UserPreferences preferences(file() + u"/Pelko.ini"_s);
@@ -111,7 +111,7 @@ void tst_UserPreferences::aFolderThatCannotBeWrittenIsBorne()
     QCOMPARE(preferences.integer(u"pelko.currentStreak"_s), 3);
 }
 
-void tst_UserPreferences::theFileLiesInTheFolderForConfiguration()
+void TestUserPreferences::theFileLiesInTheFolderForConfiguration()
 {
     UserPreferences preferences;
     preferences.setInteger(u"pelko.currentStreak"_s, 7);
@@ -120,5 +120,5 @@ void tst_UserPreferences::theFileLiesInTheFolderForConfiguration()
     QCOMPARE(kept.integer(u"pelko.currentStreak"_s), 7);
 }
 
-PELKO_TEST(tst_UserPreferences)
+PELKO_TEST(TestUserPreferences)
 #include "tst_UserPreferences.moc"

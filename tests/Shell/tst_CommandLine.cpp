@@ -8,7 +8,10 @@ class TestCommandLine : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void opensWithoutArguments() { QCOMPARE(readCommandLine({u"pelko"_s}), CommandLine(OpenCommand())); }
+    void opensWithoutArguments()
+    {
+        QCOMPARE(parseCommandLine({u"pelko"_s}), ParsedCommandLine(OpenCommand()));
+    }
 
     void readsASpark_data()
     {
@@ -20,12 +23,14 @@ private Q_SLOTS:
     void readsASpark()
     {
         QFETCH(QStringList, arguments);
-        QCOMPARE(readCommandLine(arguments), CommandLine(SparkCommand{u" a thought\nof two lines "_s}));
+        QCOMPARE(parseCommandLine(arguments),
+                 ParsedCommandLine(SparkCommand{u" a thought\nof two lines "_s}));
     }
 
     void readsASparkThatLooksLikeAnOption()
     {
-        QCOMPARE(readCommandLine({u"pelko"_s, u"--spark=--help"_s}), CommandLine(SparkCommand{u"--help"_s}));
+        QCOMPARE(parseCommandLine({u"pelko"_s, u"--spark=--help"_s}),
+                 ParsedCommandLine(SparkCommand{u"--help"_s}));
     }
 
     void readsThePomodoro_data()
@@ -42,7 +47,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, word);
         QFETCH(PomodoroCommand::Verb, verb);
-        QCOMPARE(readCommandLine({u"pelko"_s, u"--pomodoro"_s, word}), CommandLine(PomodoroCommand{verb}));
+        QCOMPARE(parseCommandLine({u"pelko"_s, u"--pomodoro"_s, word}),
+                 ParsedCommandLine(PomodoroCommand{verb}));
     }
 
     void readsAnExport_data()
@@ -61,7 +67,7 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, words);
         QFETCH(ExportCommand, command);
-        QCOMPARE(readCommandLine(QStringList{u"pelko"_s} + words), CommandLine(command));
+        QCOMPARE(parseCommandLine(QStringList{u"pelko"_s} + words), ParsedCommandLine(command));
     }
 
     void answersHelp_data()
@@ -74,8 +80,8 @@ private Q_SLOTS:
     void answersHelp()
     {
         QFETCH(QString, option);
-        const CommandLine read = readCommandLine({u"pelko"_s, option});
-        const auto *answer = std::get_if<CommandLineAnswer>(&read);
+        const ParsedCommandLine read = parseCommandLine({u"pelko"_s, option});
+        const auto *answer = std::get_if<CommandLineResult>(&read);
 
         QVERIFY(answer);
         QCOMPARE(answer->exitCode, 0);
@@ -93,9 +99,9 @@ private Q_SLOTS:
     void answersTheVersion()
     {
         QFETCH(QString, option);
-        const CommandLineAnswer expected{u"pelko %1\n"_s.arg(QLatin1StringView(PELKO_VERSION)), 0};
+        const CommandLineResult expected{u"pelko %1\n"_s.arg(QLatin1StringView(PELKO_VERSION)), 0};
 
-        QCOMPARE(readCommandLine({u"pelko"_s, option}), CommandLine(expected));
+        QCOMPARE(parseCommandLine({u"pelko"_s, option}), ParsedCommandLine(expected));
     }
 
     void refusesWhatItDoesNotKnow_data()
@@ -122,8 +128,8 @@ private Q_SLOTS:
     void refusesWhatItDoesNotKnow()
     {
         QFETCH(QStringList, words);
-        const CommandLine read = readCommandLine(QStringList{u"pelko"_s} + words);
-        const auto *answer = std::get_if<CommandLineAnswer>(&read);
+        const ParsedCommandLine read = parseCommandLine(QStringList{u"pelko"_s} + words);
+        const auto *answer = std::get_if<CommandLineResult>(&read);
 
         QVERIFY(answer);
         QCOMPARE(answer->exitCode, 2);

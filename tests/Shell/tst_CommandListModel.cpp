@@ -72,7 +72,7 @@ private Q_SLOTS:
         QCOMPARE(runs, 1);
     }
 
-    void oneThatIsUnboundOrUnknownOrAHairlineDoesNothing()
+    void unboundUnknownAndSeparatorRowsDoNothing()
     {
         Model model(table);
         model.run(u"a"_s);
@@ -115,7 +115,7 @@ private Q_SLOTS:
         QVERIFY(model.isTicked(u"c"_s));
     }
 
-    void whatACommandDoesMayBindItAnew()
+    void actionMayRebindItsCommand()
     {
         Model model(table);
         int later = 0;

@@ -77,7 +77,7 @@ private Q_SLOTS:
         QCOMPARE(found, wanted);
     }
 
-    void whatTheSystemHasAPlaceForSaysSo()
+    void systemCommandsReportTheirRole()
     {
         CommandListModel commands(menuCommands());
         const CommandMenu menu(commands, BarMenu::help);

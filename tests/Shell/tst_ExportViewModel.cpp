@@ -77,14 +77,14 @@ private Q_SLOTS:
     void aFolderIsAskedForAndThePageWrittenThere()
     {
         exports().exportDocument();
-        QCOMPARE(m_program->desktop.fileChooser.wanted, FileChooser::Wanted::folder);
+        QCOMPARE(m_program->desktop.fileChooser.target, FileChooser::Target::folder);
         QCOMPARE(m_program->folder.asked, 0);
 
         chooseFolder("/home/me/Documents");
         QCOMPARE(m_program->folder.folder, std::filesystem::path("/home/me/Documents"));
         QCOMPARE(m_program->folder.existing, Existing::keep);
 
-        answer(ExportFolder::Written{});
+        answer(ExportFolder::Success{});
         QCOMPARE(paths(), (QStringList{u"Ridge.md"_s, u"Ridge 1.bin"_s}));
         QVERIFY(exports().showResult());
         QVERIFY(!exports().hasFailed());
@@ -109,7 +109,7 @@ private Q_SLOTS:
         exports().exportLibrary();
         chooseFolder(chosen.toStdString());
         QCOMPARE(m_program->folder.folder, std::filesystem::path("/home/me/Documents/Pelko"));
-        answer(ExportFolder::Written{});
+        answer(ExportFolder::Success{});
         QCOMPARE(paths(), (QStringList{u"ideas/a thought.md"_s, u"work/Ridge.md"_s, u"work/Ridge 1.bin"_s}));
         QCOMPARE(exports().resultText(),
                  u"2 pages and 1 picture in “Pelko”. Plain Markdown, yours to keep."_s);
@@ -132,12 +132,12 @@ private Q_SLOTS:
         chooseFolder("/a");
         exports().exportLibrary();
         QCOMPARE(m_program->desktop.fileChooser.asked, 1);
-        answer(ExportFolder::Written{});
+        answer(ExportFolder::Success{});
         exports().exportLibrary();
         QCOMPARE(m_program->desktop.fileChooser.asked, 2);
     }
 
-    void whoChoosesNoFolderExportsNothing()
+    void cancelledChooserExportsNothing()
     {
         exports().exportDocument();
         m_program->desktop.fileChooser.answer(Folders{});
@@ -166,10 +166,10 @@ private Q_SLOTS:
                  u"Export failed: No space left on device. Nothing was left behind."_s);
     }
 
-    void whatIsThereIsReplacedOnlyWhenAskedFor()
+    void existingFilesAreReplacedOnlyOnRequest()
     {
         exportDocumentTo("/home/me/notes");
-        answer(ExportFolder::Taken{{u"Ridge.md"_s}});
+        answer(ExportFolder::Conflicts{{u"Ridge.md"_s}});
         QVERIFY(exports().asksToReplace());
         QCOMPARE(exports().questionTitle(), u"Replace “Ridge.md”?"_s);
         QCOMPARE(exports().questionText(), u"“notes” has a file of that name."_s);
@@ -179,7 +179,7 @@ private Q_SLOTS:
         exports().keep(); // as dialogs do that are answered
         QVERIFY(!exports().asksToReplace());
         QCOMPARE(m_program->folder.existing, Existing::replace);
-        answer(ExportFolder::Written{});
+        answer(ExportFolder::Success{});
         QVERIFY(exports().showResult());
     }
 
@@ -187,7 +187,7 @@ private Q_SLOTS:
     {
         exports().exportLibrary();
         chooseFolder("/home/me");
-        answer(ExportFolder::Taken{{u"work/A.md"_s, u"work/A 1.png"_s, u"ideas/B.md"_s}});
+        answer(ExportFolder::Conflicts{{u"work/A.md"_s, u"work/A 1.png"_s, u"ideas/B.md"_s}});
         QCOMPARE(exports().questionTitle(), u"Replace 3 files?"_s);
         QCOMPARE(exports().questionText(), u"“Pelko” has files of these names, “A.md” for one."_s);
     }
@@ -195,7 +195,7 @@ private Q_SLOTS:
     void whatIsThereIsKeptOtherwise()
     {
         exportDocumentTo("/a");
-        answer(ExportFolder::Taken{{u"Ridge.md"_s}});
+        answer(ExportFolder::Conflicts{{u"Ridge.md"_s}});
         exports().keep();
         QVERIFY(!exports().asksToReplace());
         QVERIFY(!exports().showResult());
@@ -224,7 +224,7 @@ private Q_SLOTS:
     {
         exportDocumentTo("/a");
         m_program->scheduler.advance(1s);
-        answer(ExportFolder::Written{});
+        answer(ExportFolder::Success{});
         QVERIFY(!exports().showProgress());
         m_program->scheduler.advance(1s);
         QVERIFY(!exports().showProgress());
@@ -233,18 +233,18 @@ private Q_SLOTS:
     void anExportThatIsDoneCannotBeStopped()
     {
         exportDocumentTo("/a");
-        answer(ExportFolder::Written{});
+        answer(ExportFolder::Success{});
         exports().stop(); // as dialogs do that close
         QVERIFY(exports().showResult());
     }
 
-    void whatIsExportedIsThePageOfTheCommand()
+    void exportsThePageThatWasOpenAtTheCommand()
     {
         exports().exportDocument();
         const PelkoDocument open = *m_program->appState.openDocument();
         m_program->appState.permanentlyDeleteDocument(open);
         chooseFolder("/a");
-        answer(ExportFolder::Written{});
+        answer(ExportFolder::Success{});
         QCOMPARE(paths(), (QStringList{u"Ridge.md"_s, u"Ridge 1.bin"_s}));
     }
 

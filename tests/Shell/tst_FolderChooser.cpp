@@ -27,7 +27,7 @@ class TestFolderChooser : public QObject
     std::unique_ptr<ManualPictureFolders> folders;
     std::unique_ptr<FolderChooser> chooser;
     ScheduledCall request;
-    FileChooser::Wanted wanted = FileChooser::Wanted::picture;
+    FileChooser::Target wanted = FileChooser::Target::picture;
     QStringList choices;
 
     void choose()
@@ -56,7 +56,7 @@ private Q_SLOTS:
         folders->isSlow = true;
         chooser = std::make_unique<FolderChooser>(*folders);
         request = {};
-        wanted = FileChooser::Wanted::picture;
+        wanted = FileChooser::Target::picture;
         choices.clear();
     }
 
@@ -90,7 +90,7 @@ private Q_SLOTS:
 
     void theFolderOnShowIsChosenWhereOneIsWanted()
     {
-        wanted = FileChooser::Wanted::folder;
+        wanted = FileChooser::Target::folder;
         choose();
         QVERIFY(chooser->wantsFolder());
         QCOMPARE(names(), QStringList{u"Pictures/"_s});
@@ -106,7 +106,7 @@ private Q_SLOTS:
 
     void aFileIsNoFolder()
     {
-        wanted = FileChooser::Wanted::folder;
+        wanted = FileChooser::Target::folder;
         choose();
         chooser->goTo(u"cat.png"_s);
         folders->answer();
@@ -117,10 +117,10 @@ private Q_SLOTS:
 
     void afterAFolderAPictureCanBeWantedAgain()
     {
-        wanted = FileChooser::Wanted::folder;
+        wanted = FileChooser::Target::folder;
         choose();
         chooser->cancel();
-        wanted = FileChooser::Wanted::picture;
+        wanted = FileChooser::Target::picture;
         choose();
         QVERIFY(!chooser->wantsFolder());
         QCOMPARE(names(), (QStringList{u"Pictures/"_s, u"cat.png"_s}));

@@ -85,12 +85,12 @@ private Q_SLOTS:
     void aMenuBarNeedsNoCommandThatOpensTheMenu()
     {
         QStringList wanted;
-        for (const MenuCommand &command : menuCommands(MenuPlace::window))
+        for (const MenuCommand &command : menuCommands(MenuLocation::window))
             wanted << command.id;
         QCOMPARE(wanted.size(), menuCommands().size());
         wanted.removeOne(u"appMenu"_s);
         QStringList offered;
-        for (const MenuCommand &command : menuCommands(MenuPlace::menuBar))
+        for (const MenuCommand &command : menuCommands(MenuLocation::menuBar))
             offered << command.id;
 
         QCOMPARE(offered, wanted);

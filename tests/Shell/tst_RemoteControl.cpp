@@ -24,7 +24,7 @@ struct ControlledProgram {
     PomodoroTimer timer{scheduler};
     RemoteControl remote{appState, timer};
 
-    CommandLineAnswer answer(const QStringList &words)
+    CommandLineResult answer(const QStringList &words)
     {
         return remote.answer(QStringList{u"pelko"_s} + words);
     }
@@ -46,7 +46,7 @@ private Q_SLOTS:
     {
         const QSignalSpy opened(&m_program->remote, &RemoteControl::openRequested);
 
-        QCOMPARE(m_program->answer({}), CommandLineAnswer());
+        QCOMPARE(m_program->answer({}), CommandLineResult());
 
         QCOMPARE(opened.count(), 1);
     }
@@ -55,7 +55,7 @@ private Q_SLOTS:
     {
         const QSignalSpy opened(&m_program->remote, &RemoteControl::openRequested);
 
-        QCOMPARE(m_program->answer({u"--spark"_s, u" a thought "_s}), CommandLineAnswer());
+        QCOMPARE(m_program->answer({u"--spark"_s, u" a thought "_s}), CommandLineResult());
 
         QCOMPARE(m_program->appState.sparks()[0].blocks[0].content, u"a thought"_s);
         QCOMPARE(m_program->file.writes(), 1);
@@ -64,12 +64,12 @@ private Q_SLOTS:
 
     void anExportIsTheCallersOnceTheLatestWordsAreSaved()
     {
-        const CommandLineAnswer yours{{}, CommandLineAnswer::yours};
-        QCOMPARE(m_program->answer({u"--export"_s, u"notes"_s}), yours);
+        const CommandLineResult result{{}, CommandLineResult::runInCaller};
+        QCOMPARE(m_program->answer({u"--export"_s, u"notes"_s}), result);
         QCOMPARE(m_program->file.writes(), 0);
 
         m_program->appState.createDocument(Space::work);
-        QCOMPARE(m_program->answer({u"--export"_s, u"notes"_s}), yours);
+        QCOMPARE(m_program->answer({u"--export"_s, u"notes"_s}), result);
         QCOMPARE(m_program->file.writes(), 1);
     }
 
@@ -77,21 +77,21 @@ private Q_SLOTS:
     {
         m_program->appState.createDocument(Space::work);
         m_program->file.writeError = u"No space left on device"_s;
-        const CommandLineAnswer expected{u"pelko: Save failed: No space left on device\n"_s, 1};
+        const CommandLineResult expected{u"pelko: Save failed: No space left on device\n"_s, 1};
         QCOMPARE(m_program->answer({u"--export"_s, u"notes"_s}), expected);
     }
 
     void aSparkThatCannotBeSavedIsToldAndKept()
     {
         m_program->file.writeError = u"No space left on device"_s;
-        const CommandLineAnswer expected{u"pelko: Save failed: No space left on device\n"_s, 1};
+        const CommandLineResult expected{u"pelko: Save failed: No space left on device\n"_s, 1};
 
         QCOMPARE(m_program->answer({u"--spark"_s, u"kept"_s}), expected);
         QCOMPARE(m_program->answer({u"--spark"_s, u"kept too"_s}), expected);
         QCOMPARE(m_program->appState.sparks().size(), 2);
 
         m_program->file.writeError.reset();
-        QCOMPARE(m_program->answer({u"--spark"_s, u"saved"_s}), CommandLineAnswer());
+        QCOMPARE(m_program->answer({u"--spark"_s, u"saved"_s}), CommandLineResult());
     }
 
     void aBlankSparkIsRefused()
@@ -103,12 +103,12 @@ private Q_SLOTS:
     void thePomodoroIsWorkedByWords()
     {
         QCOMPARE(m_program->status(), u"focus 25:00 paused\n"_s);
-        QCOMPARE(m_program->answer({u"--pomodoro"_s, u"start"_s}), CommandLineAnswer());
+        QCOMPARE(m_program->answer({u"--pomodoro"_s, u"start"_s}), CommandLineResult());
         m_program->scheduler.advance(498s);
         QCOMPARE(m_program->status(), u"focus 16:42 running\n"_s);
-        QCOMPARE(m_program->answer({u"--pomodoro"_s, u"pause"_s}), CommandLineAnswer());
+        QCOMPARE(m_program->answer({u"--pomodoro"_s, u"pause"_s}), CommandLineResult());
         QCOMPARE(m_program->status(), u"focus 16:42 paused\n"_s);
-        QCOMPARE(m_program->answer({u"--pomodoro"_s, u"reset"_s}), CommandLineAnswer());
+        QCOMPARE(m_program->answer({u"--pomodoro"_s, u"reset"_s}), CommandLineResult());
         QCOMPARE(m_program->status(), u"focus 25:00 paused\n"_s);
     }
 
@@ -129,7 +129,7 @@ private Q_SLOTS:
         QCOMPARE(m_program->status(), u"break 05:00 paused\n"_s);
     }
 
-    void whatIsUnknownIsRefused() { QCOMPARE(m_program->answer({u"--frobnicate"_s}).exitCode, 2); }
+    void refusesUnknownOptions() { QCOMPARE(m_program->answer({u"--frobnicate"_s}).exitCode, 2); }
 };
 
 PELKO_TEST(TestRemoteControl)

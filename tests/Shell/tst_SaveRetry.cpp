@@ -55,7 +55,7 @@ private Q_SLOTS:
         QCOMPARE(program.file.writes(), 1);
     }
 
-    void goesOnWhenTheLookWasWrong()
+    void continuesWhenTheCheckWasWrong()
     {
         FailedProgram program;
         program.file.looksWritable = true;

@@ -194,7 +194,7 @@ private Q_SLOTS:
         }
     }
 
-    void withoutAPageThereIsNothingToFocusOn()
+    void noFocusModeWithoutAPage()
     {
         CommandedProgram program;
         QVERIFY(!program.isEnabled(u"focusMode"_s));

@@ -83,7 +83,7 @@ private Q_SLOTS:
         QCOMPARE(state->documents(), QList{other});
     }
 
-    void deletingNothingSavesAllTheSame()
+    void deletingAnUnknownDocumentSaves()
     {
         const auto state = start({page(Space::work, 1)});
         QSignalSpy changed(state.get(), &AppState::documentsChanged);
@@ -184,7 +184,7 @@ private Q_SLOTS:
         QCOMPARE(file.writes(), 1);
     }
 
-    void aBlankSparkIsNothing_data()
+    void rejectsBlankSpark_data()
     {
         QTest::addColumn<QString>("text");
         QTest::newRow("empty") << u""_s;
@@ -192,7 +192,7 @@ private Q_SLOTS:
         QTest::newRow("rare white space") << u"\u00A0\u0085\u1680\u3000\v\f"_s;
     }
 
-    void aBlankSparkIsNothing()
+    void rejectsBlankSpark()
     {
         QFETCH(QString, text);
         const auto state = start({});
@@ -260,7 +260,7 @@ private Q_SLOTS:
         QCOMPARE(file.writes(), 0);
     }
 
-    void aMoveToNowhereDoesNothing()
+    void ignoresMoveToInvalidRow()
     {
         const auto state = start({page(Space::work, 1)});
         const QList<PelkoDocument> before = state->documents();

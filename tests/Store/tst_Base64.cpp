@@ -84,7 +84,7 @@ private Q_SLOTS:
         }
     }
 
-    void nothingIsWrittenBehindTheRoomThatWasAskedFor()
+    void writesOnlyIntoTheReservedBytes()
     {
         for (int length = 0; length < 200; ++length) {
             const qsizetype room = longestEscapedBase64(length);
@@ -96,7 +96,7 @@ private Q_SLOTS:
 
     void bitsOfNoByteAreNotLookedAt() { QCOMPARE(decoded("Zh=="), "f"); }
 
-    void whatIsNotBase64IsNothing_data()
+    void rejectsMalformedBase64_data()
     {
         QTest::addColumn<QByteArray>("text");
         for (const char *text :
@@ -107,7 +107,7 @@ private Q_SLOTS:
         QTest::newRow("NUL") << QByteArray("Zm\0v", 4);
     }
 
-    void whatIsNotBase64IsNothing()
+    void rejectsMalformedBase64()
     {
         QFETCH(QByteArray, text);
         QCOMPARE(decoded(text), std::nullopt);

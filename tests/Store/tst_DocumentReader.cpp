@@ -50,7 +50,7 @@ private Q_SLOTS:
         QCOMPARE(documents, QList{expected});
     }
 
-    void whatIsHarmlessIsRead_data()
+    void readsHarmlessFiles_data()
     {
         QTest::addColumn<QByteArray>("json");
         QTest::newRow("no documents") << QByteArray("[]");
@@ -67,7 +67,7 @@ private Q_SLOTS:
         QTest::newRow("escaped key") << fileWith("'is\\u0050inned':true");
     }
 
-    void whatIsHarmlessIsRead()
+    void readsHarmlessFiles()
     {
         QFETCH(QByteArray, json);
         QVERIFY(readDocuments(json));

@@ -157,7 +157,7 @@ private Q_SLOTS:
         QCOMPARE(readDocuments(dataFileText(documents)), documents);
     }
 
-    void whatIsNoNumberIsAnError_data()
+    void nanAndInfinityAreErrors_data()
     {
         QTest::addColumn<double>("date");
         QTest::newRow("NaN") << std::numeric_limits<double>::quiet_NaN();
@@ -165,7 +165,7 @@ private Q_SLOTS:
         QTest::newRow("-infinity") << -std::numeric_limits<double>::infinity();
     }
 
-    void whatIsNoNumberIsAnError()
+    void nanAndInfinityAreErrors()
     {
         QFETCH(double, date);
         QList<PelkoDocument> documents = pages(40);

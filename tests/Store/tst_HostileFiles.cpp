@@ -8,7 +8,7 @@ class TestHostileFiles : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void whatIsBrokenIsNothing_data()
+    void rejectsMalformedText_data()
     {
         QTest::addColumn<QByteArray>("json");
         const auto add = [](const char *name, const QByteArray &json) { QTest::newRow(name) << json; };
@@ -94,7 +94,7 @@ private Q_SLOTS:
         add("repeated with a wrong type at last", fileWith("'isPinned':true,'isPinned':1"));
     }
 
-    void whatIsBrokenIsNothing()
+    void rejectsMalformedText()
     {
         QFETCH(QByteArray, json);
         QCOMPARE(readDocuments(json), std::nullopt);

@@ -55,7 +55,7 @@ private Q_SLOTS:
         QTEST(runsIn(text), "objects");
     }
 
-    void whatIsNoArrayOfObjectsIsNothing_data()
+    void rejectsTextThatIsNoArrayOfObjects_data()
     {
         QTest::addColumn<QByteArray>("text");
         for (const char *text :
@@ -67,7 +67,7 @@ private Q_SLOTS:
         QTest::newRow("NUL") << QByteArray("[\0]", 3);
     }
 
-    void whatIsNoArrayOfObjectsIsNothing()
+    void rejectsTextThatIsNoArrayOfObjects()
     {
         QFETCH(QByteArray, text);
         QCOMPARE(runsIn(text), QByteArrayList{"nothing"});

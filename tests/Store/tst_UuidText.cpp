@@ -24,7 +24,7 @@ private Q_SLOTS:
         QCOMPARE(uuidFromText("00000000-0000-0000-0000-000000000000"), QUuid());
     }
 
-    void otherFormsAreNothing_data()
+    void otherFormsAreRejected_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::newRow("empty") << QByteArray("");
@@ -39,7 +39,7 @@ private Q_SLOTS:
         QTest::newRow("too short") << QByteArray("0A1B2C3D-4E5F-6789-ABCD-EF012345678");
     }
 
-    void otherFormsAreNothing()
+    void otherFormsAreRejected()
     {
         QFETCH(QByteArray, text);
         QCOMPARE(uuidFromText(std::string_view(text.constData(), std::size_t(text.size()))), std::nullopt);

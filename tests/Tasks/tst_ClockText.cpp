@@ -16,7 +16,7 @@ Timestamp at(const QString &time, const QTimeZone &zone = QTimeZone::utc())
 }
 } // namespace
 
-class tst_ClockText : public QObject
+class TestClockText : public QObject
 {
     Q_OBJECT
 
@@ -28,7 +28,7 @@ private Q_SLOTS:
     void speaksTheLanguageOfTheUser();
 };
 
-void tst_ClockText::hasADialOfTwelve_data()
+void TestClockText::hasADialOfTwelve_data()
 {
     QTest::addColumn<QString>("moment");
     QTest::addColumn<QString>("time");
@@ -43,7 +43,7 @@ void tst_ClockText::hasADialOfTwelve_data()
     QTest::newRow("last of the day") << u"2026-10-15T23:59:00"_s << u"11:59"_s << u"PM"_s;
 }
 
-void tst_ClockText::hasADialOfTwelve()
+void TestClockText::hasADialOfTwelve()
 {
     QFETCH(const QString, moment);
     QFETCH(const QString, time);
@@ -53,13 +53,13 @@ void tst_ClockText::hasADialOfTwelve()
     QCOMPARE(ClockText::marker(at(moment), QTimeZone::utc(), english), marker);
 }
 
-void tst_ClockText::namesTheDayInFullAndTheMonthInShort()
+void TestClockText::namesTheDayInFullAndTheMonthInShort()
 {
     QCOMPARE(ClockText::date(at(u"2025-10-16T07:42:00"_s), QTimeZone::utc(), english), u"Thursday, Oct 16"_s);
     QCOMPARE(ClockText::date(at(u"2026-03-07T07:42:00"_s), QTimeZone::utc(), english), u"Saturday, Mar 7"_s);
 }
 
-void tst_ClockText::isReadWhereTheUserIs()
+void TestClockText::isReadWhereTheUserIs()
 {
     const QTimeZone auckland("Pacific/Auckland");
     const Timestamp noonInLondon = at(u"2026-07-01T11:00:00"_s);
@@ -69,12 +69,12 @@ void tst_ClockText::isReadWhereTheUserIs()
     QCOMPARE(ClockText::date(noonInLondon + 3600, auckland, english), u"Thursday, Jul 2"_s);
 }
 
-void tst_ClockText::speaksTheLanguageOfTheUser()
+void TestClockText::speaksTheLanguageOfTheUser()
 {
     const QLocale german(QLocale::German, QLocale::Germany);
 
     QCOMPARE(ClockText::date(at(u"2026-03-07T07:42:00"_s), QTimeZone::utc(), german), u"Samstag, März 7"_s);
 }
 
-PELKO_TEST(tst_ClockText)
+PELKO_TEST(TestClockText)
 #include "tst_ClockText.moc"

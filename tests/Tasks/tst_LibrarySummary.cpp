@@ -88,20 +88,20 @@ void changeByLot(QList<PelkoDocument> &library, QRandomGenerator &lot)
 }
 } // namespace
 
-class tst_LibrarySummary : public QObject
+class TestLibrarySummary : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void anEmptyLibraryHasNothing();
+    void emptyLibraryHasNoWordsAndNoTasks();
     void wordsOfAllPagesCount();
-    void wordsAreWhatStandsBetweenWhiteSpace();
+    void countsWordsBetweenWhiteSpace();
     void tellsWhetherTheListOfTasksReadsDifferently();
     void aPageThatWasPinnedIsReadAgain();
-    void isTheSameAsOneMadeAfreshWhateverHappens();
+    void equalsANewSummaryAfterAnyChange();
 };
 
-void tst_LibrarySummary::anEmptyLibraryHasNothing()
+void TestLibrarySummary::emptyLibraryHasNoWordsAndNoTasks()
 {
     LibrarySummary summary;
     QVERIFY(!summary.read({}));
@@ -109,7 +109,7 @@ void tst_LibrarySummary::anEmptyLibraryHasNothing()
     QVERIFY(!summary.page(QUuid::createUuid()));
 }
 
-void tst_LibrarySummary::wordsOfAllPagesCount()
+void TestLibrarySummary::wordsOfAllPagesCount()
 {
     QList<PelkoDocument> library{titled(u"one"_s), titled(u"one two"_s),
                                  titled(u"one two three"_s, {u"not me"_s})};
@@ -123,14 +123,14 @@ void tst_LibrarySummary::wordsOfAllPagesCount()
     QCOMPARE(summary.wordCount(), 6);
 }
 
-void tst_LibrarySummary::wordsAreWhatStandsBetweenWhiteSpace()
+void TestLibrarySummary::countsWordsBetweenWhiteSpace()
 {
     LibrarySummary summary;
     summary.read({titled(u"one  two\nthree\t four"_s), titled(u"   "_s)});
     QCOMPARE(summary.wordCount(), 4);
 }
 
-void tst_LibrarySummary::tellsWhetherTheListOfTasksReadsDifferently()
+void TestLibrarySummary::tellsWhetherTheListOfTasksReadsDifferently()
 {
     QList<PelkoDocument> library{titled(u"Idle"_s), titled(u"Busy"_s, {u"one"_s, u"two"_s}),
                                  titled(u"Last"_s)};
@@ -155,7 +155,7 @@ void tst_LibrarySummary::tellsWhetherTheListOfTasksReadsDifferently()
     QVERIFY2(summary.read(library), "a page less, with tasks");
 }
 
-void tst_LibrarySummary::aPageThatWasPinnedIsReadAgain()
+void TestLibrarySummary::aPageThatWasPinnedIsReadAgain()
 {
     QList<PelkoDocument> library{titled(u"Busy"_s, {u"one"_s})};
     LibrarySummary summary;
@@ -166,7 +166,7 @@ void tst_LibrarySummary::aPageThatWasPinnedIsReadAgain()
     QCOMPARE(summary.page(library[0].id)->doc, library[0]);
 }
 
-void tst_LibrarySummary::isTheSameAsOneMadeAfreshWhateverHappens()
+void TestLibrarySummary::equalsANewSummaryAfterAnyChange()
 {
     for (quint32 seed = 0; seed < 40; ++seed) {
         QRandomGenerator lot(seed);
@@ -182,5 +182,5 @@ void tst_LibrarySummary::isTheSameAsOneMadeAfreshWhateverHappens()
     }
 }
 
-PELKO_TEST(tst_LibrarySummary)
+PELKO_TEST(TestLibrarySummary)
 #include "tst_LibrarySummary.moc"

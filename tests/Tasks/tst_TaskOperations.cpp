@@ -23,25 +23,25 @@ const QList<TodoItem> &todos(const PelkoDocument &document, qsizetype block = 1)
 }
 } // namespace
 
-class tst_TaskOperations : public QObject
+class TestTaskOperations : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void toggleFlipsOneEntry();
     void toggleTwiceIsAsBefore();
-    void toggleOfWhatIsNotThereIsNothing();
+    void toggleOfAnUnknownTodoDoesNothing();
     void deleteTakesOneEntryAndKeepsTheOthersInOrder();
     void deleteTakesEveryEntryOfThatId();
     void deleteOfTheLastEntryLeavesAnEmptyChecklist();
     void deleteInABlockWithoutAChecklistGivesThePageBack();
-    void deleteInABlockThatIsNotThereIsNothing();
+    void deleteInUnknownBlockReturnsNullopt();
     void addAppendsToTheFirstChecklist();
     void addFillsAChecklistThatIsAbsent();
     void addMakesAChecklistAtTheEnd();
 };
 
-void tst_TaskOperations::toggleFlipsOneEntry()
+void TestTaskOperations::toggleFlipsOneEntry()
 {
     const PelkoDocument before = checklistOf({u"socks"_s, u"pens"_s});
 
@@ -51,7 +51,7 @@ void tst_TaskOperations::toggleFlipsOneEntry()
     QCOMPARE(after, expected);
 }
 
-void tst_TaskOperations::toggleTwiceIsAsBefore()
+void TestTaskOperations::toggleTwiceIsAsBefore()
 {
     const PelkoDocument before = checklistOf({u"socks"_s});
     const QUuid block = before.blocks[1].id;
@@ -61,7 +61,7 @@ void tst_TaskOperations::toggleTwiceIsAsBefore()
              before);
 }
 
-void tst_TaskOperations::toggleOfWhatIsNotThereIsNothing()
+void TestTaskOperations::toggleOfAnUnknownTodoDoesNothing()
 {
     const PelkoDocument before = checklistOf({u"socks"_s});
     const QUuid unknown = QUuid::createUuid();
@@ -71,7 +71,7 @@ void tst_TaskOperations::toggleOfWhatIsNotThereIsNothing()
     QVERIFY(!TaskOperations::toggleTodo(before, before.blocks[0].id, todos(before)[0].id));
 }
 
-void tst_TaskOperations::deleteTakesOneEntryAndKeepsTheOthersInOrder()
+void TestTaskOperations::deleteTakesOneEntryAndKeepsTheOthersInOrder()
 {
     const PelkoDocument before = checklistOf({u"socks"_s, u"pens"_s, u"tea"_s});
 
@@ -81,7 +81,7 @@ void tst_TaskOperations::deleteTakesOneEntryAndKeepsTheOthersInOrder()
     QCOMPARE(after, expected);
 }
 
-void tst_TaskOperations::deleteTakesEveryEntryOfThatId()
+void TestTaskOperations::deleteTakesEveryEntryOfThatId()
 {
     PelkoDocument before = checklistOf({u"socks"_s, u"pens"_s, u"tea"_s});
     (*before.blocks[1].todos)[2].id = todos(before)[0].id;
@@ -90,7 +90,7 @@ void tst_TaskOperations::deleteTakesEveryEntryOfThatId()
     QCOMPARE(todos(*after), QList<TodoItem>{todos(before)[1]});
 }
 
-void tst_TaskOperations::deleteOfTheLastEntryLeavesAnEmptyChecklist()
+void TestTaskOperations::deleteOfTheLastEntryLeavesAnEmptyChecklist()
 {
     const PelkoDocument before = checklistOf({u"socks"_s});
 
@@ -99,14 +99,14 @@ void tst_TaskOperations::deleteOfTheLastEntryLeavesAnEmptyChecklist()
     QCOMPARE(after->blocks[1].todos, QList<TodoItem>{});
 }
 
-void tst_TaskOperations::deleteInABlockWithoutAChecklistGivesThePageBack()
+void TestTaskOperations::deleteInABlockWithoutAChecklistGivesThePageBack()
 {
     const PelkoDocument before = checklistOf({});
 
     QCOMPARE(TaskOperations::deleteTodo(before, before.blocks[0].id, QUuid::createUuid()), before);
 }
 
-void tst_TaskOperations::deleteInABlockThatIsNotThereIsNothing()
+void TestTaskOperations::deleteInUnknownBlockReturnsNullopt()
 {
     PelkoDocument before = checklistOf({u"socks"_s});
     QVERIFY(!TaskOperations::deleteTodo(before, QUuid::createUuid(), todos(before)[0].id));
@@ -115,7 +115,7 @@ void tst_TaskOperations::deleteInABlockThatIsNotThereIsNothing()
     QVERIFY(!TaskOperations::deleteTodo(before, QUuid::createUuid(), QUuid::createUuid()));
 }
 
-void tst_TaskOperations::addAppendsToTheFirstChecklist()
+void TestTaskOperations::addAppendsToTheFirstChecklist()
 {
     PelkoDocument before = checklistOf({u"socks"_s});
     before.blocks.append(checklistOf({u"later"_s}).blocks);
@@ -127,7 +127,7 @@ void tst_TaskOperations::addAppendsToTheFirstChecklist()
     QVERIFY(todos(after)[1].id != todos(after)[0].id);
 }
 
-void tst_TaskOperations::addFillsAChecklistThatIsAbsent()
+void TestTaskOperations::addFillsAChecklistThatIsAbsent()
 {
     PelkoDocument before = checklistOf({});
     before.blocks[1].todos.reset();
@@ -137,7 +137,7 @@ void tst_TaskOperations::addFillsAChecklistThatIsAbsent()
     QCOMPARE(todos(after)[0].text, u"pens"_s);
 }
 
-void tst_TaskOperations::addMakesAChecklistAtTheEnd()
+void TestTaskOperations::addMakesAChecklistAtTheEnd()
 {
     PelkoDocument before = checklistOf({});
     before.blocks.removeAt(1);
@@ -154,5 +154,5 @@ void tst_TaskOperations::addMakesAChecklistAtTheEnd()
     QCOMPARE(todos(twice, 2)[1].text, u"tea"_s);
 }
 
-PELKO_TEST(tst_TaskOperations)
+PELKO_TEST(TestTaskOperations)
 #include "tst_TaskOperations.moc"

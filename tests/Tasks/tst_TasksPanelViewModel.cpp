@@ -55,9 +55,9 @@ struct PanelDesk {
     QStringList list() const
     {
         QStringList lines;
-        for (const TaskRow &row : static_cast<TaskListModel *>(panel->tasks())->rows()) {
+        for (const TaskListRow &row : static_cast<TaskListModel *>(panel->tasks())->rows()) {
             const QString mark = row.done ? u"x"_s : u"-"_s;
-            lines << (row.kind == TaskRow::Kind::heading ? row.text : mark + row.text);
+            lines << (row.kind == TaskListRow::Kind::heading ? row.text : mark + row.text);
         }
         return lines;
     }
@@ -66,7 +66,7 @@ struct PanelDesk {
     /// Does that to the task in that line of the list.
     void apply(Operation operation, qsizetype line)
     {
-        const TaskRow row = static_cast<TaskListModel *>(panel->tasks())->rows().at(line);
+        const TaskListRow row = static_cast<TaskListModel *>(panel->tasks())->rows().at(line);
         ((*panel).*operation)(row.docID.toString(), row.blockID.toString(), row.todoID.toString());
     }
 
@@ -80,7 +80,7 @@ struct PanelDesk {
 };
 } // namespace
 
-class tst_TasksPanelViewModel : public QObject
+class TestTasksPanelViewModel : public QObject
 {
     Q_OBJECT
 
@@ -89,7 +89,7 @@ private Q_SLOTS:
     void aTickedTaskStaysListedAndIsNotCounted();
     void toggleWritesTheDocumentEachTime();
     void deleteOfTheLastTaskEmptiesTheListAndKeepsTheBlock();
-    void whatIsNotThereChangesNothing();
+    void unknownIdChangesNothing();
     void aTaskOfAnotherPageIsTickedThere();
     void theKeyboardWalksOverHeadings();
     void blanksAloneAreNoTask();
@@ -110,7 +110,7 @@ private Q_SLOTS:
     void theEventsAreFetchedWhenThePanelComesIntoSight();
 };
 
-void tst_TasksPanelViewModel::theListFollowsTheStore()
+void TestTasksPanelViewModel::theListFollowsTheStore()
 {
     PanelDesk desk;
     QCOMPARE(desk.list(), QStringList{});
@@ -129,7 +129,7 @@ void tst_TasksPanelViewModel::theListFollowsTheStore()
     QCOMPARE(desk.panel->pendingCount(), 3);
 }
 
-void tst_TasksPanelViewModel::aTickedTaskStaysListedAndIsNotCounted()
+void TestTasksPanelViewModel::aTickedTaskStaysListedAndIsNotCounted()
 {
     PanelDesk desk;
     desk.add(u"Packing list"_s, {u"-socks"_s});
@@ -141,7 +141,7 @@ void tst_TasksPanelViewModel::aTickedTaskStaysListedAndIsNotCounted()
     QCOMPARE(counted.count(), 1);
 }
 
-void tst_TasksPanelViewModel::toggleWritesTheDocumentEachTime()
+void TestTasksPanelViewModel::toggleWritesTheDocumentEachTime()
 {
     PanelDesk desk;
     const PelkoDocument before = desk.add(u"Packing list"_s, {u"-socks"_s});
@@ -158,7 +158,7 @@ void tst_TasksPanelViewModel::toggleWritesTheDocumentEachTime()
     QCOMPARE(desk.appState.openDocument()->blocks, before.blocks);
 }
 
-void tst_TasksPanelViewModel::deleteOfTheLastTaskEmptiesTheListAndKeepsTheBlock()
+void TestTasksPanelViewModel::deleteOfTheLastTaskEmptiesTheListAndKeepsTheBlock()
 {
     PanelDesk desk;
     desk.add(u"Packing list"_s, {u"-socks"_s, u"-pens"_s});
@@ -171,7 +171,7 @@ void tst_TasksPanelViewModel::deleteOfTheLastTaskEmptiesTheListAndKeepsTheBlock(
     QCOMPARE(desk.appState.openDocument()->blocks.last().todos, QList<TodoItem>{});
 }
 
-void tst_TasksPanelViewModel::whatIsNotThereChangesNothing()
+void TestTasksPanelViewModel::unknownIdChangesNothing()
 {
     PanelDesk desk;
     const PelkoDocument document = desk.add(u"Packing list"_s, {u"-socks"_s});
@@ -190,7 +190,7 @@ void tst_TasksPanelViewModel::whatIsNotThereChangesNothing()
     QCOMPARE(desk.appState.documents(), QList<PelkoDocument>{document});
 }
 
-void tst_TasksPanelViewModel::aTaskOfAnotherPageIsTickedThere()
+void TestTasksPanelViewModel::aTaskOfAnotherPageIsTickedThere()
 {
     PanelDesk desk;
     desk.add(u"Packing list"_s, {u"-socks"_s});
@@ -201,7 +201,7 @@ void tst_TasksPanelViewModel::aTaskOfAnotherPageIsTickedThere()
     QCOMPARE(desk.appState.openDocument(), open);
 }
 
-void tst_TasksPanelViewModel::theKeyboardWalksOverHeadings()
+void TestTasksPanelViewModel::theKeyboardWalksOverHeadings()
 {
     PanelDesk desk;
     QCOMPARE(desk.panel->taskNear(0), -1);
@@ -219,7 +219,7 @@ void tst_TasksPanelViewModel::theKeyboardWalksOverHeadings()
     QCOMPARE(desk.panel->taskNear(3), 4);
 }
 
-void tst_TasksPanelViewModel::blanksAloneAreNoTask()
+void TestTasksPanelViewModel::blanksAloneAreNoTask()
 {
     PanelDesk desk;
     const PelkoDocument open = desk.add(u"Open"_s);
@@ -231,7 +231,7 @@ void tst_TasksPanelViewModel::blanksAloneAreNoTask()
     }
 }
 
-void tst_TasksPanelViewModel::aNewTaskKeepsItsBlanks()
+void TestTasksPanelViewModel::aNewTaskKeepsItsBlanks()
 {
     PanelDesk desk;
     desk.add(u"Open"_s, {u"-first"_s});
@@ -242,7 +242,7 @@ void tst_TasksPanelViewModel::aNewTaskKeepsItsBlanks()
     QCOMPARE(desk.panel->newTaskText(), QString());
 }
 
-void tst_TasksPanelViewModel::aNewTaskWithoutAnOpenDocumentIsDropped()
+void TestTasksPanelViewModel::aNewTaskWithoutAnOpenDocumentIsDropped()
 {
     PanelDesk desk;
     desk.add(u"Closed"_s);
@@ -255,7 +255,7 @@ void tst_TasksPanelViewModel::aNewTaskWithoutAnOpenDocumentIsDropped()
     QCOMPARE(desk.panel->newTaskText(), QString());
 }
 
-void tst_TasksPanelViewModel::newTasksGoIntoTheChecklistThatTheFirstOneMade()
+void TestTasksPanelViewModel::newTasksGoIntoTheChecklistThatTheFirstOneMade()
 {
     PanelDesk desk;
     desk.add(u"Open"_s);
@@ -268,7 +268,7 @@ void tst_TasksPanelViewModel::newTasksGoIntoTheChecklistThatTheFirstOneMade()
     QCOMPARE(desk.list(), QStringList({u"OPEN"_s, u"-one"_s, u"-two"_s}));
 }
 
-void tst_TasksPanelViewModel::thePillTellsWordsAndAgeOfTheOpenDocument()
+void TestTasksPanelViewModel::thePillTellsWordsAndAgeOfTheOpenDocument()
 {
     PanelDesk desk;
     desk.add(u"The first hour"_s);
@@ -279,7 +279,7 @@ void tst_TasksPanelViewModel::thePillTellsWordsAndAgeOfTheOpenDocument()
     QCOMPARE(desk.panel->openDocumentText(), u"3 words · Just now"_s);
 }
 
-void tst_TasksPanelViewModel::thePillIsThereWhileADocumentIsOpen()
+void TestTasksPanelViewModel::thePillIsThereWhileADocumentIsOpen()
 {
     PanelDesk desk;
     QVERIFY(!desk.panel->hasOpenDocument());
@@ -289,7 +289,7 @@ void tst_TasksPanelViewModel::thePillIsThereWhileADocumentIsOpen()
     QVERIFY(!desk.panel->hasOpenDocument());
 }
 
-void tst_TasksPanelViewModel::theAgeGrowsWithTheMinutes()
+void TestTasksPanelViewModel::theAgeGrowsWithTheMinutes()
 {
     PanelDesk desk;
     desk.add(u"Open"_s);
@@ -297,7 +297,7 @@ void tst_TasksPanelViewModel::theAgeGrowsWithTheMinutes()
     QCOMPARE(desk.panel->openDocumentText(), u"1 words · 5m ago"_s);
 }
 
-void tst_TasksPanelViewModel::wordsAreSummedOverTheLibrary()
+void TestTasksPanelViewModel::wordsAreSummedOverTheLibrary()
 {
     PanelDesk desk;
     QCOMPARE(desk.panel->wordTotal(), 0);
@@ -311,7 +311,7 @@ void tst_TasksPanelViewModel::wordsAreSummedOverTheLibrary()
     QCOMPARE(desk.panel->wordProgress(), 1.0);
 }
 
-void tst_TasksPanelViewModel::theStreakGoesOnAtMidnight()
+void TestTasksPanelViewModel::theStreakGoesOnAtMidnight()
 {
     PanelDesk desk;
     desk.clock.time = timestampOf(QDateTime(QDate(2026, 11, 20), QTime(23, 58, 30), QTimeZone::utc()));
@@ -327,7 +327,7 @@ void tst_TasksPanelViewModel::theStreakGoesOnAtMidnight()
     QCOMPARE(desk.panel->streakUnit(), u"days"_s);
 }
 
-void tst_TasksPanelViewModel::theStreakGoesOnWithTheFirstKeyOfADay()
+void TestTasksPanelViewModel::theStreakGoesOnWithTheFirstKeyOfADay()
 {
     PanelDesk desk;
     PelkoDocument open = desk.add(u"Open"_s);
@@ -338,7 +338,7 @@ void tst_TasksPanelViewModel::theStreakGoesOnWithTheFirstKeyOfADay()
     QCOMPARE(desk.panel->currentStreak(), 2);
 }
 
-void tst_TasksPanelViewModel::aClockSetBackBeginsTheStreakAnew()
+void TestTasksPanelViewModel::aClockSetBackBeginsTheStreakAnew()
 {
     PanelDesk desk;
     desk.clock.time += 86400;
@@ -349,7 +349,7 @@ void tst_TasksPanelViewModel::aClockSetBackBeginsTheStreakAnew()
     QCOMPARE(desk.panel->currentStreak(), 1);
 }
 
-void tst_TasksPanelViewModel::anotherZoneIsAnotherTimeAndDay()
+void TestTasksPanelViewModel::anotherZoneIsAnotherTimeAndDay()
 {
     PanelDesk desk;
     desk.clock.time = timestampOf(QDateTime(QDate(2026, 11, 20), QTime(22, 0), QTimeZone::utc()));
@@ -365,7 +365,7 @@ void tst_TasksPanelViewModel::anotherZoneIsAnotherTimeAndDay()
     QCOMPARE(desk.panel->currentStreak(), 2);
 }
 
-void tst_TasksPanelViewModel::aPanelOpenedAgainHasNothingInItsField()
+void TestTasksPanelViewModel::aPanelOpenedAgainHasNothingInItsField()
 {
     PanelDesk desk;
     desk.panel->typed(u"half a thou"_s);
@@ -373,7 +373,7 @@ void tst_TasksPanelViewModel::aPanelOpenedAgainHasNothingInItsField()
     QCOMPARE(desk.panel->newTaskText(), QString());
 }
 
-void tst_TasksPanelViewModel::aPanelThatIsGoneNoLongerTicks()
+void TestTasksPanelViewModel::aPanelThatIsGoneNoLongerTicks()
 {
     PanelDesk desk;
     desk.panel.reset();
@@ -383,7 +383,7 @@ void tst_TasksPanelViewModel::aPanelThatIsGoneNoLongerTicks()
     QCOMPARE(desk.preferences.writes, 0);
 }
 
-void tst_TasksPanelViewModel::thePanelWaitsWhileItIsOutOfSight()
+void TestTasksPanelViewModel::thePanelWaitsWhileItIsOutOfSight()
 {
     PanelDesk desk;
     PelkoDocument open = desk.add(u"Open"_s);
@@ -401,7 +401,7 @@ void tst_TasksPanelViewModel::thePanelWaitsWhileItIsOutOfSight()
     QCOMPARE(told.count(), 1);
 }
 
-void tst_TasksPanelViewModel::theEventsAreFetchedWhenThePanelComesIntoSight()
+void TestTasksPanelViewModel::theEventsAreFetchedWhenThePanelComesIntoSight()
 {
     PanelDesk desk;
     desk.panel->setSeen(true);
@@ -413,5 +413,5 @@ void tst_TasksPanelViewModel::theEventsAreFetchedWhenThePanelComesIntoSight()
     QCOMPARE(desk.calendars.windows.last().from, desk.clock.time);
 }
 
-PELKO_TEST(tst_TasksPanelViewModel)
+PELKO_TEST(TestTasksPanelViewModel)
 #include "tst_TasksPanelViewModel.moc"

@@ -27,7 +27,7 @@ struct Window {
 };
 } // namespace
 
-class tst_TasksViewModel : public QObject
+class TestTasksViewModel : public QObject
 {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ private Q_SLOTS:
     void eachOpeningAsksForTheEventsAnew();
 };
 
-void tst_TasksViewModel::theToggleFollowsTheStore()
+void TestTasksViewModel::theToggleFollowsTheStore()
 {
     Window window;
     const QSignalSpy changed(&window.tasks, &TasksViewModel::isShownChanged);
@@ -53,7 +53,7 @@ void tst_TasksViewModel::theToggleFollowsTheStore()
     QCOMPARE(changed.count(), 2);
 }
 
-void tst_TasksViewModel::thePanelIsOpenInTheWorkSpaceOnly()
+void TestTasksViewModel::thePanelIsOpenInTheWorkSpaceOnly()
 {
     Window window;
     window.tasks.toggle();
@@ -70,7 +70,7 @@ void tst_TasksViewModel::thePanelIsOpenInTheWorkSpaceOnly()
     QVERIFY(window.tasks.isOpen());
 }
 
-void tst_TasksViewModel::eachOpeningMakesANewPanel()
+void TestTasksViewModel::eachOpeningMakesANewPanel()
 {
     Window window;
     QVERIFY(!window.tasks.panel());
@@ -85,7 +85,7 @@ void tst_TasksViewModel::eachOpeningMakesANewPanel()
     QVERIFY(!first);
 }
 
-void tst_TasksViewModel::aClosedPanelStaysUntilItHasLeft()
+void TestTasksViewModel::aClosedPanelStaysUntilItHasLeft()
 {
     Window window;
     window.tasks.toggle();
@@ -99,7 +99,7 @@ void tst_TasksViewModel::aClosedPanelStaysUntilItHasLeft()
     QVERIFY(!panel);
 }
 
-void tst_TasksViewModel::aPanelThatIsOpenedAgainIsNotTakenAway()
+void TestTasksViewModel::aPanelThatIsOpenedAgainIsNotTakenAway()
 {
     Window window;
     window.tasks.toggle();
@@ -107,7 +107,7 @@ void tst_TasksViewModel::aPanelThatIsOpenedAgainIsNotTakenAway()
     QVERIFY(window.tasks.panel());
 }
 
-void tst_TasksViewModel::thePanelShowsTheTimeOfItsOpeningAndTicksEachMinute()
+void TestTasksViewModel::thePanelShowsTheTimeOfItsOpeningAndTicksEachMinute()
 {
     Window window;
     const QDateTime opening(QDate(2025, 10, 16), QTime(7, 41, 59), QTimeZone::utc());
@@ -127,7 +127,7 @@ void tst_TasksViewModel::thePanelShowsTheTimeOfItsOpeningAndTicksEachMinute()
     QCOMPARE(changed.count(), 1);
 }
 
-void tst_TasksViewModel::eachOpeningAsksForTheEventsAnew()
+void TestTasksViewModel::eachOpeningAsksForTheEventsAnew()
 {
     Window window;
     QCOMPARE(window.calendars.windows.size(), 0);
@@ -144,5 +144,5 @@ void tst_TasksViewModel::eachOpeningAsksForTheEventsAnew()
     QCOMPARE(window.tasks.panel()->upcomingEvents()->total(), 0);
 }
 
-PELKO_TEST(tst_TasksViewModel)
+PELKO_TEST(TestTasksViewModel)
 #include "tst_TasksViewModel.moc"

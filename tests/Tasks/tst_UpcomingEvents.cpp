@@ -105,7 +105,7 @@ private Q_SLOTS:
         QCOMPARE(desk.events.total(), 0);
     }
 
-    void whatIsInProgressComesFirstWithItsPastStart()
+    void runningEventComesFirstWithItsPastStart()
     {
         EventsDesk desk;
         desk.fetch(QList{desk.event(u"Next"_s, 60), desk.event(u"Now"_s, -60)});
@@ -128,7 +128,7 @@ private Q_SLOTS:
         QCOMPARE(order, expected);
     }
 
-    void whatHasNoTitleIsUntitled()
+    void pageWithoutTitleIsUntitled()
     {
         EventsDesk desk;
         desk.fetch(QList{CalendarEvent{.start = desk.clock.time}});

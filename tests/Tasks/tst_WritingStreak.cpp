@@ -37,7 +37,7 @@ struct User {
 };
 } // namespace
 
-class tst_WritingStreak : public QObject
+class TestWritingStreak : public QObject
 {
     Q_OBJECT
 
@@ -53,9 +53,9 @@ private Q_SLOTS:
     void theDaysOfATimeChangeAreDays();
     void aDayWithoutMidnightBeginsWhereItBegins();
     void travelIsReadByTheNewZone();
-    void whatIsNoDateCountsAsNone_data();
-    void whatIsNoDateCountsAsNone();
-    void whatIsNoNumberCountsAsZero();
+    void valueThatIsNoDateCountsAsAbsent_data();
+    void valueThatIsNoDateCountsAsAbsent();
+    void valueThatIsNoNumberCountsAsZero();
     void aStoredZeroOfTodayStaysZero();
     void aDateBeyondAnyCalendarBeginsAnew();
     void aZoneThatIsNoneLeavesTheCountAlone();
@@ -63,7 +63,7 @@ private Q_SLOTS:
     void theGoalIsReachedAtFiveHundredAndStaysReached();
 };
 
-void tst_WritingStreak::theFirstUseIsDayOne()
+void TestWritingStreak::theFirstUseIsDayOne()
 {
     User user;
     QCOMPARE(user.uses(u"2026-11-21T16:40:12"_s), 1);
@@ -72,7 +72,7 @@ void tst_WritingStreak::theFirstUseIsDayOne()
     QCOMPARE(user.preferences.date(lastWriteDate), timeIn(u"2026-11-21T00:00:00"_s));
 }
 
-void tst_WritingStreak::threeDaysInARowAreThree()
+void TestWritingStreak::threeDaysInARowAreThree()
 {
     User user;
     QCOMPARE(user.uses(u"2026-02-27T23:00:00"_s), 1);
@@ -82,7 +82,7 @@ void tst_WritingStreak::threeDaysInARowAreThree()
     QCOMPARE(user.preferences.date(lastWriteDate), timeIn(u"2026-03-01T00:00:00"_s));
 }
 
-void tst_WritingStreak::aDayLeftOutBeginsAnew()
+void TestWritingStreak::aDayLeftOutBeginsAnew()
 {
     User user;
     user.uses(u"2026-11-19T12:00:00"_s);
@@ -91,7 +91,7 @@ void tst_WritingStreak::aDayLeftOutBeginsAnew()
     QCOMPARE(user.preferences.date(lastWriteDate), timeIn(u"2026-11-22T00:00:00"_s));
 }
 
-void tst_WritingStreak::aDayCountsOnce()
+void TestWritingStreak::aDayCountsOnce()
 {
     User user;
     user.uses(u"2026-11-19T12:00:00"_s);
@@ -102,21 +102,21 @@ void tst_WritingStreak::aDayCountsOnce()
     QCOMPARE(user.preferences.writes, 0);
 }
 
-void tst_WritingStreak::midnightMakesADay()
+void TestWritingStreak::midnightMakesADay()
 {
     User user;
     QCOMPARE(user.uses(u"2026-11-20T23:59:59"_s), 1);
     QCOMPARE(user.uses(u"2026-11-21T00:00:00"_s), 2);
 }
 
-void tst_WritingStreak::aYearEndsLikeAnyDay()
+void TestWritingStreak::aYearEndsLikeAnyDay()
 {
     User user;
     QCOMPARE(user.uses(u"2026-12-31T23:00:00"_s), 1);
     QCOMPARE(user.uses(u"2027-01-01T00:30:00"_s), 2);
 }
 
-void tst_WritingStreak::aClockSetBackBeginsAnew()
+void TestWritingStreak::aClockSetBackBeginsAnew()
 {
     User user;
     user.uses(u"2026-11-20T12:00:00"_s);
@@ -125,7 +125,7 @@ void tst_WritingStreak::aClockSetBackBeginsAnew()
     QCOMPARE(user.preferences.date(lastWriteDate), timeIn(u"2026-11-20T00:00:00"_s));
 }
 
-void tst_WritingStreak::theDaysOfATimeChangeAreDays_data()
+void TestWritingStreak::theDaysOfATimeChangeAreDays_data()
 {
     QTest::addColumn<QStringList>("uses");
 
@@ -136,7 +136,7 @@ void tst_WritingStreak::theDaysOfATimeChangeAreDays_data()
                                                    u"2026-10-26T00:10:00"_s, u"2026-10-27T12:00:00"_s};
 }
 
-void tst_WritingStreak::theDaysOfATimeChangeAreDays()
+void TestWritingStreak::theDaysOfATimeChangeAreDays()
 {
     QFETCH(const QStringList, uses);
 
@@ -146,7 +146,7 @@ void tst_WritingStreak::theDaysOfATimeChangeAreDays()
         QCOMPARE(user.uses(time), ++day);
 }
 
-void tst_WritingStreak::aDayWithoutMidnightBeginsWhereItBegins()
+void TestWritingStreak::aDayWithoutMidnightBeginsWhereItBegins()
 {
     User user;
     user.zone = QTimeZone("America/Sao_Paulo"); // on 2018-11-04 the clocks went from midnight to one
@@ -156,7 +156,7 @@ void tst_WritingStreak::aDayWithoutMidnightBeginsWhereItBegins()
     QCOMPARE(user.uses(u"2018-11-05T12:00:00"_s), 3);
 }
 
-void tst_WritingStreak::travelIsReadByTheNewZone()
+void TestWritingStreak::travelIsReadByTheNewZone()
 {
     User user;
     user.uses(u"2026-11-20T10:00:00"_s);
@@ -171,7 +171,7 @@ void tst_WritingStreak::travelIsReadByTheNewZone()
     QCOMPARE(user.uses(u"2026-11-22T12:00:00"_s), 4);
 }
 
-void tst_WritingStreak::whatIsNoDateCountsAsNone_data()
+void TestWritingStreak::valueThatIsNoDateCountsAsAbsent_data()
 {
     QTest::addColumn<ManualPreferences::Value>("value");
 
@@ -179,7 +179,7 @@ void tst_WritingStreak::whatIsNoDateCountsAsNone_data()
     QTest::newRow("number") << ManualPreferences::Value(qint64(3));
 }
 
-void tst_WritingStreak::whatIsNoDateCountsAsNone()
+void TestWritingStreak::valueThatIsNoDateCountsAsAbsent()
 {
     QFETCH(const ManualPreferences::Value, value);
 
@@ -189,7 +189,7 @@ void tst_WritingStreak::whatIsNoDateCountsAsNone()
     QCOMPARE(user.preferences.date(lastWriteDate), timeIn(u"2026-11-21T00:00:00"_s));
 }
 
-void tst_WritingStreak::whatIsNoNumberCountsAsZero()
+void TestWritingStreak::valueThatIsNoNumberCountsAsZero()
 {
     User user;
     user.preferences.values = {{currentStreak, u"twelve"_s},
@@ -198,7 +198,7 @@ void tst_WritingStreak::whatIsNoNumberCountsAsZero()
     QCOMPARE(user.preferences.integer(currentStreak), 1);
 }
 
-void tst_WritingStreak::aStoredZeroOfTodayStaysZero()
+void TestWritingStreak::aStoredZeroOfTodayStaysZero()
 {
     User user;
     user.preferences.values = {{currentStreak, qint64(0)}, {lastWriteDate, timeIn(u"2026-11-21T00:00:00"_s)}};
@@ -206,7 +206,7 @@ void tst_WritingStreak::aStoredZeroOfTodayStaysZero()
     QCOMPARE(user.preferences.writes, 0);
 }
 
-void tst_WritingStreak::aDateBeyondAnyCalendarBeginsAnew()
+void TestWritingStreak::aDateBeyondAnyCalendarBeginsAnew()
 {
     for (const double date : {1e300, -1e300, std::numeric_limits<double>::infinity()}) {
         User user;
@@ -215,7 +215,7 @@ void tst_WritingStreak::aDateBeyondAnyCalendarBeginsAnew()
     }
 }
 
-void tst_WritingStreak::aZoneThatIsNoneLeavesTheCountAlone()
+void TestWritingStreak::aZoneThatIsNoneLeavesTheCountAlone()
 {
     User user;
     user.preferences.values = {{currentStreak, qint64(5)}, {lastWriteDate, timeIn(u"2026-11-20T00:00:00"_s)}};
@@ -225,7 +225,7 @@ void tst_WritingStreak::aZoneThatIsNoneLeavesTheCountAlone()
     QCOMPARE(user.preferences.writes, 0);
 }
 
-void tst_WritingStreak::anOverflowEndsTheProgram()
+void TestWritingStreak::anOverflowEndsTheProgram()
 {
     const pid_t child = fork();
     if (child == 0) {
@@ -243,7 +243,7 @@ void tst_WritingStreak::anOverflowEndsTheProgram()
     QCOMPARE(WTERMSIG(status), SIGABRT);
 }
 
-void tst_WritingStreak::theGoalIsReachedAtFiveHundredAndStaysReached()
+void TestWritingStreak::theGoalIsReachedAtFiveHundredAndStaysReached()
 {
     QCOMPARE(WordGoal::words, 500);
     QCOMPARE(WordGoal::progress(0), 0.0);
@@ -253,5 +253,5 @@ void tst_WritingStreak::theGoalIsReachedAtFiveHundredAndStaysReached()
     QCOMPARE(WordGoal::progress(1000), 1.0);
 }
 
-PELKO_TEST(tst_WritingStreak)
+PELKO_TEST(TestWritingStreak)
 #include "tst_WritingStreak.moc"

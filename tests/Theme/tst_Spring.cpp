@@ -31,7 +31,7 @@ qreal peakOf(const QEasingCurve &curve)
 
 } // namespace
 
-class tst_Spring : public QObject
+class TestSpring : public QObject
 {
     Q_OBJECT
 
@@ -58,7 +58,7 @@ private:
     static void springs();
 };
 
-void tst_Spring::springs()
+void TestSpring::springs()
 {
     QTest::addColumn<qreal>("response");
     QTest::addColumn<qreal>("dampingFraction");
@@ -73,7 +73,7 @@ void tst_Spring::springs()
     QTest::newRow("flow") << 0.4 << 0.75;
 }
 
-void tst_Spring::positionSolvesTheEquationOfADampedSpring()
+void TestSpring::positionSolvesTheEquationOfADampedSpring()
 {
     QFETCH(qreal, response);
     QFETCH(qreal, dampingFraction);
@@ -93,7 +93,7 @@ void tst_Spring::positionSolvesTheEquationOfADampedSpring()
     }
 }
 
-void tst_Spring::pullIsTheSameMotionSeenFromItsGoal()
+void TestSpring::pullIsTheSameMotionSeenFromItsGoal()
 {
     QFETCH(qreal, response);
     QFETCH(qreal, dampingFraction);
@@ -106,7 +106,7 @@ void tst_Spring::pullIsTheSameMotionSeenFromItsGoal()
     }
 }
 
-void tst_Spring::pullMayBeInterruptedAnywhere()
+void TestSpring::pullMayBeInterruptedAnywhere()
 {
     QFETCH(qreal, response);
     QFETCH(qreal, dampingFraction);
@@ -118,7 +118,7 @@ void tst_Spring::pullMayBeInterruptedAnywhere()
     QVERIFY(qAbs(inTwoSteps.velocity - inOneStep.velocity) < 1e-6);
 }
 
-void tst_Spring::settlesForGoodAfterItsDuration()
+void TestSpring::settlesForGoodAfterItsDuration()
 {
     QFETCH(qreal, response);
     QFETCH(qreal, dampingFraction);
@@ -130,7 +130,7 @@ void tst_Spring::settlesForGoodAfterItsDuration()
         QVERIFY(qAbs(1 - spring.position(settled + i * response / 500)) < Spring::settleThreshold);
 }
 
-void tst_Spring::curveFollowsTheSpring()
+void TestSpring::curveFollowsTheSpring()
 {
     QFETCH(qreal, response);
     QFETCH(qreal, dampingFraction);
@@ -140,7 +140,7 @@ void tst_Spring::curveFollowsTheSpring()
     QVERIFY2(error <= allowed, qPrintable(u"error %1"_s.arg(error)));
 }
 
-void tst_Spring::curveNeverHasMoreThanTenSegments()
+void TestSpring::curveNeverHasMoreThanTenSegments()
 {
     QFETCH(qreal, response);
     QFETCH(qreal, dampingFraction);
@@ -151,7 +151,7 @@ void tst_Spring::curveNeverHasMoreThanTenSegments()
     QCOMPARE(curve.valueForProgress(1), 1.0);
 }
 
-void tst_Spring::overshootsAsFarAsTheDampingSays_data()
+void TestSpring::overshootsAsFarAsTheDampingSays_data()
 {
     QTest::addColumn<Spring>("spring");
     QTest::addColumn<int>("thousandths");
@@ -160,7 +160,7 @@ void tst_Spring::overshootsAsFarAsTheDampingSays_data()
     QTest::newRow("delete press") << Spring{0.2, 0.5} << 1163;
 }
 
-void tst_Spring::overshootsAsFarAsTheDampingSays()
+void TestSpring::overshootsAsFarAsTheDampingSays()
 {
     QFETCH(Spring, spring);
     QFETCH(int, thousandths);
@@ -171,12 +171,12 @@ void tst_Spring::overshootsAsFarAsTheDampingSays()
     QVERIFY(qAbs(peakOf(spring.curve()) - peak) < 0.0005);
 }
 
-void tst_Spring::criticalSpringNeverOvershoots()
+void TestSpring::criticalSpringNeverOvershoots()
 {
     QVERIFY(peakOf(Spring{0.32, 1.0}.curve()) <= 1.0);
 }
 
-void tst_Spring::presetsHaveTheirFigures()
+void TestSpring::presetsHaveTheirFigures()
 {
     const PelkoAnimation animation;
     QCOMPARE(PelkoAnimation::microSpring, (Spring{0.15, 0.90}));
@@ -187,7 +187,7 @@ void tst_Spring::presetsHaveTheirFigures()
     QCOMPARE(animation.smooth().duration(), animation.spring(0.35, 0.82).duration());
 }
 
-void tst_Spring::presetsGrowSlowerFromMicroToSettle()
+void TestSpring::presetsGrowSlowerFromMicroToSettle()
 {
     const PelkoAnimation animation;
     QVERIFY(animation.micro().duration() < animation.smooth().duration());
@@ -195,5 +195,5 @@ void tst_Spring::presetsGrowSlowerFromMicroToSettle()
     QVERIFY(PelkoAnimation::bouncySpring.response < PelkoAnimation::settleSpring.response);
 }
 
-PELKO_TEST(tst_Spring)
+PELKO_TEST(TestSpring)
 #include "tst_Spring.moc"

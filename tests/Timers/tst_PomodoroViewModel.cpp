@@ -42,7 +42,7 @@ struct PomodoroProgram {
         panel.submitSpark();
     }
 
-    const QList<SparkCard> &cards() { return static_cast<SparkListModel *>(panel.sparks())->rows(); }
+    const QList<RecentSpark> &cards() { return static_cast<SparkListModel *>(panel.sparks())->rows(); }
 };
 } // namespace
 
@@ -187,7 +187,7 @@ private Q_SLOTS:
 
         QCOMPARE(m_program->panel.sparkCount(), 6);
         QStringList shown;
-        for (const SparkCard &card : m_program->cards())
+        for (const RecentSpark &card : m_program->cards())
             shown.append(card.text);
         QCOMPARE(shown, QStringList({u"6"_s, u"5"_s, u"4"_s, u"3"_s}));
     }
@@ -257,7 +257,7 @@ private Q_SLOTS:
         QVERIFY(!m_program->cards()[0].isNew);
     }
 
-    void whatFailsToBeSavedIsStillASpark()
+    void sparkStaysInTheStoreWhenItsSaveFails()
     {
         m_program->file.writeError = u"No space left on device"_s;
 
@@ -267,7 +267,7 @@ private Q_SLOTS:
         QVERIFY(m_program->appState.lastError());
     }
 
-    void whatFailsToBeSavedStaysInTheFieldWithTheReason()
+    void failedSparkStaysInTheFieldWithItsError()
     {
         m_program->file.writeError = u"No space left on device"_s;
         const QSignalSpy told(&m_program->panel, &PomodoroViewModel::captureErrorChanged);
@@ -277,7 +277,7 @@ private Q_SLOTS:
         QCOMPARE(told.count(), 1);
     }
 
-    void whatFailedToBeSavedIsSavedByTheNextReturnAndNotCapturedTwice()
+    void returnAfterAFailedSaveSavesTheSparkOnce()
     {
         m_program->file.writeError = u"No space left on device"_s;
         m_program->capture(u"kept"_s);

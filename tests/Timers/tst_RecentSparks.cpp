@@ -19,7 +19,7 @@ PelkoDocument spark(const QString &text, Timestamp createdAt, Space space = Spac
 QString texts(const RecentSparks &recent)
 {
     QStringList found;
-    for (const SparkCard &card : recent.cards)
+    for (const RecentSpark &card : recent.cards)
         found.append(card.text);
     return found.join(' '_L1);
 }
@@ -68,7 +68,7 @@ private Q_SLOTS:
         QVERIFY(!recent.cards[1].isNew);
     }
 
-    void aSparkWithoutBlocksSaysNothing()
+    void sparkWithoutBlocksHasNoText()
     {
         PelkoDocument bare(Space::ideas, 1);
         bare.blocks.clear();

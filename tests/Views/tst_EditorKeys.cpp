@@ -106,7 +106,7 @@ private Q_SLOTS:
         QVERIFY(selects.caret.extends);
     }
 
-    void whatIsTypedIsText()
+    void typedCharactersAreText()
     {
         QCOMPARE(pressed(Qt::Key_A, u"a"_s).text, u"a"_s);
         QCOMPARE(pressed(Qt::SHIFT | Qt::Key_A, u"A"_s).action, EditorAction::insertText);

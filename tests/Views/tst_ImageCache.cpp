@@ -100,7 +100,7 @@ private Q_SLOTS:
         QCOMPARE(cache.decodings(), 2);
     }
 
-    void whatCannotBeDecodedMakesNoEntryAndIsTriedAgain()
+    void failedDecodeIsNotCachedAndIsRetried()
     {
         ImageCache cache;
         QVERIFY(cache.cachedImage(block, "no picture", {400, 200}).isNull());

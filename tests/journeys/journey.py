@@ -115,7 +115,7 @@ class Pelko:
 
         until(is_still, "the window stands still", seconds)
 
-    # Hands
+    # UserInput
 
     def keys(self, *combinations):
         subprocess.run(["xdotool", "key", "--clearmodifiers", "--delay", "40", *combinations], check=True)

@@ -4,7 +4,7 @@
 #include "Views/SceneTeardown.h"
 #include "menubar/MenuOnBus.h"
 #include "menubar/PrivateDisplay.h"
-#include "qml/ExportBench.h"
+#include "qml/ExportFixture.h"
 #include "qml/ShellFixture.h"
 
 #include <QGuiApplication>
@@ -33,7 +33,7 @@ private:
     /// The window of a program, with its menu bar on the bus.
     struct Window {
         ShellWithMenuBar program;
-        ExportBench exports;
+        ExportFixture exports;
         QQmlApplicationEngine engine;
 
         Window()
@@ -101,7 +101,7 @@ private Q_SLOTS:
                                      u"Quit"_s}));
     }
 
-    void aChosenRowGivesItsCommand()
+    void chosenRowRunsItsCommand()
     {
         Window window;
         const MenuOnBus bar = menuBar();

@@ -19,7 +19,7 @@ class ShellFixture : public QObject
     Q_PROPERTY(LaunchSequence *launch READ launch CONSTANT)
 
 public:
-    explicit ShellFixture(MenuPlace menuPlace = MenuPlace::window) : m_menuPlace(menuPlace) {}
+    explicit ShellFixture(MenuLocation menuLocation = MenuLocation::window) : m_menuPlace(menuLocation) {}
 
     MainViewModel *mainViewModel() { return &m_main; }
     LaunchSequence *launch() { return &m_launch; }
@@ -92,7 +92,7 @@ public:
     Q_INVOKABLE void requestDelete() { m_main.requestDelete(m_main.openDocumentID()); }
 
 private:
-    MenuPlace m_menuPlace;
+    MenuLocation m_menuPlace;
     ManualScheduler m_scheduler;
     ManualClock m_clock;
     ManualDocumentFile m_file;
@@ -108,5 +108,5 @@ class ShellWithMenuBar : public ShellFixture
     Q_OBJECT
 
 public:
-    ShellWithMenuBar() : ShellFixture(MenuPlace::menuBar) {}
+    ShellWithMenuBar() : ShellFixture(MenuLocation::menuBar) {}
 };

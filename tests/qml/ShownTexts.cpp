@@ -1,6 +1,6 @@
 #include "ShownTexts.h"
 
-#include "Navigation/MarkedLine.h"
+#include "Navigation/HighlightedLine.h"
 #include "Theme/PelkoVoice.h"
 
 #include <QAccessible>
@@ -44,8 +44,8 @@ QString textOf(const QQuickItem &item)
 {
     if (item.inherits("QQuickText"))
         return item.property("text").toString();
-    if (is(item, "MarkedText"))
-        return item.property("line").value<MarkedLine>().text;
+    if (is(item, "HighlightedText"))
+        return item.property("line").value<HighlightedLine>().text;
     return {};
 }
 

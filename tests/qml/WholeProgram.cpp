@@ -130,12 +130,12 @@ void WholeProgram::enter(const QString &scene)
              m_desktop.fileChooser.answer(FileError(FileError::Problem::chooserEnded));
          }},
         {u"choose image"_s,
-         [this] { m_choosing = m_chooser.choose(FileChooser::Wanted::picture, [](const auto &) {}); }},
+         [this] { m_choosing = m_chooser.choose(FileChooser::Target::picture, [](const auto &) {}); }},
         {u"choose folder"_s,
-         [this] { m_choosing = m_chooser.choose(FileChooser::Wanted::folder, [](const auto &) {}); }},
+         [this] { m_choosing = m_chooser.choose(FileChooser::Target::folder, [](const auto &) {}); }},
         {u"choose in empty"_s,
          [this] {
-             m_choosing = m_chooser.choose(FileChooser::Wanted::picture, [](const auto &) {});
+             m_choosing = m_chooser.choose(FileChooser::Target::picture, [](const auto &) {});
              m_chooser.goTo(u"/Дом/Пусто"_s);
          }},
         {u"exporting"_s,
@@ -146,17 +146,17 @@ void WholeProgram::enter(const QString &scene)
         {u"replace one"_s,
          [this] {
              beginExport(false);
-             m_exportFolder.answer(ExportFolder::Taken{{u"Страница"_s}});
+             m_exportFolder.answer(ExportFolder::Conflicts{{u"Страница"_s}});
          }},
         {u"replace several"_s,
          [this] {
              beginExport(true);
-             m_exportFolder.answer(ExportFolder::Taken{{u"Страница"_s, u"Другая"_s}});
+             m_exportFolder.answer(ExportFolder::Conflicts{{u"Страница"_s, u"Другая"_s}});
          }},
         {u"exported"_s,
          [this] {
              beginExport(true);
-             m_exportFolder.answer(ExportFolder::Written{});
+             m_exportFolder.answer(ExportFolder::Success{});
          }},
         {u"export failed"_s,
          [this] {

@@ -1,12 +1,12 @@
-#include "ChooserBench.h"
-#include "EditorBench.h"
-#include "ExportBench.h"
-#include "InputMethodBench.h"
+#include "ChooserFixture.h"
+#include "EditorFixture.h"
+#include "ExportFixture.h"
+#include "InputMethodFixture.h"
 #include "PseudoLocale.h"
 #include "ShellFixture.h"
 #include "ShownTexts.h"
-#include "TasksBench.h"
-#include "TimersBench.h"
+#include "TasksFixture.h"
+#include "TimersFixture.h"
 #include "WholeProgram.h"
 #include "support/EnglishCatalogue.h"
 
@@ -84,16 +84,16 @@ public Q_SLOTS:
     void qmlEngineAvailable(QQmlEngine *engine)
     {
         engine->addImportPath(u"qrc:/qt/qml"_s);
-        qmlRegisterType<ChooserBench>("PelkoTest", 1, 0, "ChooserBench");
-        qmlRegisterType<EditorBench>("PelkoTest", 1, 0, "EditorBench");
-        qmlRegisterType<ExportBench>("PelkoTest", 1, 0, "ExportBench");
-        qmlRegisterType<InputMethodBench>("PelkoTest", 1, 0, "InputMethodBench");
+        qmlRegisterType<ChooserFixture>("PelkoTest", 1, 0, "ChooserFixture");
+        qmlRegisterType<EditorFixture>("PelkoTest", 1, 0, "EditorFixture");
+        qmlRegisterType<ExportFixture>("PelkoTest", 1, 0, "ExportFixture");
+        qmlRegisterType<InputMethodFixture>("PelkoTest", 1, 0, "InputMethodFixture");
         qmlRegisterType<PseudoLocale>("PelkoTest", 1, 0, "PseudoLocale");
         qmlRegisterType<ShellFixture>("PelkoTest", 1, 0, "ShellFixture");
         qmlRegisterType<ShellWithMenuBar>("PelkoTest", 1, 0, "ShellWithMenuBar");
         qmlRegisterType<ShownTexts>("PelkoTest", 1, 0, "ShownTexts");
-        qmlRegisterType<TasksBench>("PelkoTest", 1, 0, "TasksBench");
-        qmlRegisterType<TimersBench>("PelkoTest", 1, 0, "TimersBench");
+        qmlRegisterType<TasksFixture>("PelkoTest", 1, 0, "TasksFixture");
+        qmlRegisterType<TimersFixture>("PelkoTest", 1, 0, "TimersFixture");
         qmlRegisterType<WholeProgram>("PelkoTest", 1, 0, "WholeProgram");
     }
 

@@ -9,7 +9,7 @@ Item {
     width: 900
     height: 640
 
-    EditorBench { id: bench }
+    EditorFixture { id: bench }
 
     Component {
         id: view
@@ -100,7 +100,7 @@ Item {
             mouseRelease(page, margin, 300)
         }
 
-        function test_a_block_is_carried_over_others_and_only_the_drop_saves() {
+        function test_aBlockIsCarriedOverOthersAndOnlyTheDropSaves() {
             open(bodies(["A", "B", "C", "D"]))
             const saves = bench.saves()
             lift(row(0))
@@ -117,7 +117,7 @@ Item {
             compare(bench.editor.drag.draggingBlockID, "")
         }
 
-        function test_a_block_is_carried_up() {
+        function test_aBlockIsCarriedUp() {
             open(bodies(["A", "B", "C", "D"]))
             lift(row(3))
             carryTo(middleOf(row(1)))
@@ -131,7 +131,7 @@ Item {
                 .map(row => row.content).join(" ")
         }
 
-        function test_what_is_read_aloud_follows_the_order_of_the_page() {
+        function test_whatIsReadAloudFollowsTheOrderOfThePage() {
             open(bodies(["A", "B", "C", "D"]))
             lift(row(0))
             carryTo(middleOf(row(2)))
@@ -141,7 +141,7 @@ Item {
             tryVerify(() => readingOrder() === "B C E A D")
         }
 
-        function test_a_press_in_the_margin_alone_changes_nothing() {
+        function test_aPressInTheMarginAloneChangesNothing() {
             open(bodies(["A", "B"]))
             const saves = bench.saves()
             mouseClick(page, margin, middleOf(row(0)))
@@ -150,7 +150,7 @@ Item {
             compare(bench.saves(), saves)
         }
 
-        function test_the_mouse_still_selects_text() {
+        function test_theMouseStillSelectsText() {
             open(bodies(["some words to select", "B", "C"]))
             const x = row(0).block.mapToItem(page, 0, 0).x
             mousePress(page, x + 5, middleOf(row(0)))
@@ -162,11 +162,11 @@ Item {
             compare(order(), "some words to select B C")
         }
 
-        function test_a_block_without_text_is_taken_anywhere_data() {
+        function test_aBlockWithoutTextIsTakenAnywhere_data() {
             return [{ tag: "divider" }, { tag: "sticky" }]
         }
 
-        function test_a_block_without_text_is_taken_anywhere(data) {
+        function test_aBlockWithoutTextIsTakenAnywhere(data) {
             open([{ type: data.tag, todos: [] }].concat(bodies(["A", "B"])))
             const x = page.width / 2
             const below = middleOf(row(1))
@@ -177,7 +177,7 @@ Item {
             compare(bench.blocks().map(block => block.type), ["textSmall", data.tag, "textSmall"])
         }
 
-        function test_escape_puts_the_block_back() {
+        function test_escapePutsTheBlockBack() {
             open(bodies(["A", "B", "C", "D"]))
             const saves = bench.saves()
             lift(row(0))
@@ -191,13 +191,13 @@ Item {
             compare(bench.saves(), saves)
         }
 
-        function test_one_block_alone_stays_where_it_is() {
+        function test_oneBlockAloneStaysWhereItIs() {
             open(bodies(["A"]))
             lift(row(0))
             compare(bench.editor.drag.draggingBlockID, "")
         }
 
-        function test_the_dragged_block_is_dimmed_and_carried_in_full() {
+        function test_theDraggedBlockIsDimmedAndCarriedInFull() {
             Motion.reduced = false
             open(bodies(["A", "B", "C"]))
             const dragged = row(0)
@@ -216,7 +216,7 @@ Item {
             tryCompare(card, "visible", false)
         }
 
-        function test_the_pointer_shows_a_move_for_as_long_as_the_drag_lasts() {
+        function test_thePointerShowsAMoveForAsLongAsTheDragLasts() {
             open(bodies(["A", "B", "C"]))
             mouseMove(page, margin, middleOf(row(2)))
             verify(bench.cursorOf(page) !== Qt.DragMoveCursor)
@@ -227,7 +227,7 @@ Item {
             tryVerify(() => bench.cursorOf(page) !== Qt.DragMoveCursor)
         }
 
-        function test_rows_glide_to_their_new_places_and_do_not_jump() {
+        function test_rowsGlideToTheirNewPlacesAndDoNotJump() {
             Motion.reduced = false
             open([{ type: "code", content: "1\n2\n3\n4" }].concat(bodies(["B", "C", "D"])))
             const before = [0, 1, 2, 3].map(index => topOf(row(index)))
@@ -243,7 +243,7 @@ Item {
             verify(topOf(rows[0]) > topOf(rows[2]))
         }
 
-        function test_text_that_grows_moves_what_is_below_at_once() {
+        function test_textThatGrowsMovesWhatIsBelowAtOnce() {
             Motion.reduced = false
             open(bodies(["A", "B"]))
             const below = topOf(row(1))
@@ -254,7 +254,7 @@ Item {
             verify(topOf(row(1)) > below + 20)
         }
 
-        function test_at_the_edge_the_page_scrolls_under_the_drag() {
+        function test_atTheEdgeThePageScrollsUnderTheDrag() {
             open(lines(80))
             lift(row(0))
             carryTo(page.height - Metrics.barHeight - 4)
@@ -265,7 +265,7 @@ Item {
             verify(rowWith("line 0"))
         }
 
-        function test_and_back_up_to_the_beginning() {
+        function test_andBackUpToTheBeginning() {
             open(lines(80))
             list.positionViewAtEnd()
             lift(row(79))
@@ -276,7 +276,7 @@ Item {
             compare(bench.blocks()[0].content, "line 79")
         }
 
-        function test_a_drag_outlives_its_row() {
+        function test_aDragOutlivesItsRow() {
             open(lines(80))
             lift(row(0))
             list.positionViewAtIndex(60, ListView.Beginning)
@@ -286,7 +286,7 @@ Item {
             compare(bench.blocks()[65].content, "line 0")
         }
 
-        function test_a_drag_outlives_its_block() {
+        function test_aDragOutlivesItsBlock() {
             open(bodies(["A", "B", "C"]))
             lift(row(0))
             bench.replace(bodies(["X", "Y"]))
@@ -296,7 +296,7 @@ Item {
             compare(order(), "X Y")
         }
 
-        function test_a_block_taller_than_the_view_is_carried_data() {
+        function test_aBlockTallerThanTheViewIsCarried_data() {
             const items = Array.from({ length: 60 }, (_, i) => ({ text: "item " + i, done: false }))
             return [
                 { tag: "checklist", block: { type: "sticky", todos: items } },
@@ -304,7 +304,7 @@ Item {
             ]
         }
 
-        function test_a_block_taller_than_the_view_is_carried(data) {
+        function test_aBlockTallerThanTheViewIsCarried(data) {
             open(bodies(["A", "B"]).concat([data.block]))
             verify(row(2).height > page.height)
             lift(row(2))
@@ -313,7 +313,7 @@ Item {
             compare(bench.blocks().map(block => block.type), [data.block.type, "textSmall", "textSmall"])
         }
 
-        function test_and_down_past_what_follows() {
+        function test_andDownPastWhatFollows() {
             open([{ type: "code", content: "line\n".repeat(90) }].concat(lines(40)))
             list.positionViewAtBeginning()
             lift(row(0))
@@ -322,7 +322,7 @@ Item {
             letGo()
         }
 
-        function test_alt_and_an_arrow_move_the_block_with_its_caret() {
+        function test_altAndAnArrowMoveTheBlockWithItsCaret() {
             open(bodies(["A", "BB", "C"]))
             mouseClick(row(1).block, 2, 10)
             keyClick(Qt.Key_Right)
@@ -340,7 +340,7 @@ Item {
             compare(bench.saves(), saves + 1)
         }
 
-        function test_alt_and_an_arrow_in_a_checklist_move_the_whole_of_it() {
+        function test_altAndAnArrowInAChecklistMoveTheWholeOfIt() {
             open(bodies(["A"]).concat([{ type: "sticky", todos: [{ text: "milk", done: false }] }]))
             const field = everything(page).find(item => item.Accessible.name === "milk" && item.selectedText === "")
             field.forceActiveFocus()
@@ -349,7 +349,7 @@ Item {
             verify(field.activeFocus)
         }
 
-        function test_a_block_moved_by_keys_stays_in_sight() {
+        function test_aBlockMovedByKeysStaysInSight() {
             open(lines(40))
             mouseClick(row(0).block, 2, 10)
             for (let step = 0; step < 30; ++step)
@@ -364,7 +364,7 @@ Item {
             return everything(page).filter(item => item instanceof BlockGrip && item.visible)
         }
 
-        function test_the_grip_shows_under_the_pointer_and_opens_the_menu() {
+        function test_theGripShowsUnderThePointerAndOpensTheMenu() {
             open(bodies(["A", "B"]))
             compare(grips().length, 0)
             mouseMove(page, 5, middleOf(row(0)))
@@ -377,7 +377,7 @@ Item {
             keyClick(Qt.Key_Escape)
         }
 
-        function test_the_only_block_has_no_grip() {
+        function test_theOnlyBlockHasNoGrip() {
             open(bodies(["A"]))
             mouseMove(page, 5, middleOf(row(0)))
             mouseMove(page, margin, middleOf(row(0)))
@@ -385,7 +385,7 @@ Item {
             compare(grips().length, 0)
         }
 
-        function test_the_grip_takes_its_block_when_it_is_pulled() {
+        function test_theGripTakesItsBlockWhenItIsPulled() {
             open(bodies(["A", "B"]))
             mouseMove(page, 5, middleOf(row(0)))
             mouseMove(page, margin, middleOf(row(0)))
@@ -400,14 +400,14 @@ Item {
             verify(!everything(page).some(item => item.Accessible.name === "Delete Block" && item.visible))
         }
 
-        function test_what_is_dropped_from_elsewhere_changes_nothing_data() {
+        function test_whatIsDroppedFromElsewhereChangesNothing_data() {
             return [
                 { tag: "text", format: "text/plain" },
                 { tag: "files", format: "text/uri-list" },
             ]
         }
 
-        function test_what_is_dropped_from_elsewhere_changes_nothing(data) {
+        function test_whatIsDroppedFromElsewhereChangesNothing(data) {
             open(bodies(["A", "B"]))
             const place = row(1).block.mapToItem(null, 10, 10)
             compare(bench.dropFromElsewhere(page, place, data.format, "file:///tmp/words.txt"), false)

@@ -10,7 +10,7 @@ Item {
     width: 900
     height: 640
 
-    EditorBench { id: bench }
+    EditorFixture { id: bench }
 
     Component {
         id: view
@@ -87,7 +87,7 @@ Item {
             return Math.abs(list.contentY - before)
         }
 
-        function test_down_and_up_through_a_tall_checklist() {
+        function test_downAndUpThroughATallChecklist() {
             open([{ type: "textLarge", content: "Head" }, { type: "sticky", todos: entries(40) }])
             go(fields()[1], 0)
             for (let step = 0; step < 39; ++step)
@@ -98,12 +98,12 @@ Item {
             compare(focused().text, "entry 0")
         }
 
-        function test_up_from_below_a_tall_checklist_data() {
+        function test_upFromBelowATallChecklist_data() {
             return [{ tag: "Up", text: "entry 39" }, { tag: "Left", text: "entry 39" }, { tag: "Shift+Up", text: "entry 39" },
                 { tag: "Backspace", text: "entry 39below" }]
         }
 
-        function test_up_from_below_a_tall_checklist(row) {
+        function test_upFromBelowATallChecklist(row) {
             open([{ type: "sticky", todos: entries(40) }, { type: "textSmall", content: "below" }])
             go(fields()[0], 0)
             moves("Ctrl+End")
@@ -112,7 +112,7 @@ Item {
             compare(focused().text, row.text)
         }
 
-        function test_return_in_a_tall_checklist() {
+        function test_returnInATallChecklist() {
             open([{ type: "sticky", todos: entries(40) }, { type: "textSmall", content: "below" }])
             go(fields()[30], -1)
             verify(moves("Return") < 2 * Typography.checklistRow)
@@ -122,11 +122,11 @@ Item {
             verify(moves("Backspace") === 0)
         }
 
-        function test_a_long_text_is_put_in_data() {
+        function test_aLongTextIsPutIn_data() {
             return [{ tag: "code" }, { tag: "quote" }]
         }
 
-        function test_a_long_text_is_put_in(row) {
+        function test_aLongTextIsPutIn(row) {
             open([{ type: "textLarge", content: "Head" }, { type: row.tag, content: "first\nlast" }])
             go(fields()[1], 6)
             focused().insert(6, lines(80) + "\n")
@@ -135,13 +135,13 @@ Item {
             verify(moves("Left") < 60)
         }
 
-        function test_keys_in_a_block_taller_than_the_window_data() {
+        function test_keysInABlockTallerThanTheWindow_data() {
             const types = ["textSmall", "quote", "code"]
             const keys = ["Return", "Shift+Return", "Left", "Down", "Up", "Backspace", "Delete"]
             return [].concat(...types.map(type => keys.map(key => ({ tag: type + " " + key, type, key }))))
         }
 
-        function test_keys_in_a_block_taller_than_the_window(row) {
+        function test_keysInABlockTallerThanTheWindow(row) {
             open([{ type: "textLarge", content: "Head" }, { type: row.type, content: lines(80) }])
             go(fields()[1], lines(40).length)
             verifyInSight("at first")
@@ -150,7 +150,7 @@ Item {
             verify(moves("Ctrl+Y") < 60)
         }
 
-        function test_undo_brings_the_place_back() {
+        function test_undoBringsThePlaceBack() {
             open([{ type: "textLarge", content: "Head" }, { type: "code", content: lines(80) }])
             go(fields()[1], lines(40).length)
             const place = list.contentY
@@ -171,11 +171,11 @@ Item {
             })
         }
 
-        function test_any_key_brings_the_caret_back_data() {
+        function test_anyKeyBringsTheCaretBack_data() {
             return ["X", "Left", "Home", "Ctrl+C", "Ctrl+End", "Shift+Right"].map(key => ({ tag: key }))
         }
 
-        function test_any_key_brings_the_caret_back(row) {
+        function test_anyKeyBringsTheCaretBack(row) {
             const paragraphs = Array.from({ length: 60 }, (_, i) => ({ type: "textSmall", content: "paragraph " + i }))
             open([{ type: "textLarge", content: "Head" }, ...paragraphs])
             keySequence("Ctrl+End")
@@ -186,7 +186,7 @@ Item {
             moves(row.tag)
         }
 
-        function test_a_block_that_is_moved_past_a_tall_one() {
+        function test_aBlockThatIsMovedPastATallOne() {
             open([{ type: "textLarge", content: "Head" }, { type: "textSmall", content: lines(80) },
                 { type: "textSmall", content: "below" }])
             go(fields()[0], 2)
@@ -198,7 +198,7 @@ Item {
             }
         }
 
-        function test_a_row_that_grows_above_the_caret() {
+        function test_aRowThatGrowsAboveTheCaret() {
             open([...Array.from({ length: 14 }, () => ({ type: "textSmall", content: "word" })), { type: "textSmall" }])
             go(fields()[14], 0)
             for (const character of "------")
@@ -207,7 +207,7 @@ Item {
             verifyInSight("after the rules")
         }
 
-        function test_return_in_a_block_that_was_added() {
+        function test_returnInABlockThatWasAdded() {
             open(Array.from({ length: 20 }, () => ({ type: "textSmall", content: "word" })))
             bench.editor.addBlock("textSmall")
             wait(600) // the glide to the block
@@ -236,7 +236,7 @@ Item {
             verifyInSight("after the tasks")
         }
 
-        function test_a_page_that_was_scrolled_stays_there_when_something_comes_in() {
+        function test_aPageThatWasScrolledStaysThereWhenSomethingComesIn() {
             open([{ type: "sticky", todos: entries(1) }, ...Array.from({ length: 60 }, () => ({ type: "textSmall", content: "word" }))])
             go(fields()[0], 0)
             for (let step = 0; step < 12; ++step)
@@ -248,7 +248,7 @@ Item {
             verify(Math.abs(list.contentY - place) < 60, list.contentY)
         }
 
-        function test_a_glide_that_is_interrupted_has_ended() {
+        function test_aGlideThatIsInterruptedHasEnded() {
             const paragraphs = Array.from({ length: 60 }, (_, i) => ({ type: "textSmall", content: "paragraph " + i }))
             open(paragraphs)
             bench.editor.addBlock("divider")

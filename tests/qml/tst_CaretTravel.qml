@@ -9,7 +9,7 @@ Item {
     width: 900
     height: 640
 
-    EditorBench { id: bench }
+    EditorFixture { id: bench }
 
     Component {
         id: view
@@ -83,7 +83,7 @@ Item {
                 { type: "textSmall", content: "end" }]
         }
 
-        function test_keys_leave_a_text_for_the_next_data() {
+        function test_keysLeaveATextForTheNext_data() {
             return [
                 { from: "Head@4", keys: "Right", to: "body@0" },
                 { from: "body@0", keys: "Left", to: "Head@4" },
@@ -117,7 +117,7 @@ Item {
             ].map(row => Object.assign(row, { tag: row.from + " " + row.keys }))
         }
 
-        function test_keys_leave_a_text_for_the_next(row) {
+        function test_keysLeaveATextForTheNext(row) {
             open(everyKind())
             const [text, caret] = row.from.split("@")
             go(saying(text), Number(caret))
@@ -125,7 +125,7 @@ Item {
             verify(place().startsWith(row.to), place())
         }
 
-        function test_keys_leave_what_has_no_text_data() {
+        function test_keysLeaveWhatHasNoText_data() {
             const ways = [{ keys: "Up", to: "above@0" }, { keys: "Left", to: "above@5" },
                 { keys: "Down", to: "below@0" }, { keys: "Right", to: "below@0" }]
             const pictures = [{ type: "image" }, { type: "image", picture: "red" }, { type: "divider" }]
@@ -133,7 +133,7 @@ Item {
                 ({ tag: picture.type + " " + (picture.picture ?? "") + way.keys, picture, keys: way.keys, to: way.to }))))
         }
 
-        function test_keys_leave_what_has_no_text(row) {
+        function test_keysLeaveWhatHasNoText(row) {
             open([{ type: "textSmall", content: "above" }, row.picture, { type: "textSmall", content: "below" }])
             const block = everything(page).find(item => item instanceof BlockEditor && !(item instanceof TextBlock))
             block.takeFocus("", -1)
@@ -141,13 +141,13 @@ Item {
             compare(place(), row.to)
         }
 
-        function test_keys_do_not_lead_into_a_hidden_title_data() {
+        function test_keysDoNotLeadIntoAHiddenTitle_data() {
             const pictures = [{ type: "image" }, { type: "image", picture: "red" }, { type: "image", picture: "red", bannerTitle: "hidden" }]
             const keys = ["PageDown", "PageUp", "Down", "Up", "Ctrl+End", "Ctrl+Home", "Left", "Right"]
             return [].concat(...pictures.map((picture, number) => keys.map(key => ({ tag: key + " " + number, picture, key }))))
         }
 
-        function test_keys_do_not_lead_into_a_hidden_title(row) {
+        function test_keysDoNotLeadIntoAHiddenTitle(row) {
             open([row.picture, { type: "divider" }, row.picture])
             const ends = everything(page).filter(item => item instanceof ImageBlock)
             for (const block of [ends[0], ends[ends.length - 1]]) {
@@ -159,7 +159,7 @@ Item {
             compare(bench.blocks().map(block => block.type + " " + (block.content ?? "")).pop(), "textSmall x")
         }
 
-        function test_up_and_down_keep_their_column() {
+        function test_upAndDownKeepTheirColumn() {
             open([{ type: "textLarge", content: "A heading as wide as this" }, { type: "textSmall", content: "x" },
                 { type: "divider" }, { type: "quote" }, { type: "code", content: "abc\na long line of code, even wider than this one" },
                 { type: "sticky", todos: [{ text: "short", done: false }] },
@@ -179,7 +179,7 @@ Item {
             compare(place(), "A heading as wide as this@20")
         }
 
-        function test_a_new_column_begins_where_the_caret_was_put() {
+        function test_aNewColumnBeginsWhereTheCaretWasPut() {
             open([{ type: "textSmall", content: "a rather long line" }, { type: "textSmall", content: "x" },
                 { type: "textSmall", content: "another long line" }])
             go(saying("a rather"), 12)
@@ -187,7 +187,7 @@ Item {
             compare(place(), "another long line@0")
         }
 
-        function test_wrapped_lines_are_lines() {
+        function test_wrappedLinesAreLines() {
             const words = Array.from({ length: 40 }, (_, i) => "word" + i).join(" ")
             open([{ type: "textSmall", content: words }, { type: "textSmall", content: "word below" }])
             const field = saying("word0")
@@ -207,7 +207,7 @@ Item {
             compare(field.cursorRectangle.y, field.positionToRectangle(0).y)
         }
 
-        function test_scripts_read_from_right_to_left_are_left_at_the_left() {
+        function test_scriptsReadFromRightToLeftAreLeftAtTheLeft() {
             open([{ type: "textSmall", content: "שלום" }, { type: "textSmall", content: "end" }])
             go(fields()[0], 4)
             press("Left")
@@ -217,7 +217,7 @@ Item {
             compare(fields()[0].cursorPosition, 1)
         }
 
-        function test_the_view_follows_the_caret_over_a_long_page() {
+        function test_theViewFollowsTheCaretOverALongPage() {
             open(Array.from({ length: 80 }, (_, i) => ({ type: i % 7 ? "textSmall" : "textLarge", content: "line " + i })))
             go(saying("line 0"), 3)
             for (let step = 1; step < 80; ++step) {
@@ -234,7 +234,7 @@ Item {
             tryVerify(() => page.Window.activeFocusItem.mapToItem(page, 0, 0).y < page.height - Metrics.barHeight)
         }
 
-        function test_turning_pages_goes_through_all_of_it_and_back() {
+        function test_turningPagesGoesThroughAllOfItAndBack() {
             open(Array.from({ length: 80 }, (_, i) => ({ type: "textSmall", content: "line " + i })))
             go(saying("line 0"), 4)
             const seen = []
@@ -254,12 +254,12 @@ Item {
             compare(place(), "line 0@4")
         }
 
-        function test_arrows_leave_a_block_without_text_data() {
+        function test_arrowsLeaveABlockWithoutText_data() {
             return [{ tag: "Up", to: "body@4" }, { tag: "Down", to: "quote@0" }, { tag: "Left", to: "body@4" },
                 { tag: "Right", to: "quote@0" }, { tag: "Ctrl+Home", to: "Head@0" }]
         }
 
-        function test_arrows_leave_a_block_without_text(row) {
+        function test_arrowsLeaveABlockWithoutText(row) {
             open(everyKind())
             const rule = everything(page).find(item => item.Accessible.role === Accessible.Separator && item.visible)
             rule.forceActiveFocus()
@@ -267,7 +267,7 @@ Item {
             compare(place().replace("body@0", "body@4"), row.to)
         }
 
-        function test_keys_are_left_to_an_input_method_that_composes() {
+        function test_keysAreLeftToAnInputMethodThatComposes() {
             open([{ type: "textSmall", content: "a" }, { type: "textSmall", content: "b" }])
             go(saying("a"), 1)
             bench.compose("ni")

@@ -9,7 +9,7 @@ Item {
     width: 900
     height: 640
 
-    EditorBench { id: bench }
+    EditorFixture { id: bench }
 
     Component {
         id: view
@@ -68,13 +68,13 @@ Item {
             return everything(page).filter(item => item.Accessible.name === name && item.visible)
         }
 
-        function test_opening_a_fresh_page_puts_the_caret_into_its_heading() {
+        function test_openingAFreshPagePutsTheCaretIntoItsHeading() {
             open([{ type: "textLarge" }, { type: "textSmall" }])
             type("abc")
             compare(contents(), "abc|")
         }
 
-        function test_typing_shortcuts_data() {
+        function test_typingShortcuts_data() {
             return [
                 { tag: "heading", typed: "# x", kinds: "textLarge textLarge", contents: "t|x" },
                 { tag: "quote", typed: "> x", kinds: "textLarge quote", contents: "t|x" },
@@ -84,14 +84,14 @@ Item {
             ]
         }
 
-        function test_typing_shortcuts(row) {
+        function test_typingShortcuts(row) {
             open([{ type: "textLarge", content: "t" }, { type: "textSmall" }])
             type(row.typed)
             compare(kinds(), row.kinds)
             compare(contents(), row.contents)
         }
 
-        function test_a_checklist_shortcut_goes_on_in_the_first_entry() {
+        function test_aChecklistShortcutGoesOnInTheFirstEntry() {
             open([{ type: "textLarge", content: "t" }, { type: "textSmall" }])
             type("[] milk")
             keyClick(Qt.Key_Return)
@@ -99,7 +99,7 @@ Item {
             compare(bench.blocks()[1].todos, [{ done: false, text: "milk" }, { done: false, text: "eggs" }])
         }
 
-        function test_return_splits_and_the_caret_goes_on_below() {
+        function test_returnSplitsAndTheCaretGoesOnBelow() {
             open([{ type: "textLarge", content: "" }])
             type("ab")
             keyClick(Qt.Key_Left)
@@ -109,7 +109,7 @@ Item {
             compare(contents(), "a|Xb")
         }
 
-        function test_backspace_in_an_empty_block_goes_back_to_the_end_of_the_one_above() {
+        function test_backspaceInAnEmptyBlockGoesBackToTheEndOfTheOneAbove() {
             open([{ type: "textLarge", content: "ab" }, { type: "textSmall" }])
             keyClick(Qt.Key_Backspace)
             type("c")
@@ -117,21 +117,21 @@ Item {
             compare(contents(), "abc")
         }
 
-        function test_no_break_spaces_survive_a_key() {
+        function test_noBreakSpacesSurviveAKey() {
             open([{ type: "textLarge", content: "" }, { type: "textSmall", content: "10\u00a0km" }])
             bench.editor.focusRequested(named("Body")[0].parent.parent.parent.blockID, "", -1)
             type("x")
             compare(contents(), "|10\u00a0kmx")
         }
 
-        function test_a_page_changed_elsewhere_is_shown() {
+        function test_aPageChangedElsewhereIsShown() {
             open([{ type: "textLarge", content: "before" }])
             bench.replace([{ type: "textLarge", content: "after" }, { type: "quote", content: "wise" }])
             tryVerify(() => fields().map(field => field.Accessible.name).join(" ") === "Heading Quote")
             compare(fields().map(field => field.getText(0, 99)), ["after", "wise"])
         }
 
-        function test_placeholders_stand_where_nothing_is_written() {
+        function test_placeholdersStandWhereNothingIsWritten() {
             open([{ type: "textLarge" }, { type: "quote", content: "q" }])
             const placeholder = everything(page).find(item => item.text === "Start writing..." && item.visible)
             verify(placeholder)
@@ -142,7 +142,7 @@ Item {
             verify(!placeholder.visible)
         }
 
-        function test_a_rule_waits_for_the_end_of_a_composition() {
+        function test_aRuleWaitsForTheEndOfAComposition() {
             open([{ type: "textLarge", content: "t" }, { type: "textSmall" }])
             bench.commit("# ", "rest")
             compare(kinds(), "textLarge textSmall")
@@ -151,7 +151,7 @@ Item {
             compare(contents(), "t|# rest")
         }
 
-        function test_what_is_composed_is_stored_when_it_is_settled() {
+        function test_whatIsComposedIsStoredWhenItIsSettled() {
             open([{ type: "textLarge" }])
             bench.compose("ni")
             compare(contents(), "")
@@ -159,7 +159,7 @@ Item {
             compare(contents(), "你")
         }
 
-        function test_the_bar_adds_each_kind_at_the_end_data() {
+        function test_theBarAddsEachKindAtTheEnd_data() {
             return [
                 { tag: "Heading", kind: "textLarge", focused: true },
                 { tag: "Body", kind: "textSmall", focused: true },
@@ -171,7 +171,7 @@ Item {
             ]
         }
 
-        function test_the_bar_adds_each_kind_at_the_end(row) {
+        function test_theBarAddsEachKindAtTheEnd(row) {
             open([{ type: "textLarge", content: "" }])
             const chip = named(row.tag).find(item => item.Accessible.role === Accessible.Button)
             mouseClick(chip)
@@ -181,7 +181,7 @@ Item {
             compare(contents(), row.focused ? "|z" : "z|")
         }
 
-        function test_a_tick_changes_its_entry() {
+        function test_aTickChangesItsEntry() {
             open([{ type: "sticky", todos: [{ text: "milk", done: false }, { text: "eggs", done: true }] }])
             const ticks = everything(page).filter(item => item.Accessible.role === Accessible.CheckBox)
             compare(ticks.map(tick => tick.Accessible.name), ["milk", "eggs"])
@@ -191,7 +191,7 @@ Item {
             compare(ticks[0].Accessible.checked, true)
         }
 
-        function test_the_cross_removes_an_entry_and_a_first_one_can_be_made_again() {
+        function test_theCrossRemovesAnEntryAndAFirstOneCanBeMadeAgain() {
             open([{ type: "sticky", todos: [{ text: "milk", done: false }] }])
             mouseClick(named("Remove")[0])
             compare(bench.blocks()[0].todos, [])
@@ -200,7 +200,7 @@ Item {
             compare(bench.blocks()[0].todos, [{ done: false, text: "tea" }])
         }
 
-        function test_hovering_a_block_offers_to_delete_it() {
+        function test_hoveringABlockOffersToDeleteIt() {
             open([{ type: "textLarge", content: "t" }, { type: "textSmall", content: "b" }])
             const field = named("Body").find(item => item.Accessible.role === Accessible.EditableText)
             hover(field)
@@ -210,7 +210,7 @@ Item {
             compare(kinds(), "textLarge")
         }
 
-        function test_a_leading_heading_has_no_delete_button() {
+        function test_aLeadingHeadingHasNoDeleteButton() {
             open([{ type: "textLarge", content: "t" }, { type: "textSmall", content: "b" }])
             hover(fields()[1])
             tryVerify(() => named("Delete").length === 1)
@@ -218,7 +218,7 @@ Item {
             tryVerify(() => named("Delete").length === 0)
         }
 
-        function test_a_single_block_has_neither_button_nor_menu() {
+        function test_aSingleBlockHasNeitherButtonNorMenu() {
             open([{ type: "textSmall", content: "b" }])
             const field = named("Body").find(item => item.Accessible.role === Accessible.EditableText)
             hover(field)
@@ -228,7 +228,7 @@ Item {
             compare(named("Delete Block").length, 0)
         }
 
-        function test_the_context_menu_deletes_even_a_leading_heading() {
+        function test_theContextMenuDeletesEvenALeadingHeading() {
             open([{ type: "textLarge", content: "t" }, { type: "textSmall", content: "b" }])
             const field = named("Heading").find(item => item.Accessible.role === Accessible.EditableText)
             mouseClick(field, 20, 10, Qt.RightButton)
@@ -238,7 +238,7 @@ Item {
             compare(kinds(), "textSmall")
         }
 
-        function test_the_context_menu_opens_over_the_controls_of_a_checklist_too_data() {
+        function test_theContextMenuOpensOverTheControlsOfAChecklistToo_data() {
             return [
                 { tag: "tick", name: "tea", role: Accessible.CheckBox, cursor: Qt.PointingHandCursor },
                 { tag: "cross", name: "Remove", role: Accessible.Button, cursor: Qt.PointingHandCursor },
@@ -246,7 +246,7 @@ Item {
             ]
         }
 
-        function test_the_context_menu_opens_over_the_controls_of_a_checklist_too(row) {
+        function test_theContextMenuOpensOverTheControlsOfAChecklistToo(row) {
             open([{ type: "textLarge", content: "t" }, { type: "sticky", todos: [{ text: "tea" }] }])
             const before = bench.blocks()
             const control = named(row.name).find(item => item.Accessible.role === row.role)
@@ -260,7 +260,7 @@ Item {
             compare(kinds(), "textLarge")
         }
 
-        function test_the_menu_key_opens_the_context_menu() {
+        function test_theMenuKeyOpensTheContextMenu() {
             open([{ type: "textLarge", content: "" }, { type: "textSmall", content: "b" }])
             keyClick(Qt.Key_Menu)
             tryVerify(() => named("Delete Block").length === 1)
@@ -270,7 +270,7 @@ Item {
             compare(contents(), "x|b")
         }
 
-        function test_tab_walks_through_everything_and_back() {
+        function test_tabWalksThroughEverythingAndBack() {
             open([{ type: "textLarge", content: "" }, { type: "sticky", todos: [{ text: "milk", done: false }] }])
             const seen = []
             for (let step = 0; step < 6; ++step) {
@@ -286,11 +286,11 @@ Item {
             compare(page.Window.activeFocusItem.Accessible.name, "Remove")
         }
 
-        function test_the_focus_ring_shows_only_where_the_keyboard_walked_data() {
+        function test_theFocusRingShowsOnlyWhereTheKeyboardWalked_data() {
             return [{ tag: "Divider", kind: "divider", buttons: 1 }, { tag: "Image", kind: "image", buttons: 2 }]
         }
 
-        function test_the_focus_ring_shows_only_where_the_keyboard_walked(row) {
+        function test_theFocusRingShowsOnlyWhereTheKeyboardWalked(row) {
             open([{ type: row.kind, picture: "red" }, { type: "textSmall", content: "b" }])
             const block = named(row.tag).find(item => item.activeFocus)
             const ringed = () => everything(block).some(item => item instanceof FocusRing && item.shown)
@@ -302,23 +302,23 @@ Item {
             verify(ringed())
         }
 
-        function test_the_title_follows_the_heading() {
+        function test_theTitleFollowsTheHeading() {
             open([{ type: "textLarge", content: "" }])
             verify(named("Untitled").length === 1)
             type("Plan")
             verify(named("Plan").length === 1)
         }
 
-        function test_the_title_is_shown_on_one_line_data() {
+        function test_theTitleIsShownOnOneLine_data() {
             return ["\n", "\r", "\u2028", "\u2029", "\u0085", " \r\n "].map(between => ({ tag: escape(between), between: between }))
         }
 
-        function test_the_title_is_shown_on_one_line(row) {
+        function test_theTitleIsShownOnOneLine(row) {
             open([{ type: "textLarge", content: "Plan" + row.between + "B" }])
             verify(named("Plan B").length === 1)
         }
 
-        function test_opening_shows_the_empty_block_that_takes_the_caret() {
+        function test_openingShowsTheEmptyBlockThatTakesTheCaret() {
             const lines = Array.from({ length: 60 }, (_, i) => ({ type: "textSmall", content: "line " + i }))
             open(lines.concat([{ type: "quote" }]))
             const field = named("Quote").find(item => item.Accessible.role === Accessible.EditableText)
@@ -326,7 +326,7 @@ Item {
             tryVerify(() => field.mapToItem(page, 0, field.height).y < page.height - Metrics.barHeight)
         }
 
-        function test_a_new_block_below_the_fold_is_scrolled_into_sight() {
+        function test_aNewBlockBelowTheFoldIsScrolledIntoSight() {
             open(Array.from({ length: 60 }, (_, i) => ({ type: "textSmall", content: "line " + i })))
             bench.editor.addBlock("quote")
             tryCompare(bench.editor, "scrollTarget", "")

@@ -25,7 +25,7 @@ Item {
             ExportAlerts { anchors.fill: parent; exports: bench.exports }
 
             // Stands last so that it outlives the views.
-            ExportBench { id: bench }
+            ExportFixture { id: bench }
         }
     }
 

@@ -28,7 +28,7 @@ Item {
                 flow: bench.timers.flow
             }
 
-            TimersBench { id: bench }
+            TimersFixture { id: bench }
         }
     }
 

@@ -10,7 +10,7 @@ Item {
     width: 900
     height: 640
 
-    EditorBench { id: bench }
+    EditorFixture { id: bench }
 
     Component {
         id: view
@@ -68,7 +68,7 @@ Item {
 
         // Typing where there is no field
 
-        function test_typing_without_a_field_goes_on_at_the_end_data() {
+        function test_typingWithoutAFieldGoesOnAtTheEnd_data() {
             return [
                 { tag: "picture", blocks: [{ type: "image", picture: "red" }], written: "image textSmall:ab" },
                 { tag: "no picture yet", blocks: [{ type: "image" }], written: "image textSmall:ab" },
@@ -79,21 +79,21 @@ Item {
             ]
         }
 
-        function test_typing_without_a_field_goes_on_at_the_end(row) {
+        function test_typingWithoutAFieldGoesOnAtTheEnd(row) {
             open(row.blocks)
             press(["A", "B"])
             compare(written(), row.written)
             verify(focused() instanceof TextEdit)
         }
 
-        function test_typing_on_a_divider_is_not_lost() {
+        function test_typingOnADividerIsNotLost() {
             open([{ type: "divider" }, { type: "textSmall", content: "end" }])
             everything(page).find(item => item instanceof DividerBlock).takeFocus("", -1)
             press(["X"])
             compare(written(), "divider textSmall:endx")
         }
 
-        function test_keys_that_type_nothing_add_nothing() {
+        function test_keysThatTypeNothingAddNothing() {
             open([{ type: "divider" }])
             press(["Escape", "Ctrl+B", "Alt+X", "F5", "Shift+F5"])
             compare(written(), "divider")
@@ -113,11 +113,11 @@ Item {
             mouseClick(cross, cross.width / 2, cross.height / 2)
         }
 
-        function test_a_cross_leaves_the_caret_where_it_is_data() {
+        function test_aCrossLeavesTheCaretWhereItIs_data() {
             return [{ tag: "body" }, { tag: "milk" }, { tag: "salt" }]
         }
 
-        function test_a_cross_leaves_the_caret_where_it_is(row) {
+        function test_aCrossLeavesTheCaretWhereItIs(row) {
             open(milkAndRye())
             const field = fieldSaying(row.tag)
             field.takeFocus(2)
@@ -127,14 +127,14 @@ Item {
             compare(field.cursorPosition, 2)
         }
 
-        function test_the_cross_of_the_entry_with_the_caret_moves_it_to_the_next() {
+        function test_theCrossOfTheEntryWithTheCaretMovesItToTheNext() {
             open(milkAndRye())
             fieldSaying("rye").takeFocus(1)
             clickCross("rye")
             compare(focused().text, "milk")
         }
 
-        function test_the_cross_by_keyboard_leaves_the_keyboard_in_the_list() {
+        function test_theCrossByKeyboardLeavesTheKeyboardInTheList() {
             open(milkAndRye())
             fieldSaying("body").takeFocus(1)
             const cross = everything(fieldSaying("rye").parent).find(item => item instanceof RemoveTodoButton)
@@ -150,12 +150,12 @@ Item {
             return [{ type: "textSmall", content: "above" }, { type: "sticky", todos: [] }, { type: "textSmall", content: "below" }]
         }
 
-        function test_keys_stop_at_an_empty_checklist_data() {
+        function test_keysStopAtAnEmptyChecklist_data() {
             return [{ tag: "Up", from: "below" }, { tag: "Left", from: "below" }, { tag: "Backspace", from: "below" },
                 { tag: "Down", from: "above" }, { tag: "Right", from: "above" }, { tag: "Delete", from: "above" }]
         }
 
-        function test_keys_stop_at_an_empty_checklist(row) {
+        function test_keysStopAtAnEmptyChecklist(row) {
             open(aroundAChecklist())
             fieldSaying(row.from).takeFocus(row.from === "above" ? -1 : 0)
             press([row.tag])
@@ -164,22 +164,22 @@ Item {
             compare(written(), "textSmall:above sticky[x] textSmall:below")
         }
 
-        function test_keys_go_on_from_an_empty_checklist_data() {
+        function test_keysGoOnFromAnEmptyChecklist_data() {
             return [{ tag: "Up", to: "above" }, { tag: "Left", to: "above" }, { tag: "Down", to: "below" }, { tag: "Right", to: "below" }]
         }
 
-        function test_keys_go_on_from_an_empty_checklist(row) {
+        function test_keysGoOnFromAnEmptyChecklist(row) {
             open(aroundAChecklist())
             named("To do...")[0].forceActiveFocus()
             press([row.tag])
             compare(focused().text, row.to)
         }
 
-        function test_an_empty_checklist_goes_with_one_key_data() {
+        function test_anEmptyChecklistGoesWithOneKey_data() {
             return [{ tag: "Delete" }, { tag: "Backspace" }]
         }
 
-        function test_an_empty_checklist_goes_with_one_key(row) {
+        function test_anEmptyChecklistGoesWithOneKey(row) {
             open(aroundAChecklist())
             named("To do...")[0].forceActiveFocus()
             press([row.tag])
@@ -187,7 +187,7 @@ Item {
         }
 
         // A heading that leads the page cannot be deleted.
-        function test_a_delete_button_that_goes_gives_the_keyboard_back_to_its_block() {
+        function test_aDeleteButtonThatGoesGivesTheKeyboardBackToItsBlock() {
             open([{ type: "textSmall", content: "body" }, { type: "textLarge", content: "Head" }])
             fieldSaying("Head").forceActiveFocus()
             press(["Tab"])
@@ -198,7 +198,7 @@ Item {
             compare(focused(), fieldSaying("Head"))
         }
 
-        function test_a_banner_that_moves_down_keeps_the_keyboard() {
+        function test_aBannerThatMovesDownKeepsTheKeyboard() {
             open([{ type: "image", picture: "red", isFullWidth: true, bannerTitle: "Title" }, { type: "textSmall", content: "below" }])
             fieldSaying("Title").takeFocus(-1)
             press(["Alt+Down"])

@@ -25,7 +25,7 @@ Item {
             FolderChooserDialog { anchors.fill: parent; chooser: bench.chooser }
 
             // Stands last so that it outlives the views.
-            ChooserBench { id: bench }
+            ChooserFixture { id: bench }
         }
     }
 

@@ -9,7 +9,7 @@ Item {
     width: 900
     height: 640
 
-    EditorBench { id: bench }
+    EditorFixture { id: bench }
 
     Component {
         id: view
@@ -89,7 +89,7 @@ Item {
 
         // The picture
 
-        function test_a_picture_is_as_wide_as_the_column_and_keeps_its_shape() {
+        function test_aPictureIsAsWideAsTheColumnAndKeepsItsShape() {
             open([{ type: "image", picture: "red" }])
             const picture = pictures()[0]
             compare(picture.width, Metrics.measure)
@@ -97,18 +97,18 @@ Item {
             tryVerify(() => colorAt(picture, 300, 150) === "#ff0000")
         }
 
-        function test_a_picture_is_shown_from_the_bytes_of_the_store() {
+        function test_aPictureIsShownFromTheBytesOfTheStore() {
             open([{ type: "image", picture: "red" }])
             verify(bench.sharesBytes(pictures()[0], 0))
         }
 
-        function test_its_corners_are_round() {
+        function test_itsCornersAreRound() {
             open([{ type: "image", picture: "red" }])
             tryVerify(() => colorAt(pictures()[0], 300, 150) === "#ff0000")
             verify(colorAt(page, (page.width - Metrics.measure) / 2, Metrics.pageTop) !== "#ff0000")
         }
 
-        function test_another_picture_in_the_same_block_is_shown() {
+        function test_anotherPictureInTheSameBlockIsShown() {
             open([{ type: "image", picture: "red" }, { type: "textSmall", content: "b" }])
             const id = bench.editor.blocks.data(bench.editor.blocks.index(0, 0), Qt.UserRole)
             bench.editor.imageImport.addImage(id)
@@ -120,7 +120,7 @@ Item {
 
         // Adding
 
-        function test_the_placeholder_asks_for_a_picture_and_shows_it() {
+        function test_thePlaceholderAsksForAPictureAndShowsIt() {
             open([{ type: "textLarge", content: "t" }, { type: "image" }])
             const add = named("Add image")[0]
             compare(add.height, 100)
@@ -131,7 +131,7 @@ Item {
             tryVerify(() => pictures().length === 1 && colorAt(pictures()[0], 300, 150) === "#0000ff")
         }
 
-        function test_the_keyboard_presses_the_placeholder() {
+        function test_theKeyboardPressesThePlaceholder() {
             open([{ type: "textLarge", content: "" }, { type: "image" }])
             keyClick(Qt.Key_Tab)
             compare(page.Window.activeFocusItem.Accessible.name, "Add image")
@@ -139,13 +139,13 @@ Item {
             verify(bench.editor.imageImport.showImagePicker)
         }
 
-        function test_assistive_technology_presses_the_placeholder() {
+        function test_assistiveTechnologyPressesThePlaceholder() {
             open([{ type: "image" }])
             named("Add image")[0].Accessible.pressAction()
             verify(bench.editor.imageImport.showImagePicker)
         }
 
-        function test_cancelling_the_chooser_changes_nothing() {
+        function test_cancellingTheChooserChangesNothing() {
             open([{ type: "image" }])
             mouseClick(named("Add image")[0])
             bench.chooseNothing()
@@ -154,7 +154,7 @@ Item {
             verify(!bench.editor.imageImport.showImagePicker)
         }
 
-        function test_an_undecodable_file_draws_nothing_yet_counts_as_data() {
+        function test_anUndecodableFileDrawsNothingYetCountsAs_data() {
             open([{ type: "textLarge", content: "t" }, { type: "image" }])
             mouseClick(named("Add image")[0])
             bench.choosePicture("this is no picture")
@@ -167,7 +167,7 @@ Item {
             tryVerify(() => named("Full Width").length === 1)
         }
 
-        function test_a_copied_picture_goes_below_the_focused_block() {
+        function test_aCopiedPictureGoesBelowTheFocusedBlock() {
             open([{ type: "textLarge", content: "" }, { type: "textSmall", content: "b" }])
             bench.copyPicture("blue")
             keyClick(Qt.Key_V, Qt.ControlModifier)
@@ -179,7 +179,7 @@ Item {
 
         // Hover
 
-        function test_hovering_a_picture_offers_banner_and_delete_inside_its_corner() {
+        function test_hoveringAPictureOffersBannerAndDeleteInsideItsCorner() {
             open([{ type: "textLarge", content: "t" }, { type: "image", picture: "red" }])
             const picture = pictures()[0]
             hover(picture)
@@ -190,7 +190,7 @@ Item {
             verify(toggle.mapToItem(picture, toggle.width, 0).x < remove.mapToItem(picture, 0, 0).x)
         }
 
-        function test_a_block_without_a_picture_offers_neither_banner_nor_full_width() {
+        function test_aBlockWithoutAPictureOffersNeitherBannerNorFullWidth() {
             open([{ type: "textLarge", content: "t" }, { type: "image" }])
             const add = named("Add image")[0]
             hover(add)
@@ -203,7 +203,7 @@ Item {
 
         // Banner
 
-        function test_the_toggle_makes_a_banner_whose_title_is_focused_a_tenth_of_a_second_later() {
+        function test_theToggleMakesABannerWhoseTitleIsFocusedATenthOfASecondLater() {
             open([{ type: "textLarge", content: " " }, { type: "textSmall", content: "b" }, { type: "image", picture: "red" }])
             hover(pictures()[0])
             tryVerify(() => named("Banner").length === 1)
@@ -219,7 +219,7 @@ Item {
             compare(named("Ridge").length, 1)
         }
 
-        function test_a_banner_fills_the_width_at_its_height_below_the_strip() {
+        function test_aBannerFillsTheWidthAtItsHeightBelowTheStrip() {
             open([{ type: "image", picture: "red", isFullWidth: true }, { type: "textSmall", content: "b" }])
             const banner = block("Banner")
             compare(banner.mapToItem(page, 0, 0), Qt.point(0, 56))
@@ -229,12 +229,12 @@ Item {
             verify(grabImage(page).red(450, 56 + 270) < 90)
         }
 
-        function test_without_a_banner_the_page_begins_under_the_strip() {
+        function test_withoutABannerThePageBeginsUnderTheStrip() {
             open([{ type: "image", picture: "red" }, { type: "textSmall", content: "b" }])
             compare(block("Image").mapToItem(page, 0, 0).y, Metrics.pageTop)
         }
 
-        function test_a_title_stands_24_from_the_edges() {
+        function test_aTitleStands24FromTheEdges() {
             open([{ type: "image", picture: "red", isFullWidth: true, bannerTitle: "Ridge" }])
             const banner = block("Banner")
             const title = named("Banner title")[0]
@@ -242,12 +242,12 @@ Item {
             compare(title.width, banner.width - 48)
         }
 
-        function test_an_untitled_banner_says_so() {
+        function test_anUntitledBannerSaysSo() {
             open([{ type: "image", picture: "red", isFullWidth: true }])
             verify(everything(block("Banner")).find(item => item.text === "Untitled" && item.visible))
         }
 
-        function test_what_is_typed_into_the_title_is_undone_and_done_again() {
+        function test_whatIsTypedIntoTheTitleIsUndoneAndDoneAgain() {
             open([{ type: "image", picture: "red", isFullWidth: true }, { type: "textSmall", content: "b" }])
             const before = bench.blocks()
             const title = named("Banner title")[0]
@@ -270,7 +270,7 @@ Item {
             compare(title.text, "High up!")
         }
 
-        function test_the_title_is_edited_in_the_middle() {
+        function test_theTitleIsEditedInTheMiddle() {
             open([{ type: "image", picture: "red", isFullWidth: true, bannerTitle: "Rige" }])
             const title = named("Banner title")[0]
             title.forceActiveFocus()
@@ -284,7 +284,7 @@ Item {
             compare(title.text, "Rige")
         }
 
-        function test_return_leaves_the_title_for_the_next_block() {
+        function test_returnLeavesTheTitleForTheNextBlock() {
             open([{ type: "image", picture: "red", isFullWidth: true }, { type: "textSmall", content: "" }])
             named("Banner title")[0].forceActiveFocus()
             keyClick(Qt.Key_Return)
@@ -293,14 +293,14 @@ Item {
             compare(bench.blocks()[0].bannerTitle, undefined)
         }
 
-        function test_a_full_width_picture_further_down_is_a_picture_in_the_column() {
+        function test_aFullWidthPictureFurtherDownIsAPictureInTheColumn() {
             open([{ type: "textSmall", content: "b" }, { type: "image", picture: "red", isFullWidth: true }])
             compare(pictures()[0].width, Metrics.measure)
             hover(pictures()[0])
             tryVerify(() => named("Unbanner").length === 1)
         }
 
-        function test_unbanner_gives_the_page_its_heading_back() {
+        function test_unbannerGivesThePageItsHeadingBack() {
             open([{ type: "image", picture: "red", isFullWidth: true, bannerTitle: "Ridge" }])
             hover(block("Banner"))
             tryVerify(() => named("Unbanner").length === 1)
@@ -310,14 +310,14 @@ Item {
             compare(pictures()[0].width, Metrics.measure)
         }
 
-        function test_the_menu_says_the_width_it_would_have_data() {
+        function test_theMenuSaysTheWidthItWouldHave_data() {
             return [
                 { tag: "picture", isFullWidth: false, entry: "Full Width", after: true },
                 { tag: "banner", isFullWidth: true, entry: "Default Width", after: false }
             ]
         }
 
-        function test_the_menu_says_the_width_it_would_have(row) {
+        function test_theMenuSaysTheWidthItWouldHave(row) {
             open([{ type: "image", picture: "red", isFullWidth: row.isFullWidth }])
             mouseClick(pictures()[0], 300, 40, Qt.RightButton)
             tryVerify(() => named(row.entry).length === 1)
@@ -326,7 +326,7 @@ Item {
             compare(bench.blocks().find(block => block.type === "image").isFullWidth, row.after)
         }
 
-        function test_the_keyboard_walks_from_the_title_to_its_buttons_and_on() {
+        function test_theKeyboardWalksFromTheTitleToItsButtonsAndOn() {
             open([{ type: "image", picture: "red", isFullWidth: true }, { type: "textSmall", content: "b" }])
             named("Banner title")[0].forceActiveFocus()
             const seen = []
@@ -337,7 +337,7 @@ Item {
             compare(seen, ["Banner title", "Unbanner", "Delete", "Body"])
         }
 
-        function test_a_banner_and_back_is_undone_in_one_step() {
+        function test_aBannerAndBackIsUndoneInOneStep() {
             open([{ type: "textLarge", content: "" }, { type: "image", picture: "red" }])
             const before = bench.blocks()
             chooseFromMenu(pictures()[0], "Full Width")
@@ -346,7 +346,7 @@ Item {
             compare(bench.blocks(), before)
         }
 
-        function test_the_picture_grows_into_the_banner() {
+        function test_thePictureGrowsIntoTheBanner() {
             Motion.reduced = false
             open([{ type: "image", picture: "red" }])
             const widths = []

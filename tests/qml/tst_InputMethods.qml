@@ -12,10 +12,10 @@ Item {
     width: 900
     height: 640
 
-    EditorBench { id: bench }
-    InputMethodBench { id: inputMethod }
-    TimersBench { id: timers }
-    TasksBench { id: tasks }
+    EditorFixture { id: bench }
+    InputMethodFixture { id: inputMethod }
+    TimersFixture { id: timers }
+    TasksFixture { id: tasks }
     ShellFixture { id: program }
 
     FocusScope {
@@ -151,9 +151,9 @@ Item {
             inputMethod.compose("")
         }
 
-        function test_what_is_typed_after_a_commit_is_stored_data() { return kinds() }
+        function test_whatIsTypedAfterACommitIsStored_data() { return kinds() }
 
-        function test_what_is_typed_after_a_commit_is_stored(row) {
+        function test_whatIsTypedAfterACommitIsStored(row) {
             open(row.kind)
             write("nihon", "日本")
             compare(stored(), "日本")
@@ -167,18 +167,18 @@ Item {
             compare(stored(), "日本ab語")
         }
 
-        function test_a_commit_can_replace_what_stands_before_the_caret_data() { return kinds() }
+        function test_aCommitCanReplaceWhatStandsBeforeTheCaret_data() { return kinds() }
 
-        function test_a_commit_can_replace_what_stands_before_the_caret(row) {
+        function test_aCommitCanReplaceWhatStandsBeforeTheCaret(row) {
             open(row.kind)
             type("abc")
             inputMethod.commitReplacing("的", -2, 2)
             compare(stored(), "a的")
         }
 
-        function test_a_cancelled_composition_leaves_nothing_data() { return kinds() }
+        function test_aCancelledCompositionLeavesNothing_data() { return kinds() }
 
-        function test_a_cancelled_composition_leaves_nothing(row) {
+        function test_aCancelledCompositionLeavesNothing(row) {
             open(row.kind)
             type("a")
             inputMethod.compose("ni")
@@ -187,9 +187,9 @@ Item {
             compare(stored(), "ab")
         }
 
-        function test_a_composition_is_kept_when_the_focus_leaves_data() { return kinds() }
+        function test_aCompositionIsKeptWhenTheFocusLeaves_data() { return kinds() }
 
-        function test_a_composition_is_kept_when_the_focus_leaves(row) {
+        function test_aCompositionIsKeptWhenTheFocusLeaves(row) {
             open(row.kind)
             type("a")
             inputMethod.compose("ni")
@@ -198,9 +198,9 @@ Item {
             compare(field.preeditText, "")
         }
 
-        function test_return_ends_a_composition_and_nothing_else_data() { return kinds() }
+        function test_returnEndsACompositionAndNothingElse_data() { return kinds() }
 
-        function test_return_ends_a_composition_and_nothing_else(row) {
+        function test_returnEndsACompositionAndNothingElse(row) {
             open(row.kind)
             for (const key of [Qt.Key_Return, Qt.Key_Enter]) {
                 inputMethod.compose("ni")
@@ -211,9 +211,9 @@ Item {
             compare(field.preeditText, "")
         }
 
-        function test_a_click_keeps_a_composition_data() { return kinds() }
+        function test_aClickKeepsAComposition_data() { return kinds() }
 
-        function test_a_click_keeps_a_composition(row) {
+        function test_aClickKeepsAComposition(row) {
             open(row.kind)
             type("ab")
             inputMethod.compose("ni")
@@ -221,11 +221,11 @@ Item {
             compare(stored(), "abni")
         }
 
-        function test_return_is_itself_again_after_a_commit_data() {
+        function test_returnIsItselfAgainAfterACommit_data() {
             return [{ tag: "body", blocks: 2 }, { tag: "heading", blocks: 2 }, { tag: "entry", todos: 2 }]
         }
 
-        function test_return_is_itself_again_after_a_commit(row) {
+        function test_returnIsItselfAgainAfterACommit(row) {
             open(row.tag)
             write("nihon", "日本")
             keyClick(Qt.Key_Return)
@@ -236,7 +236,7 @@ Item {
             compare(bench.blocks()[row.blocks - 1 || 0].todos?.[1].text ?? bench.blocks()[1].content, "x")
         }
 
-        function test_return_leaves_a_banner_title_after_a_commit() {
+        function test_returnLeavesABannerTitleAfterACommit() {
             open("banner")
             write("nihon", "日本")
             keyClick(Qt.Key_Return)
@@ -244,7 +244,7 @@ Item {
             compare(stored(), "日本")
         }
 
-        function test_tab_in_code_ends_a_composition_and_nothing_else() {
+        function test_tabInCodeEndsACompositionAndNothingElse() {
             open("code")
             inputMethod.compose("ni")
             keyClick(Qt.Key_Tab)
@@ -253,7 +253,7 @@ Item {
             compare(stored(), "ni\t")
         }
 
-        function test_undo_takes_back_what_was_being_composed() {
+        function test_undoTakesBackWhatWasBeingComposed() {
             open("body")
             type("a ")
             inputMethod.compose("ni")
@@ -264,11 +264,11 @@ Item {
             compare(stored(), "a ni")
         }
 
-        function test_a_selection_with_shift_keeps_a_composition_data() {
+        function test_aSelectionWithShiftKeepsAComposition_data() {
             return [{ tag: "over text", x: 0.5 }, { tag: "beside text", x: 0.01 }]
         }
 
-        function test_a_selection_with_shift_keeps_a_composition(row) {
+        function test_aSelectionWithShiftKeepsAComposition(row) {
             open("body")
             bench.editor.addBlock("quote")
             bench.advance(200)
@@ -282,7 +282,7 @@ Item {
             compare(bench.blocks().map(block => block.type + " " + block.content), ["textSmall abni", "quote "])
         }
 
-        function test_a_change_by_another_way_follows_a_composition_data() {
+        function test_aChangeByAnotherWayFollowsAComposition_data() {
             return [
                 { tag: "a block is added", change: () => bench.editor.addBlock("divider"), last: "divider" },
                 { tag: "the block is deleted", change: id => bench.editor.deleteBlock(id), last: "quote" },
@@ -291,7 +291,7 @@ Item {
         }
 
         /// One step takes the change back, and the word stays.
-        function test_a_change_by_another_way_follows_a_composition(row) {
+        function test_aChangeByAnotherWayFollowsAComposition(row) {
             open("body")
             bench.editor.addBlock("quote")
             field.forceActiveFocus()
@@ -303,7 +303,7 @@ Item {
             compare(bench.blocks().map(block => block.type), ["textSmall", "quote"])
         }
 
-        function test_a_composition_replaces_what_is_selected() {
+        function test_aCompositionReplacesWhatIsSelected() {
             open("body")
             type("abc")
             field.select(1, 2)
@@ -311,7 +311,7 @@ Item {
             compare(stored(), "a你c")
         }
 
-        function test_a_shortcut_works_in_a_commit() {
+        function test_aShortcutWorksInACommit() {
             open("body")
             write("[] ", "[] ")
             compare(bench.blocks()[0].type, "sticky")

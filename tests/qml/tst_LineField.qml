@@ -42,7 +42,7 @@ Item {
             source.copy()
         }
 
-        function test_what_is_pasted_becomes_one_line_data() {
+        function test_whatIsPastedBecomesOneLine_data() {
             return [
                 { tag: "line feed", text: "two\nthree", line: "two three" },
                 { tag: "tab", text: "two\tthree", line: "two three" },
@@ -51,7 +51,7 @@ Item {
             ]
         }
 
-        function test_what_is_pasted_becomes_one_line(row) {
+        function test_whatIsPastedBecomesOneLine(row) {
             root.content = "one four"
             field.cursorPosition = 4
             copy(row.text)
@@ -63,7 +63,7 @@ Item {
             compare(root.content, "one " + row.line + "xfour")
         }
 
-        function test_backspace_deletes_an_emoji_whole_data() {
+        function test_backspaceDeletesAnEmojiWhole_data() {
             return [
                 { tag: "joined", text: "👩🏽‍💻", left: "" },
                 { tag: "flag", text: "🇵🇱", left: "" },
@@ -73,7 +73,7 @@ Item {
             ]
         }
 
-        function test_backspace_deletes_an_emoji_whole(row) {
+        function test_backspaceDeletesAnEmojiWhole(row) {
             root.content = "x" + row.text + "y"
             field.cursorPosition = 1 + row.text.length
             keyClick(Qt.Key_Backspace)
@@ -82,14 +82,14 @@ Item {
             compare(field.cursorPosition, 1 + row.left.length)
         }
 
-        function test_backspace_deletes_what_is_selected() {
+        function test_backspaceDeletesWhatIsSelected() {
             root.content = "one two"
             field.select(1, 5)
             keyClick(Qt.Key_Backspace)
             compare(root.content, "owo")
         }
 
-        function test_backspace_at_the_start_changes_nothing() {
+        function test_backspaceAtTheStartChangesNothing() {
             root.content = "one"
             field.cursorPosition = 0
             keyClick(Qt.Key_Backspace)

@@ -9,7 +9,7 @@ Item {
     width: 900
     height: 640
 
-    EditorBench { id: bench }
+    EditorFixture { id: bench }
 
     Component {
         id: view
@@ -63,7 +63,7 @@ Item {
             return everything(page).find(item => item as ListView)
         }
 
-        function test_only_entries_in_sight_have_rows() {
+        function test_onlyEntriesInSightHaveRows() {
             verify(rows().length > 10)
             verify(rows().length < fewRows, rows().length + " rows")
             list().contentY += 60000
@@ -73,7 +73,7 @@ Item {
             verify(shown.length > 10, shown)
         }
 
-        function test_a_jump_from_end_to_end_makes_few_rows() {
+        function test_aJumpFromEndToEndMakesFewRows() {
             let most = 0
             const todos = everything(page).find(item => item as StickyBlock).todos
             todos.rowsInserted.connect((parent, first, last) => most = Math.max(most, last - first + 1))
@@ -87,7 +87,7 @@ Item {
             verify(most < fewRows, most + " rows at once")
         }
 
-        function test_entries_stand_one_below_the_other() {
+        function test_entriesStandOneBelowTheOther() {
             list().contentY += 60000
             waitForRendering(page)
             const tops = rows().map(row => topOf(row)).sort((a, b) => a - b)
@@ -95,7 +95,7 @@ Item {
                 compare(tops[row] - tops[row - 1], rows()[0].entryHeight)
         }
 
-        function test_the_entry_that_is_written_in_stays_while_another_part_is_in_sight() {
+        function test_theEntryThatIsWrittenInStaysWhileAnotherPartIsInSight() {
             rowOf(3).takeFocus(-1)
             list().contentY += 60000
             waitForRendering(page)
@@ -104,7 +104,7 @@ Item {
             compare(bench.blocks()[1].todos[3].text, "entry 3x")
         }
 
-        function test_the_caret_goes_to_an_entry_out_of_sight() {
+        function test_theCaretGoesToAnEntryOutOfSight() {
             keyClick(Qt.Key_End, Qt.ControlModifier)
             compare(page.Window.activeFocusItem.getText(0, 99), "foot")
             keyClick(Qt.Key_Up)
@@ -114,7 +114,7 @@ Item {
             compare(page.Window.activeFocusItem.getText(0, 99), "entry 0")
         }
 
-        function test_undo_goes_back_to_an_entry_out_of_sight() {
+        function test_undoGoesBackToAnEntryOutOfSight() {
             rowOf(3).takeFocus(-1)
             keyClick(Qt.Key_X)
             keyClick(Qt.Key_End, Qt.ControlModifier)

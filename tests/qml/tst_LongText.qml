@@ -9,7 +9,7 @@ Item {
     width: 900
     height: 640
 
-    EditorBench { id: bench }
+    EditorFixture { id: bench }
 
     Component {
         id: view
@@ -84,14 +84,14 @@ Item {
             field().forceActiveFocus()
         }
 
-        function test_its_paragraphs_are_short() {
+        function test_itsParagraphsAreShort() {
             open(words)
             const longest = Math.max(...shown().split("\n").map(paragraph => paragraph.length))
             verify(longest <= 8000, longest)
             compare(shown().replace(/\n/g, " "), words)
         }
 
-        function test_an_ordinary_text_is_shown_as_it_is() {
+        function test_anOrdinaryTextIsShownAsItIs() {
             open("every word counts ".repeat(200))
             compare(shown(), stored())
         }
@@ -105,11 +105,11 @@ Item {
             ]
         }
 
-        function test_showing_it_changes_nothing_data() {
+        function test_showingItChangesNothing_data() {
             return longTexts()
         }
 
-        function test_showing_it_changes_nothing(row) {
+        function test_showingItChangesNothing(row) {
             open(row.text)
             bench.advance(10000)
             const saves = bench.saves()
@@ -120,11 +120,11 @@ Item {
             compare(bench.saves(), saves)
         }
 
-        function test_a_letter_in_its_middle_changes_only_that_letter_data() {
+        function test_aLetterInItsMiddleChangesOnlyThatLetter_data() {
             return longTexts()
         }
 
-        function test_a_letter_in_its_middle_changes_only_that_letter(row) {
+        function test_aLetterInItsMiddleChangesOnlyThatLetter(row) {
             open(row.text)
             const middle = row.text.length / 2
             go(middle)
@@ -135,7 +135,7 @@ Item {
             verify(stored() === row.text)
         }
 
-        function test_the_clipboard_gets_the_stored_text() {
+        function test_theClipboardGetsTheStoredText() {
             open(words)
             go(0)
             keyClick(Qt.Key_A, Qt.ControlModifier)
@@ -153,7 +153,7 @@ Item {
             verify(stored() === words)
         }
 
-        function test_the_middle_button_gets_the_stored_text() {
+        function test_theMiddleButtonGetsTheStoredText() {
             open(words)
             go(0)
             keyClick(Qt.Key_A, Qt.ControlModifier)
@@ -165,7 +165,7 @@ Item {
             tryVerify(() => bench.offered() === words.slice(place, place + 3))
         }
 
-        function test_a_key_at_a_break_changes_what_is_stored_there_data() {
+        function test_aKeyAtABreakChangesWhatIsStoredThere_data() {
             return [
                 { tag: "letter before it", key: Qt.Key_X, offset: 0, removed: 0, typed: "x" },
                 { tag: "letter behind it", key: Qt.Key_X, offset: 1, removed: 0, typed: "x" },
@@ -174,7 +174,7 @@ Item {
             ]
         }
 
-        function test_a_key_at_a_break_changes_what_is_stored_there(row) {
+        function test_aKeyAtABreakChangesWhatIsStoredThere(row) {
             open(words)
             const place = firstBreak() + row.offset
             go(place)
@@ -186,7 +186,7 @@ Item {
             compare(shown().length, words.length)
         }
 
-        function test_a_text_can_become_long_and_short_again() {
+        function test_aTextCanBecomeLongAndShortAgain() {
             open("every word counts ".repeat(2000))
             go(10)
             bench.copy(words)
@@ -199,7 +199,7 @@ Item {
             compare(shown(), stored())
         }
 
-        function test_it_grows_without_changing_anything() {
+        function test_itGrowsWithoutChangingAnything() {
             start(lines)
             tryVerify(() => field())
             verify(field().length < lines.length)
@@ -210,7 +210,7 @@ Item {
             compare(bench.saves(), 0)
         }
 
-        function test_a_letter_typed_in_its_beginning_waits_until_it_is_whole() {
+        function test_aLetterTypedInItsBeginningWaitsUntilItIsWhole() {
             start(lines)
             tryVerify(() => field())
             field().takeFocus(3)
@@ -221,7 +221,7 @@ Item {
             compare(field().cursorPosition, 5)
         }
 
-        function test_a_long_paste_is_stored_at_once_and_one_step() {
+        function test_aLongPasteIsStoredAtOnceAndOneStep() {
             open("one\ntwo")
             fields()[1].takeFocus(4)
             wholePaste(lines)
@@ -235,7 +235,7 @@ Item {
             compare(fields()[1].getText(0, 100), "one\ntwo")
         }
 
-        function test_keys_behind_a_long_paste_go_where_it_ends() {
+        function test_keysBehindALongPasteGoWhereItEnds() {
             open("one\ntwo")
             fields()[1].takeFocus(4)
             wholePaste(lines)
@@ -249,7 +249,7 @@ Item {
             tryVerify(() => bench.blocks()[2].content === "ztwo")
         }
 
-        function test_ctrl_z_takes_a_paste_back_that_is_still_being_shown() {
+        function test_ctrlZTakesAPasteBackThatIsStillBeingShown() {
             open("one\ntwo")
             fields()[1].takeFocus(4)
             wholePaste(lines)
@@ -261,7 +261,7 @@ Item {
             compare(stored(), "one\nxtwo")
         }
 
-        function test_ctrl_z_takes_back_keys_that_wait() {
+        function test_ctrlZTakesBackKeysThatWait() {
             open("one\ntwo")
             fields()[1].takeFocus(4)
             wholePaste(lines)
@@ -271,7 +271,7 @@ Item {
             verify(stored() === "one\n" + lines + "two")
         }
 
-        function test_keys_that_wait_are_kept_when_the_page_changes() {
+        function test_keysThatWaitAreKeptWhenThePageChanges() {
             open("one\ntwo")
             fields()[1].takeFocus(4)
             wholePaste(lines)
@@ -280,7 +280,7 @@ Item {
             verify(stored() === "one\n" + lines + "xtwo")
         }
 
-        function test_keys_that_wait_are_kept_when_the_focus_goes() {
+        function test_keysThatWaitAreKeptWhenTheFocusGoes() {
             open("one\ntwo")
             fields()[1].takeFocus(4)
             wholePaste(lines)
@@ -289,7 +289,7 @@ Item {
             verify(stored() === "one\n" + lines + "xtwo")
         }
 
-        function test_a_paste_over_several_blocks_is_shown_in_slices() {
+        function test_aPasteOverSeveralBlocksIsShownInSlices() {
             open("one")
             fields()[1].takeFocus(3)
             wholePaste(lines)
@@ -299,7 +299,7 @@ Item {
             tryVerify(() => bench.blocks()[2].content === lines.slice(lines.indexOf("\n") + 1) + "x", 20000)
         }
 
-        function test_it_tells_how_much_is_shown() {
+        function test_itTellsHowMuchIsShown() {
             start(lines.repeat(13))
             tryVerify(() => field())
             const notes = () => everything(page).filter(item => item.visible && item.text?.startsWith("Showing a long text"))
@@ -311,7 +311,7 @@ Item {
             tryVerify(() => notes().length === 0, 20000)
         }
 
-        function test_one_that_is_too_tall_is_cut() {
+        function test_oneThatIsTooTallIsCut() {
             start(lines)
             tryVerify(() => field())
             field().maximumHeight = 50000
@@ -331,7 +331,7 @@ Item {
             verify(bench.copied().endsWith(lines))
         }
 
-        function test_a_long_word_wraps_anywhere() {
+        function test_aLongWordWrapsAnywhere() {
             open("abcdefghij".repeat(1000))
             compare(field().wrapMode, TextEdit.WrapAnywhere)
             go(0)

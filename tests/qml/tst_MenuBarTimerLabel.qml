@@ -28,7 +28,7 @@ Item {
                 timers: bench.timers
             }
 
-            TimersBench { id: bench }
+            TimersFixture { id: bench }
         }
     }
 
@@ -41,8 +41,8 @@ Item {
 
             anchors.fill: parent
 
-            TopStrip { id: topStrip; width: parent.width; timers: bench.timers }
-            TimersBench { id: bench }
+            TitleBar { id: topStrip; width: parent.width; timers: bench.timers }
+            TimersFixture { id: bench }
         }
     }
 

@@ -254,7 +254,7 @@ Item {
             compare(tabs.map(tab => [tab.Accessible.name, tab.pages, tab.Accessible.selected]),
                     [["Ideas", 1, false], ["Work", 2, true], ["Journal", 1, false]])
             verify(tabs.every(tab => tab.Accessible.role === Accessible.PageTab))
-            compare(all(tabs[1], item => item instanceof PlaceDots)[0].taken, 2)
+            compare(all(tabs[1], item => item instanceof CapacityDots)[0].taken, 2)
             mouseClick(tabs[2])
             compare(titles(), ["Diary"])
         }

@@ -9,7 +9,7 @@ Item {
     width: 900
     height: 640
 
-    EditorBench { id: bench }
+    EditorFixture { id: bench }
 
     Component {
         id: view
@@ -119,7 +119,7 @@ Item {
             release(saying(to), end)
         }
 
-        function test_shift_and_a_key_select_over_blocks_data() {
+        function test_shiftAndAKeySelectOverBlocks_data() {
             return [
                 { from: "first@3", keys: "Shift+Right Shift+Right Shift+Right Shift+Right", selected: "st|s|" },
                 { from: "second@1", keys: "Shift+Left Shift+Left Shift+Left", selected: "t|s|" },
@@ -137,7 +137,7 @@ Item {
             ].map(row => Object.assign(row, { tag: row.from + " " + row.keys }))
         }
 
-        function test_shift_and_a_key_select_over_blocks(row) {
+        function test_shiftAndAKeySelectOverBlocks(row) {
             open(three())
             const [text, caret] = row.from.split("@")
             go(saying(text), Number(caret))
@@ -145,7 +145,7 @@ Item {
             compare(selected(), row.selected)
         }
 
-        function test_a_key_without_shift_gives_the_selection_up_data() {
+        function test_aKeyWithoutShiftGivesTheSelectionUp_data() {
             return [
                 { tag: "Left", to: "first@2" },
                 { tag: "Right", to: "second@3" },
@@ -157,7 +157,7 @@ Item {
             ]
         }
 
-        function test_a_key_without_shift_gives_the_selection_up(row) {
+        function test_aKeyWithoutShiftGivesTheSelectionUp(row) {
             open(three())
             go(saying("first"), 2)
             press("Shift+Right Shift+Right Shift+Right Shift+Right Shift+Right Shift+Right Shift+Right")
@@ -167,7 +167,7 @@ Item {
             compare(field.getText(0, 99) + "@" + field.cursorPosition, row.to)
         }
 
-        function test_things_without_text_are_selected_as_a_whole() {
+        function test_thingsWithoutTextAreSelectedAsAWhole() {
             open(everyKind())
             go(saying("body"), 2)
             press("Shift+Right Shift+Right Shift+Right")
@@ -180,7 +180,7 @@ Item {
             compare(selected(), "|dy|quote|||code")
         }
 
-        function test_select_all_takes_the_text_and_then_the_page() {
+        function test_selectAllTakesTheTextAndThenThePage() {
             open(everyKind())
             go(saying("body"), 1)
             press("Ctrl+A")
@@ -194,14 +194,14 @@ Item {
             compare(bench.copied(), "Head\nbody\n---\nquote\nmilk\nrye\ncode")
         }
 
-        function test_an_empty_text_selects_the_page_at_once() {
+        function test_anEmptyTextSelectsThePageAtOnce() {
             open([{ type: "textLarge", content: "first" }, { type: "textSmall" }])
             go(fields()[1], 0)
             press("Ctrl+A")
             compare(selected(), "first|")
         }
 
-        function test_a_drag_selects_over_blocks_data() {
+        function test_aDragSelectsOverBlocks_data() {
             return [
                 { tag: "down", from: "first", start: 2, to: "third", end: 2, selected: "rst|second|th" },
                 { tag: "up", from: "third", start: 2, to: "first", end: 2, selected: "rst|second|th" },
@@ -209,7 +209,7 @@ Item {
             ]
         }
 
-        function test_a_drag_selects_over_blocks(row) {
+        function test_aDragSelectsOverBlocks(row) {
             open(three())
             select(row.from, row.start, row.to, row.end)
             compare(selected(), row.selected)
@@ -217,7 +217,7 @@ Item {
             compare(page.Window.activeFocusItem.cursorPosition, row.end)
         }
 
-        function test_a_drag_that_comes_back_selects_in_its_text_again() {
+        function test_aDragThatComesBackSelectsInItsTextAgain() {
             open(three())
             drag(saying("first"), 2, saying("third"), 2)
             const back = pointAt(saying("first"), 4)
@@ -226,11 +226,11 @@ Item {
             compare(selected(), "rs||")
         }
 
-        function test_a_double_click_and_drag_keeps_the_whole_word_data() {
+        function test_aDoubleClickAndDragKeepsTheWholeWord_data() {
             return [{ tag: "down", to: "third", selected: "|word below|t" }, { tag: "up", to: "first", selected: "irst|a word|" }]
         }
 
-        function test_a_double_click_and_drag_keeps_the_whole_word(row) {
+        function test_aDoubleClickAndDragKeepsTheWholeWord(row) {
             open([{ type: "textLarge", content: "first" }, { type: "textSmall", content: "a word below" }, { type: "quote", content: "third" }])
             const a = pointAt(saying("a word"), 4)
             const b = pointAt(saying(row.to), 1)
@@ -241,7 +241,7 @@ Item {
             compare(selected(), row.selected)
         }
 
-        function test_a_click_with_shift_selects_up_to_it() {
+        function test_aClickWithShiftSelectsUpToIt() {
             open(three())
             go(saying("first"), 2)
             const there = pointAt(saying("third"), 3)
@@ -252,7 +252,7 @@ Item {
             compare(selected(), "rst|sec|")
         }
 
-        function test_a_click_gives_the_selection_up() {
+        function test_aClickGivesTheSelectionUp() {
             open(three())
             select("first", 2, "third", 2)
             wait(Application.styleHints.mouseDoubleClickInterval)
@@ -262,7 +262,7 @@ Item {
             compare(saying("second").cursorPosition, 3)
         }
 
-        function test_a_drag_over_the_edge_scrolls() {
+        function test_aDragOverTheEdgeScrolls() {
             open(Array.from({ length: 30 }, (_, i) => ({ type: "textSmall", content: i + ". line" })))
             const from = pointAt(saying("2. "), 2)
             mousePress(page, from.x, from.y)
@@ -275,7 +275,7 @@ Item {
             verify(bench.copied().includes("\n28. line\n2"))
         }
 
-        function test_what_is_selected_goes_and_the_caret_stays_at_the_seam_data() {
+        function test_whatIsSelectedGoesAndTheCaretStaysAtTheSeam_data() {
             return [
                 { tag: "Backspace", contents: "fiXrd", kinds: "textLarge" },
                 { tag: "Delete", contents: "fiXrd", kinds: "textLarge" },
@@ -285,7 +285,7 @@ Item {
             ]
         }
 
-        function test_what_is_selected_goes_and_the_caret_stays_at_the_seam(row) {
+        function test_whatIsSelectedGoesAndTheCaretStaysAtTheSeam(row) {
             open(three())
             select("first", 2, "third", 3)
             press(row.tag)
@@ -295,7 +295,7 @@ Item {
             compare(selected().replace("|", ""), "")
         }
 
-        function test_undo_brings_it_back_in_one_step() {
+        function test_undoBringsItBackInOneStep() {
             open(three())
             select("first", 2, "third", 3)
             press("Backspace")
@@ -304,7 +304,7 @@ Item {
             compare(contents(), "first|second|third")
         }
 
-        function test_it_is_copied_as_text_and_markdown() {
+        function test_itIsCopiedAsTextAndMarkdown() {
             open(everyKind())
             select("Head", 2, "code", 2)
             press("Ctrl+C")
@@ -313,7 +313,7 @@ Item {
             compare(selected(), "ad|body|quote|||co")
         }
 
-        function test_text_is_pasted_over_it() {
+        function test_textIsPastedOverIt() {
             open(three())
             bench.copy("one\ntwo")
             select("first", 2, "third", 3)
@@ -323,7 +323,7 @@ Item {
             compare(contents(), "fione|twoXrd")
         }
 
-        function test_copy_cut_and_paste_within_a_text_are_its_own() {
+        function test_copyCutAndPasteWithinATextAreItsOwn() {
             open(three())
             go(saying("second"), 0)
             press("Shift+Right Shift+Right Ctrl+X")
@@ -332,7 +332,7 @@ Item {
             compare(contents(), "first|condse|third")
         }
 
-        function test_return_over_it_splits_after_a_line_break_data() {
+        function test_returnOverItSplitsAfterALineBreak_data() {
             return [
                 { tag: "Return", key: Qt.Key_Return, modifiers: Qt.NoModifier, contents: "o\nfi|Xird" },
                 { tag: "Enter", key: Qt.Key_Enter, modifiers: Qt.KeypadModifier, contents: "o\nfi|Xird" },
@@ -340,7 +340,7 @@ Item {
             ]
         }
 
-        function test_return_over_it_splits_after_a_line_break(row) {
+        function test_returnOverItSplitsAfterALineBreak(row) {
             open([{ type: "textSmall", content: "o\nfirst" }, { type: "textSmall", content: "third" }])
             select("o", 4, "third", 2)
             keyClick(row.key, row.modifiers)
@@ -350,7 +350,7 @@ Item {
             compare(contents(), "o\nfirst|third")
         }
 
-        function test_a_picture_is_copied_cut_and_pasted() {
+        function test_aPictureIsCopiedCutAndPasted() {
             open([{ type: "textLarge", content: "first" }, { type: "image", picture: "gold" },
                 { type: "textSmall", content: "third" }])
             bench.copy("kept")
@@ -364,7 +364,7 @@ Item {
             compare(kinds(), "textLarge textSmall image textSmall")
         }
 
-        function test_a_picture_is_pasted_over_it() {
+        function test_aPictureIsPastedOverIt() {
             open(three())
             bench.copyPicture("gold")
             select("first", 2, "third", 3)
@@ -373,7 +373,7 @@ Item {
             compare(contents(), "fird|")
         }
 
-        function test_all_of_it_is_offered_to_the_middle_button() {
+        function test_allOfItIsOfferedToTheMiddleButton() {
             open(three())
             select("first", 2, "third", 3)
             compare(bench.offered(), "rst\nsecond\nthi")
@@ -384,7 +384,7 @@ Item {
             compare(bench.offered(), "first\nsecond\nthird")
         }
 
-        function test_the_middle_button_pastes_where_it_is_let_go() {
+        function test_theMiddleButtonPastesWhereItIsLetGo() {
             open(three())
             bench.offer("x\u2028y")
             const place = saying("second").positionToRectangle(3)
@@ -394,14 +394,14 @@ Item {
             compare(contents(), "first|secx\u2028yZond|third")
         }
 
-        function test_shift_click_on_a_picture_extends_to_all_of_it_data() {
+        function test_shiftClickOnAPictureExtendsToAllOfIt_data() {
             return [
                 { tag: "from above", from: "first", caret: 2, left: "fi|third" },
                 { tag: "from below", from: "third", caret: 2, left: "first|ird" },
             ]
         }
 
-        function test_shift_click_on_a_picture_extends_to_all_of_it(row) {
+        function test_shiftClickOnAPictureExtendsToAllOfIt(row) {
             open([{ type: "textLarge", content: "first" }, { type: "image", picture: "gold" },
                 { type: "textSmall", content: "third" }])
             tryVerify(() => everything(page).some(item => item instanceof BlockPicture && item.ready))
@@ -416,7 +416,7 @@ Item {
             compare(contents(), row.left)
         }
 
-        function test_an_input_method_types_over_it() {
+        function test_anInputMethodTypesOverIt() {
             open(three())
             select("first", 2, "third", 3)
             bench.compose("ni")
@@ -424,14 +424,14 @@ Item {
             compare(contents(), "fi你rd")
         }
 
-        function test_a_selection_of_entries_joins_them() {
+        function test_aSelectionOfEntriesJoinsThem() {
             open([{ type: "sticky", todos: [{ text: "milk", done: false }, { text: "rye", done: true }] }])
             select("milk", 2, "rye", 1)
             press("Delete")
             compare(bench.blocks()[0].todos, [{ done: false, text: "miye" }])
         }
 
-        function test_a_menu_leaves_the_selection() {
+        function test_aMenuLeavesTheSelection() {
             open(three())
             select("first", 2, "third", 2)
             press("Menu")
@@ -443,7 +443,7 @@ Item {
             compare(contents(), "fiird")
         }
 
-        function test_the_selection_in_one_text_goes_when_another_is_entered() {
+        function test_theSelectionInOneTextGoesWhenAnotherIsEntered() {
             open(three())
             go(saying("first"), 0)
             press("Shift+End")
@@ -453,21 +453,21 @@ Item {
             compare(selected(), "||")
         }
 
-        function test_walking_on_with_tab_gives_the_selection_up() {
+        function test_walkingOnWithTabGivesTheSelectionUp() {
             open(three())
             select("first", 2, "third", 2)
             press("Tab")
             compare(selected(), "||")
         }
 
-        function test_tab_in_code_leaves_what_was_selected_in_place() {
+        function test_tabInCodeLeavesWhatWasSelectedInPlace() {
             open([{ type: "textSmall", content: "first" }, { type: "code", content: "code" }])
             select("first", 2, "code", 2)
             press("Tab")
             compare(contents(), "first|co\tde")
         }
 
-        function test_undo_brings_the_caret_back_to_where_the_selection_ended() {
+        function test_undoBringsTheCaretBackToWhereTheSelectionEnded() {
             open(three())
             select("first", 2, "third", 3)
             press("Delete Ctrl+Z")
@@ -476,7 +476,7 @@ Item {
             compare(contents(), "first|second|thiXrd")
         }
 
-        function test_an_empty_text_in_the_middle_is_seen_selected() {
+        function test_anEmptyTextInTheMiddleIsSeenSelected() {
             open([{ type: "textLarge", content: "first" }, { type: "textSmall" }, { type: "quote", content: "third" }])
             const sliver = () => everything(fields()[1]).find(item => item.width === Metrics.space6 && item.color === FirePalette.selection)
             verify(!sliver().visible)

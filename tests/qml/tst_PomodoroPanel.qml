@@ -13,7 +13,7 @@ TestCase {
     Component {
         id: timers
 
-        TimersBench {}
+        TimersFixture {}
     }
 
     function init() : void {

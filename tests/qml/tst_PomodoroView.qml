@@ -30,7 +30,7 @@ Item {
                 panel: bench.panel
             }
 
-            TimersBench { id: bench }
+            TimersFixture { id: bench }
         }
     }
 

@@ -10,7 +10,7 @@ Item {
     width: 900
     height: 640
 
-    EditorBench { id: bench }
+    EditorFixture { id: bench }
 
     Component {
         id: view
@@ -67,7 +67,7 @@ Item {
             return page.Window.activeFocusItem
         }
 
-        function test_keys_go_on_data() {
+        function test_keysGoOn_data() {
             return [
                 { keys: "PgDown PgDown PgDown PgDown", text: "paragraph 39" },
                 { keys: "Ctrl+End PgUp", text: /^paragraph [12]\d$/ },
@@ -78,19 +78,19 @@ Item {
             ].map(row => Object.assign(row, { tag: row.keys }))
         }
 
-        function test_keys_go_on(row) {
+        function test_keysGoOn(row) {
             press(row.keys)
             verify(focused().text.match(row.text) !== null, focused().text)
         }
 
-        function test_the_whole_page_is_selected() {
+        function test_theWholePageIsSelected() {
             press("Ctrl+End Ctrl+A Ctrl+A Ctrl+C")
             verify(bench.copied().startsWith("Head\n"))
             verify(bench.copied().includes("milk"))
             verify(bench.copied().endsWith("paragraph 39"))
         }
 
-        function test_a_click_at_the_end_and_keys_go_on() {
+        function test_aClickAtTheEndAndKeysGoOn() {
             for (let turn = 0; turn < 60; ++turn)
                 mouseWheel(page, page.width / 2, page.height / 2, 0, -360)
             wait(0)
@@ -102,11 +102,11 @@ Item {
             compare(bench.blocks().length, 41)
         }
 
-        function test_a_selection_reaches_to_the_other_end_data() {
+        function test_aSelectionReachesToTheOtherEnd_data() {
             return [{ tag: "Ctrl+Home Ctrl+Shift+End", head: "paragraph 39" }, { tag: "Ctrl+End Ctrl+Shift+Home", head: "Head" }]
         }
 
-        function test_a_selection_reaches_to_the_other_end(row) {
+        function test_aSelectionReachesToTheOtherEnd(row) {
             press(row.tag)
             const head = page.Window.activeFocusItem
             compare(head.text, row.head)
@@ -116,7 +116,7 @@ Item {
             verify(bench.copied().endsWith("paragraph 39"), bench.copied())
         }
 
-        function test_a_row_that_scrolls_into_a_selection_shows_it() {
+        function test_aRowThatScrollsIntoASelectionShowsIt() {
             press("Ctrl+A")
             press("Ctrl+A")
             mouseWheel(page, page.width / 2, page.height / 2, 0, 12000)
@@ -127,7 +127,7 @@ Item {
             compare(fieldSaying("paragraph 39").selectedText, "paragraph 39")
         }
 
-        function test_the_checklist_is_found_again() {
+        function test_theChecklistIsFoundAgain() {
             press("Ctrl+End Ctrl+Home Down")
             compare(focused().text, "milk")
             press("X")

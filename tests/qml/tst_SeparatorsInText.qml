@@ -10,7 +10,7 @@ Item {
     width: 900
     height: 1600 // all kinds of blocks in sight
 
-    EditorBench { id: bench }
+    EditorFixture { id: bench }
 
     Component {
         id: view
@@ -76,21 +76,21 @@ Item {
                 ?? (block.todos ? block.todos.map(todo => todo.text) : block.content)))
         }
 
-        function test_showing_a_text_does_not_change_it_data() {
+        function test_showingATextDoesNotChangeIt_data() {
             return separators()
         }
 
-        function test_showing_a_text_does_not_change_it(row) {
+        function test_showingATextDoesNotChangeIt(row) {
             open(everyKind(row.text))
             compare(texts(), Array(6).fill(row.text))
             compare(fields().length, 6)
         }
 
-        function test_a_letter_typed_is_all_that_changes_data() {
+        function test_aLetterTypedIsAllThatChanges_data() {
             return separators()
         }
 
-        function test_a_letter_typed_is_all_that_changes(row) {
+        function test_aLetterTypedIsAllThatChanges(row) {
             open(everyKind(row.text))
             for (const field of fields()) {
                 field.takeFocus(row.text.length)
@@ -101,11 +101,11 @@ Item {
             compare(texts(), Array(6).fill("y" + row.text + "x"))
         }
 
-        function test_return_over_a_separator_splits_there_data() {
+        function test_returnOverASeparatorSplitsThere_data() {
             return separators().slice(0, 3)
         }
 
-        function test_return_over_a_separator_splits_there(row) {
+        function test_returnOverASeparatorSplitsThere(row) {
             open([{ type: "textSmall", content: row.text }])
             fields()[0].takeFocus(0)
             fields()[0].select(3, 7)
@@ -113,21 +113,21 @@ Item {
             compare(texts(), ["one", ""])
         }
 
-        function test_separators_are_drawn_as_line_breaks_data() {
+        function test_separatorsAreDrawnAsLineBreaks_data() {
             return separators().slice(0, 4)
         }
 
-        function test_separators_are_drawn_as_line_breaks(row) {
+        function test_separatorsAreDrawnAsLineBreaks(row) {
             open([{ type: "textSmall", content: row.text }, { type: "textSmall", content: "one\ntwo" }])
             compare(fields()[0].lineCount, 2)
             compare(fields()[0].height, fields()[1].height)
         }
 
-        function test_the_middle_button_gets_the_stored_text_data() {
+        function test_theMiddleButtonGetsTheStoredText_data() {
             return separators()
         }
 
-        function test_the_middle_button_gets_the_stored_text(row) {
+        function test_theMiddleButtonGetsTheStoredText(row) {
             open([{ type: "textLarge", content: "head" }, { type: "textSmall", content: row.text }])
             const field = fields()[1]
             field.takeFocus(0)
@@ -135,7 +135,7 @@ Item {
             tryVerify(() => bench.offered() === row.text)
         }
 
-        function test_pasted_separators_stay_as_they_are_data() {
+        function test_pastedSeparatorsStayAsTheyAre_data() {
             return [
                 { tag: "U+2028", text: "1\u20282" },
                 { tag: "U+2029", text: "1\u20292" },
@@ -144,7 +144,7 @@ Item {
             ]
         }
 
-        function test_pasted_separators_stay_as_they_are(row) {
+        function test_pastedSeparatorsStayAsTheyAre(row) {
             open([{ type: "textLarge", content: "head" }, { type: "textSmall", content: "body" }])
             bench.copy(row.text)
             fields()[1].takeFocus(2)
@@ -154,11 +154,11 @@ Item {
             compare(texts(), ["head", "bo" + row.text + "xdy"])
         }
 
-        function test_text_pasted_over_a_crossing_selection_comes_in_once_data() {
-            return test_pasted_separators_stay_as_they_are_data()
+        function test_textPastedOverACrossingSelectionComesInOnce_data() {
+            return test_pastedSeparatorsStayAsTheyAre_data()
         }
 
-        function test_text_pasted_over_a_crossing_selection_comes_in_once(row) {
+        function test_textPastedOverACrossingSelectionComesInOnce(row) {
             open([{ type: "textLarge", content: "head" }, { type: "textSmall", content: "body" }])
             bench.copy(row.text)
             fields()[0].takeFocus(2)

@@ -38,7 +38,7 @@ Item {
             }
 
             // Stands last so that it outlives the views.
-            TasksBench { id: bench }
+            TasksFixture { id: bench }
         }
     }
 
@@ -110,7 +110,7 @@ Item {
             Motion.reduced = false
         }
 
-        function test_without_an_open_document_the_clock_comes_first() {
+        function test_withoutAnOpenDocumentTheClockComesFirst() {
             open([["Closed"]])
             const pill = kind(DocumentPill)
             verify(pill.y < kind(ClockCard).y)
@@ -119,14 +119,14 @@ Item {
             tryCompare(kind(ClockCard), "y", 0)
         }
 
-        function test_the_pill_has_no_singular() {
+        function test_thePillHasNoSingular() {
             open([["One"]])
             compare(kind(DocumentPill).text, "1 words · Just now")
             bench.passMinutes(5)
             compare(kind(DocumentPill).text, "1 words · 5m ago")
         }
 
-        function test_the_cards_stand_in_their_order() {
+        function test_theCardsStandInTheirOrder() {
             open([["Page", "-do"]])
             const order = [DocumentPill, ClockCard, TasksCard, WordGoalCard, StreakCard, CalendarCard]
             for (let i = 1; i < order.length; ++i) {
@@ -135,7 +135,7 @@ Item {
             }
         }
 
-        function test_the_clock_rolls_with_the_minute() {
+        function test_theClockRollsWithTheMinute() {
             open([])
             const clock = kind(ClockCard)
             compare(digits(clock), "7:42")
@@ -164,7 +164,7 @@ Item {
             return find(card, item => item instanceof CountBadge)
         }
 
-        function test_nothing_scheduled_is_told_in_words() {
+        function test_nothingScheduledIsToldInWords() {
             open([])
             verify(text("UP NEXT"))
             verify(text("Nothing scheduled"))
@@ -173,7 +173,7 @@ Item {
             verify(text("Nothing scheduled"))
         }
 
-        function test_three_of_five_events_are_shown() {
+        function test_threeOfFiveEventsAreShown() {
             open([])
             bench.tellEvents(["200 Dentist", "-10 Walk", "20 ", "300 Train", "100 Tea with everybody there is at the table by the window"])
             compare(rows(), ["Walk, 7:32 AM", "Untitled, 8:02 AM", "Tea with everybody there is at the table by the window, 9:22 AM"])
@@ -184,7 +184,7 @@ Item {
             verify(title.mapToItem(kind(CalendarCard), 0, 0).x + title.width <= kind(CalendarCard).width)
         }
 
-        function test_the_card_grows_with_its_events() {
+        function test_theCardGrowsWithItsEvents() {
             open([])
             const card = kind(CalendarCard)
             const height = card.height
@@ -192,13 +192,13 @@ Item {
             tryVerify(() => card.height > height + Metrics.eventBarHeight)
         }
 
-        function test_no_tasks_are_told_in_words() {
+        function test_noTasksAreToldInWords() {
             open([["Page"], ["Other"]])
             verify(text("No tasks yet."))
             verify(!kind(CountBadge))
         }
 
-        function test_tasks_stand_under_the_title_of_their_page() {
+        function test_tasksStandUnderTheTitleOfTheirPage() {
             open([["Packing list", "-wool socks", "xpens"], ["Spring issue", "-cover"]])
             verify(!text("No tasks yet."))
             verify(text("PACKING LIST").mapToItem(view, 0, 0).y < text("wool socks").mapToItem(view, 0, 0).y)
@@ -211,7 +211,7 @@ Item {
             return Array.from(text(words).children).filter(child => child instanceof Rectangle)
         }
 
-        function test_a_done_task_is_struck_through_in_a_colour_of_its_own() {
+        function test_aDoneTaskIsStruckThroughInAColourOfItsOwn() {
             const wordy = "write to everybody who has ever asked about the old house by the lake and never got an answer"
             open([["Packing list", "-socks", "xpens", "x" + wordy]])
             compare(strikes("socks").length, 0)
@@ -229,7 +229,7 @@ Item {
             tryVerify(() => strikes("socks").length === 1)
         }
 
-        function test_the_badge_goes_with_the_last_open_task() {
+        function test_theBadgeGoesWithTheLastOpenTask() {
             open([["Packing list", "-socks", "xpens"]])
             mouseClick(called("socks"))
             compare(bench.tasksOf(0), ["xsocks", "xpens"])
@@ -240,7 +240,7 @@ Item {
             compare(kind(CountBadge).count, 1)
         }
 
-        function test_the_other_buttons_of_the_pointer_change_no_task() {
+        function test_theOtherButtonsOfThePointerChangeNoTask() {
             open([["Packing list", "-socks", "xpens"]])
             for (const button of [Qt.RightButton, Qt.MiddleButton]) {
                 mouseClick(called("socks"), 5, 5, button)
@@ -249,7 +249,7 @@ Item {
             compare(bench.tasksOf(0), ["-socks", "xpens"])
         }
 
-        function test_a_tick_is_what_the_store_says() {
+        function test_aTickIsWhatTheStoreSays() {
             open([["Packing list", "-socks"]])
             const toggle = called("socks")
             compare(toggle.Accessible.checked, false)
@@ -258,7 +258,7 @@ Item {
             compare(toggle.Accessible.role, Accessible.CheckBox)
         }
 
-        function test_a_task_is_deleted_and_shrinks_away() {
+        function test_aTaskIsDeletedAndShrinksAway() {
             open([["Packing list", "-socks", "-pens"]])
             const height = list().contentHeight
             mouseClick(called("Delete socks"))
@@ -270,7 +270,7 @@ Item {
             compare(bench.tasksOf(0), [])
         }
 
-        function test_a_new_task_goes_to_the_open_page() {
+        function test_aNewTaskGoesToTheOpenPage() {
             open([["Packing list"]])
             type("  socks ")
             keyClick(Qt.Key_Return)
@@ -279,7 +279,7 @@ Item {
             tryVerify(() => called("  socks "))
         }
 
-        function test_blanks_stay_in_the_field() {
+        function test_blanksStayInTheField() {
             open([["Packing list"]])
             type("   ")
             keyClick(Qt.Key_Return)
@@ -287,7 +287,7 @@ Item {
             compare(field().text, "   ")
         }
 
-        function test_a_new_task_without_an_open_page_is_dropped() {
+        function test_aNewTaskWithoutAnOpenPageIsDropped() {
             open([["Packing list"]])
             bench.closeDocument()
             type("socks")
@@ -296,7 +296,7 @@ Item {
             compare(field().text, "")
         }
 
-        function test_the_keyboard_ticks_walks_and_deletes() {
+        function test_theKeyboardTicksWalksAndDeletes() {
             open([["Packing list", "-socks", "-pens"], ["Spring issue", "-cover"]])
             field().forceActiveFocus()
             keyClick(Qt.Key_Tab)
@@ -322,7 +322,7 @@ Item {
             tryVerify(() => field().activeFocus)
         }
 
-        function test_the_list_ends_at_its_height_and_makes_only_rows_in_sight() {
+        function test_theListEndsAtItsHeightAndMakesOnlyRowsInSight() {
             const tasks = []
             for (let i = 0; i < 10000; ++i)
                 tasks.push("-task " + i)
@@ -335,7 +335,7 @@ Item {
             tryVerify(() => text("task 9999"))
         }
 
-        function test_a_row_fades_with_the_part_that_is_in_sight() {
+        function test_aRowFadesWithThePartThatIsInSight() {
             const tasks = []
             for (let i = 0; i < 20; ++i)
                 tasks.push("-task " + i)
@@ -349,14 +349,14 @@ Item {
             tryVerify(() => opacityOf("task 19") === 1)
         }
 
-        function test_long_tasks_take_two_lines_and_no_more() {
+        function test_longTasksTakeTwoLinesAndNoMore() {
             open([["Page", "-" + "a long errand ".repeat(20)]])
             const words = find(list(), item => item instanceof Text && item.text.startsWith("a long"))
             compare(words.lineCount, 2)
             verify(words.truncated)
         }
 
-        function test_the_goal_fills_and_stays_full_data() {
+        function test_theGoalFillsAndStaysFull_data() {
             return [
                 { words: 0, part: 0 },
                 { words: 250, part: 0.5 },
@@ -365,22 +365,22 @@ Item {
             ]
         }
 
-        function test_the_goal_fills_and_stays_full(row: var) {
+        function test_theGoalFillsAndStaysFull(row: var) {
             open([["word ".repeat(row.words)]])
             compare(digits(kind(WordGoalCard)), String(row.words))
             verify(text("/ 500"))
-            compare(kind(GoalBar).part, row.part)
+            compare(kind(GoalProgressBar).part, row.part)
         }
 
-        function test_the_bar_eases_to_a_new_length() {
+        function test_theBarEasesToANewLength() {
             open([["word ".repeat(100)]])
-            compare(kind(GoalBar).part, 0.2)
+            compare(kind(GoalProgressBar).part, 0.2)
             bench.add("word ".repeat(300))
-            verify(kind(GoalBar).part < 0.5)
-            tryCompare(kind(GoalBar), "part", 0.8)
+            verify(kind(GoalProgressBar).part < 0.5)
+            tryCompare(kind(GoalProgressBar), "part", 0.8)
         }
 
-        function test_a_streak_of_one_is_a_day() {
+        function test_aStreakOfOneIsADay() {
             open([])
             compare(digits(kind(StreakCard)), "1")
             verify(text("day"))
@@ -390,7 +390,7 @@ Item {
             verify(text("days"))
         }
 
-        function test_a_low_window_scrolls_to_what_has_the_keyboard() {
+        function test_aLowWindowScrollsToWhatHasTheKeyboard() {
             open([["Page", "-one", "-two", "-three"]])
             view.height = 260
             const scroll = find(view, item => item instanceof Flickable)
@@ -404,7 +404,7 @@ Item {
             verify(scroll.contentY > 0)
         }
 
-        function test_the_flame_stands_still_where_it_is_not_seen() {
+        function test_theFlameStandsStillWhereItIsNotSeen() {
             open([["Page", "-one", "-two", "-three"]])
             const flame = kind(AnimatedFlame)
             verify(flame.seen)

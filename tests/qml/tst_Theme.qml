@@ -52,7 +52,7 @@ TestCase {
         verify(mover.furthest > 103)
     }
 
-    function test_facesKeepTheirFractionsOfAPixel() {
+    function test_fontsKeepTheirFractionsOfAPixel() {
         fuzzyCompare(Typography.body.pointSize * Typography.pixelsPerPoint(), 16.5, 0.01)
         compare(Typography.heading.weight, Font.Bold)
     }

@@ -53,7 +53,7 @@ Item {
                 panel: bench.panel
             }
 
-            TimersBench { id: bench }
+            TimersFixture { id: bench }
         }
     }
 

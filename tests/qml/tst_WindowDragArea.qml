@@ -43,7 +43,7 @@ TestCase {
         mouseRelease(area, 120, 100)
     }
 
-    function test_aHandThatShakesDoesNotMoveTheWindow() : void {
+    function test_smallPointerMovementDoesNotMoveTheWindow() : void {
         mousePress(area, 100, 100)
         mouseMove(area, 103, 102)
         compare(dragged.count, 0)

@@ -9,7 +9,7 @@ Item {
     width: 900
     height: 640
 
-    EditorBench { id: bench }
+    EditorFixture { id: bench }
 
     FocusScope {
         id: stage
@@ -87,14 +87,14 @@ Item {
 
         // Undo
 
-        function test_undo_and_redo_by_key_data() {
+        function test_undoAndRedoByKey_data() {
             return [
                 { tag: "Ctrl+Z, Ctrl+Shift+Z", redo: "Ctrl+Shift+Z" },
                 { tag: "Ctrl+Z, Ctrl+Y", redo: "Ctrl+Y" },
             ]
         }
 
-        function test_undo_and_redo_by_key(row) {
+        function test_undoAndRedoByKey(row) {
             open([{ type: "textLarge" }])
             type("one two")
             press(["Return"])
@@ -111,7 +111,7 @@ Item {
             compare(written(), "textLarge:one two textSmall:three!")
         }
 
-        function test_undo_brings_the_caret_back_to_where_it_was() {
+        function test_undoBringsTheCaretBackToWhereItWas() {
             open([{ type: "textLarge", content: "" }, { type: "textSmall", content: "onetwo" }])
             go(1, 3)
             press(["Return"])
@@ -121,7 +121,7 @@ Item {
             compare(written(), "textLarge textSmall:oneXtwo")
         }
 
-        function test_undo_of_a_shortcut_gives_back_what_was_typed() {
+        function test_undoOfAShortcutGivesBackWhatWasTyped() {
             open([{ type: "textLarge", content: "t" }, { type: "textSmall" }])
             type("# ")
             compare(written(), "textLarge:t textLarge")
@@ -132,7 +132,7 @@ Item {
             compare(written(), "textLarge:t textSmall")
         }
 
-        function test_undo_works_in_an_entry() {
+        function test_undoWorksInAnEntry() {
             open([{ type: "sticky", todos: [{ text: "milk", done: false }] }])
             go(0, 4)
             type("s")
@@ -144,7 +144,7 @@ Item {
             compare(written(), "sticky[milk]")
         }
 
-        function test_undo_brings_a_deleted_block_back_with_the_caret_in_it() {
+        function test_undoBringsADeletedBlockBackWithTheCaretInIt() {
             open([{ type: "textLarge", content: "t" }, { type: "textSmall", content: "text" }])
             go(1, 2)
             press(["Menu"])
@@ -159,14 +159,14 @@ Item {
 
         // Joining
 
-        function test_backspace_at_the_start_joins_data() {
+        function test_backspaceAtTheStartJoins_data() {
             return [
                 { tag: "text", above: { type: "quote", content: "ab" }, joined: "quote:abXcd" },
                 { tag: "checklist", above: { type: "sticky", todos: [{ text: "ab", done: false }] }, joined: "sticky[abXcd]" },
             ]
         }
 
-        function test_backspace_at_the_start_joins(row) {
+        function test_backspaceAtTheStartJoins(row) {
             open([row.above, { type: "textSmall", content: "cd" }])
             go(1, 0)
             press(["Backspace"])
@@ -177,7 +177,7 @@ Item {
             compare(focused(), fields()[1])
         }
 
-        function test_backspace_first_drops_the_style() {
+        function test_backspaceFirstDropsTheStyle() {
             open([{ type: "textSmall", content: "ab" }, { type: "code", content: "cd" }])
             go(1, 0)
             press(["Backspace"])
@@ -186,7 +186,7 @@ Item {
             compare(written(), "textSmall:abcd")
         }
 
-        function test_delete_at_the_end_joins() {
+        function test_deleteAtTheEndJoins() {
             open([{ type: "textSmall", content: "ab" }, { type: "textLarge", content: "cd" }])
             go(0, -1)
             press(["Delete"])
@@ -194,7 +194,7 @@ Item {
             compare(written(), "textSmall:abXcd")
         }
 
-        function test_keys_within_a_text_join_nothing() {
+        function test_keysWithinATextJoinNothing() {
             open([{ type: "textSmall", content: "ab" }, { type: "textSmall", content: "cd" }])
             go(1, 1)
             press(["Backspace"])
@@ -208,11 +208,11 @@ Item {
             compare(written(), "textSmall:b textSmall")
         }
 
-        function test_a_divider_is_stepped_onto_and_removed_by_the_next_key_data() {
+        function test_aDividerIsSteppedOntoAndRemovedByTheNextKey_data() {
             return [{ tag: "divider", type: "divider" }, { tag: "picture", type: "image" }]
         }
 
-        function test_a_divider_is_stepped_onto_and_removed_by_the_next_key(row) {
+        function test_aDividerIsSteppedOntoAndRemovedByTheNextKey(row) {
             open([{ type: "textSmall", content: "ab" }, { type: row.type }, { type: "textSmall", content: "cd" }])
             go(1, 0)
             press(["Backspace"])
@@ -226,7 +226,7 @@ Item {
             compare(written(), "textSmall:ab " + row.type + " textSmall:cd")
         }
 
-        function test_backspace_in_an_entry_joins_and_at_last_leaves_the_checklist() {
+        function test_backspaceInAnEntryJoinsAndAtLastLeavesTheChecklist() {
             open([{ type: "sticky", todos: [{ text: "a", done: false }, { text: "b", done: true }] }])
             go(1, 0)
             press(["Backspace"])
@@ -240,7 +240,7 @@ Item {
 
         // Lines
 
-        function test_shift_return_breaks_the_line_and_return_splits() {
+        function test_shiftReturnBreaksTheLineAndReturnSplits() {
             open([{ type: "textLarge", content: "" }, { type: "textSmall", content: "onetwo" }])
             go(1, 3)
             press(["Shift+Return"])
@@ -251,7 +251,7 @@ Item {
             compare(written(), "textLarge textSmall:one/X textSmall:Ytwo")
         }
 
-        function test_code_goes_on_over_its_lines_until_an_empty_one() {
+        function test_codeGoesOnOverItsLinesUntilAnEmptyOne() {
             open([{ type: "textLarge", content: "" }, { type: "code", content: "a" }])
             go(1, -1)
             press(["Shift+Return"])
@@ -263,7 +263,7 @@ Item {
             compare(written(), "textLarge code:a/b/c textSmall:d")
         }
 
-        function test_tab_indents_code_and_control_tab_walks_on() {
+        function test_tabIndentsCodeAndControlTabWalksOn() {
             open([{ type: "code", content: "ab" }, { type: "textSmall", content: "c" }])
             go(0, 1)
             press(["Tab"])
@@ -279,7 +279,7 @@ Item {
             compare(written(), "code:ab textSmall:c")
         }
 
-        function test_tab_over_selected_lines_of_code_moves_them_in_one_step_each() {
+        function test_tabOverSelectedLinesOfCodeMovesThemInOneStepEach() {
             open([{ type: "code", content: "a\nbc\nd" }])
             go(0, 0)
             fields()[0].select(1, 3)
@@ -294,7 +294,7 @@ Item {
             compare(written(), "code:a/bc/d")
         }
 
-        function test_shift_tab_over_lines_without_indentation_changes_nothing() {
+        function test_shiftTabOverLinesWithoutIndentationChangesNothing() {
             open([{ type: "code", content: "a\nb" }])
             go(0, 0)
             fields()[0].selectAll()
@@ -303,7 +303,7 @@ Item {
             verify(fields()[0].activeFocus)
         }
 
-        function test_backspace_deletes_an_emoji_whole_and_marks_one_by_one_data() {
+        function test_backspaceDeletesAnEmojiWholeAndMarksOneByOne_data() {
             return [
                 { tag: "joined", text: "👩🏽‍💻" },
                 { tag: "flag", text: "🇵🇱" },
@@ -313,7 +313,7 @@ Item {
             ]
         }
 
-        function test_backspace_deletes_an_emoji_whole_and_marks_one_by_one(row) {
+        function test_backspaceDeletesAnEmojiWholeAndMarksOneByOne(row) {
             open([{ type: "textSmall", content: "a" + row.text + "b" },
                 { type: "sticky", todos: [{ text: row.text, done: false }] }])
             go(0, 1 + row.text.length)
@@ -324,21 +324,21 @@ Item {
             compare(written(), "textSmall:a" + left + "b sticky[" + left + "]")
         }
 
-        function test_shift_delete_without_a_selection_joins_nothing() {
+        function test_shiftDeleteWithoutASelectionJoinsNothing() {
             open([{ type: "textLarge", content: "a" }, { type: "textSmall", content: "b" }])
             go(0, 1)
             press(["Shift+Del"])
             compare(written(), "textLarge:a textSmall:b")
         }
 
-        function test_shift_enter_of_the_keypad_breaks_the_line() {
+        function test_shiftEnterOfTheKeypadBreaksTheLine() {
             open([{ type: "textSmall", content: "onetwo" }])
             go(0, 3)
             keyClick(Qt.Key_Enter, Qt.ShiftModifier | Qt.KeypadModifier)
             compare(written(), "textSmall:one/two")
         }
 
-        function test_a_click_below_the_last_block_goes_on_there_data() {
+        function test_aClickBelowTheLastBlockGoesOnThere_data() {
             return [
                 { tag: "empty", last: { type: "textSmall" }, written: "textLarge:t textSmall:x" },
                 { tag: "text", last: { type: "quote", content: "ab" }, written: "textLarge:t quote:abx" },
@@ -347,21 +347,21 @@ Item {
             ]
         }
 
-        function test_a_click_below_the_last_block_goes_on_there(row) {
+        function test_aClickBelowTheLastBlockGoesOnThere(row) {
             open([{ type: "textLarge", content: "t" }, row.last])
             mouseClick(page, page.width / 2, 480)
             type("x")
             compare(written(), row.written)
         }
 
-        function test_a_click_on_a_page_without_blocks_begins_one() {
+        function test_aClickOnAPageWithoutBlocksBeginsOne() {
             open([])
             mouseClick(page, page.width / 2, page.height / 2)
             type("x")
             compare(written(), "textSmall:x")
         }
 
-        function test_a_click_on_the_page_elsewhere_adds_nothing() {
+        function test_aClickOnThePageElsewhereAddsNothing() {
             open([{ type: "textLarge", content: "t" }, { type: "divider" }])
             mouseClick(page, 20, fields()[0].mapToItem(page, 0, 5).y)
             mouseClick(fields()[0], 5, 5)
@@ -370,7 +370,7 @@ Item {
 
         // Nothing typed is lost
 
-        function test_a_composition_is_kept_when_another_page_is_opened() {
+        function test_aCompositionIsKeptWhenAnotherPageIsOpened() {
             open([{ type: "textLarge", content: "" }])
             type("ab")
             bench.compose("ni")
@@ -379,14 +379,14 @@ Item {
             compare(fields()[0].preeditText, "")
         }
 
-        function test_a_composition_is_kept_when_the_focus_leaves_data() {
+        function test_aCompositionIsKeptWhenTheFocusLeaves_data() {
             return [
                 { tag: "text", blocks: [{ type: "textLarge", content: "" }], written: "textLarge:ni" },
                 { tag: "entry", blocks: [{ type: "sticky", todos: [{ text: "", done: false }] }], written: "sticky[ni]" },
             ]
         }
 
-        function test_a_composition_is_kept_when_the_focus_leaves(row) {
+        function test_aCompositionIsKeptWhenTheFocusLeaves(row) {
             open(row.blocks)
             go(0, 0)
             bench.compose("ni")
@@ -396,7 +396,7 @@ Item {
             compare(fields()[0].preeditText, "")
         }
 
-        function test_a_composition_is_kept_in_its_place() {
+        function test_aCompositionIsKeptInItsPlace() {
             open([{ type: "textLarge", content: "" }, { type: "textSmall", content: "ab" }])
             go(1, 1)
             bench.compose("X")
@@ -406,7 +406,7 @@ Item {
             compare(written(), "textLarge textSmall:ab")
         }
 
-        function test_what_was_settled_is_not_kept_twice() {
+        function test_whatWasSettledIsNotKeptTwice() {
             open([{ type: "textLarge", content: "" }])
             bench.compose("ni")
             bench.commit("你")
@@ -414,7 +414,7 @@ Item {
             compare(written(), "textLarge:你")
         }
 
-        function test_keys_join_and_split_nothing_while_composing() {
+        function test_keysJoinAndSplitNothingWhileComposing() {
             open([{ type: "textSmall", content: "a" }, { type: "textSmall", content: "b" }])
             go(1, 0)
             bench.compose("ni")

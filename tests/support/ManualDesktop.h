@@ -11,10 +11,10 @@
 class ManualFileChooser : public FileChooser
 {
 public:
-    ScheduledCall choose(Wanted what, Completion completion) override
+    ScheduledCall choose(Target what, Completion completion) override
     {
         ++asked;
-        wanted = what;
+        target = what;
         const auto request = std::make_shared<Completion>(std::move(completion));
         m_request = request;
         return ScheduledCall(request);
@@ -30,7 +30,7 @@ public:
     }
 
     int asked = 0;
-    Wanted wanted = Wanted::picture;
+    Target target = Target::picture;
 
 private:
     std::weak_ptr<Completion> m_request;

@@ -243,7 +243,7 @@ Writer::Outcome Writer::typeText(const QString &text)
         return {};
     for (const QString &character : charactersOf(text)) {
         model.type(character);
-        Hands(m_program->window()).type(character);
+        UserInput(m_program->window()).type(character);
         m_program->pass(keyTime);
     }
     return outcomeOf(model);
@@ -280,7 +280,7 @@ void Writer::mendDisk()
 
 void Writer::find(const QString &text)
 {
-    Hands hands(m_program->window());
+    UserInput hands(m_program->window());
     hands.press(u"Ctrl+K"_s);
     m_program->pass(keyTime);
     for (const QChar c : text.chopped(1)) {

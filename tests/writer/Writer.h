@@ -1,10 +1,10 @@
 #pragma once
 
 #include "writer/Action.h"
-#include "writer/Hands.h"
 #include "writer/PageHistory.h"
 #include "writer/RunningProgram.h"
 #include "writer/ShownPage.h"
+#include "writer/UserInput.h"
 
 #include <functional>
 #include <memory>

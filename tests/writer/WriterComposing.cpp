@@ -66,7 +66,7 @@ Writer::Outcome Writer::compose(const QString &text, bool saysWhereItStands)
     PageModel model = this->model();
     if (!shown().focusedField())
         return {};
-    Hands hands(m_program->window());
+    UserInput hands(m_program->window());
     hands.compose(text.isEmpty() ? u"ka"_s : text);
     m_program->pass(keyTime);
     hands.commit(text, saysWhereItStands);
@@ -85,7 +85,7 @@ Writer::Outcome Writer::startComposing(const QString &text)
     const auto marked = shown().marked();
     if (!shown().focusedField() || marked->anchor != marked->head)
         return {};
-    Hands(m_program->window()).compose(text);
+    UserInput(m_program->window()).compose(text);
     m_program->pass(keyTime);
     if (shown().preedit() != text)
         m_fault = u"composing: the field shows %1"_s.arg(quoted(shown().preedit()));
@@ -103,7 +103,7 @@ void Writer::leaveComposing(const Action &action)
     if (leavesKeyboard(action))
         return;
     if (isForInputMethod(action)) {
-        Hands(m_program->window()).commit(m_preedit, true);
+        UserInput(m_program->window()).commit(m_preedit, true);
         m_program->pass(keyTime);
         return takeComposed(*m_composed);
     }

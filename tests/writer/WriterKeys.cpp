@@ -53,7 +53,7 @@ Writer::Outcome Writer::pressKey(const QString &keys)
     const QString before = clipboardText();
     const QString expected = copies ? model.selectedText().value_or(before) : before;
     const Outcome outcome = changeByKey(keys, model);
-    Hands(m_program->window()).press(keys);
+    UserInput(m_program->window()).press(keys);
     m_program->pass(keyTime);
     if (clipboardText().simplified() != expected.simplified())
         m_fault = u"clipboard: it holds %1, expected is %2"_s.arg(quoted(clipboardText()), quoted(expected));
@@ -190,7 +190,7 @@ Writer::Outcome Writer::pressOutsideOfText(const QString &keys, const PageModel 
         return {};
     if (keys.endsWith(u"Return"_s))
         return {};
-    Hands(m_program->window()).press(keys);
+    UserInput(m_program->window()).press(keys);
     m_program->pass(keyTime);
     const bool removes = keys.endsWith(u"Backspace"_s) || keys.endsWith(u"Del"_s) || keys == u"Delete";
     return {.accepts = [model, removes, keys, mark = copiedPicture(m_system)](const PlainPage &found) {
@@ -215,7 +215,7 @@ Writer::Outcome Writer::pressOutsideOfText(const QString &keys, const PageModel 
 
 bool Writer::travel(bool back)
 {
-    Hands(m_program->window()).press(back ? u"Ctrl+Z"_s : u"Ctrl+Shift+Z"_s);
+    UserInput(m_program->window()).press(back ? u"Ctrl+Z"_s : u"Ctrl+Shift+Z"_s);
     m_program->pass(keyTime);
     const PlainPage expected = m_history->now();
     const PlainPage found = plainPage(document().blocks);

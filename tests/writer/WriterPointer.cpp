@@ -84,7 +84,7 @@ QList<Spot> Writer::spotsAt(QPointF place) const
 
 Writer::Outcome Writer::clickField(const Action &action)
 {
-    Hands hands(m_program->window());
+    UserInput hands(m_program->window());
     const auto place = placeInField(action, 0);
     if (!place)
         return {};
@@ -105,7 +105,7 @@ Writer::Outcome Writer::clickField(const Action &action)
 
 Writer::Outcome Writer::point(const Action &action)
 {
-    Hands hands(m_program->window());
+    UserInput hands(m_program->window());
     switch (action.kind) {
     case Action::Kind::click:
     case Action::Kind::doubleClick:
@@ -150,7 +150,7 @@ Writer::Outcome Writer::dragBlock(double from, double to)
     QQuickItem *taken = rows.at(choose(rows, from));
     const int block = shown().blockOf(taken);
     const double margin = viewOf(shown()).left() + 12;
-    Hands(m_program->window())
+    UserInput(m_program->window())
         .drag(QPointF(margin, inScene(*taken).center().y()),
               QPointF(margin, inScene(*rows.at(choose(rows, to))).center().y()));
     m_program->pass(addTime);
@@ -192,7 +192,7 @@ Writer::Outcome Writer::pressControl(const QString &type, double which)
         model.addEntry(block);
     else if (type == u"AddImageButton")
         model.setPicture(block, pictureMark(picture));
-    Hands(m_program->window()).click(inScene(*control).center());
+    UserInput(m_program->window()).click(inScene(*control).center());
     m_program->pass(addTime);
     m_system.pictureFiles.files["/picture"] = picture;
     m_system.fileChooser.answer(QList<std::filesystem::path>{"/picture"});

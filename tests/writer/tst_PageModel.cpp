@@ -43,7 +43,7 @@ QList<PageModel::Stage> steps(const QStringList &texts, bool isTyping)
 } // namespace
 
 /// The model is a judge of the editor, so its own rules are told here once more, by example.
-class tst_PageModel : public QObject
+class TestPageModel : public QObject
 {
     Q_OBJECT
 
@@ -143,5 +143,5 @@ private Q_SLOTS:
     }
 };
 
-PELKO_TEST(tst_PageModel)
+PELKO_TEST(TestPageModel)
 #include "tst_PageModel.moc"

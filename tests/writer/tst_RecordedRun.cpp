@@ -34,7 +34,7 @@ QString shrunk(const QString &letters, const std::function<bool(const QString &)
 
 } // namespace
 
-class tst_RecordedRun : public QObject
+class TestRecordedRun : public QObject
 {
     Q_OBJECT
 
@@ -84,5 +84,5 @@ private Q_SLOTS:
     }
 };
 
-PELKO_TEST(tst_RecordedRun)
+PELKO_TEST(TestRecordedRun)
 #include "tst_RecordedRun.moc"

@@ -4,12 +4,12 @@
 
 #include <filesystem>
 
-/// Reads one file after the other into the same memory.
+/// Reads files, reusing one buffer.
 class CalendarFile
 {
 public:
-    /// The bytes of a file, until the next one is read. None of what cannot be read, is not a plain file, for
-    /// reading others may never end, or is larger than 16 megabytes.
+    /// Returns the bytes of a file, valid until the next call. Empty if the file cannot be read, is not a
+    /// regular file or is larger than 16 MB.
     QByteArrayView read(const std::filesystem::path &path);
 
 private:

@@ -32,7 +32,7 @@ std::vector<fs::path> lookedUp(const fs::path &pattern)
     return paths;
 }
 
-/// A folder and what may be of use in it, each in the order of names: other programs list them in any.
+/// The calendar files and subfolders of a folder, sorted by name.
 struct Listing {
     std::vector<fs::path> calendarFiles;
     std::vector<fs::path> folders;

@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <vector>
 
-/// Where this user's programs keep what is theirs.
+/// The user's home, configuration and data folders.
 struct UserFolders {
     std::filesystem::path home = {};
     std::filesystem::path configuration = {};
@@ -22,13 +22,13 @@ struct UserFolders {
 namespace CalendarFolders
 {
 
-/// The folders there are, each once: those that khal is told of, and those where it and others look by
-/// themselves.
+/// Returns the existing calendar folders without duplicates: those of khal's configuration and the default
+/// ones.
 std::vector<std::filesystem::path> folders(const UserFolders &user);
 
-/// The events in them and up to three folders below. std::nullopt where there are no such folders. Files that
-/// cannot be read, that are none or that are larger than 16 megabytes are left out, and so are events with
-/// the UIDs in `except`.
+/// Returns the events in these folders, up to three levels deep, or std::nullopt if there are no such
+/// folders. Skips files that cannot be read, are not regular or are larger than 16 MB, and events with the
+/// UIDs in `except`.
 CalendarStore::Answer events(const UserFolders &user, const CalendarWindow &window,
                              const FetchDeadline &limit, const QSet<QByteArray> &except = {});
 

@@ -14,11 +14,11 @@ constexpr auto longestFarewell = 2s;
 } // namespace
 
 DesktopCalendarStore::DesktopCalendarStore(QDBusConnection bus, UserFolders folders,
-                                           std::chrono::milliseconds longestFetch)
+                                           std::chrono::milliseconds fetchTimeout)
     : m_bus(std::move(bus))
     , m_folders(std::move(folders))
-    , m_longestFetch(longestFetch)
-    , m_life(std::make_shared<int>())
+    , m_fetchTimeout(fetchTimeout)
+    , m_lifetime(std::make_shared<int>())
     , m_thread(std::make_unique<QThreadPool>())
 {
     m_thread->setMaxThreadCount(1);
@@ -26,7 +26,7 @@ DesktopCalendarStore::DesktopCalendarStore(QDBusConnection bus, UserFolders fold
 
 DesktopCalendarStore::~DesktopCalendarStore()
 {
-    m_life.reset();
+    m_lifetime.reset();
     // A disk far away may hold up a thread for as long as it likes, but not the end of the program: then the
     // thread is left to the system.
     if (!m_thread->waitForDone(int(std::chrono::milliseconds(longestFarewell).count())))
@@ -36,7 +36,7 @@ DesktopCalendarStore::~DesktopCalendarStore()
 ScheduledCall DesktopCalendarStore::fetch(const CalendarWindow &window, Completion completion)
 {
     const auto request = std::make_shared<Completion>(std::move(completion));
-    const FetchDeadline limit(m_longestFetch, request, m_life);
+    const FetchDeadline limit(m_fetchTimeout, request, m_lifetime);
     m_thread->start([waiting = std::weak_ptr(request), limit, window, bus = m_bus, folders = m_folders] {
         if (!limit.isWanted())
             return;

@@ -5,14 +5,14 @@
 #include <QDBusConnection>
 #include <QThreadPool>
 
-/// The calendars of this desktop, looked through on a thread of their own: those of Evolution Data Server,
-/// then the folders that other programs keep. Both may mirror the same account, so a UID of the server is
-/// left out of the folders. When the time is up the answer is what is known by then.
+/// Reads the calendars of Evolution Data Server, then the calendar folders, on a worker thread. Both may
+/// mirror the same account, so events of the folders whose UID the server has are skipped. After the timeout
+/// it returns the events found so far.
 class DesktopCalendarStore : public CalendarStore
 {
 public:
     DesktopCalendarStore(QDBusConnection bus, UserFolders folders,
-                         std::chrono::milliseconds longestFetch = std::chrono::seconds(5));
+                         std::chrono::milliseconds fetchTimeout = std::chrono::seconds(5));
     ~DesktopCalendarStore() override;
     Q_DISABLE_COPY_MOVE(DesktopCalendarStore)
 
@@ -21,7 +21,7 @@ public:
 private:
     QDBusConnection m_bus;
     UserFolders m_folders;
-    std::chrono::milliseconds m_longestFetch;
-    std::shared_ptr<void> m_life;
+    std::chrono::milliseconds m_fetchTimeout;
+    std::shared_ptr<void> m_lifetime;
     std::unique_ptr<QThreadPool> m_thread;
 };

@@ -11,11 +11,10 @@ using namespace Qt::StringLiterals;
 namespace
 {
 const QString interfaceName = u"org.gnome.evolution.dataserver.Calendar"_s;
-/// Calls at the same time. A bus allows so many unanswered calls and no more, and what has been sent cannot
-/// be taken back when nobody waits for it any longer.
+/// The maximum number of parallel calls. The bus limits pending replies, and sent calls cannot be cancelled.
 constexpr int mostCalls = 32;
 
-/// What happens in the window and, because the server does not see what was moved there from elsewhere, all
+/// Events in the window and, because the server does not find occurrences moved into it, all
 /// that repeats. A day more on either side: it has a mind of its own about zones and days, and we look again.
 QString query(const CalendarWindow &window)
 {
@@ -97,20 +96,20 @@ void EvolutionCalendar::readList(const QDBusMessage &answer)
     QByteArrayList events;
     for (const QString &event : answer.arguments().first().toStringList())
         events << event.toUtf8();
-    const CalendarNames names = CalendarNames::in(events.join("\r\n"));
+    const CalendarReferences names = CalendarReferences::in(events.join("\r\n"));
     for (const QByteArray &event : std::as_const(events)) {
         if (m_limit.isOver())
             return;
-        if (CalendarNames::in(event).repeatingUids.isEmpty())
+        if (CalendarReferences::in(event).repeatingUids.isEmpty())
             m_once << event;
     }
     askForParts(names);
 }
 
-void EvolutionCalendar::askForParts(const CalendarNames &names)
+void EvolutionCalendar::askForParts(const CalendarReferences &names)
 {
     // The zones first: without them, other events are at a wrong time.
-    for (const QByteArray &zone : names.foreignZones)
+    for (const QByteArray &zone : names.unknownZones)
         m_parts << (toCalendar(u"GetTimezone"_s) << QString::fromUtf8(zone));
     for (const QByteArray &uid : names.repeatingUids)
         m_parts << (toCalendar(u"GetObject"_s) << QString::fromUtf8(uid) << QString());

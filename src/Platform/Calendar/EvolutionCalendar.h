@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Calendar/CalendarNames.h"
+#include "Calendar/CalendarReferences.h"
 #include "Platform/Calendar/FetchDeadline.h"
 #include "Services/CalendarStore.h"
 
@@ -8,9 +8,9 @@
 #include <QDBusMessage>
 #include <QObject>
 
-/// Asks one calendar of Evolution Data Server for the text of what may overlap a window. The events that
-/// repeat are asked for again, one by one, because only so their changed occurrences come with them. What
-/// fails is left out.
+/// Fetches from one calendar of Evolution Data Server the text of the events that may overlap a window.
+/// Recurring events are fetched one by one, because only that reply contains their overrides. Failed calls
+/// are skipped.
 class EvolutionCalendar : public QObject
 {
     Q_OBJECT
@@ -21,9 +21,9 @@ public:
 
     void ask();
 
-    /// Whether there is nothing more to come.
+    /// Returns whether all calls have finished.
     bool isDone() const { return m_waiting == 0; }
-    /// What came until now, as one text.
+    /// Returns the iCalendar text received so far.
     QByteArray text() const;
 
 Q_SIGNALS:
@@ -38,7 +38,7 @@ private:
     void open(const QDBusMessage &answer);
     void list();
     void readList(const QDBusMessage &answer);
-    void askForParts(const CalendarNames &names);
+    void askForParts(const CalendarReferences &names);
 
     QDBusConnection m_bus;
     QString m_uid;
@@ -46,8 +46,8 @@ private:
     const FetchDeadline &m_limit;
     QString m_service;
     QString m_path;
-    QByteArrayList m_once;       // in the order in which they were told
-    QByteArrayList m_further;    // zones, and what repeats
-    QList<QDBusMessage> m_parts; // still to be asked for
+    QByteArrayList m_once;       // single events, in the order of the reply
+    QByteArrayList m_further;    // time zones and recurring events
+    QList<QDBusMessage> m_parts; // calls not sent yet
     int m_waiting = 0;
 };

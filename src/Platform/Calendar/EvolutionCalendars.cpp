@@ -15,10 +15,10 @@ using namespace std::chrono_literals;
 
 namespace
 {
-/// How long it may take to see that nobody waits any more.
+/// The interval of the check whether the fetch was cancelled.
 constexpr auto glance = 20ms;
 
-/// Lets what is under way go on until it is done, or until there is no use in it.
+/// Runs the event loop until all calls are done or the deadline has expired.
 template <typename IsDone>
 void wait(QEventLoop &loop, const FetchDeadline &limit, IsDone isDone)
 {

@@ -6,15 +6,14 @@
 #include <QDBusConnection>
 #include <QSet>
 
-/// Events of a window, and the UIDs of all that was looked at for their sake.
+/// The events of a window, and the UIDs of all events that were read.
 struct FoundEvents {
     QList<CalendarEvent> events = {};
     QSet<QByteArray> uids = {};
 };
 
-/// The calendars of Evolution Data Server, where desktops keep those of all accounts, asked over the bus and
-/// all at the same time. Meant for a thread that may wait: it comes back when all have answered or when the
-/// limit is reached, with what came until then. std::nullopt where there is no such service, where it does
-/// not answer, or where it has no calendar in use.
+/// Fetches the events of all enabled calendars of Evolution Data Server in parallel. Blocks until all have
+/// answered or `limit` expires, and returns the events received by then. Returns std::nullopt if the service
+/// is missing, does not answer, or has no enabled calendar. For worker threads.
 std::optional<FoundEvents> evolutionEvents(const QDBusConnection &bus, const CalendarWindow &window,
                                            const FetchDeadline &limit);

@@ -6,12 +6,11 @@
 
 class QDBusMessage;
 
-/// What Evolution Data Server says it has: for each source its UID and, as lines of groups, keys and values,
-/// what it is.
+/// The sources of Evolution Data Server: for each UID its description in key file format.
 using EvolutionSources = QMap<QString, QString>;
 
-/// Empty where the answer is none, or not of the form that is expected.
+/// Returns an empty map if the reply is an error or malformed.
 EvolutionSources evolutionSources(const QDBusMessage &answer);
 
-/// The UIDs of the sources that are calendars in use, by themselves and by the account they belong to.
+/// Returns the UIDs of the calendar sources that are enabled, as is the account they belong to.
 QStringList enabledCalendars(const EvolutionSources &sources);

@@ -8,14 +8,14 @@
 class FetchDeadline
 {
 public:
-    FetchDeadline(std::chrono::milliseconds time, std::weak_ptr<void> asker, std::weak_ptr<void> store)
+    FetchDeadline(std::chrono::milliseconds time, std::weak_ptr<void> receiver, std::weak_ptr<void> store)
         : m_deadline(time)
-        , m_asker(std::move(asker))
+        , m_receiver(std::move(receiver))
         , m_store(std::move(store))
     {
     }
 
-    bool isWanted() const { return !m_asker.expired() && !m_store.expired(); }
+    bool isWanted() const { return !m_receiver.expired() && !m_store.expired(); }
     bool isOver() const { return m_deadline.hasExpired() || !isWanted(); }
     std::chrono::milliseconds left() const
     {
@@ -23,10 +23,10 @@ public:
     }
 
     /// A deadline at four fifths of the time left, for a step that others follow.
-    FetchDeadline sooner() const { return {left() * 4 / 5, m_asker, m_store}; }
+    FetchDeadline sooner() const { return {left() * 4 / 5, m_receiver, m_store}; }
 
 private:
     QDeadlineTimer m_deadline;
-    std::weak_ptr<void> m_asker;
+    std::weak_ptr<void> m_receiver;
     std::weak_ptr<void> m_store;
 };

@@ -1,6 +1,6 @@
 #include "Platform/Tray/StatusNotifierItem.h"
 
-#include "Platform/Tray/ClickPlace.h"
+#include "Platform/Tray/ClickPosition.h"
 #include "Platform/Tray/Tray.h"
 
 using namespace Qt::StringLiterals;
@@ -18,14 +18,14 @@ bool sameIcon(const TrayIconState &before, const TrayIconState &after)
 
 StatusNotifierItem::StatusNotifierItem(Tray &tray) : QDBusAbstractAdaptor(&tray), m_tray(tray) {}
 
-void StatusNotifierItem::show(const TrayIconState &face)
+void StatusNotifierItem::show(const TrayIconState &state)
 {
-    const TrayIconState before = std::exchange(m_face, face);
-    if (!sameIcon(before, face))
+    const TrayIconState before = std::exchange(m_state, state);
+    if (!sameIcon(before, state))
         Q_EMIT NewIcon();
-    if (before.label != face.label)
+    if (before.label != state.label)
         Q_EMIT XAyatanaNewLabel(label(), labelGuide());
-    if (before.toolTipTitle != face.toolTipTitle || before.toolTipText != face.toolTipText)
+    if (before.toolTipTitle != state.toolTipTitle || before.toolTipText != state.toolTipText)
         Q_EMIT NewToolTip();
 }
 
@@ -39,13 +39,13 @@ TrayPixmaps StatusNotifierItem::iconPixmap() const
 {
     TrayPixmaps pixmaps;
     for (const int size : iconSizes)
-        pixmaps.append(TrayPixmap::of(trayIcon(m_face, size, m_labels)));
+        pixmaps.append(TrayPixmap::of(trayIcon(m_state, size, m_labels)));
     return pixmaps;
 }
 
 TrayToolTip StatusNotifierItem::toolTip() const
 {
-    return {.iconName = {}, .icon = {}, .title = m_face.toolTipTitle, .text = m_face.toolTipText};
+    return {.iconName = {}, .icon = {}, .title = m_state.toolTipTitle, .text = m_state.toolTipText};
 }
 
 QDBusObjectPath StatusNotifierItem::menu() const
@@ -55,7 +55,7 @@ QDBusObjectPath StatusNotifierItem::menu() const
 
 void StatusNotifierItem::Activate(int x, int y)
 {
-    Q_EMIT m_tray.activated(clickPlace(QPoint(x, y), scaledScreens()));
+    Q_EMIT m_tray.activated(clickPosition(QPoint(x, y), scaledScreens()));
 }
 
 void StatusNotifierItem::SecondaryActivate(int, int)

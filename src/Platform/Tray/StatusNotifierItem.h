@@ -35,7 +35,7 @@ class StatusNotifierItem : public QDBusAbstractAdaptor
 public:
     explicit StatusNotifierItem(Tray &tray);
 
-    void show(const TrayIconState &face);
+    void show(const TrayIconState &state);
     void setLabels(TrayLabels labels);
 
     QString category() const { return QStringLiteral("ApplicationStatus"); }
@@ -49,17 +49,17 @@ public:
     TrayToolTip toolTip() const;
     bool isMenu() const { return false; }
     QDBusObjectPath menu() const;
-    QString label() const { return m_face.label; }
+    QString label() const { return m_state.label; }
     QString labelGuide() const { return QStringLiteral("00:00"); }
 
 public Q_SLOTS:
     void Activate(int x, int y);
     void SecondaryActivate(int x, int y);
     void XAyatanaSecondaryActivate(uint timestamp);
-    /// Of a host that draws no menus: the panel has the same to offer.
+    /// Called by hosts without menus; opens the panel instead.
     void ContextMenu(int x, int y);
     void Scroll(int delta, const QString &orientation);
-    /// What the next window needs to come to the front with.
+    /// The activation token for the next window.
     void ProvideXdgActivationToken(const QString &token);
 
 Q_SIGNALS:
@@ -71,6 +71,6 @@ Q_SIGNALS:
 
 private:
     Tray &m_tray;
-    TrayIconState m_face;
+    TrayIconState m_state;
     TrayLabels m_labels = TrayLabels::ignored;
 };

@@ -46,7 +46,7 @@ const QString Tray::menuPath = u"/MenuBar"_s;
 
 Tray::Tray(QObject *parent)
     : QObject(parent)
-    , m_bus(QString()) // connected to nothing
+    , m_bus(QString()) // not connected
     , m_item(new StatusNotifierItem(*this))
     , m_menuObject(new QObject(this))
     , m_menu(new TrayMenu(*this, m_menuObject))
@@ -74,25 +74,25 @@ void Tray::connectTo(const QDBusConnection &bus)
             [this](const QString &, const QString &, const QString &newOwner) {
                 withdraw();
                 if (!newOwner.isEmpty())
-                    enrol();
+                    registerWithWatcher();
             });
-    enrol();
+    registerWithWatcher();
 }
 
-void Tray::show(const TrayIconState &face)
+void Tray::show(const TrayIconState &state)
 {
-    m_item->show(face);
-    m_menu->show(face.menu);
+    m_item->show(state);
+    m_menu->show(state.menu);
 }
 
-void Tray::enrol()
+void Tray::registerWithWatcher()
 {
-    m_enrolment = std::make_unique<QObject>(); // answers of an earlier owner come too late
+    m_registration = std::make_unique<QObject>(); // answers of an earlier owner come too late
     m_isRegistered = false;
     QDBusMessage message = QDBusMessage::createMethodCall(watcherService, watcherPath, watcherService,
                                                           u"RegisterStatusNotifierItem"_s);
     message << m_serviceName;
-    call(m_bus, m_enrolment.get(), message, [this](const QDBusMessage &reply) {
+    call(m_bus, m_registration.get(), message, [this](const QDBusMessage &reply) {
         if (failed(reply)) {
             setPresent(false);
             return;
@@ -110,7 +110,7 @@ void Tray::askForHost()
     QDBusMessage message = QDBusMessage::createMethodCall(watcherService, watcherPath,
                                                           u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
     message << watcherService << u"IsStatusNotifierHostRegistered"_s;
-    call(m_bus, m_enrolment.get(), message, [this](const QDBusMessage &reply) {
+    call(m_bus, m_registration.get(), message, [this](const QDBusMessage &reply) {
         const auto answer = reply.arguments().value(0).value<QDBusVariant>();
         setPresent(!failed(reply) && answer.variant().toBool());
     });
@@ -118,9 +118,9 @@ void Tray::askForHost()
 
 void Tray::askWhetherLabelsAreDrawn()
 {
-    // No property tells. Of the trays in use, the one inside this shell is known to draw them.
-    call(m_bus, m_enrolment.get(), ownerOf(u"org.gnome.Shell"_s), [this](const QDBusMessage &shell) {
-        call(m_bus, m_enrolment.get(), ownerOf(watcherService), [this, shell](const QDBusMessage &tray) {
+    // There is no property for this. GNOME Shell's tray is known to draw labels.
+    call(m_bus, m_registration.get(), ownerOf(u"org.gnome.Shell"_s), [this](const QDBusMessage &shell) {
+        call(m_bus, m_registration.get(), ownerOf(watcherService), [this, shell](const QDBusMessage &tray) {
             const bool isSame = !failed(shell) && !failed(tray) && shell.arguments() == tray.arguments();
             m_item->setLabels(isSame ? TrayLabels::drawn : TrayLabels::ignored);
         });
@@ -129,7 +129,7 @@ void Tray::askWhetherLabelsAreDrawn()
 
 void Tray::withdraw()
 {
-    m_enrolment.reset();
+    m_registration.reset();
     m_isRegistered = false;
     setPresent(false);
 }

@@ -28,7 +28,7 @@ public:
 
     /// Offers the item on `bus`, which need not be connected.
     void connectTo(const QDBusConnection &bus);
-    void show(const TrayIconState &face);
+    void show(const TrayIconState &state);
 
 Q_SIGNALS:
     void isPresentChanged();
@@ -44,7 +44,7 @@ private Q_SLOTS:
     void withdraw();
 
 private:
-    void enrol();
+    void registerWithWatcher();
     void askWhetherLabelsAreDrawn();
     void setPresent(bool present);
 
@@ -52,7 +52,8 @@ private:
     StatusNotifierItem *m_item;
     QObject *m_menuObject;
     TrayMenu *m_menu;
-    std::unique_ptr<QObject> m_enrolment; // owns the calls to the current watcher; null while there is none
+    std::unique_ptr<QObject>
+        m_registration; // owns the calls to the current watcher; null while there is none
     bool m_isRegistered = false;
     QString m_serviceName;
     bool m_isPresent = false;

@@ -45,20 +45,20 @@ void paintFlame(QPainter &painter, int size, qreal opacity)
     painter.fillPath(flameOutline(), gradient);
 }
 
-void paintRing(QPainter &painter, int size, const TrayIconState &face)
+void paintRing(QPainter &painter, int size, const TrayIconState &state)
 {
     const qreal stroke = qMax(2.0, 0.085 * size);
     const QRectF ring = QRectF(0, 0, size, size).adjusted(stroke / 2, stroke / 2, -stroke / 2, -stroke / 2);
     painter.setPen(QPen(track, stroke));
     painter.drawEllipse(ring);
     // A dot from the beginning, so that a ring is seen at all.
-    const qreal spent = qMax(face.progress, 0.01);
+    const qreal spent = qMax(state.progress, 0.01);
     QConicalGradient colours(ring.center(), top);
     colours.setColorAt(0, ember);
     colours.setColorAt(1 - spent, amberSoft);
     // An arc that has just begun is too short for two colours.
     colours.setColorAt(1, spent < shortArc ? amberSoft : ember);
-    painter.setOpacity(face.flameOpacity);
+    painter.setOpacity(state.flameOpacity);
     painter.setPen(QPen(colours, stroke, Qt::SolidLine, spent < 0.9 ? Qt::RoundCap : Qt::FlatCap));
     painter.drawArc(ring, qRound(top * 16), -qRound(fullCircle * spent));
     painter.setOpacity(1);
@@ -92,21 +92,21 @@ void paintMinutes(QPainter &painter, int size, int minutes)
 }
 } // namespace
 
-QImage trayIcon(const TrayIconState &face, int size, TrayLabels labels)
+QImage trayIcon(const TrayIconState &state, int size, TrayLabels labels)
 {
     QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (!face.isRunning || labels == TrayLabels::drawn) {
-        paintFlame(painter, size, face.flameOpacity);
+    if (!state.isRunning || labels == TrayLabels::drawn) {
+        paintFlame(painter, size, state.flameOpacity);
         return image;
     }
     painter.setPen(Qt::NoPen);
     painter.setBrush(coin);
     painter.drawEllipse(0, 0, size, size);
     painter.setBrush(Qt::NoBrush);
-    paintRing(painter, size, face);
-    paintMinutes(painter, size, face.minutesLeft);
+    paintRing(painter, size, state);
+    paintMinutes(painter, size, state.minutesLeft);
     return image;
 }

@@ -4,10 +4,9 @@
 
 struct TrayIconState;
 
-/// What is beside the icon: a tray that draws labels shows the time as text there, any other leaves it to
-/// the icon.
+/// Whether the tray draws a text label beside the icon; if not, the icon shows the remaining minutes.
 enum class TrayLabels { drawn, ignored };
 
 /// The icon of `size` pixels: the bare flame at rest and beside a label; otherwise a coin on its own dark
 /// ground with the minutes that are left, whose rim fills with the time spent.
-QImage trayIcon(const TrayIconState &face, int size, TrayLabels labels);
+QImage trayIcon(const TrayIconState &state, int size, TrayLabels labels);

@@ -40,7 +40,7 @@ QList<TrayMenuProperties> TrayMenu::GetGroupProperties(const QList<int> &ids, co
 
 QDBusVariant TrayMenu::GetProperty(int id, const QString &name)
 {
-    // A property that an entry does not have reads as empty text: nothing cannot be sent.
+    // D-Bus has no null: a missing property is returned as an empty string.
     return QDBusVariant(properties(id).value(name, QString()));
 }
 

@@ -4,7 +4,7 @@ import QtQuick
 import Pelko
 
 /// A time, or a number, whose digits stand in cells of one width each, so that nothing shifts while it counts. Where it `rolls`,
-/// a digit that changes rolls upwards to the next. What is read out is up to whoever shows it.
+/// a digit that changes rolls upwards to the next. The parent sets the accessible name.
 Row {
     id: time
 

@@ -29,8 +29,7 @@ private:
     QColor m_footColor;
 };
 
-/// What a flame throws on its surroundings: its shape, `margin` inside the edges of the item, spread that
-/// far.
+/// The glow of a flame: its blurred shape, `margin` inside the edges of the item.
 class FlameGlow : public PictureItem
 {
     Q_OBJECT

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// What lies behind a piece of glass, blurred: taken at a quarter of its size, which is both cheaper and softer than
+/// The blurred backdrop of a glass surface: rendered at a quarter of its size, which is both cheaper and softer than
 /// a blur of the whole, then blurred across and down, and cut to shape.
 Item {
     id: pane

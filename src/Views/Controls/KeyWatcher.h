@@ -3,7 +3,7 @@
 #include <QQuickItem>
 #include <QtQml/qqml.h>
 
-/// Tells of the keys that its window is given, whichever item takes them, while it is active. It takes none.
+/// While active, reports the key events of its window, whichever item handles them. Accepts none of them.
 class KeyWatcher : public QQuickItem
 {
     Q_OBJECT

@@ -13,14 +13,14 @@ TextInput {
 
     signal edited(string text)
 
-    /// Nothing that was typed can come back by undoing.
+    /// Clears the undo history of the field.
     function forgetTyping() : void {
         // Only a change of the text drops its history.
         text = content + " "
         text = Qt.binding(() => field.content)
     }
 
-    /// What was pasted ends at the caret. It may come back shorter.
+    /// Reports the text on one line. The caret keeps its distance from the end, because the text may become shorter.
     function report() : void {
         const behind = length - cursorPosition
         edited(FieldText.onOneLine(text))
@@ -67,7 +67,7 @@ TextInput {
     renderType: Text.NativeRendering
     cursorDelegate: Caret {}
 
-    // A click would drop what an input method does not commit by itself.
+    // Commit preedit text before a click, which would discard it.
     PointHandler {
         onActiveChanged: if (active) Composition.settle(field)
     }

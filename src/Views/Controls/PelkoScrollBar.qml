@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Shows where the view stands, thinly, and is gone a second after the last move. Wider under the pointer, where it
+/// A thin scroll bar that is hidden a second after the last movement. Wider under the pointer, where it
 /// can be dragged. Position and length glide, because a list with rows of different heights keeps correcting its
 /// guess of how long it is.
 Item {

@@ -17,7 +17,7 @@ public:
 protected:
     /// Paints into a transparent picture of `size` device-independent pixels.
     virtual void paintPicture(QPainter &painter, const QSizeF &size) = 0;
-    /// To be called when the picture would come out differently.
+    /// Call it when the picture has changed.
     void repaintPicture();
 
     QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override;

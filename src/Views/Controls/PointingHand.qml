@@ -1,7 +1,7 @@
 import QtQuick
 
-/// Turns the pointer into a hand over the control it lies in. It is an item of its own, because a control with a handler
-/// takes every button of the pointer for its own.
+/// Sets the pointing hand cursor over its parent. A separate item, because a control with a HoverHandler would accept
+/// all mouse buttons.
 Item {
     anchors.fill: parent
 

@@ -63,7 +63,7 @@ ModalLayer {
     }
 
     motion: PelkoAnimation.micro
-    // A menu begins without a choice, whatever was chosen when it was last open.
+    // A menu opens without a current row.
     onOpened: {
         view.contentY = 0
         card.forceActiveFocus(Qt.PopupFocusReason)

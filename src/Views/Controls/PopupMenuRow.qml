@@ -12,7 +12,7 @@ T.AbstractButton {
     property bool destroys: false
     /// How many rows of the same kind share a line.
     property int perLine: 1
-    /// Stands for something that is on or off.
+    /// Whether the row is checkable.
     property bool tickable: ticked
     property bool ticked: false
     required property PopupMenu menu

@@ -2,8 +2,8 @@
 
 #include <QQuickItem>
 
-/// Puts the delegates of a list into the order of their rows. The list leaves them in the order in which they
-/// were made, and that is how assistive technology would read them.
+/// Sorts the delegates of a list by row. Views keep delegates in the order of creation, and assistive
+/// technology would read them in that order.
 class ReadingOrder : public QObject
 {
     Q_OBJECT

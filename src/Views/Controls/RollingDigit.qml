@@ -75,7 +75,7 @@ Item {
             Accessible.ignored: true
         }
 
-        ShadedText {
+        GradientText {
             anchors.fill: parent
             visible: face.shaded
             text: face.shaded ? face.text : ""

@@ -13,7 +13,7 @@ PressableControl {
         lift: 0.06 * button.hoverAmount + 0.06 * button.pressAmount
     }
 
-    SwappingSymbol {
+    AnimatedSymbol {
         anchors.centerIn: parent
         name: button.icon.name
         size: Metrics.chipSymbol

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The shadow a piece of glass throws: a wide one for its height and a tight one that ties it to the ground.
+/// The shadow of a glass surface: a wide and a narrow one, drawn over each other.
 Item {
     id: shadow
 

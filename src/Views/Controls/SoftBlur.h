@@ -2,11 +2,11 @@
 
 #include <QImage>
 
-/// How far a shape spreads when it is softened by `radius`: the picture must leave that much room around it.
+/// Returns the margin in pixels that a picture needs around a shape blurred by `radius`.
 constexpr qreal softReach(qreal radius)
 {
     return 1.5 * radius;
 }
 
-/// The shape, softened and in one colour, for shadows and glows: close to a Gaussian of half the radius.
+/// Returns the blurred shape in one colour, for shadows and glows: close to a Gaussian of half the radius.
 QImage softened(const QImage &shape, qreal radius, const QColor &color);

@@ -71,7 +71,7 @@ SoftShadow::SoftShadow(QQuickItem *parent) : QQuickItem(parent)
 QSGNode *SoftShadow::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
 {
     if (!isVisible())
-        return node; // blurring takes a while: it waits until somebody can see it
+        return node; // blur only once the item is visible
     if (width() <= 0 || height() <= 0 || m_blur <= 0) {
         delete node;
         m_isStale = true;

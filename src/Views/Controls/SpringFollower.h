@@ -30,9 +30,9 @@ public:
     qreal value() const { return m_goal + m_distance.position; }
     qreal response() const { return m_spring.response; }
     qreal dampingFraction() const { return m_spring.dampingFraction; }
-    /// Goes along with its goal, at the distance that is still to go, instead of following it.
+    /// While set, moves together with the goal at a constant distance.
     bool isCarried() const { return m_isCarried; }
-    /// Jumps instead of moving, for those who asked for little motion.
+    /// While set, jumps to the goal; for reduced motion.
     bool isInstant() const { return m_isInstant; }
 
     void setGoal(qreal goal);

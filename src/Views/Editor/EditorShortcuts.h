@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Shell/ShortcutSheet.h"
+#include "Shell/ShortcutLine.h"
 
 #include <QObject>
 #include <QtQml/qqml.h>

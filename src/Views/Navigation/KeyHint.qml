@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// A key and what it does.
+/// A key and the description of its action.
 Row {
     id: root
 

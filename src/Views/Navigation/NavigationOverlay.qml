@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The way around, on a sheet of glass above an almost invisible layer: the greeting, the field that finds, the spaces,
+/// The navigation overlay, on a sheet of glass above an almost invisible layer: the greeting, the search field, the spaces,
 /// and the pages of one space or of a search. A click beside the sheet ends it, and so does Escape.
 ModalLayer {
     id: overlay
@@ -36,7 +36,7 @@ ModalLayer {
     onEscaped: main.dismissNav()
     onOpened: field.input.forceActiveFocus(Qt.PopupFocusReason)
 
-    // Before the first control comes the last one, and behind the last the first again.
+    // Tab wraps around at both ends.
     Item {
         activeFocusOnTab: true
         onActiveFocusChanged: {
@@ -152,7 +152,7 @@ ModalLayer {
                 onTriggered: overlay.main.createDocument()
             }
 
-            NavigationFoot {
+            NavigationFooter {
                 id: foot
 
                 width: field.width

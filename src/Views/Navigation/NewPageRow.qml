@@ -14,7 +14,7 @@ PressableControl {
     name: qsTr("New Document")
     pressScale: 1
 
-    background: ChosenGround {
+    background: ChosenRowBackground {
         chosen: root.chosen
         pointedAt: root.hovered
     }

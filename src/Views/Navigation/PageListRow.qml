@@ -4,7 +4,7 @@ import QtQuick
 import Pelko
 
 /// One page in the list: what it is, its name, a line about it, its marks, and where it is chosen or pointed at the
-/// button that deletes it. What the keys do is known by the search field, which keeps the keyboard.
+/// button that deletes it. Keys are handled by the search field, which keeps the focus.
 Item {
     id: root
 
@@ -32,7 +32,7 @@ Item {
     Accessible.onPressAction: opened()
     implicitHeight: space === "" ? Metrics.pageRowHeight : Metrics.hitRowHeight
 
-    // Is not the row itself: Qt 6.4 takes every button for one, whatever its role.
+    // Not the row itself: Qt 6.4 exposes every button as a button, whatever its role.
     PressableControl {
         id: face
 
@@ -43,7 +43,7 @@ Item {
         pressScale: 1
         onTriggered: root.opened()
 
-        background: ChosenGround {
+        background: ChosenRowBackground {
             chosen: root.chosen
             pointedAt: root.pointedAt
         }
@@ -53,7 +53,7 @@ Item {
         id: pointer
     }
 
-    SpotSymbol {
+    PageRowSymbol {
         anchors { left: parent.left; verticalCenter: parent.verticalCenter }
         isOpen: root.isOpen
         isSpark: root.isSpark
@@ -64,24 +64,24 @@ Item {
         anchors { left: parent.left; leftMargin: Metrics.pageRowIndent; right: ends.left; rightMargin: Metrics.space12 }
         anchors.verticalCenter: parent.verticalCenter
 
-        MarkedText {
+        HighlightedText {
             color: FirePalette.inkHeading
             font: Typography.listTitle
             height: Typography.listTitleLine
             line: root.titleLine
-            markColor: FirePalette.hitInk
-            markGround: FirePalette.hitGround
+            highlightColor: FirePalette.hitInk
+            highlightBackground: FirePalette.hitGround
             startsRight: LayoutMirroring.enabled
             width: parent.width
         }
 
-        MarkedText {
+        HighlightedText {
             color: FirePalette.inkMeta
             font: Typography.meta
             height: Typography.metaLine
             line: root.detailLine
-            markColor: FirePalette.hitInk
-            markGround: FirePalette.hitGround
+            highlightColor: FirePalette.hitInk
+            highlightBackground: FirePalette.hitGround
             startsRight: LayoutMirroring.enabled
             width: parent.width
         }

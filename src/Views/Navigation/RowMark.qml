@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// A mark at the end of a row that says something about its page and does nothing.
+/// A status icon at the end of a row.
 SymbolIcon {
     required property string symbol
 

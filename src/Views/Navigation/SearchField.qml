@@ -3,7 +3,7 @@ import Pelko
 
 /// The field that finds pages. It keeps the keyboard while the arrow keys choose, so that typing and choosing need no
 /// change of place.
-FieldPlate {
+FieldBackground {
     id: root
 
     required property NavigationViewModel navigation
@@ -26,7 +26,7 @@ FieldPlate {
     LineField {
         id: field
 
-        // What the arrow keys choose is read out here, where the keyboard is.
+        // The chosen row is announced here, because this field has the focus.
         Accessible.description: root.navigation.chosenDescription
         Keys.onDeletePressed: event => {
             const nothingToDelete = cursorPosition === length && selectedText === "" && !event.isAutoRepeat

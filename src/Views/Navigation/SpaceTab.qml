@@ -97,7 +97,7 @@ T.TabButton {
             textFormat: Text.PlainText
         }
 
-        PlaceDots {
+        CapacityDots {
             taken: root.pages
         }
     }

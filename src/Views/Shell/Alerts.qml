@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The alerts of the whole window but those of `UnsavedAlerts`, each shown exactly while its reason lasts.
+/// The alerts of the whole window but those of `UnsavedAlerts`, each shown while its condition holds.
 Item {
     id: root
 

@@ -15,6 +15,6 @@ class EditingKeys : public QObject
 public:
     using QObject::QObject;
 
-    /// `command` is the id of a command of the group `editing`. Tells whether an item has used the key.
+    /// `command` is the id of a command of the group `editing`. Returns whether an item accepted the key.
     Q_INVOKABLE static bool press(QQuickWindow *window, const QString &command);
 };

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Nothing is open: a flame, a line that says so, and the button that changes it. The window is dragged by the rest.
+/// The view without an open document: a flame, a text and a button to create one. Its background drags the window.
 FocusScope {
     id: root
 

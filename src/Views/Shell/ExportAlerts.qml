@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// What an export has to say and to ask, each shown exactly while its reason lasts.
+/// The alerts of an export, each shown while its condition holds.
 Item {
     id: root
 

@@ -24,7 +24,7 @@ ModalLayer {
     onEscaped: chooser.cancel()
     onOpened: list.takeFocus()
 
-    FocusTurn {
+    FocusWrap {
         id: start
 
         isLast: false
@@ -123,7 +123,7 @@ ModalLayer {
         }
     }
 
-    FocusTurn {
+    FocusWrap {
         id: end
 
         isLast: true

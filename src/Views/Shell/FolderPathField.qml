@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The path of the folder that is shown, to be read and to be typed, after a button that goes one folder up.
+/// An editable path of the folder that is shown, and a button that goes one folder up.
 FocusScope {
     id: root
 

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The folders where users keep things, one below the other.
+/// The list of standard folders.
 Column {
     id: root
 

@@ -3,7 +3,7 @@ import QtQuick.Window
 import Pelko
 
 /// The main view, covered for the first moments by a card with the flame and the name. The sequence begins with the
-/// first frame that reaches the screen, so that a slow start takes nothing from it.
+/// first frame that reaches the screen, so that a slow start does not shorten it.
 FocusScope {
     id: root
 

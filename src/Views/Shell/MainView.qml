@@ -21,7 +21,7 @@ FocusScope {
                               operation)
     }
 
-    /// What has the keyboard takes the key of the command; where it has no use for undo and redo, they are the page's.
+    /// The focused item handles the key of the command. Undo and redo that it does not accept go to the page.
     function edit(command: string) {
         const page = content.currentItem as EditorView
         if (EditingKeys.press(root.Window.window, command) || !page || main.showNav)
@@ -99,7 +99,7 @@ FocusScope {
         }
     }
 
-    TasksPanelPlace {
+    TasksPanelContainer {
         id: panel
 
         anchors { bottom: parent.bottom; right: parent.right; top: parent.top }
@@ -116,7 +116,7 @@ FocusScope {
         pageWidth: content.width
     }
 
-    TopStrip {
+    TitleBar {
         id: strip
 
         anchors { left: parent.left; right: parent.right; top: parent.top }

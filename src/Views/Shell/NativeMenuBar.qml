@@ -5,8 +5,8 @@ import QtQuick
 import Qt.labs.platform as Platform
 import Pelko
 
-/// The commands in the menu bar that the system keeps, made from their table. What the system has a place of its own
-/// for, it moves there. The menus give the commands their keys as well.
+/// The commands in the global menu bar, created from their table. The platform moves About and Quit to the application
+/// menu. The menus also define the shortcuts.
 Platform.MenuBar {
     id: bar
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The main window. It is on screen, in its colour, before anything else is made: what it holds follows its
+/// The main window. It is shown with its background colour before its contents are created, which happens after its
 /// first frame.
 Window {
     id: window

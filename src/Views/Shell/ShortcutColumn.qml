@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// Headings, and under each what can be done and the keys that do it.
+/// Headings, and under each the actions and their keys.
 Column {
     id: column
 

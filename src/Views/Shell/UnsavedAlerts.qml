@@ -1,8 +1,8 @@
 import QtQuick
 import Pelko
 
-/// What went wrong with the documents, and the question whether the program may end without saving them. They lie
-/// above everything else that the window may show.
+/// The alert for a failed load or save, and the question whether to quit without saving. They are above all other items
+/// of the window.
 Item {
     id: root
 

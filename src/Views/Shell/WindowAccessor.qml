@@ -1,6 +1,6 @@
 import Pelko
 
-/// Invisible and without size: dresses the window that it lies in.
+/// An item without size that configures the window it is in.
 WindowConfigView {
     width: 0
     height: 0

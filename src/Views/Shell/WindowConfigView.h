@@ -4,9 +4,8 @@
 #include <QQuickItem>
 #include <QtQml/qqml.h>
 
-/// Dresses the window it is put into, each time it is put into one: no title bar but the one the app draws
-/// (a Mac keeps its own), opaque, in the colour `background`. All other traits of the window stay as they
-/// were. Leaving a window changes nothing.
+/// Configures each window that it is added to: frameless (except on macOS), opaque, with the colour
+/// `background`. Changes no other properties of the window, and none when it is removed.
 class WindowConfigView : public QQuickItem
 {
     Q_OBJECT

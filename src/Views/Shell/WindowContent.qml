@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// What the main window holds: the launch card over the main view, the alerts, the edges to resize by, and the keys of
+/// The contents of the main window: the launch card over the main view, the alerts, the resize edges, and the keys of
 /// the commands or the menu bar that has them.
 FocusScope {
     id: root
@@ -20,7 +20,7 @@ FocusScope {
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     anchors.fill: parent
     focus: true
-    // Made where there is one only: elsewhere it would load what nobody uses.
+    // Created only on platforms with a menu bar, because it loads another module.
     Component.onCompleted: {
         if (main.commands.hasMenuBar)
             Qt.createComponent("NativeMenuBar.qml").createObject(root, { commands: main.commands })

@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Window
 import Pelko
 
-/// The borders by which the window is resized, and the fine line that tells its edge from what lies behind. A window
+/// The resize borders of the window, and the hairline along its edge. A window
 /// that fills the screen has none.
 Item {
     id: frame

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// What comes next in the calendars.
+/// The upcoming events of the calendars.
 PanelCard {
     id: card
 

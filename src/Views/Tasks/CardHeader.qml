@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The line at the top of a card: its symbol, what it is about, and how many there are of it, if any.
+/// The header of a card: symbol, title and an optional count.
 Item {
     id: header
 

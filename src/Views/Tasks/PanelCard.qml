@@ -1,13 +1,13 @@
 import QtQuick
 import Pelko
 
-/// The look that all cards of the tasks panel share. What is put into it stands in a column.
+/// The base of all cards of the tasks panel. Its children are laid out in a column.
 Item {
     id: card
 
     default property alias content: column.data
     property alias spacing: column.spacing
-    /// What shines through: an item behind the card that does not contain it.
+    /// The item that shines through the glass; must not contain the card.
     property Item backdrop: null
 
     implicitHeight: column.height + 2 * Metrics.cardPaddingY

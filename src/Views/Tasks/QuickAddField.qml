@@ -2,7 +2,7 @@ import QtQuick
 import Pelko
 
 /// The field that adds a task to the open page.
-FieldPlate {
+FieldBackground {
     id: plate
 
     required property TasksPanelViewModel panel

@@ -14,7 +14,7 @@ Item {
     /// Room around the rows for focus rings and glows.
     readonly property int air: Metrics.space10
     readonly property bool empty: list.count === 0
-    /// The row that the keyboard comes to.
+    /// The row that gets the focus.
     readonly property int row: list.count > 0 ? panel.taskNear(list.currentIndex) : -1
 
     /// The last task was deleted by the keyboard.
@@ -72,7 +72,7 @@ Item {
                     Keys.onDownPressed: root.goTo(root.panel.taskAfter(index))
                     Keys.onUpPressed: root.goTo(root.panel.taskBefore(index))
                     air: root.air
-                    // What has the focus must not cease to be a stop.
+                    // The focused row must stay a tab stop.
                     isTabStop: activeFocus || root.row === index
                     width: list.width
                     onActiveFocusChanged: if (activeFocus && index >= 0) list.currentIndex = index

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// One task: its tick, what there is to do, and a cross that deletes it.
+/// One task: its check box, its text, and a button that deletes it.
 FocusScope {
     id: row
 
@@ -13,7 +13,7 @@ FocusScope {
     required property int index
     /// Room at both sides.
     required property int air
-    /// Whether the keyboard comes here with the Tab key.
+    /// Whether the row is the tab stop of the list.
     required property bool isTabStop
 
     signal toggled
@@ -45,7 +45,7 @@ FocusScope {
         onTriggered: row.toggled()
     }
 
-    StruckText {
+    StrikethroughText {
         id: words
 
         Accessible.ignored: true

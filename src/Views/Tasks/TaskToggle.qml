@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The tick of a task. It shows what the store says; a click only asks.
+/// The check box of a task. It shows the state of the store; a click requests a change.
 PressableControl {
     id: toggle
 
@@ -11,7 +11,7 @@ PressableControl {
     Accessible.checked: done
     Accessible.role: Accessible.CheckBox
     Accessible.onToggleAction: clicked()
-    // Qt 6.4 gives a button that is not checkable the role of a button, whatever stands above.
+    // Qt 6.4 exposes a button that is not checkable as a button, whatever its Accessible.role.
     checkable: true
     checked: done
     implicitHeight: Metrics.taskToggleSize

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Opens and closes the tasks panel. It says what it will do, and grows a little where it is pointed at.
+/// Opens and closes the tasks panel. Its label names the action; it grows a little under the pointer.
 PressableControl {
     id: button
 
@@ -9,7 +9,7 @@ PressableControl {
 
     Accessible.checked: tasks.isShown
     Accessible.description: qsTr("Tasks panel")
-    // Qt 6.4 tells whether it is checked only of what is checkable.
+    // Qt 6.4 exposes the checked state only of checkable controls.
     checkable: true
     checked: tasks.isShown
     icon.name: tasks.isShown ? "chevron.right" : "sidebar.right"

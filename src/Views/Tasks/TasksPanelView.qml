@@ -13,7 +13,7 @@ FocusScope {
     readonly property bool isSeen: !Window.window || (visible && Window.visibility !== Window.Hidden
                                                       && Window.visibility !== Window.Minimized)
 
-    /// Scrolls just as far as it takes to see what has the keyboard.
+    /// Scrolls the focused item into view.
     function reveal() {
         const place = cards.mapFromItem(focused, 0, 0, focused.width, focused.height)
         const above = Math.min(place.y - Metrics.panelPadding - scroll.contentY, 0)

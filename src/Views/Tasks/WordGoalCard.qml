@@ -44,7 +44,7 @@ PanelCard {
         height: Metrics.goalBarHeight + Metrics.space4
         width: parent.width
 
-        GoalBar {
+        GoalProgressBar {
             anchors.bottom: parent.bottom
             progress: card.panel.wordProgress
             width: parent.width

@@ -46,7 +46,7 @@ FocusScope {
             }
         }
 
-        FieldPlate {
+        FieldBackground {
             width: parent.width
             height: Metrics.captureHeight
             active: field.activeFocus

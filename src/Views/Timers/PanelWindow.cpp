@@ -1,7 +1,7 @@
 #include "PanelWindow.h"
 
 #include "RoundedRegion.h"
-#include "Timers/PanelPlace.h"
+#include "Timers/PanelPosition.h"
 #include "Views/SceneTeardown.h"
 
 #include <QGuiApplication>
@@ -41,12 +41,12 @@ void PanelWindow::place()
         return;
     if (QScreen *under = QGuiApplication::screenAt(m_opener.center()))
         setScreen(under);
-    setPosition(panelPlace(m_opener, size(), screen()->availableGeometry()));
+    setPosition(panelPosition(m_opener, size(), screen()->availableGeometry()));
 }
 
 void PanelWindow::cutCorners()
 {
-    // Where nothing composes windows, what is transparent is black.
+    // Without a compositor, transparent pixels are black.
     if (QGuiApplication::platformName() == "xcb"_L1)
         setMask(roundedRegion(size(), m_cornerRadius));
 }

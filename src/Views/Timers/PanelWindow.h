@@ -3,8 +3,8 @@
 #include <QQuickWindow>
 #include <QtQml/qqml.h>
 
-/// A small window without a frame that belongs to what opened it: it comes up beside that, stays inside the
-/// screen while it grows and shrinks, and tells when the keyboard has gone elsewhere.
+/// A small frameless window that opens beside its opener, stays inside the screen when its size changes, and
+/// reports when it loses the focus.
 class PanelWindow : public QQuickWindow
 {
     Q_OBJECT

@@ -9,7 +9,7 @@ using namespace std::chrono_literals;
 namespace
 {
 constexpr auto restBeforePreparing = 500ms;
-constexpr auto settlingTime = 500ms; // until the window system has told all that comes of a closing
+constexpr auto settlingTime = 500ms; // until the window system has sent all events of the closing
 } // namespace
 
 PomodoroPanel::PomodoroPanel(QQmlEngine &engine, TimersViewModel &timers, Scheduler &scheduler,
@@ -34,7 +34,7 @@ void PomodoroPanel::prepare()
 {
     if (m_window)
         return;
-    // Not before it is wanted: the start of the program has other things to do.
+    // Delayed, so that it does not slow down the start.
     m_component.loadUrl(QUrl(u"qrc:/qt/qml/Pelko/Views/Timers/PomodoroWindow.qml"_s));
     m_window.reset(qobject_cast<PanelWindow *>(
         m_component.createWithInitialProperties({{u"panel"_s, QVariant::fromValue(&m_timers.panel())}})));
@@ -46,7 +46,7 @@ void PomodoroPanel::prepare()
 
 void PomodoroPanel::open(const QRect &opener)
 {
-    // One that opens again before its closing is told of can stay unseen.
+    // A window that is shown again before its close was processed can stay hidden.
     if (!m_isResting)
         m_window.reset();
     prepare();

@@ -7,8 +7,8 @@
 class PanelWindow;
 class TimersViewModel;
 
-/// Opens the pomodoro panel whenever the timers ask for it, and closes it again. Its window is made while
-/// nobody is waiting for it, and kept with all that it has drawn; what it shows starts fresh at each opening.
+/// Opens and closes the pomodoro panel when the timers request it. The window is created in advance and
+/// hidden instead of closed, which makes opening fast; its state is reset at each opening.
 class PomodoroPanel : public QObject
 {
     Q_OBJECT
@@ -18,7 +18,7 @@ public:
                   QObject *parent = nullptr);
     ~PomodoroPanel() override;
 
-    /// Null until it was prepared.
+    /// Null before it was created.
     PanelWindow *window() const { return m_window.get(); }
     void prepareSoon();
     void prepare();

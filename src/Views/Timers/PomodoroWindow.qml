@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The window of the pomodoro panel, as high as what it shows.
+/// The window of the pomodoro panel. Its height follows its contents.
 PanelWindow {
     id: window
 

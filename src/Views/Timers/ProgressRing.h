@@ -6,8 +6,8 @@
 #include <QtQml/qqml.h>
 
 /// A ring that fills clockwise from the top, brightening towards a glowing head. The ring lies `margin`
-/// inside the edges of the item, where the glow has its room. Painted again only when the head has moved by
-/// something one can see, so that a slow hand costs next to nothing.
+/// inside the edges of the item, where the glow has its room. Repainted only when the head has
+/// moved visibly.
 class ProgressRing : public PictureItem
 {
     Q_OBJECT

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Sends the spark. It wakes when there is something to send.
+/// Submits the spark. Highlighted when the field has text.
 PressableControl {
     id: button
 

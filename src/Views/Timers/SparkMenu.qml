@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// What can be done with one spark.
+/// The context menu of a spark.
 PopupMenu {
     id: menu
 

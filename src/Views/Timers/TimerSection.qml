@@ -70,7 +70,7 @@ Column {
 
     Text {
         anchors.horizontalCenter: parent.horizontalCenter
-        // The tracking behind the last letter is not part of what is centred.
+        // Excludes the letter spacing after the last letter from centring.
         leftPadding: 2
         height: 16
         verticalAlignment: Text.AlignVCenter
@@ -82,7 +82,7 @@ Column {
         Accessible.name: text
     }
 
-    // Keeps its place before there is anything to count.
+    // Keeps its height while it is empty.
     Item {
         anchors.horizontalCenter: parent.horizontalCenter
         width: Math.max(1, dots.width)

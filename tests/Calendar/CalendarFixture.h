@@ -1,0 +1,59 @@
+#pragma once
+
+#include "Calendar/CalendarContents.h"
+
+#include <QDateTime>
+#include <QTimeZone>
+
+/// A calendar to be looked at through a window, with what is found told in few letters.
+struct CalendarFixture {
+    QTimeZone zone = QTimeZone::utc();
+    QDateTime from = QDateTime(QDate(2026, 11, 21), QTime(9, 0), QTimeZone::utc());
+    QDateTime to = from.addDays(1);
+
+    CalendarWindow window() const { return {.from = timestamp(from), .to = timestamp(to), .zone = zone}; }
+
+    /// The window from one local midnight to another.
+    void look(QDate first, QDate end)
+    {
+        from = QDateTime(first, QTime(0, 0), zone);
+        to = QDateTime(end, QTime(0, 0), zone);
+    }
+
+    QList<CalendarEvent> events(const QByteArray &text) const
+    {
+        CalendarContents contents(window());
+        contents.read(text);
+        return contents.events([] { return false; });
+    }
+
+    /// "21 09:30 Breakfast" for each, by the clock on the user's wall and in the order of time.
+    QStringList told(const QByteArray &text) const
+    {
+        QList<CalendarEvent> found = events(text);
+        std::ranges::stable_sort(found, {}, &CalendarEvent::start);
+        QStringList told;
+        for (const CalendarEvent &event : std::as_const(found)) {
+            const auto time =
+                QDateTime::fromMSecsSinceEpoch(qint64((event.start + 978'307'200) * 1000), zone);
+            told << time.toString(QStringLiteral("dd HH:mm ")) + event.title.value_or(QStringLiteral("-"));
+        }
+        return told;
+    }
+
+    static Timestamp timestamp(const QDateTime &time)
+    {
+        return Timestamp(time.toMSecsSinceEpoch()) / 1000 - 978'307'200;
+    }
+};
+
+/// An event of a calendar from its lines, without its first and last.
+inline QByteArray eventText(const QByteArray &lines)
+{
+    return "BEGIN:VEVENT\r\n" + lines + "\r\nEND:VEVENT\r\n";
+}
+
+inline QByteArray calendarText(const QByteArray &components)
+{
+    return "BEGIN:VCALENDAR\r\nVERSION:2.0\r\n" + components + "END:VCALENDAR\r\n";
+}
