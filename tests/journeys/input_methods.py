@@ -1,6 +1,7 @@
 """What the journeys with input methods share: words in two scripts, written in every kind of text of a page."""
 
 from desktop import shown, until
+from journey import screen_reader
 
 WORD = "日本"
 PLAIN = " is plain"
@@ -16,11 +17,24 @@ def wait_on_bus(name):
     until(lambda: "true" in shown(*ask, f"string:{name}"), f"{name} is on the bus")
 
 
+def word_in_focused_field(pelko):
+    """Whether the word is committed: the text of a field is without what is still being composed."""
+    field = pelko.focused()
+    return field and screen_reader().text_of(field) == WORD
+
+
 def write_word(pelko, turn):
-    """Writes the word with the input method, then plain letters without it."""
+    """Writes the word with the input method, then plain letters without it.
+
+    An input method that is turned off throws away the keys that it has not answered yet, and ibus-anthy commits
+    nothing where Return comes before its conversion is shown.
+    """
     turn(True)
     pelko.type("nihon")
-    pelko.keys("space", "Return")
+    pelko.keys("space")
+    pelko.stand_still()
+    pelko.keys("Return")
+    until(lambda: word_in_focused_field(pelko), "the word is in its field")
     turn(False)
     # An input method answers each key over the bus. On a busy machine one key can pass another there.
     pelko.type(PLAIN, milliseconds=120)
