@@ -1293,27 +1293,6 @@ Schreibt kurze Seiten, Block für Block.
     </message>
 </context>
 <context>
-    <name>TitleCapsule</name>
-    <message>
-        <source>Not saved</source>
-        <translation>Nicht gesichert</translation>
-    </message>
-</context>
-<context>
-    <name>TodoRow</name>
-    <message>
-        <source>To do...</source>
-        <translation>Zu tun...</translation>
-    </message>
-</context>
-<context>
-    <name>TodoToggle</name>
-    <message>
-        <source>To do...</source>
-        <translation>Zu tun...</translation>
-    </message>
-</context>
-<context>
     <name>TitleBar</name>
     <message>
         <source>Menu</source>
@@ -1334,6 +1313,27 @@ Schreibt kurze Seiten, Block für Block.
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>TitleCapsule</name>
+    <message>
+        <source>Not saved</source>
+        <translation>Nicht gesichert</translation>
+    </message>
+</context>
+<context>
+    <name>TodoRow</name>
+    <message>
+        <source>To do...</source>
+        <translation>Zu tun...</translation>
+    </message>
+</context>
+<context>
+    <name>TodoToggle</name>
+    <message>
+        <source>To do...</source>
+        <translation>Zu tun...</translation>
     </message>
 </context>
 <context>

@@ -179,7 +179,7 @@
     </message>
     <message>
         <source>What&apos;s the thought?</source>
-        <translation>À quoi penses-tu ?</translation>
+        <translation>À quoi penses-tu&#x202f;?</translation>
     </message>
 </context>
 <context>
@@ -199,7 +199,7 @@
     <name>CommandLine</name>
     <message>
         <source>Try &apos;pelko --help&apos; for more information.</source>
-        <translation>Pour en savoir plus : « pelko --help ».</translation>
+        <translation>Pour en savoir plus&#xa0;: «&#xa0;pelko --help&#xa0;».</translation>
     </message>
     <message>
         <source>Usage: pelko [OPTION]
@@ -232,7 +232,7 @@ Write short pages, block by block.
     </message>
     <message>
         <source>--pomodoro takes start, pause, reset or status, not &apos;%1&apos;.</source>
-        <translation>--pomodoro comprend start, pause, reset et status, pas « %1 ».</translation>
+        <translation>--pomodoro comprend start, pause, reset et status, pas «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>--export needs a folder.</source>
@@ -240,7 +240,7 @@ Write short pages, block by block.
     </message>
     <message>
         <source>Unexpected argument &apos;%1&apos;.</source>
-        <translation>Argument inattendu : « %1 ».</translation>
+        <translation>Argument inattendu&#xa0;: «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>One command at a time.</source>
@@ -358,30 +358,30 @@ Write short pages, block by block.
     <message>
         <source>%1 on the way to “%2”.</source>
         <extracomment>%1 is such as &quot;12 pages and 1 picture&quot;, %2 the name of a folder.</extracomment>
-        <translation>%1 en route vers « %2 ».</translation>
+        <translation>%1 en route vers «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>Replace “%1”?</source>
-        <translation>Remplacer « %1 » ?</translation>
+        <translation>Remplacer «&#xa0;%1&#xa0;»&#x202f;?</translation>
     </message>
     <message numerus="yes">
         <source>Replace %n file(s)?</source>
         <translation>
-            <numerusform>Remplacer %n fichier ?</numerusform>
-            <numerusform>Remplacer %n fichiers ?</numerusform>
+            <numerusform>Remplacer %n fichier&#x202f;?</numerusform>
+            <numerusform>Remplacer %n fichiers&#x202f;?</numerusform>
         </translation>
     </message>
     <message>
         <source>“%1” has a file of that name.</source>
-        <translation>« %1 » contient un fichier de ce nom.</translation>
+        <translation>«&#xa0;%1&#xa0;» contient un fichier de ce nom.</translation>
     </message>
     <message>
         <source>“%1” has files of these names, “%2” for one.</source>
-        <translation>« %1 » contient des fichiers de ces noms, dont « %2 ».</translation>
+        <translation>«&#xa0;%1&#xa0;» contient des fichiers de ces noms, dont «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>Export failed: %1. Nothing was left behind.</source>
-        <translation>Échec de l&apos;export : %1. Rien ne traîne.</translation>
+        <translation>Échec de l&apos;export&#xa0;: %1. Rien ne traîne.</translation>
     </message>
     <message>
         <source>Exported.</source>
@@ -389,7 +389,7 @@ Write short pages, block by block.
     </message>
     <message>
         <source>%1 in “%2”. Plain Markdown, yours to keep.</source>
-        <translation>%1 dans « %2 ». Du simple Markdown, à toi pour toujours.</translation>
+        <translation>%1 dans «&#xa0;%2&#xa0;». Du simple Markdown, à toi pour toujours.</translation>
     </message>
 </context>
 <context>
@@ -464,7 +464,7 @@ Write short pages, block by block.
     </message>
     <message>
         <source>Into “%1”</source>
-        <translation>Dans « %1 »</translation>
+        <translation>Dans «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -516,7 +516,7 @@ Write short pages, block by block.
     <name>GrowthNote</name>
     <message>
         <source>Showing a long text: %1 %. Ctrl+Z takes a paste back.</source>
-        <translation>Un long texte arrive : %1 %. Ctrl+Z annule le collage.</translation>
+        <translation>Un long texte arrive&#xa0;: %1&#xa0;%. Ctrl+Z annule le collage.</translation>
     </message>
 </context>
 <context>
@@ -554,13 +554,13 @@ Write short pages, block by block.
     <name>LibraryExport</name>
     <message>
         <source>%1 is there already. Nothing was written; --overwrite replaces files.</source>
-        <translation>%1 existe déjà. Rien n&apos;a été écrit ; --overwrite remplace les fichiers.</translation>
+        <translation>%1 existe déjà. Rien n&apos;a été écrit&#x202f;; --overwrite remplace les fichiers.</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more are there already. Nothing was written; --overwrite replaces files.</source>
         <translation>
-            <numerusform>%1 et %n autre existent déjà. Rien n&apos;a été écrit ; --overwrite remplace les fichiers.</numerusform>
-            <numerusform>%1 et %n autres existent déjà. Rien n&apos;a été écrit ; --overwrite remplace les fichiers.</numerusform>
+            <numerusform>%1 et %n autre existent déjà. Rien n&apos;a été écrit&#x202f;; --overwrite remplace les fichiers.</numerusform>
+            <numerusform>%1 et %n autres existent déjà. Rien n&apos;a été écrit&#x202f;; --overwrite remplace les fichiers.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -572,7 +572,7 @@ Write short pages, block by block.
     </message>
     <message>
         <source>Export failed: %1</source>
-        <translation>Échec de l&apos;export : %1</translation>
+        <translation>Échec de l&apos;export&#xa0;: %1</translation>
     </message>
     <message>
         <source>Exported %1 to %2</source>
@@ -584,7 +584,7 @@ Write short pages, block by block.
     <name>MainViewModel</name>
     <message>
         <source>Delete “%1” for good?</source>
-        <translation>Supprimer « %1 » pour de bon ?</translation>
+        <translation>Supprimer «&#xa0;%1&#xa0;» pour de bon&#x202f;?</translation>
     </message>
 </context>
 <context>
@@ -947,19 +947,19 @@ Write short pages, block by block.
     <name>QCommandLineParser</name>
     <message>
         <source>Unknown option &apos;%1&apos;.</source>
-        <translation>Option inconnue : « %1 ».</translation>
+        <translation>Option inconnue&#xa0;: «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Unknown options: %1.</source>
-        <translation>Options inconnues : %1.</translation>
+        <translation>Options inconnues&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Missing value after &apos;%1&apos;.</source>
-        <translation>Il manque une valeur après « %1 ».</translation>
+        <translation>Il manque une valeur après «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Unexpected value after &apos;%1&apos;.</source>
-        <translation>Valeur inattendue après « %1 ».</translation>
+        <translation>Valeur inattendue après «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -1007,8 +1007,8 @@ Write short pages, block by block.
     <message numerus="yes">
         <source>Sessions done: %n</source>
         <translation>
-            <numerusform>Séances finies : %n</numerusform>
-            <numerusform>Séances finies : %n</numerusform>
+            <numerusform>Séances finies&#xa0;: %n</numerusform>
+            <numerusform>Séances finies&#xa0;: %n</numerusform>
         </translation>
     </message>
 </context>
@@ -1064,7 +1064,7 @@ Write short pages, block by block.
     </message>
     <message>
         <source>The documents cannot be locked (%1): do not open them in another Pelko meanwhile.</source>
-        <translation>Impossible de verrouiller les pages (%1) : ne les ouvre pas dans un autre Pelko en attendant.</translation>
+        <translation>Impossible de verrouiller les pages (%1)&#xa0;: ne les ouvre pas dans un autre Pelko en attendant.</translation>
     </message>
     <message>
         <source>The running Pelko does not answer.</source>
@@ -1134,8 +1134,8 @@ Write short pages, block by block.
     <message numerus="yes">
         <source>Recent sparks: %n</source>
         <translation>
-            <numerusform>Étincelles récentes : %n</numerusform>
-            <numerusform>Étincelles récentes : %n</numerusform>
+            <numerusform>Étincelles récentes&#xa0;: %n</numerusform>
+            <numerusform>Étincelles récentes&#xa0;: %n</numerusform>
         </translation>
     </message>
     <message>
@@ -1147,14 +1147,14 @@ Write short pages, block by block.
     <name>StartFailure</name>
     <message>
         <source>Pelko cannot start:</source>
-        <translation>Pelko ne peut pas démarrer :</translation>
+        <translation>Pelko ne peut pas démarrer&#xa0;:</translation>
     </message>
     <message numerus="yes">
         <source>Pelko cannot start. It needs these QML modules, which are not installed: %1.</source>
         <extracomment>The number is not told: %1 lists the modules.</extracomment>
         <translation>
             <numerusform>Pelko ne peut pas démarrer. Il lui faut le module QML %1, qui n&apos;est pas installé.</numerusform>
-            <numerusform>Pelko ne peut pas démarrer. Il lui faut ces modules QML, qui ne sont pas installés : %1.</numerusform>
+            <numerusform>Pelko ne peut pas démarrer. Il lui faut ces modules QML, qui ne sont pas installés&#xa0;: %1.</numerusform>
         </translation>
     </message>
 </context>
@@ -1173,7 +1173,7 @@ Write short pages, block by block.
     </message>
     <message>
         <source>Save failed: %1</source>
-        <translation>Échec de l&apos;enregistrement : %1</translation>
+        <translation>Échec de l&apos;enregistrement&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1181,8 +1181,8 @@ Write short pages, block by block.
     <message numerus="yes">
         <source>Streak: %n day(s)</source>
         <translation>
-            <numerusform>Série : %n jour</numerusform>
-            <numerusform>Série : %n jours</numerusform>
+            <numerusform>Série&#xa0;: %n jour</numerusform>
+            <numerusform>Série&#xa0;: %n jours</numerusform>
         </translation>
     </message>
     <message>
@@ -1293,27 +1293,6 @@ Write short pages, block by block.
     </message>
 </context>
 <context>
-    <name>TitleCapsule</name>
-    <message>
-        <source>Not saved</source>
-        <translation>Non enregistré</translation>
-    </message>
-</context>
-<context>
-    <name>TodoRow</name>
-    <message>
-        <source>To do...</source>
-        <translation>À faire...</translation>
-    </message>
-</context>
-<context>
-    <name>TodoToggle</name>
-    <message>
-        <source>To do...</source>
-        <translation>À faire...</translation>
-    </message>
-</context>
-<context>
     <name>TitleBar</name>
     <message>
         <source>Menu</source>
@@ -1334,6 +1313,27 @@ Write short pages, block by block.
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>TitleCapsule</name>
+    <message>
+        <source>Not saved</source>
+        <translation>Non enregistré</translation>
+    </message>
+</context>
+<context>
+    <name>TodoRow</name>
+    <message>
+        <source>To do...</source>
+        <translation>À faire...</translation>
+    </message>
+</context>
+<context>
+    <name>TodoToggle</name>
+    <message>
+        <source>To do...</source>
+        <translation>À faire...</translation>
     </message>
 </context>
 <context>
@@ -1415,7 +1415,7 @@ Write short pages, block by block.
     <name>main</name>
     <message>
         <source>Pelko: Could not locate Application Support directory.</source>
-        <translation>Pelko : impossible de trouver le dossier des données.</translation>
+        <translation>Pelko&#xa0;: impossible de trouver le dossier des données.</translation>
     </message>
     <message>
         <source>Pelko is not running.</source>

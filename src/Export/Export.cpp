@@ -93,7 +93,7 @@ QString Export::contents(const QList<PelkoDocument> &documents)
     qsizetype pictures = 0;
     for (const PelkoDocument &document : documents)
         pictures += std::ranges::count_if(document.blocks, holdsPicture);
-    const QString pages = QCoreApplication::translate("Export", "%n page(s)", nullptr, int(documents.size()));
+    QString pages = QCoreApplication::translate("Export", "%n page(s)", nullptr, int(documents.size()));
     if (pictures == 0)
         return pages;
     //: Pages and pictures, such as "12 pages and 1 picture".

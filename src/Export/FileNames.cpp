@@ -73,10 +73,10 @@ QString fileNameFrom(const QString &text)
     const QString start = QString::fromUtf8(text.trimmed().left(1000).toUtf8());
     const QString composed = start.normalized(QString::NormalizationForm_C);
     const QString name = trimmed(shortened(trimmed(withoutForbidden(composed)), longestName));
-    //: Name of the file of a page without words.
-    const QString nameless = QCoreApplication::translate("Export", "Untitled");
-    if (name.isEmpty())
-        return nameless;
+    if (name.isEmpty()) {
+        //: Name of the file of a page without words.
+        return QCoreApplication::translate("Export", "Untitled");
+    }
     return isReserved(name) ? u'_' + name : name;
 }
 

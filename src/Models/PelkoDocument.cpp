@@ -39,7 +39,7 @@ std::optional<QString> PelkoDocument::writtenTitle() const
 {
     const auto banner = std::ranges::find_if(blocks, isTitledBanner);
     if (banner != blocks.end())
-        return *banner->bannerTitle;
+        return banner->bannerTitle;
     const auto heading = std::ranges::find(blocks, BlockType::textLarge, &Block::type);
     if (heading != blocks.end() && !isBlank(heading->content))
         return heading->content;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QList>
 #include <QString>
 
@@ -23,8 +24,11 @@ enum class MenuLocation { window, menuBar };
 
 /// A command of the program: its title and its key.
 struct MenuCommand {
+    Q_DECLARE_TR_FUNCTIONS(MenuCommand)
+
+public:
     QString id = {};
-    /// Marked for the catalogues with the context "MenuCommand".
+    /// The title before it is translated.
     const char *englishTitle = nullptr;
     QString symbol = {};
     /// In portable words, where "Ctrl" is Command on a Mac; empty for none.
@@ -35,11 +39,11 @@ struct MenuCommand {
     QString otherShortcut = {};
 
     QString title() const;
-};
 
-/// Every command, in the order of the menu. The app menu, the keys and the sheet of keys are all made from
-/// it.
-const QList<MenuCommand> &menuCommands();
+    /// Every command, in the order of the menu. The app menu, the keys and the sheet of keys are all made
+    /// from it.
+    static const QList<MenuCommand> &all();
+};
 
 /// Those that make sense where the commands are offered there.
 QList<MenuCommand> menuCommands(MenuLocation place);

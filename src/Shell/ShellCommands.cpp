@@ -62,7 +62,7 @@ void ShellCommands::bindRequests()
 
 void ShellCommands::bindEditing()
 {
-    for (const MenuCommand &command : menuCommands()) {
+    for (const MenuCommand &command : MenuCommand::all()) {
         if (command.group == CommandGroup::editing)
             bind(command.id, {.run = [this, id = command.id] { Q_EMIT editingRequested(id); }});
     }

@@ -45,7 +45,7 @@ QList<ShortcutLine> commandKeys(MenuLocation place)
 
 QList<ShortcutLine> editingKeys()
 {
-    return shortcutLines(Section::editing, menuCommands());
+    return shortcutLines(Section::editing, MenuCommand::all());
 }
 
 QList<ShortcutLine> typingMarkers()

@@ -50,7 +50,7 @@ private Q_SLOTS:
     {
         QFETCH(BarMenu, menu);
         QFETCH(QStringList, wanted);
-        CommandListModel commands(menuCommands());
+        CommandListModel commands(MenuCommand::all());
         CommandMenu rowsOfMenu(commands, menu);
         const QAbstractItemModelTester tester(&rowsOfMenu,
                                               QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -61,13 +61,13 @@ private Q_SLOTS:
 
     void everyCommandOfTheMenuIsInOne()
     {
-        CommandListModel commands(menuCommands());
+        CommandListModel commands(MenuCommand::all());
         QStringList found;
         for (const BarMenu menu : allBarMenus)
             found << rows(CommandMenu(commands, menu));
         found.removeAll(u"-"_s);
         QStringList wanted;
-        for (const MenuCommand &command : menuCommands()) {
+        for (const MenuCommand &command : MenuCommand::all()) {
             if (command.group != CommandGroup::none)
                 wanted << command.title();
         }
@@ -79,7 +79,7 @@ private Q_SLOTS:
 
     void systemCommandsReportTheirRole()
     {
-        CommandListModel commands(menuCommands());
+        CommandListModel commands(MenuCommand::all());
         const CommandMenu menu(commands, BarMenu::help);
         QStringList roles;
         for (int row = 0; row < menu.rowCount(); ++row)
@@ -90,7 +90,7 @@ private Q_SLOTS:
 
     void followsTheCommands()
     {
-        CommandListModel commands(menuCommands());
+        CommandListModel commands(MenuCommand::all());
         const CommandMenu menu(commands, BarMenu::spaces);
         QSignalSpy changes(&menu, &CommandMenu::dataChanged);
         commands.bind(u"work"_s, {.run = [] {}, .isTicked = [] { return true; }});

@@ -250,7 +250,7 @@ private Q_SLOTS:
 
     void theCommandsAreThereForWhatThereIs()
     {
-        CommandListModel commands(menuCommands());
+        CommandListModel commands(MenuCommand::all());
         exports().bindTo(commands);
         commands.run(u"exportDocument"_s);
         QCOMPARE(m_program->desktop.fileChooser.asked, 1);
@@ -273,7 +273,7 @@ private Q_SLOTS:
         AppState appState(m_program->scheduler, m_program->clock, empty);
         ExportViewModel none(appState, {m_program->scheduler, m_program->desktop.fileChooser,
                                         m_program->folder, m_program->desktop.pasteboard});
-        CommandListModel commands(menuCommands());
+        CommandListModel commands(MenuCommand::all());
         none.bindTo(commands);
         QVERIFY(!commands.isEnabled(u"exportLibrary"_s));
         appState.captureSpark(u"a thought"_s);

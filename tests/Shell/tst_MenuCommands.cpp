@@ -14,7 +14,7 @@ private Q_SLOTS:
     void listsTheCommandsInMenuOrder()
     {
         QStringList titles;
-        for (const MenuCommand &command : menuCommands())
+        for (const MenuCommand &command : MenuCommand::all())
             titles << command.title();
 
         QCOMPARE(titles, (QStringList{u"New Document"_s,
@@ -44,7 +44,7 @@ private Q_SLOTS:
 
     void newDocumentHasThePlatformsNewShortcut()
     {
-        const QKeySequence shortcut(menuCommands().first().shortcut, QKeySequence::PortableText);
+        const QKeySequence shortcut(MenuCommand::all().first().shortcut, QKeySequence::PortableText);
 
         QVERIFY(QKeySequence::keyBindings(QKeySequence::New).contains(shortcut));
     }
@@ -52,7 +52,7 @@ private Q_SLOTS:
     void everyShortcutIsAKeyAndNoneIsTakenTwice()
     {
         QSet<QString> seen;
-        for (const MenuCommand &command : menuCommands()) {
+        for (const MenuCommand &command : MenuCommand::all()) {
             if (command.shortcut.isEmpty())
                 continue;
             const QKeySequence keys(command.shortcut, QKeySequence::PortableText);
@@ -66,7 +66,7 @@ private Q_SLOTS:
     void everyCommandHasItsOwnIdAndTitle()
     {
         QSet<QString> seen;
-        for (const MenuCommand &command : menuCommands()) {
+        for (const MenuCommand &command : MenuCommand::all()) {
             for (const QString &word : {command.id, command.title()}) {
                 QVERIFY2(!word.isEmpty() && !seen.contains(word), qPrintable(word));
                 seen.insert(word);
@@ -76,7 +76,7 @@ private Q_SLOTS:
 
     void everyCommandOfTheMenuHasASymbolAndEveryOtherAKey()
     {
-        for (const MenuCommand &command : menuCommands())
+        for (const MenuCommand &command : MenuCommand::all())
             QVERIFY2(command.group == CommandGroup::none ? !command.shortcut.isEmpty()
                                                          : !command.symbol.isEmpty(),
                      qPrintable(command.id));
@@ -87,7 +87,7 @@ private Q_SLOTS:
         QStringList wanted;
         for (const MenuCommand &command : menuCommands(MenuLocation::window))
             wanted << command.id;
-        QCOMPARE(wanted.size(), menuCommands().size());
+        QCOMPARE(wanted.size(), MenuCommand::all().size());
         wanted.removeOne(u"appMenu"_s);
         QStringList offered;
         for (const MenuCommand &command : menuCommands(MenuLocation::menuBar))
@@ -109,7 +109,7 @@ private Q_SLOTS:
     void theCommandsOfAGroupStandTogether()
     {
         QList<CommandGroup> groups;
-        for (const MenuCommand &command : menuCommands()) {
+        for (const MenuCommand &command : MenuCommand::all()) {
             if (groups.isEmpty() || groups.last() != command.group)
                 groups << command.group;
         }

@@ -68,7 +68,7 @@ private Q_SLOTS:
     void everyCommandDoesOneThing_data()
     {
         QTest::addColumn<QString>("id");
-        for (const MenuCommand &command : menuCommands()) {
+        for (const MenuCommand &command : MenuCommand::all()) {
             if (command.group != CommandGroup::exports) // which are bound by who makes them
                 QTest::newRow(qPrintable(command.id)) << command.id;
         }

@@ -41,7 +41,7 @@ private Q_SLOTS:
     void everyCommandWithAKeyHasItsLine()
     {
         QStringList wanted;
-        for (const MenuCommand &command : menuCommands()) {
+        for (const MenuCommand &command : MenuCommand::all()) {
             if (!command.shortcut.isEmpty())
                 wanted << command.title() + u' ' + command.shortcut;
         }

@@ -157,8 +157,8 @@ private Q_SLOTS:
     {
         QFETCH(EditorAction, action);
         const QString id = QString::fromUtf8(QTest::currentDataTag());
-        const auto command = std::ranges::find(menuCommands(), id, &MenuCommand::id);
-        QVERIFY(command != menuCommands().end());
+        const auto command = std::ranges::find(MenuCommand::all(), id, &MenuCommand::id);
+        QVERIFY(command != MenuCommand::all().end());
 
         for (const QString &keys : {command->shortcut, command->otherShortcut}) {
             if (!keys.isEmpty())
@@ -169,7 +169,7 @@ private Q_SLOTS:
     void noCommandTakesAKeyOfTheSheet()
     {
         for (const EditorKeyBinding &binding : editorKeyBindings()) {
-            for (const MenuCommand &command : menuCommands())
+            for (const MenuCommand &command : MenuCommand::all())
                 QVERIFY2(!binding.title || binding.text() != command.shortcut, binding.title);
         }
     }

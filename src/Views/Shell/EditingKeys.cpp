@@ -10,8 +10,8 @@
 
 bool EditingKeys::press(QQuickWindow *window, const QString &command)
 {
-    const auto found = std::ranges::find(menuCommands(), command, &MenuCommand::id);
-    if (!window || found == menuCommands().end())
+    const auto found = std::ranges::find(MenuCommand::all(), command, &MenuCommand::id);
+    if (!window || found == MenuCommand::all().end())
         return false;
     const QKeyCombination key = QKeySequence(found->shortcut, QKeySequence::PortableText)[0];
     QKeyEvent press(QEvent::KeyPress, key.key(), key.keyboardModifiers());
