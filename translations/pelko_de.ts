@@ -32,7 +32,7 @@
     </message>
     <message>
         <source>Couldn&apos;t import image.</source>
-        <translation>Das Bild will nicht.</translation>
+        <translation>Das Bild ließ sich nicht einfügen.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -160,7 +160,7 @@
     <name>CalendarCard</name>
     <message>
         <source>UP NEXT</source>
-        <translation>GLEICH</translation>
+        <translation>DEMNÄCHST</translation>
     </message>
     <message>
         <source>Nothing scheduled</source>
@@ -262,7 +262,7 @@ Schreibt kurze Seiten, Block für Block.
     <name>EditorKeys</name>
     <message>
         <source>Join with the block above</source>
-        <translation>An den Block darüber hängen</translation>
+        <translation>Mit dem Block darüber verbinden</translation>
     </message>
     <message>
         <source>New block</source>
@@ -338,7 +338,7 @@ Schreibt kurze Seiten, Block für Block.
     </message>
     <message>
         <source>Stop</source>
-        <translation>Halt</translation>
+        <translation>Stopp</translation>
     </message>
     <message>
         <source>Nah</source>
@@ -404,7 +404,7 @@ Schreibt kurze Seiten, Block für Block.
     </message>
     <message>
         <source>Export here</source>
-        <translation>Hierher damit</translation>
+        <translation>Hierher exportieren</translation>
     </message>
     <message>
         <source>Images</source>
@@ -427,7 +427,7 @@ Schreibt kurze Seiten, Block für Block.
     </message>
     <message>
         <source>The file chooser came to an unexpected end</source>
-        <translation>Der Dateidialog hat sich verabschiedet</translation>
+        <translation>Der Dateidialog hat unerwartet geendet</translation>
     </message>
     <message>
         <source>That is a file, not a folder.</source>
@@ -472,7 +472,7 @@ Schreibt kurze Seiten, Block für Block.
     </message>
     <message>
         <source>Export here</source>
-        <translation>Hierher damit</translation>
+        <translation>Hierher exportieren</translation>
     </message>
     <message>
         <source>Open</source>
@@ -999,7 +999,7 @@ Schreibt kurze Seiten, Block für Block.
     <name>SendButton</name>
     <message>
         <source>Send</source>
-        <translation>Ab damit</translation>
+        <translation>Senden</translation>
     </message>
 </context>
 <context>
@@ -1223,7 +1223,7 @@ Schreibt kurze Seiten, Block für Block.
     </message>
     <message>
         <source>Hide</source>
-        <translation>Weg damit</translation>
+        <translation>Ausblenden</translation>
     </message>
     <message>
         <source>Tasks</source>
@@ -1386,7 +1386,7 @@ Schreibt kurze Seiten, Block für Block.
     </message>
     <message>
         <source>Quit and lose them</source>
-        <translation>Beenden, futsch</translation>
+        <translation>Beenden und verlieren</translation>
     </message>
 </context>
 <context>

@@ -32,7 +32,7 @@
     </message>
     <message>
         <source>Couldn&apos;t import image.</source>
-        <translation>L&apos;image n&apos;a pas voulu entrer.</translation>
+        <translation>L&apos;image n&apos;a pas pu être ajoutée.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -40,7 +40,7 @@
     </message>
     <message>
         <source>Nah</source>
-        <translation>Bof</translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -108,7 +108,7 @@
     </message>
     <message>
         <source>Divider</source>
-        <translation>Filet</translation>
+        <translation>Séparateur</translation>
     </message>
     <message>
         <source>Image</source>
@@ -342,7 +342,7 @@ Write short pages, block by block.
     </message>
     <message>
         <source>Nah</source>
-        <translation>Bof</translation>
+        <translation>Non</translation>
     </message>
     <message>
         <source>Replace</source>
@@ -427,7 +427,7 @@ Write short pages, block by block.
     </message>
     <message>
         <source>The file chooser came to an unexpected end</source>
-        <translation>Le sélecteur de fichiers a rendu son dernier souffle</translation>
+        <translation>Le sélecteur de fichiers s&apos;est arrêté de façon inattendue</translation>
     </message>
     <message>
         <source>That is a file, not a folder.</source>
@@ -1049,7 +1049,7 @@ Write short pages, block by block.
     </message>
     <message>
         <source>Divider</source>
-        <translation>Filet</translation>
+        <translation>Séparateur</translation>
     </message>
     <message>
         <source>Checklist</source>
@@ -1386,7 +1386,7 @@ Write short pages, block by block.
     </message>
     <message>
         <source>Quit and lose them</source>
-        <translation>Quitter, tant pis</translation>
+        <translation>Quitter et les perdre</translation>
     </message>
 </context>
 <context>
