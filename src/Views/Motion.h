@@ -22,7 +22,7 @@ public:
     void setReduced(bool reduced);
     /// Milliseconds of the only animation left when motion is reduced.
     int fade() const { return 120; }
-    /// Durations in milliseconds of the tick beside the title.
+    /// Milliseconds in which the tick beside the title fades in and out.
     int savedIn() const { return m_isReduced ? fade() : 150; }
     int savedOut() const { return m_isReduced ? fade() : 450; }
 

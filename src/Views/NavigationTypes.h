@@ -15,5 +15,5 @@ struct NavigationViewModelForQml {
 struct HighlightedLineForQml {
     Q_GADGET
     QML_FOREIGN(HighlightedLine)
-    QML_VALUE_TYPE(markedLine)
+    QML_VALUE_TYPE(highlightedLine)
 };

@@ -78,7 +78,7 @@ public:
     QFont bannerTitle() const { return face(m_displayFamily, 38, QFont::Bold, -0.7); }
     QFont heading() const { return face(m_displayFamily, 34, QFont::Bold, -0.5); }
     QFont body() const { return face(m_textFamily, 16.5, QFont::Normal); }
-    /// The text family, because the display family's italic q is broken in Debian 12.
+    /// The text family: a quote is read like text, and the display family's italic q is broken in Debian 12.
     QFont quote() const { return italic(face(m_textFamily, 18, QFont::Normal)); }
     QFont code() const { return face(m_monoFamily, 13.5, QFont::Normal); }
     QFont checklist() const { return face(m_textFamily, 15, QFont::Normal); }

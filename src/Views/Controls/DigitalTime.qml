@@ -4,7 +4,7 @@ import QtQuick
 import Pelko
 
 /// A time, or a number, whose digits stand in cells of one width each, so that nothing shifts while it counts. Where it `rolls`,
-/// a digit that changes rolls upwards to the next. The parent sets the accessible name.
+/// a digit that changes rolls upwards to the next. Whoever uses it sets the accessible role and name.
 Row {
     id: time
 

@@ -29,7 +29,8 @@ private:
     QColor m_footColor;
 };
 
-/// The glow of a flame: its blurred shape, `margin` inside the edges of the item.
+/// The glow of a flame: its shape, `flameSize` large, blurred by `radius` and centred in the item. The
+/// implicit size has room for the blur.
 class FlameGlow : public PictureItem
 {
     Q_OBJECT

@@ -6,8 +6,8 @@
 #include <QFont>
 #include <QtQml/qqml.h>
 
-/// A short text with a vertical colour gradient from the cap height to the baseline. It is centred in the
-/// item and has the baseline of plain text in that font.
+/// A short text with a vertical colour gradient from the cap height to the baseline. It is centred from
+/// left to right and starts at the top of the item, so that it has the baseline of plain text in that font.
 class GradientText : public PictureItem
 {
     Q_OBJECT

@@ -3,7 +3,8 @@
 #include <QQuickItem>
 #include <QtQml/qqml.h>
 
-/// While active, reports the key events of its window, whichever item handles them. Accepts none of them.
+/// While active, reports key presses and input method events in its window, whichever item handles them.
+/// Accepts none of them.
 class KeyWatcher : public QQuickItem
 {
     Q_OBJECT

@@ -30,7 +30,8 @@ public:
     qreal value() const { return m_goal + m_distance.position; }
     qreal response() const { return m_spring.response; }
     qreal dampingFraction() const { return m_spring.dampingFraction; }
-    /// While set, moves together with the goal at a constant distance.
+    /// While set, a change of the goal moves the value by as much; the distance that is left goes on
+    /// shrinking.
     bool isCarried() const { return m_isCarried; }
     /// While set, jumps to the goal; for reduced motion.
     bool isInstant() const { return m_isInstant; }

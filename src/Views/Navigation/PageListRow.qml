@@ -12,8 +12,8 @@ Item {
     required property string pageID
     /// All that the row says, to be read out.
     required property string name
-    required property markedLine titleLine
-    required property markedLine detailLine
+    required property highlightedLine titleLine
+    required property highlightedLine detailLine
     required property bool isOpen
     required property bool isSpark
     required property bool isPinned

@@ -3,8 +3,8 @@
 #include <QQuickWindow>
 #include <QtQml/qqml.h>
 
-/// A small frameless window that opens beside its opener, stays inside the screen when its size changes, and
-/// reports when it loses the focus.
+/// A small frameless window that opens beside its opener, stays inside the screen when its height changes,
+/// and reports when it loses the focus.
 class PanelWindow : public QQuickWindow
 {
     Q_OBJECT

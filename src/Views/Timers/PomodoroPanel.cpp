@@ -34,7 +34,7 @@ void PomodoroPanel::prepare()
 {
     if (m_window)
         return;
-    // Delayed, so that it does not slow down the start.
+    // Not loaded in the constructor, which would slow down the start.
     m_component.loadUrl(QUrl(u"qrc:/qt/qml/Pelko/Views/Timers/PomodoroWindow.qml"_s));
     m_window.reset(qobject_cast<PanelWindow *>(
         m_component.createWithInitialProperties({{u"panel"_s, QVariant::fromValue(&m_timers.panel())}})));

@@ -8,7 +8,7 @@ class PanelWindow;
 class TimersViewModel;
 
 /// Opens and closes the pomodoro panel when the timers request it. The window is created in advance and
-/// hidden instead of closed, which makes opening fast; its state is reset at each opening.
+/// hidden instead of closed, which makes opening fast; its state is reset when it closes.
 class PomodoroPanel : public QObject
 {
     Q_OBJECT

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Submits the spark. Highlighted when the field has text.
+/// Submits the spark. Dimmed while there is nothing to submit.
 PressableControl {
     id: button
 

@@ -70,7 +70,7 @@ Column {
 
     Text {
         anchors.horizontalCenter: parent.horizontalCenter
-        // Excludes the letter spacing after the last letter from centring.
+        // As wide as the letter spacing after the last letter, so that the letters are centred.
         leftPadding: 2
         height: 16
         verticalAlignment: Text.AlignVCenter
