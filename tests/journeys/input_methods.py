@@ -56,6 +56,16 @@ def texts_of(block):
     return [entry["text"] for entry in block["todos"]] if block["type"] == "sticky" else block["content"]
 
 
+def entries(saved):
+    return [entry["text"] for entry in saved[0]["blocks"][2]["todos"]]
+
+
+def compose(pelko, turn):
+    turn(True)
+    pelko.type(COMPOSED_KEYS)
+    pelko.stand_still()
+
+
 def outline(page):
     return [(block["type"], texts_of(block)) for block in page["blocks"]]
 
@@ -66,10 +76,13 @@ def write_and_quit(pelko, turn, **environment):
     pelko.wait_focus_on("Heading")
     write_page(pelko, turn)
     pelko.wait_saved(lambda saved: saved and outline(saved[0]) == PAGE, "the page")
-    # Quit in the middle of a composition: what it shows is kept.
-    turn(True)
-    pelko.type(COMPOSED_KEYS)
-    pelko.stand_still()
+    compose(pelko, turn)
+    # A click elsewhere ends a composition too: what it shows is kept, once.
+    pelko.click(pelko.find("Heading"))
+    pelko.wait_saved(lambda saved: entries(saved) == [TEXT, TEXT + COMPOSED], "what was composed in an entry")
+    pelko.keys("ctrl+End")
+    compose(pelko, turn)
+    # Quit in the middle of a composition.
     pelko.close()
-    entries = pelko.saved()[0]["blocks"][2]["todos"]
-    assert [entry["text"] for entry in entries] == [TEXT, TEXT + COMPOSED], pelko.saved()
+    assert entries(pelko.saved()) == [TEXT, TEXT + COMPOSED], pelko.saved()
+    assert texts_of(pelko.saved()[0]["blocks"][-1]) == COMPOSED, pelko.saved()

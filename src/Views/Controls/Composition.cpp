@@ -32,8 +32,10 @@ void Composition::settle(QQuickItem *field)
     const QString composed = preeditOf(*field);
     const int length = field->property("length").toInt();
     QGuiApplication::inputMethod()->commit();
-    // Not every input method commits when it is asked to: some do nothing, and ibus clears what some engines
-    // composed.
+    // fcitx5 commits only on a reset, and would commit once more what is inserted without one.
+    if (!preeditOf(*field).isEmpty())
+        QGuiApplication::inputMethod()->reset();
+    // Some input methods do nothing then, and ibus clears what some engines composed.
     if (!preeditOf(*field).isEmpty() || field->property("length").toInt() == length)
         insertComposed(*field, composed);
 }
