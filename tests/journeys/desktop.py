@@ -137,9 +137,18 @@ def run_on_own_desktop(services):
                 return session.wait(timeout=600)
             finally:
                 end_group(session.pid)
+                unmount_below(folder)
         finally:
             server.terminate()
             server.wait()
+
+
+def unmount_below(folder):
+    """The document portal mounts a folder in the runtime directory, and may not have unmounted it yet when it ends."""
+    for line in pathlib.Path("/proc/self/mounts").read_text().splitlines():
+        place = line.split()[1]
+        if place.startswith(f"{folder}/"):
+            subprocess.run(["fusermount3", "-u", "-z", place], stderr=subprocess.DEVNULL)
 
 
 def end_group(leader):

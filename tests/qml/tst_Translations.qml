@@ -93,21 +93,30 @@ Item {
             return root
         }
 
-        // Until nothing moves any more.
+        // Until nothing has moved for a moment. On a busy machine what is to move may begin late.
         function settle(root) {
             waitForRendering(root)
             let before = ""
-            for (let patience = 0; patience < 30 && before !== texts.picture(root); ++patience) {
-                before = texts.picture(root)
+            let still = 0
+            for (let patience = 0; patience < 60 && still < 3; ++patience) {
+                const now = texts.picture(root)
+                still = now === before ? still + 1 : 0
+                before = now
                 wait(100)
             }
+        }
+
+        function waitUntilEmpty(list) {
+            for (let patience = 0; patience < 50 && list().length > 0; ++patience)
+                wait(100)
+            return Array.from(list())
         }
 
         function verifyTexts(root) {
             settle(root)
             verify(texts.translated(root).length > 0, "there is something to look at")
             compare(Array.from(texts.raw(root)), [], "raw texts")
-            compare(Array.from(texts.clipped(root)), [], "clipped texts")
+            compare(waitUntilEmpty(() => texts.clipped(root)), [], "clipped texts")
         }
 
         // What is laid out from right to left is the mirror picture, but for pages.
