@@ -101,7 +101,10 @@ PASTED = {
     "paste of a megabyte of words": lambda: words(1_000_000),
     "paste of 20,000 lines": lambda: lines(20_000),
     "paste of 300,000 lines": lambda: lines(300_000),
+    "paste of a megabyte without a space": lambda: "abcdefghij" * 100_000,
 }
+
+IN_A_LINE = "megabyte in the search field"
 
 
 def tell(case, what, seconds):
@@ -144,26 +147,41 @@ def show(pelko, case, make):
     pelko.type("duck")
     tell(case, "search", watch.wait_until_quick())
     began = time.monotonic()
-    subprocess.run([pelko.program, "--export", str(pelko.data_home / "out")], check=True, capture_output=True)
+    subprocess.run([pelko.program, "--export", str(pelko.data_home / case)], check=True, capture_output=True)
     tell(case, "--export", time.monotonic() - began)
     print(f"{case:32} {'memory':12} {resident_megabytes(pelko):8} MB", flush=True)
 
 
-def paste(pelko, case, make):
+def page_to_paste_into(pelko, text):
     watch = open_library(pelko, library(block("textLarge", "Title"), block("textSmall", "")))
     owner = subprocess.Popen(["xclip", "-selection", "clipboard", "-in"], stdin=subprocess.PIPE)
-    owner.communicate(make().encode())
+    owner.communicate(text.encode())
     click_text()
     watch.wait_until_quick()
+    return watch
+
+
+def paste_into_the_search_field(pelko, case):
+    watch = page_to_paste_into(pelko, words(1_000_000))
+    pelko.keys("ctrl+k")
+    watch.wait_until_quick()
+    for key in ("ctrl+v", "x", "BackSpace", "Home", "x", "ctrl+a", "Delete", "ctrl+z"):
+        press(pelko, watch, case, key)
+
+
+def paste(pelko, case, make):
+    watch = page_to_paste_into(pelko, make())
     press(pelko, watch, case, "ctrl+v")
     for key in ("x", "BackSpace", "ctrl+Home", "ctrl+End", "ctrl+z"):
         press(pelko, watch, case, key)
 
 
 def measure(pelko):
-    for case in sys.argv[2:] or [*SHOWN, *PASTED]:
+    for case in sys.argv[2:] or [*SHOWN, *PASTED, IN_A_LINE]:
         if case in SHOWN:
             show(pelko, case, SHOWN[case])
+        elif case == IN_A_LINE:
+            paste_into_the_search_field(pelko, case)
         else:
             paste(pelko, case, PASTED[case])
         pelko.end()

@@ -100,7 +100,7 @@ Item {
             return [
                 { tag: "words", text: words },
                 { tag: "a megabyte of words", text: "every word counts ".repeat(58000) },
-                { tag: "200 KB without a space", text: "abcdefghij".repeat(20000) },
+                { tag: "40 KB without a space", text: "abcdefghij".repeat(4000) },
                 { tag: "lines and characters that are shown as others", text: "one two\r\nthree\u2028four\ufffc ".repeat(4000) },
             ]
         }
@@ -329,6 +329,16 @@ Item {
             keyClick(Qt.Key_A, Qt.ControlModifier)
             keyClick(Qt.Key_C, Qt.ControlModifier)
             verify(bench.copied().endsWith(lines))
+        }
+
+        function test_aLineWithoutASpaceIsCut() {
+            const line = "abcdefghij".repeat(20000)
+            start(line)
+            tryVerify(() => field()?.isCut, 20000)
+            verify(field().length < 70000, field().length)
+            go(1000)
+            keyClick(Qt.Key_X)
+            verify(stored() === line.slice(0, 1000) + "x" + line.slice(1000))
         }
 
         function test_aLongWordWrapsAnywhere() {

@@ -99,9 +99,9 @@ private:
     /// The whole text in the characters that are shown, while the field has only the beginning of it.
     QString m_whole;
     qsizetype m_shownLength = 0;
-    /// Device-independent pixels. A key in a text so tall takes a tenth of a second; for one taller than 8
-    /// million, Qt never comes to an end.
-    qreal m_maximumHeight = 1'500'000;
+    /// Device-independent pixels. To select all of a text so tall takes a fifth of a second; for one taller
+    /// than 8 million, Qt never comes to an end.
+    qreal m_maximumHeight = 700'000;
     qreal m_lineHeight = 0;
     bool m_isComplete = false;
     bool m_isUpdating = false;
