@@ -513,6 +513,13 @@ Schreibt kurze Seiten, Block für Block.
     </message>
 </context>
 <context>
+    <name>FullFieldNote</name>
+    <message>
+        <source>This field holds only %1 characters.</source>
+        <translation>Dieses Feld fasst nur %1 Zeichen.</translation>
+    </message>
+</context>
+<context>
     <name>GrowthNote</name>
     <message>
         <source>Showing a long text: %1 %. Ctrl+Z takes a paste back.</source>

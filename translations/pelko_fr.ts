@@ -513,6 +513,13 @@ Write short pages, block by block.
     </message>
 </context>
 <context>
+    <name>FullFieldNote</name>
+    <message>
+        <source>This field holds only %1 characters.</source>
+        <translation>Ce champ ne contient que %1 caractères.</translation>
+    </message>
+</context>
+<context>
     <name>GrowthNote</name>
     <message>
         <source>Showing a long text: %1 %. Ctrl+Z takes a paste back.</source>

@@ -20,6 +20,14 @@ Item {
         onEdited: text => root.content = text
     }
 
+    FullFieldNote {
+        id: note
+
+        field: field
+        width: parent.width
+        y: 20
+    }
+
     // Has no other use than to put a text on the pasteboard.
     TextEdit {
         id: source
@@ -87,6 +95,20 @@ Item {
             field.select(1, 5)
             keyClick(Qt.Key_Backspace)
             compare(root.content, "owo")
+        }
+
+        function test_whatDoesNotFitIsToldOf() {
+            verify(!note.visible)
+            copy("word ".repeat(50000))
+            keySequence("Ctrl+V")
+            compare(root.content.length, 200000)
+            verify(note.visible)
+            compare(note.text, "This field holds only 200,000 characters.")
+            keyClick(Qt.Key_Backspace)
+            verify(!note.visible)
+            keySequence("Ctrl+Z")
+            keySequence("Ctrl+Z")
+            compare(root.content, "")
         }
 
         function test_backspaceAtTheStartChangesNothing() {

@@ -1,8 +1,8 @@
 import QtQuick
 import Pelko
 
-/// A field of one line on whatever ground it is put: it shows `content` and reports what is made of it. There is no
-/// limit to what may be pasted; line breaks and tabs become spaces.
+/// A field of one line on whatever ground it is put: it shows `content` and reports what is made of it. Line breaks and
+/// tabs that are pasted become spaces.
 TextInput {
     id: field
 
@@ -10,6 +10,7 @@ TextInput {
     required property string placeholder
     required property string content
     property font face: Typography.message
+    readonly property bool isFull: length === maximumLength
 
     signal edited(string text)
 
@@ -55,11 +56,11 @@ TextInput {
     text: content
     onTextEdited: report()
     Keys.onPressed: event => event.key === Qt.Key_Backspace ? eraseBackwards(event) : event.accepted = false
-    maximumLength: 0x7fffffff
+    // With each key all of the text is laid out; of this many characters in some hundredths of a second.
+    maximumLength: 200000
     clip: true
     activeFocusOnTab: true
     selectByMouse: true
-    // With each key all of the text is laid out.
     font: content.length > 10000 ? Typography.unshaped(face) : face
     color: FirePalette.white(0.92)
     selectionColor: FirePalette.selection

@@ -6,6 +6,7 @@ FieldBackground {
     id: plate
 
     required property TasksPanelViewModel panel
+    readonly property alias input: field
 
     function takeFocus() {
         field.forceActiveFocus(Qt.OtherFocusReason)

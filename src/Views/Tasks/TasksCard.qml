@@ -25,6 +25,11 @@ PanelCard {
         width: parent.width
     }
 
+    FullFieldNote {
+        field: field.input
+        width: parent.width
+    }
+
     Item {
         height: list.empty ? none.height : list.height - 2 * list.air
         width: parent.width

@@ -73,6 +73,11 @@ FocusScope {
             }
         }
 
+        FullFieldNote {
+            field: field
+            width: parent.width
+        }
+
         Text {
             Accessible.name: text
             Accessible.role: Accessible.AlertMessage
