@@ -42,6 +42,12 @@ Item {
         WarmButton { x: 40; y: 40; name: "Start Writing"; icon.name: "flame" }
     }
 
+    Component {
+        id: otherWindowComponent
+
+        Window { width: 100; height: 100; visible: true }
+    }
+
     SignalSpy { id: triggered; signalName: "triggered" }
 
     TestCase {
@@ -51,6 +57,14 @@ Item {
         function init() {
             mouseMove(stage, 390, 190)
             writing.forceActiveFocus()
+        }
+
+        function shownRing(control) {
+            return everything(control).find(item => item instanceof FocusRing && item.shown)
+        }
+
+        function everything(item) {
+            return [item].concat(...Array.from(item.children).map(everything))
         }
 
         function make(component) {
@@ -129,6 +143,25 @@ Item {
             chip.forceActiveFocus(Qt.TabFocusReason)
             verify(chip.visualFocus)
             tryVerify(() => chip.width > 65)
+        }
+
+        function test_ringIsStillShownWhenTheWindowIsBack() {
+            const button = make(chipComponent)
+            const other = createTemporaryObject(otherWindowComponent, null)
+            button.forceActiveFocus(Qt.TabFocusReason)
+            verify(shownRing(button))
+            other.requestActivate()
+            tryVerify(() => !button.activeFocus)
+            verify(!shownRing(button))
+            stage.Window.window.requestActivate()
+            tryVerify(() => button.activeFocus)
+            verify(shownRing(button))
+        }
+
+        function test_ringIsNotShownWhereTheKeyboardDidNotLead() {
+            const button = make(chipComponent)
+            button.forceActiveFocus(Qt.MouseFocusReason)
+            verify(!shownRing(button))
         }
 
         function test_deleteWidensFromFourToTwelveAroundItsContent() {

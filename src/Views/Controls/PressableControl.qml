@@ -16,7 +16,7 @@ T.AbstractButton {
     property alias hoverResponse: hover.response
     property alias hoverDamping: hover.dampingFraction
     readonly property real pressAmount: press.value
-    readonly property bool pointedAt: hovered || visualFocus
+    readonly property bool pointedAt: hovered || ring.shown
 
     signal triggered()
 
@@ -51,8 +51,10 @@ T.AbstractButton {
         instant: Motion.reduced
     }
 
-    FocusRing {
-        shown: control.visualFocus
+    ControlFocusRing {
+        id: ring
+
+        control: control
         controlRadius: control.controlRadius
     }
 }

@@ -41,16 +41,18 @@ T.TabButton {
         response: 0.18
     }
 
-    FocusRing {
+    ControlFocusRing {
+        id: ring
+
+        control: root
         controlRadius: Metrics.menuRowRadius
-        shown: root.visualFocus
     }
 
     background: Item {
         Rectangle {
             anchors.fill: parent
             color: FirePalette.rowHover
-            opacity: !root.isCurrent && (root.hovered || root.visualFocus) ? 1 : 0
+            opacity: !root.isCurrent && (root.hovered || ring.shown) ? 1 : 0
             radius: Metrics.menuRowRadius
 
             Behavior on opacity {

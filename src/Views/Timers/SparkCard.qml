@@ -73,8 +73,8 @@ T.AbstractButton {
         onTapped: point => card.menuRequested(point.position.x, point.position.y)
     }
 
-    FocusRing {
-        shown: card.visualFocus
+    ControlFocusRing {
+        control: card
         controlRadius: Metrics.washRadius
     }
 }
