@@ -17,6 +17,15 @@ Item {
         contentHeight: 900
     }
 
+    FrameAnimation {
+        id: scrolling
+
+        onTriggered: {
+            view.contentY = 598
+            view.contentY = 600
+        }
+    }
+
     PelkoScrollBar {
         id: bar
 
@@ -70,6 +79,13 @@ Item {
             tryCompare(bar.handle, "width", 6)
             mouseMove(stage, 20, 20)
             tryCompare(bar.handle, "width", 4)
+        }
+
+        function test_followsAViewThatScrollsInEachFrame() {
+            Motion.reduced = false
+            scrolling.start()
+            tryVerify(() => Math.abs(bar.handle.y - 200) < 1)
+            scrolling.stop()
         }
 
         function test_canBeDragged() {

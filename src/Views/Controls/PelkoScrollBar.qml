@@ -32,25 +32,35 @@ Item {
         onTriggered: bar.recentlyMoved = false
     }
 
+    SpringFollower {
+        id: top
+
+        dampingFraction: 1
+        goal: Math.max(0, Math.min(bar.room, bar.room * bar.position))
+        instant: area.pressed || Motion.reduced
+        response: 0.09
+    }
+
+    SpringFollower {
+        id: length
+
+        dampingFraction: 1
+        goal: bar.handleHeight
+        instant: Motion.reduced
+        response: 0.16
+    }
+
     Rectangle {
         id: handle
 
         anchors { right: parent.right; rightMargin: 3 }
-        y: Math.max(0, Math.min(bar.room, bar.room * bar.position))
+        y: top.value
         width: area.containsMouse || area.pressed ? 6 : bar.thickness
-        height: bar.handleHeight
+        height: length.value
         radius: width / 2
         color: FirePalette.scrollBar
         opacity: bar.recentlyMoved || area.containsMouse || area.pressed ? 1 : 0
 
-        Behavior on y {
-            enabled: !area.pressed && !Motion.reduced
-            SmoothedAnimation { velocity: -1; duration: 90 }
-        }
-        Behavior on height {
-            enabled: !Motion.reduced
-            SmoothedAnimation { velocity: -1; duration: 160 }
-        }
         Behavior on width {
             enabled: !Motion.reduced
             NumberAnimation { duration: PelkoAnimation.micro.duration; easing: PelkoAnimation.micro.curve }
