@@ -4,6 +4,7 @@
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
+#include <ranges>
 
 namespace
 {
@@ -16,6 +17,19 @@ qsizetype nearClusterStart(QStringView text)
     while (start > 0 && text.at(start).unicode() >= 0x80)
         --start;
     return start;
+}
+
+bool isRegionalIndicator(char32_t codePoint)
+{
+    return codePoint >= 0x1F1E6 && codePoint <= 0x1F1FF;
+}
+
+/// How many regional indicators the text ends with. Two are a flag; Qt pairs them wrongly behind an emoji.
+qsizetype regionalIndicatorsAtEnd(QStringView text)
+{
+    const QList<uint> codePoints = text.toUcs4();
+    const auto backwards = std::views::reverse(codePoints);
+    return std::ranges::distance(backwards | std::views::take_while(isRegionalIndicator));
 }
 
 /// Pictographs and regional indicators, and what makes an emoji of another character: the variation selector
@@ -37,6 +51,9 @@ qsizetype backspaceLength(QStringView before)
     if (before.isEmpty())
         return 0;
     const QStringView near = before.sliced(nearClusterStart(before));
+    const qsizetype indicators = regionalIndicatorsAtEnd(near);
+    if (indicators > 0)
+        return indicators % 2 == 0 ? 4 : 2;
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, near.data(), near.size());
     finder.toEnd();
     const QStringView cluster = near.sliced(std::max<qsizetype>(finder.toPreviousBoundary(), 0));

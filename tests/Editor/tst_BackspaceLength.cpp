@@ -32,6 +32,11 @@ private Q_SLOTS:
         QTest::newRow("flag") << u"\U0001F1F5\U0001F1F1"_s << 4;
         QTest::newRow("second of two flags") << u"\U0001F1F5\U0001F1F1\U0001F1F5\U0001F1F1"_s << 4;
         QTest::newRow("half a flag behind one") << u"\U0001F1F5\U0001F1F1\U0001F1F5"_s << 2;
+        QTest::newRow("flag behind a joined pictograph")
+            << u"e \U0001F469\U0001F3FD\u200D\U0001F4BB\U0001F1F5\U0001F1F1"_s << 4;
+        QTest::newRow("flag behind a pictograph") << u"\U0001F525\U0001F1F5\U0001F1F1"_s << 4;
+        QTest::newRow("flag behind a heart") << u"\u2764\uFE0F\U0001F1F5\U0001F1F1"_s << 4;
+        QTest::newRow("keycap behind a flag") << u"\U0001F1F5\U0001F1F17\uFE0F\u20E3"_s << 3;
         QTest::newRow("keycap") << u"a7\uFE0F\u20E3"_s << 3;
         QTest::newRow("flag of England")
             << u"\U0001F3F4\U000E0067\U000E0062\U000E0065\U000E006E\U000E0067\U000E007F"_s << 14;
