@@ -33,21 +33,24 @@ void TasksViewModel::toggle()
 void TasksViewModel::panelLeft()
 {
     if (!m_isOpen)
-        setPanel(nullptr);
+        update(false, nullptr);
 }
 
 void TasksViewModel::follow()
 {
     const bool isOpen = isShown() && isOffered();
-    if (isOpen && !m_isOpen)
-        setPanel(new TasksPanelViewModel(m_appState, m_services, this));
-    ChangeScope(*this).assign(m_isOpen, isOpen, &TasksViewModel::isOpenChanged);
+    update(isOpen, isOpen && !m_isOpen ? new TasksPanelViewModel(m_appState, m_services, this) : m_panel);
 }
 
-void TasksViewModel::setPanel(TasksPanelViewModel *panel)
+void TasksViewModel::update(bool isOpen, TasksPanelViewModel *panel)
 {
     TasksPanelViewModel *before = m_panel;
-    ChangeScope(*this).assign(m_panel, panel, &TasksViewModel::panelChanged);
+    {
+        // Both before either is announced: the closing animation of the view before may end meanwhile.
+        ChangeScope changes(*this);
+        changes.assign(m_panel, panel, &TasksViewModel::panelChanged);
+        changes.assign(m_isOpen, isOpen, &TasksViewModel::isOpenChanged);
+    }
     // The view is deleted later, by the event loop, so the view model must outlive it.
     if (before && before != panel)
         before->deleteLater();

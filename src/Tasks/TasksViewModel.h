@@ -34,7 +34,7 @@ Q_SIGNALS:
 
 private:
     void follow();
-    void setPanel(TasksPanelViewModel *panel);
+    void update(bool isOpen, TasksPanelViewModel *panel);
 
     AppState &m_appState;
     const TasksServices m_services;

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void eachOpeningMakesANewPanel();
     void aClosedPanelStaysUntilItHasLeft();
     void aPanelThatIsOpenedAgainIsNotTakenAway();
+    void aPanelIsNotTakenAwayWhileItsViewIsMade();
     void thePanelShowsTheTimeOfItsOpeningAndTicksEachMinute();
     void eachOpeningAsksForTheEventsAnew();
 };
@@ -104,6 +105,15 @@ void TestTasksViewModel::aPanelThatIsOpenedAgainIsNotTakenAway()
     Window window;
     window.tasks.toggle();
     window.tasks.panelLeft();
+    QVERIFY(window.tasks.panel());
+}
+
+void TestTasksViewModel::aPanelIsNotTakenAwayWhileItsViewIsMade()
+{
+    Window window;
+    // The closing animation of the view before may go on meanwhile.
+    connect(&window.tasks, &TasksViewModel::panelChanged, &window.tasks, &TasksViewModel::panelLeft);
+    window.tasks.toggle();
     QVERIFY(window.tasks.panel());
 }
 
