@@ -163,17 +163,19 @@ void PageModel::reportText(Spot field, const QString &value, int caret, bool isT
     PlainBlock &block = m_page[field.block];
     const auto kind = block.kind == BlockType::textSmall ? shortcut(value) : std::nullopt;
     if (kind)
-        return convert(field, value, *kind);
+        return convert(field, value, *kind, isTyping);
     if (value.contains(u'\n') && !block.text.contains(u'\n'))
         return splitBlock(field, value, caret);
     block.text = value;
     settle(Spot{.block = field.block, .offset = caret}, isTyping);
 }
 
-void PageModel::convert(Spot field, const QString &value, BlockType kind)
+void PageModel::convert(Spot field, const QString &value, BlockType kind, bool isTyping)
 {
-    m_page[field.block].text = value;
-    settle(std::nullopt, true);
+    if (isTyping) {
+        m_page[field.block].text = value;
+        settle(std::nullopt, true);
+    }
     PlainBlock &block = m_page[field.block];
     block.text.clear();
     block.kind = kind;

@@ -94,7 +94,8 @@ private:
     Spot removeMarked();
     void report(Spot field, const QString &value, int caret, bool isTyping);
     void reportText(Spot field, const QString &value, int caret, bool isTyping);
-    void convert(Spot field, const QString &value, BlockType kind);
+    /// Of typing, undo first brings the typed characters back.
+    void convert(Spot field, const QString &value, BlockType kind, bool isTyping);
     void splitBlock(Spot field, const QString &value, int caret);
     void breakUpEntry(Spot field, const QString &value, int caret);
     void removeRange(Spot from, int start, int end, bool isTyping);
