@@ -209,12 +209,12 @@ private Q_SLOTS:
         QElapsedTimer timer;
         timer.start();
         calendars.reset();
-        QVERIFY2(timer.elapsed() < 500, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY2(timer.elapsed() < 1500, qPrintable(QString::number(timer.elapsed())));
         // The bus has nothing more to carry for it: what was asked is all.
         bus->connection(u"client"_s)
             .call(QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/"_s,
                                                  u"org.freedesktop.DBus.Peer"_s, u"Ping"_s));
-        QVERIFY(timer.elapsed() < 500);
+        QVERIFY(timer.elapsed() < 1500);
     }
 
     void aFrozenServerIsNotWaitedForLongerThanItMayTake()
@@ -232,7 +232,7 @@ private Q_SLOTS:
     {
         startServer();
         server->answers[u"GetManagedObjects"_s] = [](const QDBusMessage &) { return std::nullopt; };
-        QCOMPARE(fetch(500ms), u"Folder"_s);
+        QCOMPARE(fetch(3s), u"Folder"_s);
     }
 
     void aFrozenCalendarDoesNotHideTheOthers_data()
@@ -252,7 +252,7 @@ private Q_SLOTS:
                 return std::nullopt;
             return server->ordinaryAnswer(message);
         };
-        QCOMPARE(fetch(500ms), u"Tea Milk Folder"_s);
+        QCOMPARE(fetch(3s), u"Tea Milk Folder"_s);
     }
 
     void errorSkipsOnlyTheAffectedEvents_data() { aFrozenCalendarDoesNotHideTheOthers_data(); }
@@ -327,7 +327,7 @@ private Q_SLOTS:
             QTRY_VERIFY(server->asked.contains(u"GetObjectList"_s));
             timer.start();
         }
-        QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+        QVERIFY2(timer.elapsed() < 1500, qPrintable(QString::number(timer.elapsed())));
         QVERIFY(!isAnswered);
     }
 
