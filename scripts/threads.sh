@@ -11,7 +11,7 @@ check() {
     local name=$1
     shift
     local options=(suppressions=tests/known_races.supp external_symbolizer_path=/usr/bin/llvm-symbolizer-19 "$@")
-    TSAN_OPTIONS="${options[*]}" timeout 300 build/threads/tests/tests_threads "$name"
+    TSAN_OPTIONS="${options[*]}" timeout 300 build/threads/tests/tests_threads "$name" -silent
 }
 
 # Only Pelko's own accesses count: of Qt's, the sanitizer sees some and none of the locks around them.

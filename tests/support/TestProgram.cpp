@@ -21,7 +21,7 @@ TestProgram::TestProgram(const char *file, Run run)
 
 int TestProgram::run(int argc, char **argv)
 {
-    if (argc < 2) {
+    if (argc < 2 || argv[1][0] == '-') {
         int failures = 0;
         for (const auto &[name, run] : classes())
             failures += run(argc, argv);
