@@ -52,7 +52,7 @@ public:
         PelkoDocument page = makePage(size);
         page.id = *m_state.openDocumentID();
         const Block &middle = page.blocks.at(25);
-        m_blockID = middle.id.toString(QUuid::WithoutBraces);
+        m_address.blockID = middle.id;
         m_text = middle.content;
         m_state.updateDocument(page);
         m_editor = std::make_unique<EditorViewModel>(m_state, m_services.forEditor, page.id);
@@ -64,14 +64,14 @@ public:
     void typeOneKey()
     {
         m_text.endsWith(u'x') ? m_text.chop(1) : void(m_text.append(u'x'));
-        m_editor->typed(m_blockID, m_text, int(m_text.size()));
+        m_editor->typed(m_address, m_text, int(m_text.size()));
     }
 
     /// A new block below and back.
     void typeReturnAndDelete()
     {
-        m_editor->typed(m_blockID, m_text + u'\n', int(m_text.size()) + 1);
-        m_editor->typed(m_editor->focusedBlockID(), {}, 0);
+        m_editor->typed(m_address, m_text + u'\n', int(m_text.size()) + 1);
+        m_editor->typed({.blockID = QUuid(m_editor->focusedBlockID())}, {}, 0);
     }
 
     /// The rows that were announced as changed.
@@ -84,7 +84,7 @@ private:
     NoFile m_file;
     AppState m_state;
     std::unique_ptr<EditorViewModel> m_editor;
-    QString m_blockID;
+    TextAddress m_address;
     QString m_text;
     qint64 m_changes = 0;
 };

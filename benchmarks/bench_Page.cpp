@@ -72,7 +72,7 @@ public:
 
     void focus(qsizetype row)
     {
-        Q_EMIT m_editor->focusRequested(blocks().at(row).id.toString(QUuid::WithoutBraces), {}, -1);
+        Q_EMIT m_editor->focusRequested({.blockID = blocks().at(row).id}, -1);
         m_stage->settle(20);
     }
 

@@ -79,7 +79,7 @@ public:
     const Clock &clock() const { return m_clock; }
     TasksServices tasksServices() { return {m_services.scheduler, m_clock, m_preferences, m_calendars}; }
     /// A block in the middle of the page.
-    QString blockID() const { return m_state.openDocument()->blocks.at(5).id.toString(QUuid::WithoutBraces); }
+    TextAddress address() const { return {.blockID = m_state.openDocument()->blocks.at(5).id}; }
 
 private:
     RealEditorServices m_services;
@@ -98,11 +98,11 @@ void keyToAnnouncement(benchmark::State &state, bool isOpen)
     EditorViewModel &editor = *main.openEditor(main.openDocumentID());
     if (isOpen)
         tasks.toggle();
-    const QString blockID = desk.blockID();
+    const TextAddress address = desk.address();
     QString text = paragraph;
     for (auto _ : state) {
         text.endsWith(u'x') ? text.chop(1) : void(text.append(u" x"_s));
-        editor.typed(blockID, text, int(text.size()));
+        editor.typed(address, text, int(text.size()));
     }
 }
 
@@ -120,7 +120,7 @@ public:
         if (isOpen)
             m_tasks.toggle();
         m_stage.settle(90);
-        Q_EMIT m_main.editor()->focusRequested(m_desk.blockID(), {}, -1);
+        Q_EMIT m_main.editor()->focusRequested(m_desk.address(), -1);
         m_stage.settle(20);
     }
 

@@ -63,7 +63,7 @@ public:
     {
         PelkoDocument page = m_page;
         Block &block = page.blocks[step % 50];
-        m_place = FocusTarget{.blockID = block.id, .caret = int(block.content.size())};
+        m_place = FocusTarget{.address = {.blockID = block.id}, .caret = int(block.content.size())};
         block.content += u" words"_s;
         become(page, 6);
     }
@@ -71,7 +71,7 @@ public:
     void splitOrJoin(int step)
     {
         const Block &block = m_page.blocks.at(step / 2 % 50);
-        m_place = FocusTarget{.blockID = block.id, .caret = 0};
+        m_place = FocusTarget{.address = {.blockID = block.id}, .caret = 0};
         if (step % 2 == 0) {
             become(TypingRules::apply(m_page, block.id, block.content + u'\n', 0)->document, 1);
             return;

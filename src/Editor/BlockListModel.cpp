@@ -118,7 +118,7 @@ void BlockListModel::publishTodos(const QList<Block> &blocks)
         if (block.type != BlockType::sticky || kept.contains(block.id))
             continue;
         auto node = m_todos.extract(block.id);
-        TodoListModel *model = node.empty() ? new TodoListModel(this) : node.mapped();
+        TodoListModel *model = node.empty() ? new TodoListModel(block.id, this) : node.mapped();
         model->publish(block.todos.value_or(QList<TodoItem>{}));
         kept.insert_or_assign(block.id, model);
     }
@@ -134,8 +134,8 @@ QVariant BlockListModel::data(const QModelIndex &index, int role) const
     const BlockRow &row = rows().at(index.row());
     const Block &block = row.block;
     switch (role) {
-    case BlockIDRole:
-        return block.id.toString(QUuid::WithoutBraces);
+    case AddressRole:
+        return QVariant::fromValue(TextAddress{.blockID = block.id});
     case KindRole:
         return rawValue(block.type);
     case KindAboveRole:
@@ -165,7 +165,7 @@ QVariant BlockListModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> BlockListModel::roleNames() const
 {
-    return {{BlockIDRole, "blockID"},     {KindRole, "kind"},
+    return {{AddressRole, "address"},     {KindRole, "kind"},
             {KindAboveRole, "kindAbove"}, {RowEditorRole, "rowEditor"},
             {ContentRole, "content"},     {ImageDataRole, "imageData"},
             {HasImageRole, "hasImage"},   {IsFullWidthRole, "isFullWidth"},

@@ -40,7 +40,7 @@ class BlockListModel : public IdListModel<BlockRow>
 
 public:
     enum Role {
-        BlockIDRole = Qt::UserRole,
+        AddressRole = Qt::UserRole,
         /// The raw name of the block's type.
         KindRole,
         /// The raw name of the type of the block above, or "banner"; empty for the first.

@@ -84,7 +84,7 @@ Edit BlockOperations::addBlock(PelkoDocument document, BlockType type)
     const QUuid added = document.blocks.last().id;
     Edit edit{.document = std::move(document), .scrollTo = added};
     if (isTextLike(type))
-        edit.focus = FocusTarget{.blockID = added};
+        edit.focus = FocusTarget{.address = {.blockID = added}};
     return edit;
 }
 
@@ -92,7 +92,7 @@ std::optional<Edit> BlockOperations::writeBelow(PelkoDocument document)
 {
     if (document.blocks.isEmpty() || !isTextLike(document.blocks.last().type))
         return addBlock(std::move(document), BlockType::textSmall);
-    const FocusTarget end{.blockID = document.blocks.last().id};
+    const FocusTarget end{.address = {.blockID = document.blocks.last().id}};
     return Edit{.document = std::move(document), .focus = end};
 }
 
@@ -130,5 +130,5 @@ std::optional<Edit> BlockOperations::toggleFullWidth(PelkoDocument document, con
         return Edit{std::move(document)};
     }
     putBannerFirst(document.blocks, blockID);
-    return Edit{std::move(document), FocusTarget{.blockID = blockID}};
+    return Edit{std::move(document), FocusTarget{.address = {.blockID = blockID}}};
 }

@@ -69,7 +69,7 @@ bool SelectedParts::isCrossing() const
     return m_parts.size() > 1 || (m_parts.size() == 1 && !m_parts.first().passage.text);
 }
 
-const SelectedPart *SelectedParts::of(const PassageID &id) const
+const SelectedPart *SelectedParts::of(const TextAddress &id) const
 {
     const auto found = m_index.constFind(id);
     return found == m_index.cend() ? nullptr : &m_parts.at(*found);

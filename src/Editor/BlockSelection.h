@@ -35,7 +35,7 @@ public:
     /// Whether it reaches over more than one passage, or holds one without text.
     bool isCrossing() const;
     /// The part of that passage, or nothing.
-    const SelectedPart *of(const PassageID &id) const;
+    const SelectedPart *of(const TextAddress &id) const;
     /// Whether a block that is more than text, such as a picture or a checklist, is selected as a whole, from
     /// a place outside.
     bool covers(const QUuid &blockID) const { return m_covered.contains(blockID); }
@@ -44,6 +44,6 @@ private:
     void cover(const Passages &passages);
 
     QList<SelectedPart> m_parts;
-    QHash<PassageID, qsizetype> m_index;
+    QHash<TextAddress, qsizetype> m_index;
     QSet<QUuid> m_covered;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Editor/TextAddress.h"
 #include "Models/PelkoDocument.h"
 
 #include <functional>
@@ -9,20 +10,9 @@ struct FocusTarget {
     /// Stands for the end of the text, whatever its length.
     static constexpr int atEnd = -1;
 
-    QUuid blockID;
-    /// The entry of a checklist, when the block is one.
-    std::optional<QUuid> todoID = std::nullopt;
+    TextAddress address;
     /// Counted in UTF-16 units from the start of the text.
     int caret = atEnd;
-
-    /// From the ids that QML knows; an empty `todoID` names none.
-    static FocusTarget at(const QString &blockID, const QString &todoID, int caret)
-    {
-        FocusTarget target{.blockID = QUuid(blockID), .caret = caret};
-        if (!todoID.isEmpty())
-            target.todoID = QUuid(todoID);
-        return target;
-    }
 
     bool operator==(const FocusTarget &) const = default;
 };

@@ -9,14 +9,14 @@ namespace
 
 QString textAt(const PelkoDocument &page, const FocusTarget &place)
 {
-    const qsizetype row = BlockOperations::indexOf(page, place.blockID);
+    const qsizetype row = BlockOperations::indexOf(page, place.address.blockID);
     if (row < 0)
         return {};
     const Block &block = page.blocks.at(row);
-    if (!place.todoID)
+    if (!place.address.partID)
         return block.type == BlockType::image ? block.bannerTitle.value_or(QString()) : block.content;
     const QList<TodoItem> todos = block.todos.value_or(QList<TodoItem>{});
-    const auto entry = std::ranges::find(todos, *place.todoID, &TodoItem::id);
+    const auto entry = std::ranges::find(todos, *place.address.partID, &TodoItem::id);
     return entry == todos.end() ? QString() : entry->text;
 }
 
@@ -28,8 +28,8 @@ Edit shown(PelkoDocument page, const std::optional<FocusTarget> &place, qsizetyp
     if (blocks.isEmpty())
         return edit;
     const QUuid changed = blocks.at(std::min(row, blocks.size() - 1)).id;
-    const qsizetype placeRow = place ? BlockOperations::indexOf(edit.document, place->blockID) : -1;
-    edit.focus = placeRow < 0 ? FocusTarget{.blockID = changed} : place;
+    const qsizetype placeRow = place ? BlockOperations::indexOf(edit.document, place->address.blockID) : -1;
+    edit.focus = placeRow < 0 ? FocusTarget{.address = {.blockID = changed}} : place;
     if (placeRow >= 0 && rows > 0 && (placeRow < row || placeRow >= row + rows))
         edit.scrollTo = changed;
     return edit;

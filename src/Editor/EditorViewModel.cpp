@@ -2,8 +2,8 @@
 
 #include "Editor/BlockOperations.h"
 #include "Editor/ImageOperations.h"
+#include "Editor/TextOperations.h"
 #include "Editor/TodoOperations.h"
-#include "Editor/TypingRules.h"
 #include "Services/Pasteboard.h"
 #include "Store/AppState.h"
 #include "Store/ChangeScope.h"
@@ -27,14 +27,6 @@ void EditorViewModel::change(const Operation &operation, const Arguments &...arg
 {
     if (auto page = documentToMutate())
         commit(operation(*std::move(page), arguments...));
-}
-
-template <typename Operation, typename... Arguments>
-void EditorViewModel::changeByTyping(const FocusTarget &field, const Operation &operation,
-                                     const Arguments &...arguments)
-{
-    if (auto page = documentToMutate())
-        commitTyping(operation(*std::move(page), arguments..., field.caret), field);
 }
 
 EditorViewModel::EditorViewModel(AppState &appState, const EditorServices &services, const QUuid &documentID,
@@ -121,22 +113,11 @@ void EditorViewModel::toggleFullWidth(const QString &blockID)
         commit(BlockOperations::toggleFullWidth(*std::move(page), QUuid(blockID)), bannerFocusDelay);
 }
 
-void EditorViewModel::typed(const QString &blockID, const QString &value, int caret)
+void EditorViewModel::typed(const TextAddress &address, const QString &value, int caret)
 {
-    changeByTyping(FocusTarget::at(blockID, {}, caret), TypingRules::apply, QUuid(blockID), value);
-}
-
-void EditorViewModel::typedTodo(const QString &blockID, const QString &todoID, const QString &value,
-                                int caret)
-{
-    changeByTyping(FocusTarget::at(blockID, todoID, caret), TodoOperations::setText, QUuid(blockID),
-                   QUuid(todoID), value);
-}
-
-void EditorViewModel::typedBannerTitle(const QString &blockID, const QString &value, int caret)
-{
-    changeByTyping(FocusTarget::at(blockID, {}, caret), ImageOperations::setBannerTitle, QUuid(blockID),
-                   value);
+    if (auto page = documentToMutate())
+        commitTyping(TextOperations::typed(*std::move(page), address, value, caret),
+                     {.address = address, .caret = caret});
 }
 
 bool EditorViewModel::pastePicture(const QString &blockID)
@@ -155,9 +136,9 @@ void EditorViewModel::storePicture(const QUuid &blockID, const QByteArray &bytes
     change(ImageOperations::setImageData, blockID, bytes);
 }
 
-void EditorViewModel::toggleTodo(const QString &blockID, const QString &todoID)
+void EditorViewModel::toggleTodo(const TextAddress &entry)
 {
-    change(TodoOperations::toggle, QUuid(blockID), QUuid(todoID));
+    change(TodoOperations::toggle, entry);
 }
 
 void EditorViewModel::appendTodo(const QString &blockID)
@@ -165,9 +146,9 @@ void EditorViewModel::appendTodo(const QString &blockID)
     change(TodoOperations::append, QUuid(blockID));
 }
 
-void EditorViewModel::removeTodo(const QString &blockID, const QString &todoID)
+void EditorViewModel::removeTodo(const TextAddress &entry)
 {
-    change(TodoOperations::remove, QUuid(blockID), QUuid(todoID), m_session.place());
+    change(TodoOperations::remove, entry, m_session.place());
 }
 
 void EditorViewModel::undo()
@@ -219,7 +200,7 @@ void EditorViewModel::appeared()
     const PelkoDocument *page = document();
     const auto empty = page ? BlockOperations::firstEmptyTextBlock(*page) : std::nullopt;
     if (empty)
-        focusAfter(0ms, {.blockID = *empty});
+        focusAfter(0ms, {.address = {.blockID = *empty}});
 }
 
 void EditorViewModel::focusInFocusMode()
@@ -228,20 +209,20 @@ void EditorViewModel::focusInFocusMode()
     if (!m_appState.focusMode() || !m_focusedBlockID.isEmpty() || !page)
         return;
     if (const auto first = BlockOperations::firstTextBlock(*page))
-        focus({.blockID = *first});
+        focus({.address = {.blockID = *first}});
 }
 
 void EditorViewModel::focus(const FocusTarget &target)
 {
-    if (rowOf(text(target.blockID)) < 0) // deleted since, or on another page
+    if (rowOf(target.address.blockName()) < 0) // deleted since, or on another page
         return;
     if (m_appState.showNav()) { // which has the keyboard until it closes
         m_waitingFocus = target;
         return;
     }
     m_session.goTo(target);
-    setFocusedBlockID(text(target.blockID));
-    Q_EMIT focusRequested(m_focusedBlockID, target.todoID ? text(*target.todoID) : QString(), target.caret);
+    setFocusedBlockID(target.address.blockName());
+    Q_EMIT focusRequested(target.address, target.caret);
 }
 
 void EditorViewModel::focusAfterNavigation()
@@ -258,14 +239,14 @@ void EditorViewModel::focusAfter(std::chrono::milliseconds delay, const FocusTar
 void EditorViewModel::focusGained(const QString &blockID)
 {
     const auto &known = m_session.place();
-    if (!known || known->blockID != QUuid(blockID))
-        m_session.goTo({.blockID = QUuid(blockID)});
+    if (!known || known->address.blockID != QUuid(blockID))
+        m_session.goTo({.address = {.blockID = QUuid(blockID)}});
     setFocusedBlockID(blockID);
 }
 
-void EditorViewModel::caretMoved(const QString &blockID, const QString &todoID, int caret)
+void EditorViewModel::caretMoved(const TextAddress &address, int caret)
 {
-    m_session.goTo(FocusTarget::at(blockID, todoID, caret));
+    m_session.goTo({.address = address, .caret = caret});
 }
 
 void EditorViewModel::focusLost(const QString &blockID)

@@ -59,15 +59,12 @@ public:
     Q_INVOKABLE void moveBlock(const QString &blockID, int rows);
     Q_INVOKABLE void toggleFullWidth(const QString &blockID);
 
-    /// Takes what a block's text field reports; see TypingRules. The page and the focus have followed when
+    /// Takes what the field of a text reports; see TextOperations. The page and the focus have followed when
     /// this returns.
-    Q_INVOKABLE void typed(const QString &blockID, const QString &value, int caret);
-    Q_INVOKABLE void typedTodo(const QString &blockID, const QString &todoID, const QString &value,
-                               int caret);
-    Q_INVOKABLE void typedBannerTitle(const QString &blockID, const QString &value, int caret);
-    Q_INVOKABLE void toggleTodo(const QString &blockID, const QString &todoID);
+    Q_INVOKABLE void typed(const TextAddress &address, const QString &value, int caret);
+    Q_INVOKABLE void toggleTodo(const TextAddress &entry);
     Q_INVOKABLE void appendTodo(const QString &blockID);
-    Q_INVOKABLE void removeTodo(const QString &blockID, const QString &todoID);
+    Q_INVOKABLE void removeTodo(const TextAddress &entry);
 
     /// Puts the picture of the pasteboard, when there is one and no text, into a new block after that one.
     /// Tells whether it did.
@@ -85,7 +82,7 @@ public:
     Q_INVOKABLE void focusGained(const QString &blockID);
     Q_INVOKABLE void focusLost(const QString &blockID);
     /// The caret of the focused field stands elsewhere, without anything having been typed.
-    Q_INVOKABLE void caretMoved(const QString &blockID, const QString &todoID, int caret);
+    Q_INVOKABLE void caretMoved(const TextAddress &address, int caret);
     /// The view is gone: stops following the store and deletes itself.
     Q_INVOKABLE void release();
 
@@ -98,9 +95,9 @@ Q_SIGNALS:
     /// What an input method is composing has to become part of the text now: another document is about to be
     /// opened, or the page to be changed otherwise.
     void settleRequested();
-    /// The field of that block, or of that entry of its checklist, has to take the keyboard focus with the
-    /// caret at that place, -1 for the end of its text.
-    void focusRequested(const QString &blockID, const QString &todoID, int caret);
+    /// The field of that text has to take the keyboard focus with the caret at that place, -1 for the end of
+    /// its text.
+    void focusRequested(const TextAddress &address, int caret);
 
 private:
     const PelkoDocument *document() const;
@@ -114,9 +111,6 @@ private:
     /// Runs an operation on the page, with the arguments behind it, and stores what comes out as one step.
     template <typename Operation, typename... Arguments>
     void change(const Operation &operation, const Arguments &...arguments);
-    /// The same for what a key made of the text of `field`. The last argument is the caret.
-    template <typename Operation, typename... Arguments>
-    void changeByTyping(const FocusTarget &field, const Operation &operation, const Arguments &...arguments);
     void goOn(const Edit &edit, std::chrono::milliseconds focusDelay = {});
     void focus(const FocusTarget &target);
     void focusAfter(std::chrono::milliseconds delay, const FocusTarget &target);

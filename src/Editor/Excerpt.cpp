@@ -15,7 +15,7 @@ Block excerptOf(const Block &block, const SelectedParts &parts)
         return cut;
     cut.todos->clear();
     for (TodoItem todo : *block.todos) {
-        if (const SelectedPart *part = parts.of({.blockID = block.id, .todoID = todo.id})) {
+        if (const SelectedPart *part = parts.of({.blockID = block.id, .partID = todo.id})) {
             todo.text = part->text().value();
             cut.todos->append(todo);
         }

@@ -8,11 +8,11 @@
 namespace
 {
 
-qsizetype indexOfTodo(const Block &block, const std::optional<QUuid> &todoID)
+qsizetype indexOfTodo(const Block &block, const TextAddress &text)
 {
-    if (!todoID || !block.todos)
+    if (!text.partID || !block.todos)
         return -1;
-    const auto found = std::ranges::find(*block.todos, *todoID, &TodoItem::id);
+    const auto found = std::ranges::find(*block.todos, *text.partID, &TodoItem::id);
     return found == block.todos->end() ? -1 : found - block.todos->begin();
 }
 
@@ -24,9 +24,9 @@ bool hasEntries(const Block &block)
 /// The place before the first, or behind the last character of a block; of a divider or picture, the block.
 FocusTarget edgeOf(const Block &block, bool start)
 {
-    FocusTarget edge{.blockID = block.id, .caret = start ? 0 : FocusTarget::atEnd};
+    FocusTarget edge{.address = {.blockID = block.id}, .caret = start ? 0 : FocusTarget::atEnd};
     if (hasEntries(block))
-        edge.todoID = start ? block.todos->first().id : block.todos->last().id;
+        edge.address.partID = start ? block.todos->first().id : block.todos->last().id;
     return edge;
 }
 
@@ -51,7 +51,7 @@ Edit becomeBody(PelkoDocument document, qsizetype row, const QString &text)
     block.type = BlockType::textSmall;
     block.content = text;
     block.todos.reset();
-    const FocusTarget start{.blockID = block.id, .caret = 0};
+    const FocusTarget start{.address = {.blockID = block.id}, .caret = 0};
     return {.document = std::move(document), .focus = start};
 }
 
@@ -97,7 +97,7 @@ Edit leaveChecklist(PelkoDocument document, qsizetype row)
     FocusTarget start = edgeOf(document.blocks.at(row), true);
     if (!first.text.isEmpty()) {
         document.blocks.insert(row, Block(BlockType::textSmall, first.text));
-        start = {.blockID = document.blocks.at(row).id, .caret = 0};
+        start = {.address = {.blockID = document.blocks.at(row).id}, .caret = 0};
     }
     return {.document = std::move(document), .focus = start};
 }
@@ -109,7 +109,8 @@ Edit todoBackwards(PelkoDocument document, qsizetype row, qsizetype todo)
     Block &block = document.blocks[row];
     const TodoItem joined = block.todos->takeAt(todo);
     TodoItem &above = (*block.todos)[todo - 1];
-    const FocusTarget seam{.blockID = block.id, .todoID = above.id, .caret = int(above.text.size())};
+    const FocusTarget seam{.address = {.blockID = block.id, .partID = above.id},
+                           .caret = int(above.text.size())};
     above.text += joined.text;
     return {.document = std::move(document), .focus = seam};
 }
@@ -148,11 +149,11 @@ Edit todoForwards(PelkoDocument document, qsizetype row, qsizetype todo)
     const TodoItem below = todos.at(todo + 1);
     if (todos.at(todo).text.isEmpty()) {
         todos.removeAt(todo);
-        const FocusTarget start{.blockID = block.id, .todoID = below.id, .caret = 0};
+        const FocusTarget start{.address = {.blockID = block.id, .partID = below.id}, .caret = 0};
         return {.document = std::move(document), .focus = start};
     }
-    const FocusTarget seam{
-        .blockID = block.id, .todoID = todos.at(todo).id, .caret = int(todos.at(todo).text.size())};
+    const FocusTarget seam{.address = {.blockID = block.id, .partID = todos.at(todo).id},
+                           .caret = int(todos.at(todo).text.size())};
     todos[todo].text += below.text;
     todos.removeAt(todo + 1);
     return {.document = std::move(document), .focus = seam};
@@ -160,29 +161,29 @@ Edit todoForwards(PelkoDocument document, qsizetype row, qsizetype todo)
 
 } // namespace
 
-std::optional<Edit> JoinOperations::backwards(PelkoDocument document, const FocusTarget &place)
+std::optional<Edit> JoinOperations::backwards(PelkoDocument document, const TextAddress &text)
 {
-    const qsizetype row = BlockOperations::indexOf(document, place.blockID);
+    const qsizetype row = BlockOperations::indexOf(document, text.blockID);
     if (row < 0)
         return std::nullopt;
-    const qsizetype todo = indexOfTodo(document.blocks.at(row), place.todoID);
+    const qsizetype todo = indexOfTodo(document.blocks.at(row), text);
     if (todo >= 0)
         return todoBackwards(std::move(document), row, todo);
-    if (place.todoID || !isTextLike(document.blocks.at(row).type))
+    if (text.partID || !isTextLike(document.blocks.at(row).type))
         return std::nullopt;
     return blockBackwards(std::move(document), row);
 }
 
-std::optional<Edit> JoinOperations::forwards(PelkoDocument document, const FocusTarget &place)
+std::optional<Edit> JoinOperations::forwards(PelkoDocument document, const TextAddress &text)
 {
-    const qsizetype row = BlockOperations::indexOf(document, place.blockID);
+    const qsizetype row = BlockOperations::indexOf(document, text.blockID);
     if (row < 0)
         return std::nullopt;
     const Block &block = document.blocks.at(row);
-    const qsizetype todo = indexOfTodo(block, place.todoID);
+    const qsizetype todo = indexOfTodo(block, text);
     if (todo >= 0 && todo + 1 < block.todos->size())
         return todoForwards(std::move(document), row, todo);
-    const bool isText = todo >= 0 || (!place.todoID && isTextLike(block.type));
+    const bool isText = todo >= 0 || (!text.partID && isTextLike(block.type));
     if (!isText || row + 1 == document.blocks.size())
         return std::nullopt;
     return blockForwards(std::move(document), row);

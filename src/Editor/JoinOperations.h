@@ -8,13 +8,13 @@
 namespace JoinOperations
 {
 
-/// Backspace at the start of the text that `place` names. A heading, a quote or code becomes body text first,
+/// Backspace at the start of a text. A heading, a quote or code becomes body text first,
 /// and the first entry of a checklist leaves it as body text; then text joins the text above.
-std::optional<Edit> backwards(PelkoDocument document, const FocusTarget &place);
+std::optional<Edit> backwards(PelkoDocument document, const TextAddress &text);
 
-/// Delete at the end of the text that `place` names: the text below joins it. An empty body block or entry
+/// Delete at the end of a text: the text below joins it. An empty body block or entry
 /// makes way instead, so that what is below stays what it is.
-std::optional<Edit> forwards(PelkoDocument document, const FocusTarget &place);
+std::optional<Edit> forwards(PelkoDocument document, const TextAddress &text);
 
 /// Backspace (or Delete, `forward`) on a divider or a picture itself. The caret goes to the end of the text
 /// above (or to the start of the text below), where there is one.

@@ -16,17 +16,17 @@ struct Field {
     qsizetype todo = -1;
 };
 
-std::optional<Field> find(PelkoDocument &document, const FocusTarget &field)
+std::optional<Field> find(PelkoDocument &document, const TextAddress &field)
 {
     const qsizetype row = BlockOperations::indexOf(document, field.blockID);
     if (row < 0)
         return std::nullopt;
     Block &block = document.blocks[row];
-    if (!field.todoID)
+    if (!field.partID)
         return isTextLike(block.type) ? std::optional(Field{row, &block.content}) : std::nullopt;
     if (!block.todos)
         return std::nullopt;
-    const auto entry = std::ranges::find(*block.todos, *field.todoID, &TodoItem::id);
+    const auto entry = std::ranges::find(*block.todos, *field.partID, &TodoItem::id);
     if (entry == block.todos->end())
         return std::nullopt;
     return Field{row, &entry->text, entry - block.todos->begin()};
@@ -74,16 +74,16 @@ FocusTarget insertBelow(PelkoDocument &document, const Field &field, const QStri
     Block &block = document.blocks[field.row];
     if (field.todo < 0) {
         document.blocks.insert(field.row + 1, Block(BlockType::textSmall, text));
-        return {.blockID = document.blocks.at(field.row + 1).id, .caret = 0};
+        return {.address = {.blockID = document.blocks.at(field.row + 1).id}, .caret = 0};
     }
     const TodoItem rest{.text = text};
     block.todos->insert(field.todo + 1, rest);
-    return {.blockID = block.id, .todoID = rest.id, .caret = 0};
+    return {.address = {.blockID = block.id, .partID = rest.id}, .caret = 0};
 }
 
 } // namespace
 
-std::optional<Edit> LineOperations::breakLine(PelkoDocument document, const FocusTarget &field,
+std::optional<Edit> LineOperations::breakLine(PelkoDocument document, const TextAddress &field,
                                               Stretch selected)
 {
     const auto found = find(document, field);
@@ -91,12 +91,10 @@ std::optional<Edit> LineOperations::breakLine(PelkoDocument document, const Focu
         return std::nullopt;
     const auto [start, end] = within(*found->text, selected);
     found->text->replace(start, end - start, u'\n');
-    FocusTarget behind = field;
-    behind.caret = start + 1;
-    return Edit{.document = std::move(document), .focus = behind};
+    return Edit{.document = std::move(document), .focus = FocusTarget{.address = field, .caret = start + 1}};
 }
 
-std::optional<Edit> LineOperations::split(PelkoDocument document, const FocusTarget &field, Stretch selected)
+std::optional<Edit> LineOperations::split(PelkoDocument document, const TextAddress &field, Stretch selected)
 {
     const auto found = find(document, field);
     if (!found)
@@ -113,7 +111,7 @@ std::optional<Edit> LineOperations::split(PelkoDocument document, const FocusTar
     return Edit{.document = std::move(document), .focus = below};
 }
 
-std::optional<Edit> LineOperations::indent(PelkoDocument document, const FocusTarget &field, Stretch selected)
+std::optional<Edit> LineOperations::indent(PelkoDocument document, const TextAddress &field, Stretch selected)
 {
     const auto found = find(document, field);
     if (!found)
@@ -124,7 +122,7 @@ std::optional<Edit> LineOperations::indent(PelkoDocument document, const FocusTa
     return Edit{.document = std::move(document)};
 }
 
-std::optional<Edit> LineOperations::unindent(PelkoDocument document, const FocusTarget &field,
+std::optional<Edit> LineOperations::unindent(PelkoDocument document, const TextAddress &field,
                                              Stretch selected)
 {
     const auto found = find(document, field);

@@ -2,11 +2,6 @@
 
 #include "Editor/BlockOperations.h"
 
-std::size_t qHash(const PassageID &id, std::size_t seed)
-{
-    return qHashMulti(seed, id.blockID, id.todoID.value_or(QUuid()));
-}
-
 Passages::Passages(const PelkoDocument &document)
 {
     const bool opensWithBanner = BlockOperations::firstBlockIsBanner(document);
@@ -15,11 +10,11 @@ Passages::Passages(const PelkoDocument &document)
         Passage passage{.id = {.blockID = block.id}, .row = row, .type = block.type};
         const auto todos = block.type == BlockType::sticky ? block.todos : std::nullopt;
         for (const TodoItem &todo : todos.value_or(QList<TodoItem>{})) {
-            passage.id.todoID = todo.id;
+            passage.id.partID = todo.id;
             passage.text = todo.text;
             add(passage);
         }
-        if (passage.id.todoID)
+        if (passage.id.partID)
             continue;
         if (isTextLike(block.type))
             passage.text = block.content;
@@ -51,14 +46,14 @@ std::optional<PagePosition> Passages::end() const
     return PagePosition{.passage = m_passages.last().id, .offset = m_passages.last().length()};
 }
 
-const Passage *Passages::neighbour(const PassageID &id, bool forward) const
+const Passage *Passages::neighbour(const TextAddress &id, bool forward) const
 {
     const qsizetype index = indexOf(id);
     const qsizetype next = forward ? index + 1 : index - 1;
     return index < 0 || next < 0 || next >= size() ? nullptr : &at(next);
 }
 
-const Passage *Passages::textNeighbour(const PassageID &id, bool forward) const
+const Passage *Passages::textNeighbour(const TextAddress &id, bool forward) const
 {
     const Passage *next = neighbour(id, forward);
     while (next && !next->text)

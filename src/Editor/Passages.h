@@ -1,22 +1,13 @@
 #pragma once
 
+#include "Editor/TextAddress.h"
 #include "Models/PelkoDocument.h"
 
 #include <QHash>
 
-/// Names a passage of a page: a block, or one entry of a checklist.
-struct PassageID {
-    QUuid blockID;
-    std::optional<QUuid> todoID = std::nullopt;
-
-    bool operator==(const PassageID &) const = default;
-};
-
-std::size_t qHash(const PassageID &id, std::size_t seed = 0);
-
 /// A place between two characters of a page.
 struct PagePosition {
-    PassageID passage;
+    TextAddress passage;
     /// Counted in UTF-16 units. A passage without text has one place before it, 0, and one behind it, 1.
     int offset = 0;
 
@@ -26,7 +17,7 @@ struct PagePosition {
 /// What a caret runs through without a jump: the text of a block, of a banner or of an entry of a checklist.
 /// A divider, a picture and a checklist without entries are passages without text.
 struct Passage {
-    PassageID id;
+    TextAddress id;
     /// Where its block stands on the page.
     qsizetype row = 0;
     BlockType type = BlockType::textSmall;
@@ -46,19 +37,19 @@ public:
     qsizetype size() const { return m_passages.size(); }
     const Passage &at(qsizetype index) const { return m_passages.at(index); }
     /// Where it stands, or -1.
-    qsizetype indexOf(const PassageID &id) const { return m_index.value(id, -1); }
+    qsizetype indexOf(const TextAddress &id) const { return m_index.value(id, -1); }
 
     std::optional<PagePosition> start() const;
     std::optional<PagePosition> end() const;
 
     /// The next passage behind or before this one; nothing at the end of the page.
-    const Passage *neighbour(const PassageID &id, bool forward) const;
+    const Passage *neighbour(const TextAddress &id, bool forward) const;
     /// The next one that a caret can stand in.
-    const Passage *textNeighbour(const PassageID &id, bool forward) const;
+    const Passage *textNeighbour(const TextAddress &id, bool forward) const;
 
 private:
     void add(Passage passage);
 
     QList<Passage> m_passages;
-    QHash<PassageID, qsizetype> m_index;
+    QHash<TextAddress, qsizetype> m_index;
 };

@@ -3,8 +3,7 @@
 #include "Editor/BlockOperations.h"
 #include "Editor/ImageOperations.h"
 #include "Editor/LineOperations.h"
-#include "Editor/TodoOperations.h"
-#include "Editor/TypingRules.h"
+#include "Editor/TextOperations.h"
 #include "Models/LineBreaks.h"
 
 #include <algorithm>
@@ -14,7 +13,7 @@ namespace
 
 /// The passage that stays, with what is left of the text around the selection.
 struct Seam {
-    PassageID passage = {};
+    TextAddress passage = {};
     QString before = {};
     QString after = {};
 };
@@ -39,31 +38,31 @@ std::optional<Seam> seamOf(const SelectedParts &parts)
 
 /// Takes what is selected out of a block, except the passage that stays. Tells whether anything of it is
 /// left.
-bool cut(Block &block, const SelectedParts &parts, const PassageID &staying)
+bool cut(Block &block, const SelectedParts &parts, const TextAddress &staying)
 {
     if (parts.covers(block.id))
         return false;
     if (block.type != BlockType::sticky)
         return block.id == staying.blockID;
     block.todos->removeIf([&](const TodoItem &todo) {
-        const PassageID entry{.blockID = block.id, .todoID = todo.id};
+        const TextAddress entry{.blockID = block.id, .partID = todo.id};
         return entry != staying && parts.of(entry);
     });
     return !block.todos->isEmpty();
 }
 
-void setText(PelkoDocument &document, const PassageID &passage, const QString &text)
+void setText(PelkoDocument &document, const TextAddress &passage, const QString &text)
 {
     Block &block = document.blocks[BlockOperations::indexOf(document, passage.blockID)];
-    if (passage.todoID)
-        std::ranges::find(*block.todos, *passage.todoID, &TodoItem::id)->text = text;
+    if (passage.partID)
+        std::ranges::find(*block.todos, *passage.partID, &TodoItem::id)->text = text;
     else if (block.type == BlockType::image)
         block.bannerTitle = text;
     else
         block.content = text;
 }
 
-bool isBannerTitle(const PelkoDocument &document, const PassageID &passage)
+bool isBannerTitle(const PelkoDocument &document, const TextAddress &passage)
 {
     return document.blocks.at(BlockOperations::indexOf(document, passage.blockID)).type == BlockType::image;
 }
@@ -94,20 +93,9 @@ std::optional<Removal> removal(PelkoDocument document, const BlockSelection &sel
     return Removal{.document = std::move(document), .seam = *std::move(seam)};
 }
 
-FocusTarget caretIn(const PassageID &passage, qsizetype offset)
+FocusTarget caretIn(const TextAddress &passage, qsizetype offset)
 {
-    return {.blockID = passage.blockID, .todoID = passage.todoID, .caret = static_cast<int>(offset)};
-}
-
-std::optional<Edit> type(PelkoDocument document, const PassageID &passage, const QString &value, int caret)
-{
-    if (passage.todoID)
-        return TodoOperations::setText(std::move(document), passage.blockID, *passage.todoID, value, caret);
-    const qsizetype row = BlockOperations::indexOf(document, passage.blockID);
-    if (isTextLike(document.blocks.at(row).type))
-        return TypingRules::apply(std::move(document), passage.blockID, value, caret);
-    setText(document, passage, value);
-    return Edit{.document = std::move(document), .focus = std::nullopt};
+    return {.address = passage, .caret = static_cast<int>(offset)};
 }
 
 /// Removes the selection and then makes a line at the seam, where its text can have several.
@@ -118,7 +106,7 @@ std::optional<Edit> makeLine(PelkoDocument document, const BlockSelection &selec
     if (!removed)
         return std::nullopt;
     const FocusTarget seam = removed->focus.value();
-    auto edit = operation(removed->document, seam, {.start = seam.caret, .end = seam.caret});
+    auto edit = operation(removed->document, seam.address, {.start = seam.caret, .end = seam.caret});
     return edit ? edit : removed;
 }
 
@@ -145,8 +133,8 @@ std::optional<Edit> SelectionOperations::replace(PelkoDocument document, const B
         removed->document = std::move(document);
     const QString typed = isBannerTitle(removed->document, seam.passage) ? onOneLine(text) : text;
     const FocusTarget caret = caretIn(seam.passage, seam.before.size() + typed.size());
-    auto edit =
-        type(std::move(removed->document), seam.passage, seam.before + typed + seam.after, caret.caret);
+    auto edit = TextOperations::typed(std::move(removed->document), seam.passage,
+                                      seam.before + typed + seam.after, caret.caret);
     if (edit && !edit->focus)
         edit->focus = caret;
     return edit;
@@ -159,7 +147,8 @@ std::optional<Edit> SelectionOperations::replaceByPicture(PelkoDocument document
     auto removed = remove(std::move(document), selection);
     if (!removed)
         return std::nullopt;
-    auto edit = ImageOperations::insertImage(std::move(removed->document), removed->focus->blockID, bytes);
+    auto edit =
+        ImageOperations::insertImage(std::move(removed->document), removed->focus->address.blockID, bytes);
     if (edit)
         edit->focus = removed->focus;
     return edit;

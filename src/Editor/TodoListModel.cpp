@@ -12,6 +12,10 @@ constexpr qreal step = 200;
 constexpr qreal margin = 400;
 } // namespace
 
+TodoListModel::TodoListModel(const QUuid &blockID, QObject *parent) : IdListModel(parent), m_blockID(blockID)
+{
+}
+
 void TodoListModel::publish(const QList<TodoItem> &items)
 {
     m_items = items;
@@ -31,19 +35,18 @@ void TodoListModel::setView(qreal top, qreal bottom, qreal usualHeight)
         publishRows();
 }
 
-void TodoListModel::keep(const QString &todoID)
+void TodoListModel::keep(const TextAddress &entry)
 {
-    const QUuid kept(todoID);
-    if (m_kept == kept)
+    if (entry.partID == m_kept)
         return;
-    m_kept = kept;
+    m_kept = entry.partID;
     if (m_items.size() > shortList)
         publishRows();
 }
 
-void TodoListModel::setHeight(const QString &todoID, qreal height)
+void TodoListModel::setHeight(const TextAddress &entry, qreal height)
 {
-    m_heights.insert(QUuid(todoID), height);
+    m_heights.insert(entry.partID.value_or(QUuid()), height);
 }
 
 bool TodoListModel::isShown(const TodoItem &item, qreal top, qreal bottom) const
@@ -91,8 +94,8 @@ QVariant TodoListModel::data(const QModelIndex &index, int role) const
         return {};
     const TodoEntry &entry = rows().at(index.row());
     switch (role) {
-    case TodoIDRole:
-        return entry.item.id.toString(QUuid::WithoutBraces);
+    case AddressRole:
+        return QVariant::fromValue(TextAddress{.blockID = m_blockID, .partID = entry.item.id});
     case TextRole:
         return entry.item.text;
     case DoneRole:
@@ -106,7 +109,7 @@ QVariant TodoListModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> TodoListModel::roleNames() const
 {
-    return {{TodoIDRole, "todoID"}, {TextRole, "text"}, {DoneRole, "done"}, {GapRole, "gap"}};
+    return {{AddressRole, "address"}, {TextRole, "text"}, {DoneRole, "done"}, {GapRole, "gap"}};
 }
 
 QList<int> TodoListModel::changedRoles(const TodoEntry &before, const TodoEntry &after) const

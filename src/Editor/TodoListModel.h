@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Editor/IdListModel.h"
+#include "Editor/TextAddress.h"
 #include "Models/TodoItem.h"
 
 /// An entry of a checklist that has a delegate.
@@ -25,12 +26,12 @@ class TodoListModel : public IdListModel<TodoEntry>
     Q_PROPERTY(qreal gapBelow READ gapBelow NOTIFY entriesChanged)
 
 public:
-    enum Role { TodoIDRole = Qt::UserRole, TextRole, DoneRole, GapRole };
+    enum Role { AddressRole = Qt::UserRole, TextRole, DoneRole, GapRole };
 
     /// A checklist of so many entries has all of them as rows.
     static constexpr qsizetype shortList = 100;
 
-    using IdListModel::IdListModel;
+    explicit TodoListModel(const QUuid &blockID, QObject *parent = nullptr);
 
     bool isEmpty() const { return m_isEmpty; }
     /// The height of the entries without delegates behind the last row.
@@ -42,9 +43,9 @@ public:
     /// measured.
     Q_INVOKABLE void setView(qreal top, qreal bottom, qreal usualHeight);
     /// The entry keeps its row wherever it is, until another one is kept.
-    Q_INVOKABLE void keep(const QString &todoID);
+    Q_INVOKABLE void keep(const TextAddress &entry);
     /// Remembers the height of an entry for the time when it has no delegate.
-    Q_INVOKABLE void setHeight(const QString &todoID, qreal height);
+    Q_INVOKABLE void setHeight(const TextAddress &entry, qreal height);
 
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
@@ -60,9 +61,10 @@ private:
     QList<TodoEntry> shownRows();
     bool isShown(const TodoItem &item, qreal top, qreal bottom) const;
 
+    const QUuid m_blockID;
     QList<TodoItem> m_items;
     QHash<QUuid, qreal> m_heights;
-    QUuid m_kept;
+    std::optional<QUuid> m_kept;
     qreal m_top = 0;
     qreal m_bottom = 0;
     qreal m_usualHeight = 1;

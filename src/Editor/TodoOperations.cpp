@@ -12,13 +12,13 @@ struct TodoPlace {
     qsizetype todo;
 };
 
-std::optional<TodoPlace> find(const PelkoDocument &document, const QUuid &blockID, const QUuid &todoID)
+std::optional<TodoPlace> find(const PelkoDocument &document, const TextAddress &entry)
 {
-    const qsizetype block = BlockOperations::indexOf(document, blockID);
-    if (block < 0 || !document.blocks.at(block).todos)
+    const qsizetype block = BlockOperations::indexOf(document, entry.blockID);
+    if (block < 0 || !entry.partID || !document.blocks.at(block).todos)
         return std::nullopt;
     const QList<TodoItem> &todos = *document.blocks.at(block).todos;
-    const auto found = std::ranges::find(todos, todoID, &TodoItem::id);
+    const auto found = std::ranges::find(todos, *entry.partID, &TodoItem::id);
     if (found == todos.end())
         return std::nullopt;
     return TodoPlace{block, found - todos.begin()};
@@ -40,16 +40,17 @@ Edit breakUp(PelkoDocument document, TodoPlace place, const QString &text, int c
 
     const TodoItem &last = block.todos->at(place.todo + lines.size() - 1);
     const auto lastStart = static_cast<int>(text.size() - last.text.size());
-    const FocusTarget focus{.blockID = block.id, .todoID = last.id, .caret = std::max(caret - lastStart, 0)};
+    const FocusTarget focus{.address = {.blockID = block.id, .partID = last.id},
+                            .caret = std::max(caret - lastStart, 0)};
     return {std::move(document), focus};
 }
 
 } // namespace
 
-std::optional<Edit> TodoOperations::setText(PelkoDocument document, const QUuid &blockID, const QUuid &todoID,
+std::optional<Edit> TodoOperations::setText(PelkoDocument document, const TextAddress &entry,
                                             const QString &text, int caret)
 {
-    const auto place = find(document, blockID, todoID);
+    const auto place = find(document, entry);
     if (!place)
         return std::nullopt;
     TodoItem &item = itemAt(document, *place);
@@ -59,9 +60,9 @@ std::optional<Edit> TodoOperations::setText(PelkoDocument document, const QUuid 
     return Edit{std::move(document)};
 }
 
-std::optional<Edit> TodoOperations::toggle(PelkoDocument document, const QUuid &blockID, const QUuid &todoID)
+std::optional<Edit> TodoOperations::toggle(PelkoDocument document, const TextAddress &entry)
 {
-    const auto place = find(document, blockID, todoID);
+    const auto place = find(document, entry);
     if (!place)
         return std::nullopt;
     TodoItem &item = itemAt(document, *place);
@@ -75,24 +76,24 @@ std::optional<Edit> TodoOperations::append(PelkoDocument document, const QUuid &
     if (index < 0 || document.blocks.at(index).type != BlockType::sticky)
         return std::nullopt;
     TodoItem item;
-    const FocusTarget focus{.blockID = blockID, .todoID = item.id};
+    const FocusTarget focus{.address = {.blockID = blockID, .partID = item.id}};
     Block &block = document.blocks[index];
     block.todos = block.todos.value_or(QList<TodoItem>{}) << std::move(item);
     return Edit{std::move(document), focus};
 }
 
-std::optional<Edit> TodoOperations::remove(PelkoDocument document, const QUuid &blockID, const QUuid &todoID,
+std::optional<Edit> TodoOperations::remove(PelkoDocument document, const TextAddress &entry,
                                            const std::optional<FocusTarget> &caret)
 {
-    const auto place = find(document, blockID, todoID);
+    const auto place = find(document, entry);
     if (!place)
         return std::nullopt;
     QList<TodoItem> &todos = *document.blocks[place->block].todos;
     todos.removeAt(place->todo);
-    const bool isElsewhere = caret && (caret->blockID != blockID || caret->todoID != todoID);
+    const bool isElsewhere = caret && caret->address != entry;
     std::optional<FocusTarget> focus;
     if (!todos.isEmpty() && !isElsewhere)
-        focus =
-            FocusTarget{.blockID = blockID, .todoID = todos.at(std::max<qsizetype>(place->todo - 1, 0)).id};
+        focus = FocusTarget{.address = {.blockID = entry.blockID,
+                                        .partID = todos.at(std::max<qsizetype>(place->todo - 1, 0)).id}};
     return Edit{std::move(document), focus};
 }

@@ -9,16 +9,15 @@ namespace TodoOperations
 
 /// Stores what the entry's field reports, `caret` being where the caret stood in `text`. A line feed in a
 /// text that had none breaks it up: each further line becomes an entry of its own below.
-std::optional<Edit> setText(PelkoDocument document, const QUuid &blockID, const QUuid &todoID,
-                            const QString &text, int caret);
-std::optional<Edit> toggle(PelkoDocument document, const QUuid &blockID, const QUuid &todoID);
+std::optional<Edit> setText(PelkoDocument document, const TextAddress &entry, const QString &text, int caret);
+std::optional<Edit> toggle(PelkoDocument document, const TextAddress &entry);
 
 /// Adds an empty entry at the end, which gets the focus.
 std::optional<Edit> append(PelkoDocument document, const QUuid &blockID);
 
 /// Removes the entry. A caret in it, or an unknown one, goes to the entry above, else to the one that takes
 /// its place; elsewhere it stays.
-std::optional<Edit> remove(PelkoDocument document, const QUuid &blockID, const QUuid &todoID,
+std::optional<Edit> remove(PelkoDocument document, const TextAddress &entry,
                            const std::optional<FocusTarget> &caret = std::nullopt);
 
 } // namespace TodoOperations

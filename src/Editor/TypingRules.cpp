@@ -35,13 +35,13 @@ Edit convert(PelkoDocument document, qsizetype index, BlockType type, const QStr
     Block &block = document.blocks[index];
     block.type = type;
     block.content.clear();
-    FocusTarget focus{.blockID = block.id};
+    FocusTarget focus{.address = {.blockID = block.id}};
     if (type == BlockType::sticky) {
         block.todos = BlockOperations::newBlock(type).todos;
-        focus.todoID = block.todos->first().id;
+        focus.address.partID = block.todos->first().id;
     } else if (type == BlockType::divider) {
         document.blocks.insert(index + 1, Block(BlockType::textSmall));
-        focus.blockID = document.blocks.at(index + 1).id;
+        focus.address.blockID = document.blocks.at(index + 1).id;
     }
     return {.document = std::move(document), .focus = focus, .asTyped = asTyped};
 }
@@ -52,8 +52,7 @@ Edit split(PelkoDocument document, qsizetype index, const QString &value, int ca
     document.blocks[index].content = value.first(lineFeed);
     Block rest(BlockType::textSmall, value.sliced(lineFeed + 1));
     const int restLength = static_cast<int>(rest.content.size());
-    const FocusTarget focus{.blockID = rest.id,
-
+    const FocusTarget focus{.address = {.blockID = rest.id},
                             .caret = std::clamp(caret - static_cast<int>(lineFeed) - 1, 0, restLength)};
     document.blocks.insert(index + 1, std::move(rest));
     return {std::move(document), focus};
@@ -68,7 +67,7 @@ bool deletesEmptyBlock(const PelkoDocument &document, qsizetype index, const QSt
 Edit removeEmptyBlock(PelkoDocument document, qsizetype index)
 {
     document.blocks.removeAt(index);
-    const FocusTarget focus{.blockID = document.blocks.at(index - 1).id};
+    const FocusTarget focus{.address = {.blockID = document.blocks.at(index - 1).id}};
     return {std::move(document), focus};
 }
 

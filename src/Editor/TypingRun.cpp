@@ -34,6 +34,6 @@ bool goesOnRemoving(const TextChange &key, const TextChange &next)
 
 bool TypingRun::isContinuedBy(const TypingRun &next) const
 {
-    return m_field.blockID == next.m_field.blockID && m_field.todoID == next.m_field.todoID &&
+    return m_field.address == next.m_field.address &&
            (goesOnInserting(m_key, next.m_key) || goesOnRemoving(m_key, next.m_key));
 }

@@ -5,30 +5,16 @@
 
 #include <utility>
 
-namespace
-{
-
-FocusTarget caretAt(const PassageID &text, int offset)
-{
-    return {.blockID = text.blockID, .todoID = text.todoID, .caret = offset};
-}
-
-} // namespace
-
 WritingKeys::WritingKeys(Apply apply, QObject *parent) : QObject(parent), m_apply(std::move(apply)) {}
 
-void WritingKeys::joinBackwards(const PassageID &text)
+void WritingKeys::joinBackwards(const TextAddress &text)
 {
-    m_apply([place = caretAt(text, 0)](PelkoDocument page) {
-        return JoinOperations::backwards(std::move(page), place);
-    });
+    m_apply([text](PelkoDocument page) { return JoinOperations::backwards(std::move(page), text); });
 }
 
-void WritingKeys::joinForwards(const PassageID &text)
+void WritingKeys::joinForwards(const TextAddress &text)
 {
-    m_apply([place = caretAt(text, FocusTarget::atEnd)](PelkoDocument page) {
-        return JoinOperations::forwards(std::move(page), place);
-    });
+    m_apply([text](PelkoDocument page) { return JoinOperations::forwards(std::move(page), text); });
 }
 
 void WritingKeys::remove(const QUuid &blockID, bool forward)
@@ -38,29 +24,29 @@ void WritingKeys::remove(const QUuid &blockID, bool forward)
     });
 }
 
-void WritingKeys::applyToLines(LineOperation operation, const PassageID &text, Stretch selected)
+void WritingKeys::applyToLines(LineOperation operation, const TextAddress &text, Stretch selected)
 {
-    m_apply([operation, field = caretAt(text, selected.start), selected](PelkoDocument page) {
-        return operation(std::move(page), field, selected);
+    m_apply([operation, text, selected](PelkoDocument page) {
+        return operation(std::move(page), text, selected);
     });
 }
 
-void WritingKeys::breakLine(const PassageID &text, Stretch selected)
+void WritingKeys::breakLine(const TextAddress &text, Stretch selected)
 {
     applyToLines(LineOperations::breakLine, text, selected);
 }
 
-void WritingKeys::split(const PassageID &text, Stretch selected)
+void WritingKeys::split(const TextAddress &text, Stretch selected)
 {
     applyToLines(LineOperations::split, text, selected);
 }
 
-void WritingKeys::indent(const PassageID &text, Stretch selected)
+void WritingKeys::indent(const TextAddress &text, Stretch selected)
 {
     applyToLines(LineOperations::indent, text, selected);
 }
 
-void WritingKeys::unindent(const PassageID &text, Stretch selected)
+void WritingKeys::unindent(const TextAddress &text, Stretch selected)
 {
     applyToLines(LineOperations::unindent, text, selected);
 }

@@ -20,25 +20,25 @@ public:
     explicit WritingKeys(Apply apply, QObject *parent = nullptr);
 
     /// Backspace before the first character of a text.
-    void joinBackwards(const PassageID &text);
+    void joinBackwards(const TextAddress &text);
     /// Delete behind the last.
-    void joinForwards(const PassageID &text);
+    void joinForwards(const TextAddress &text);
     /// Backspace or Delete on a block without text.
     void remove(const QUuid &blockID, bool forward);
     /// Shift+Return.
-    void breakLine(const PassageID &text, Stretch selected);
+    void breakLine(const TextAddress &text, Stretch selected);
     /// Return in a text of several lines.
-    void split(const PassageID &text, Stretch selected);
+    void split(const TextAddress &text, Stretch selected);
     /// Tab and Shift+Tab over selected lines of code.
-    void indent(const PassageID &text, Stretch selected);
-    void unindent(const PassageID &text, Stretch selected);
+    void indent(const TextAddress &text, Stretch selected);
+    void unindent(const TextAddress &text, Stretch selected);
     /// A click below the last block: the writer goes on there.
     Q_INVOKABLE void writeBelow();
 
 private:
-    using LineOperation = std::optional<Edit> (*)(PelkoDocument, const FocusTarget &, Stretch);
+    using LineOperation = std::optional<Edit> (*)(PelkoDocument, const TextAddress &, Stretch);
 
-    void applyToLines(LineOperation operation, const PassageID &text, Stretch selected);
+    void applyToLines(LineOperation operation, const TextAddress &text, Stretch selected);
 
     Apply m_apply;
 };

@@ -2,6 +2,7 @@
 
 #include "Editor/EditorViewModel.h"
 #include "Editor/PictureBytes.h"
+#include "Editor/TextAddress.h"
 #include "Shell/ExportViewModel.h"
 #include "Shell/FolderChooser.h"
 #include "Shell/LaunchSequence.h"
@@ -43,6 +44,12 @@ struct PageSelectionForQml {
     QML_FOREIGN(PageSelection)
     QML_NAMED_ELEMENT(PageSelection)
     QML_UNCREATABLE("Part of an editor.")
+};
+
+struct TextAddressForQml {
+    Q_GADGET
+    QML_FOREIGN(TextAddress)
+    QML_VALUE_TYPE(textAddress)
 };
 
 struct PictureBytesForQml {

@@ -41,11 +41,8 @@ protected:
     {
         editor = std::make_unique<EditorViewModel>(*state, desktop.services(scheduler), documentID);
         connect(editor.get(), &EditorViewModel::focusRequested, this,
-                [this](const QString &blockID, const QString &todoID, int caret) {
-                    FocusTarget target{.blockID = QUuid(blockID), .caret = caret};
-                    if (!todoID.isEmpty())
-                        target.todoID = QUuid(todoID);
-                    focused << PageText::focus(target);
+                [this](const TextAddress &address, int caret) {
+                    focused << PageText::focus(FocusTarget{.address = address, .caret = caret});
                 });
     }
 
@@ -64,7 +61,7 @@ protected:
 
     QString blockID(int row) const
     {
-        return blocks().index(row, 0).data(BlockListModel::BlockIDRole).toString();
+        return blocks().index(row, 0).data(BlockListModel::AddressRole).value<TextAddress>().blockName();
     }
 
     QStringList takeFocused() { return std::exchange(focused, {}); }
@@ -77,7 +74,7 @@ protected:
 
     void type(char letter, const QString &value)
     {
-        editor->typed(PageText::id(letter), value, int(value.size()));
+        editor->typed(PageText::address(letter), value, int(value.size()));
     }
 
 private Q_SLOTS:

@@ -60,7 +60,7 @@ class TestBlockListModel : public QObject
         QCOMPARE(model->rowCount(), blocks.size());
         for (int row = 0; row < blocks.size(); ++row) {
             const Block &block = blocks[row];
-            QCOMPARE(value(row, BlockListModel::BlockIDRole), block.id.toString(QUuid::WithoutBraces));
+            QCOMPARE(value(row, BlockListModel::AddressRole).value<TextAddress>().blockID, block.id);
             QCOMPARE(value(row, BlockListModel::KindRole), rawValue(block.type));
             QCOMPARE(value(row, BlockListModel::KindAboveRole),
                      row == 0 ? QString() : rawValue(blocks[row - 1].type));
@@ -94,7 +94,7 @@ private Q_SLOTS:
         banner.content = u"unused"_s;
         show({banner, block('B', BlockType::quote, u"said"_s)});
 
-        QCOMPARE(value(0, BlockListModel::BlockIDRole), idOf('A').toString(QUuid::WithoutBraces));
+        QCOMPARE(value(0, BlockListModel::AddressRole).value<TextAddress>(), address('A'));
         QCOMPARE(value(0, BlockListModel::KindRole), u"image"_s);
         QCOMPARE(value(0, BlockListModel::KindAboveRole), QString());
         QCOMPARE(value(0, BlockListModel::ContentRole), u"unused"_s);
@@ -301,7 +301,7 @@ private Q_SLOTS:
         const QAbstractItemModelTester listTester(list,
                                                   QAbstractItemModelTester::FailureReportingMode::QtTest);
         QCOMPARE(list->rowCount(), 2);
-        QCOMPARE(list->index(0).data(TodoListModel::TodoIDRole), idOf('x').toString(QUuid::WithoutBraces));
+        QCOMPARE(list->index(0).data(TodoListModel::AddressRole).value<TextAddress>(), address('A', 'x'));
         QCOMPARE(list->index(0).data(TodoListModel::TextRole), u"milk"_s);
         QCOMPARE(list->index(0).data(TodoListModel::DoneRole), false);
         QCOMPARE(list->index(1).data(TodoListModel::DoneRole), true);

@@ -47,7 +47,7 @@ private Q_SLOTS:
 
         QCOMPARE(lines(edit.document), lines(before) + QStringList(added));
         QCOMPARE(PageText::focus(edit.focus), focus);
-        QVERIFY(!edit.focus || edit.focus->blockID == edit.document.blocks.last().id);
+        QVERIFY(!edit.focus || edit.focus->address.blockID == edit.document.blocks.last().id);
     }
 
     void anEmptyPageGetsItsFirstBlock()

@@ -25,7 +25,7 @@ struct RememberedPage {
         const auto caret = value.indexOf(u'|');
         PelkoDocument to = page;
         to.blocks[0].content = value.remove(caret, 1);
-        const FocusTarget place{.blockID = idOf('A'), .caret = int(caret)};
+        const FocusTarget place{.address = {.blockID = idOf('A')}, .caret = int(caret)};
         history.recordTyping(page, to, {.before = lastPlace, .after = place});
         lastPlace = place;
         page = to;
@@ -187,7 +187,7 @@ private Q_SLOTS:
     void theCaretGoesBackToWhereItWas()
     {
         RememberedPage desk{.page = page({block('A', BlockType::textSmall, u"ab"_s)})};
-        desk.lastPlace = FocusTarget{.blockID = idOf('A'), .caret = 1};
+        desk.lastPlace = FocusTarget{.address = {.blockID = idOf('A')}, .caret = 1};
         desk.type(u"ax|b"_s);
         desk.type(u"axy|b"_s);
         desk.undo();
@@ -210,7 +210,7 @@ private Q_SLOTS:
     void aChangeFarFromTheCaretIsScrolledTo()
     {
         RememberedPage desk{.page = page({block('A'), block('B'), block('C')})};
-        const FocusTarget place{.blockID = idOf('A'), .caret = 0};
+        const FocusTarget place{.address = {.blockID = idOf('A')}, .caret = 0};
         desk.change(withBlocks(desk.page, {block('A'), block('B')}), {.before = place, .after = place});
         desk.undo();
         QCOMPARE(desk.shownFocus, u"A@0"_s);

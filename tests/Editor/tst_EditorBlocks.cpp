@@ -157,7 +157,7 @@ private Q_SLOTS:
     void aBannerTitleIsTypedAndTakenBack()
     {
         edit({image('A', true)});
-        editor->typedBannerTitle(id('A'), u"Ridge"_s, 5);
+        editor->typed(address('A'), u"Ridge"_s, 5);
         QCOMPARE(stored().blocks[0].bannerTitle, u"Ridge"_s);
         QCOMPARE(editor->title(), u"Ridge"_s);
         editor->undo();
@@ -222,14 +222,14 @@ private Q_SLOTS:
     {
         edit({block('A', heading), sticky('B', {todo('x')})});
         const auto list = [this] { return lines(stored()).last(); };
-        editor->typedTodo(id('B'), id('x'), u"milk"_s, 4);
+        editor->typed(address('B', 'x'), u"milk"_s, 4);
         QCOMPARE(list(), u"B sticky \"\" todos(x[ ] \"milk\")"_s);
-        editor->toggleTodo(id('B'), id('x'));
+        editor->toggleTodo(address('B', 'x'));
         QCOMPARE(list(), u"B sticky \"\" todos(x[x] \"milk\")"_s);
         editor->appendTodo(id('B'));
         QCOMPARE(list(), u"B sticky \"\" todos(x[x] \"milk\", +[ ] \"\")"_s);
         QCOMPARE(takeFocused(), {u"B.+@end"_s});
-        editor->removeTodo(id('B'), id('x'));
+        editor->removeTodo(address('B', 'x'));
         QCOMPARE(list(), u"B sticky \"\" todos(+[ ] \"\")"_s);
         QCOMPARE(takeFocused(), QStringList()); // the caret is in the other entry already
         QCOMPARE(stored().updatedAt, clock.time);
@@ -240,7 +240,7 @@ private Q_SLOTS:
     void returnInAnEntryMakesTheNext()
     {
         edit({sticky('A', {todo('x', u"milk"_s)})});
-        editor->typedTodo(id('A'), id('x'), u"milk\n"_s, 5);
+        editor->typed(address('A', 'x'), u"milk\n"_s, 5);
         QCOMPARE(lines(stored()), {u"A sticky \"\" todos(x[ ] \"milk\", +[ ] \"\")"_s});
         QCOMPARE(focused, {u"A.+@0"_s});
     }

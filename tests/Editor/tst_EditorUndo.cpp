@@ -34,8 +34,8 @@ private Q_SLOTS:
         const auto row = [](const char *name, const Operation &operation) {
             QTest::newRow(name) << operation;
         };
-        row("key", [](auto &editor) { editor.typed(id('B'), u"onextwo"_s, 4); });
-        row("split", [](auto &editor) { editor.typed(id('B'), u"one\ntwo"_s, 4); });
+        row("key", [](auto &editor) { editor.typed(address('B'), u"onextwo"_s, 4); });
+        row("split", [](auto &editor) { editor.typed(address('B'), u"one\ntwo"_s, 4); });
         row("join", [](auto &editor) { editor.keys()->joinBackwards({QUuid(id('B'))}); });
         row("join of an entry",
             [](auto &editor) { editor.keys()->joinBackwards({QUuid(id('D')), QUuid(id('y'))}); });
@@ -55,18 +55,18 @@ private Q_SLOTS:
         row("deleting", [](auto &editor) { editor.deleteBlock(id('B')); });
         row("deleting a picture", [](auto &editor) { editor.deleteBlock(id('C')); });
         row("banner", [](auto &editor) { editor.toggleFullWidth(id('C')); });
-        row("entry", [](auto &editor) { editor.typedTodo(id('D'), id('x'), u"milks"_s, 5); });
-        row("entry split", [](auto &editor) { editor.typedTodo(id('D'), id('x'), u"mi\nlk"_s, 3); });
-        row("tick", [](auto &editor) { editor.toggleTodo(id('D'), id('y')); });
+        row("entry", [](auto &editor) { editor.typed(address('D', 'x'), u"milks"_s, 5); });
+        row("entry split", [](auto &editor) { editor.typed(address('D', 'x'), u"mi\nlk"_s, 3); });
+        row("tick", [](auto &editor) { editor.toggleTodo(address('D', 'y')); });
         row("entry added", [](auto &editor) { editor.appendTodo(id('D')); });
-        row("entry removed", [](auto &editor) { editor.removeTodo(id('D'), id('x')); });
+        row("entry removed", [](auto &editor) { editor.removeTodo(address('D', 'x')); });
     }
 
     void everyOperationIsOneStep()
     {
         QFETCH(const Operation, operation);
         edit(onePageForAll());
-        editor->caretMoved(id('B'), {}, 3);
+        editor->caretMoved(address('B'), 3);
         const QStringList before = lines(stored());
 
         operation(*editor);
@@ -84,8 +84,8 @@ private Q_SLOTS:
     void undoOfASplitRejoinsWithTheCaretWhereItWas()
     {
         edit({block('A', body, u"onetwo"_s)});
-        editor->caretMoved(id('A'), {}, 3);
-        editor->typed(id('A'), u"one\ntwo"_s, 4);
+        editor->caretMoved(address('A'), 3);
+        editor->typed(address('A'), u"one\ntwo"_s, 4);
         editor->undo();
         QCOMPARE(lines(stored()), {u"A textSmall \"onetwo\""_s});
         QCOMPARE(takeLastFocused(), u"A@3"_s);
@@ -98,7 +98,7 @@ private Q_SLOTS:
     {
         edit({block('A'), block('B', body, u"text"_s)});
         editor->focusGained(id('B'));
-        editor->caretMoved(id('B'), {}, 2);
+        editor->caretMoved(address('B'), 2);
         editor->focusLost(id('B')); // to the menu
         editor->deleteBlock(id('B'));
         editor->undo();
@@ -121,7 +121,7 @@ private Q_SLOTS:
     {
         QFETCH(const QStringList, keys);
         edit({block('A', body)});
-        editor->caretMoved(id('A'), {}, 0);
+        editor->caretMoved(address('A'), 0);
         for (const QString &value : keys)
             type('A', value);
         const QStringList converted = lines(stored());
@@ -163,7 +163,7 @@ private Q_SLOTS:
     void aJoinIsTakenBackWithTheCaretAtTheStart()
     {
         edit({block('A', body, u"one"_s), block('B', body, u"two"_s)});
-        editor->caretMoved(id('B'), {}, 0);
+        editor->caretMoved(address('B'), 0);
         editor->keys()->joinBackwards({QUuid(id('B'))});
         QCOMPARE(takeLastFocused(), u"A@3"_s);
         editor->undo();
@@ -189,7 +189,7 @@ private Q_SLOTS:
     {
         edit({block('A', body), sticky('B', {todo('x')})});
         type('A', u"o"_s);
-        editor->toggleTodo(id('B'), id('x'));
+        editor->toggleTodo(address('B', 'x'));
         type('A', u"on"_s);
         editor->undo();
         editor->undo();
@@ -199,10 +199,10 @@ private Q_SLOTS:
     void theLettersOfAnEntryAreOneStep()
     {
         edit({sticky('A', {todo('x'), todo('y')})});
-        editor->caretMoved(id('A'), id('x'), 0);
-        editor->typedTodo(id('A'), id('x'), u"a"_s, 1);
-        editor->typedTodo(id('A'), id('x'), u"ab"_s, 2);
-        editor->typedTodo(id('A'), id('y'), u"c"_s, 1);
+        editor->caretMoved(address('A', 'x'), 0);
+        editor->typed(address('A', 'x'), u"a"_s, 1);
+        editor->typed(address('A', 'x'), u"ab"_s, 2);
+        editor->typed(address('A', 'y'), u"c"_s, 1);
         editor->undo();
         QCOMPARE(lines(stored()), {u"A sticky \"\" todos(x[ ] \"ab\", y[ ] \"\")"_s});
         QCOMPARE(takeLastFocused(), u"A.x@2"_s);
@@ -227,7 +227,7 @@ private Q_SLOTS:
     void changesMadeElsewhereAreAStepEachFromTheFirstOn()
     {
         edit({block('A', body, u"text"_s)});
-        editor->caretMoved(id('A'), {}, 2);
+        editor->caretMoved(address('A'), 2);
         const PelkoDocument opened = stored();
         const auto one = TaskOperations::addQuickTask(opened, u"one"_s);
         state->updateDocument(one);

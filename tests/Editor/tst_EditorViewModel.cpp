@@ -48,11 +48,11 @@ private Q_SLOTS:
         editor->addBlock(u"textSmall"_s);
         editor->deleteBlock(id('A'));
         editor->toggleFullWidth(id('A'));
-        editor->typed(id('A'), u"text"_s, 4);
-        editor->typedTodo(id('A'), id('x'), u"text"_s, 4);
-        editor->toggleTodo(id('A'), id('x'));
+        editor->typed(address('A'), u"text"_s, 4);
+        editor->typed(address('A', 'x'), u"text"_s, 4);
+        editor->toggleTodo(address('A', 'x'));
         editor->appendTodo(id('A'));
-        editor->removeTodo(id('A'), id('x'));
+        editor->removeTodo(address('A', 'x'));
         editor->appeared();
         state->setFocusMode(true);
         scheduler.advance(2s);
@@ -88,9 +88,9 @@ private Q_SLOTS:
         edit({block('A', heading), block('B')});
         QSignalSpy titles(editor.get(), &EditorViewModel::titleChanged);
         QCOMPARE(editor->title(), u"Untitled"_s);
-        editor->typed(id('A'), u"T"_s, 1);
+        editor->typed(address('A'), u"T"_s, 1);
         QCOMPARE(editor->title(), u"T"_s);
-        editor->typed(id('B'), u"text"_s, 4);
+        editor->typed(address('B'), u"text"_s, 4);
         QCOMPARE(titles.count(), 1);
     }
 
@@ -151,7 +151,7 @@ private Q_SLOTS:
     {
         edit({block('A', heading, u"Title"_s), block('B')});
         ModelLog log(blocks());
-        editor->typed(id('B'), u"w"_s, 1);
+        editor->typed(address('B'), u"w"_s, 1);
         QCOMPARE(log.take(), {u"1: content"_s});
         QCOMPARE(stored().updatedAt, clock.time);
         QCOMPARE(focused, {});
@@ -170,7 +170,7 @@ private Q_SLOTS:
         QString text;
         for (int key = 0; key < 15; ++key) {
             text += u'x';
-            editor->typed(id('A'), text, int(text.size()));
+            editor->typed(address('A'), text, int(text.size()));
             scheduler.advance(100ms);
         }
         QCOMPARE(file.writes(), 0);
@@ -186,11 +186,12 @@ private Q_SLOTS:
         edit({block('A', heading), block('B', body, u"onetwo"_s), block('C')});
         ModelLog log(blocks());
         QString shownAtFocus;
-        connect(editor.get(), &EditorViewModel::focusRequested, editor.get(), [&](const QString &blockID) {
-            const auto row = blocks().index(editor->rowOf(blockID), 0);
-            shownAtFocus = row.data(BlockListModel::ContentRole).toString();
-        });
-        editor->typed(id('B'), u"one\ntwo"_s, 4);
+        connect(editor.get(), &EditorViewModel::focusRequested, editor.get(),
+                [&](const TextAddress &address) {
+                    const auto row = blocks().index(editor->rowOf(address.blockName()), 0);
+                    shownAtFocus = row.data(BlockListModel::ContentRole).toString();
+                });
+        editor->typed(address('B'), u"one\ntwo"_s, 4);
         QCOMPARE(log.take(), (QStringList{u"+2..2"_s, u"1: content"_s}));
         QCOMPARE(focused, {u"+@0"_s});
         QCOMPARE(shownAtFocus, u"two"_s);
@@ -201,7 +202,7 @@ private Q_SLOTS:
     {
         edit({block('A', heading), block('B', body, u">"_s)});
         const QPersistentModelIndex row = blocks().index(1, 0);
-        editor->typed(id('B'), u"> "_s, 2);
+        editor->typed(address('B'), u"> "_s, 2);
         QCOMPARE(lines(stored()).last(), u"B quote \"\""_s);
         QVERIFY(row.isValid());
         QCOMPARE(row.data(BlockListModel::KindRole), u"quote"_s);
@@ -211,7 +212,7 @@ private Q_SLOTS:
     void aChecklistShortcutFocusesItsFirstEntry()
     {
         edit({block('A')});
-        editor->typed(id('A'), u"[] "_s, 3);
+        editor->typed(address('A'), u"[] "_s, 3);
         QCOMPARE(lines(stored()), {u"A sticky \"\" todos(+[ ] \"\")"_s});
         QCOMPARE(focused, {u"A.+@end"_s});
         QCOMPARE(editor->focusedBlockID(), id('A'));
@@ -220,7 +221,7 @@ private Q_SLOTS:
     void deletingAnEmptyBlockFocusesTheEndOfTheOneAbove()
     {
         edit({block('A', body, u"text"_s), block('B'), block('C')});
-        editor->typed(id('B'), {}, 0);
+        editor->typed(address('B'), {}, 0);
         scheduler.advance(0ms);
         QCOMPARE(letters(stored()), u"AC"_s);
         QCOMPARE(focused, {u"A@end"_s});
@@ -231,8 +232,7 @@ private Q_SLOTS:
     {
         edit({block('A')});
         const PelkoDocument before = stored();
-        editor->typed(id('B'), u"text"_s, 4);
-        editor->typed(u"no id"_s, u"text"_s, 4);
+        editor->typed(address('B'), u"text"_s, 4);
         editor->typed({}, u"text"_s, 4);
         scheduler.advance(2s);
         QCOMPARE(stored(), before);
@@ -249,11 +249,11 @@ private Q_SLOTS:
         edit(own.id);
         state->setOpenDocumentID(open.id);
 
-        editor->typed(id('A'), u"lost"_s, 4);
+        editor->typed(address('A'), u"lost"_s, 4);
         editor->deleteBlock(id('A'));
         QCOMPARE(*state->document(own.id), own);
 
-        editor->typed(id('C'), u"text"_s, 4);
+        editor->typed(address('C'), u"text"_s, 4);
         editor->toggleFullWidth(id('D'));
         QCOMPARE(lines(*state->document(open.id)),
                  (QStringList{u"D image \"\" image(picture) full"_s, u"C textSmall \"text\""_s}));
@@ -276,10 +276,10 @@ private Q_SLOTS:
     {
         edit({block('A')});
         state->setOpenDocumentID(std::nullopt);
-        editor->typed(id('A'), u"text"_s, 4);
+        editor->typed(address('A'), u"text"_s, 4);
         QCOMPARE(lines(stored()), {u"A textSmall \"text\""_s});
         state->setOpenDocumentID(QUuid::createUuid());
-        editor->typed(id('A'), u"more"_s, 4);
+        editor->typed(address('A'), u"more"_s, 4);
         QCOMPARE(lines(stored()), {u"A textSmall \"more\""_s});
     }
 

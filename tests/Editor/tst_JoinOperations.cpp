@@ -17,12 +17,9 @@ struct JoinCase {
     QString focus;
 };
 
-FocusTarget placeAt(const char *at)
+TextAddress addressOf(const char *at)
 {
-    FocusTarget place{.blockID = idOf(at[0])};
-    if (at[1] == '.')
-        place.todoID = idOf(at[2]);
-    return place;
+    return at[1] == '.' ? address(at[0], at[2]) : address(at[0]);
 }
 
 Block divider(char letter)
@@ -239,7 +236,7 @@ private Q_SLOTS:
     {
         QFETCH(const QList<Block>, blocks);
         QFETCH(const QByteArray, at);
-        compare(JoinOperations::backwards(page(blocks), placeAt(at)));
+        compare(JoinOperations::backwards(page(blocks), addressOf(at)));
     }
 
     void deleteAtTheEndOfAText_data() { addRows(forwardsCases()); }
@@ -248,7 +245,7 @@ private Q_SLOTS:
     {
         QFETCH(const QList<Block>, blocks);
         QFETCH(const QByteArray, at);
-        compare(JoinOperations::forwards(page(blocks), placeAt(at)));
+        compare(JoinOperations::forwards(page(blocks), addressOf(at)));
     }
 
     void aBlockWithoutTextIsRemovedByAKeyOnItself_data()

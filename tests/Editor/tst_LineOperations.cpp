@@ -32,7 +32,7 @@ class TestLineOperations : public QObject
 {
     Q_OBJECT
 
-    static std::optional<Edit> press(Key key, const PelkoDocument &page, const FocusTarget &field,
+    static std::optional<Edit> press(Key key, const PelkoDocument &page, const TextAddress &field,
                                      LineOperations::Stretch selected)
     {
         return key == Key::shiftReturn ? LineOperations::breakLine(page, field, selected)
@@ -90,8 +90,7 @@ private Q_SLOTS:
         QFETCH(const BlockType, type);
         QFETCH(const QString, written);
         const Selected selected(written);
-        const auto edit =
-            press(key, page({block('A', type, selected.text)}), {.blockID = idOf('A')}, selected.stretch);
+        const auto edit = press(key, page({block('A', type, selected.text)}), address('A'), selected.stretch);
         QVERIFY(edit);
         QTEST(lines(edit->document), "becomes");
         QTEST(PageText::focus(edit->focus), "focus");
@@ -100,7 +99,7 @@ private Q_SLOTS:
     void anEntryTakesABreakAndSplits()
     {
         const PelkoDocument list = page({sticky('A', {todo('x', u"onetwo"_s, true), todo('y')})});
-        const FocusTarget field{.blockID = idOf('A'), .todoID = idOf('x')};
+        const TextAddress field = address('A', 'x');
         const auto broken = LineOperations::breakLine(list, field, {3, 3});
         QCOMPARE(lines(broken.value().document), {u"A sticky \"\" todos(x[x] \"one\ntwo\", y[ ] \"\")"_s});
         QCOMPARE(PageText::focus(broken->focus), u"A.x@4"_s);
@@ -135,19 +134,19 @@ private Q_SLOTS:
         QFETCH(const QString, written);
         const Selected selected(written);
         const PelkoDocument code = page({block('A', BlockType::code, selected.text)});
-        const FocusTarget field{.blockID = idOf('A')};
+        const TextAddress field = address('A');
         const auto indented = LineOperations::indent(code, field, selected.stretch);
         QTEST(indented.value().document.blocks.first().content, "indented");
         const auto unindented = LineOperations::unindent(code, field, selected.stretch);
         QTEST(unindented.value().document.blocks.first().content, "unindented");
-        QVERIFY(!LineOperations::indent(code, {.blockID = idOf('Z')}, {}));
-        QVERIFY(!LineOperations::unindent(code, {.blockID = idOf('Z')}, {}));
+        QVERIFY(!LineOperations::indent(code, address('Z'), {}));
+        QVERIFY(!LineOperations::unindent(code, address('Z'), {}));
     }
 
     void aSelectionBeyondTheTextEndsWithIt()
     {
         const auto edit = LineOperations::breakLine(page({block('A', BlockType::textSmall, u"one"_s)}),
-                                                    {.blockID = idOf('A')}, {2, 99});
+                                                    address('A'), {2, 99});
         QCOMPARE(lines(edit.value().document), {u"A textSmall \"on\n\""_s});
     }
 
@@ -157,9 +156,9 @@ private Q_SLOTS:
             page({block('A', BlockType::divider), image('B'), sticky('C', {todo('x')})});
         for (const Key key : {Key::shiftReturn, Key::returnKey}) {
             for (const char letter : {'A', 'B', 'C', 'Z'})
-                QVERIFY(!press(key, other, {.blockID = idOf(letter)}, {}));
-            QVERIFY(!press(key, other, {.blockID = idOf('C'), .todoID = idOf('z')}, {}));
-            QVERIFY(!press(key, other, {.blockID = idOf('A'), .todoID = idOf('x')}, {}));
+                QVERIFY(!press(key, other, address(letter), {}));
+            QVERIFY(!press(key, other, address('C', 'z'), {}));
+            QVERIFY(!press(key, other, address('A', 'x'), {}));
         }
     }
 };

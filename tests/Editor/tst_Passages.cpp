@@ -12,7 +12,7 @@ QString name(const Passage *passage)
 {
     if (!passage)
         return u"-"_s;
-    const auto &todo = passage->id.todoID;
+    const auto &todo = passage->id.partID;
     return nameOf(passage->id.blockID) + (todo ? u'.' + nameOf(*todo) : QString()) + u':' +
            passage->text.value_or(u"(none)"_s);
 }

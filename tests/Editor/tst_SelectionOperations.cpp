@@ -24,7 +24,7 @@ PagePosition at(const QString &place)
     PagePosition position{.passage = {.blockID = idOf(place.at(0).toLatin1())},
                           .offset = place.section(u'@', 1).toInt()};
     if (isEntry)
-        position.passage.todoID = idOf(place.at(2).toLatin1());
+        position.passage.partID = idOf(place.at(2).toLatin1());
     return position;
 }
 

@@ -8,6 +8,7 @@ namespace
 {
 constexpr qreal rowHeight = 20;
 constexpr qsizetype many = 1'000;
+const QUuid blockID = QUuid::createUuid();
 
 QList<TodoItem> entries(qsizetype count)
 {
@@ -17,9 +18,9 @@ QList<TodoItem> entries(qsizetype count)
     return items;
 }
 
-QString entryID(const TodoItem &item)
+TextAddress addressOf(const TodoItem &item)
 {
-    return item.id.toString(QUuid::WithoutBraces);
+    return {.blockID = blockID, .partID = item.id};
 }
 
 /// The height of all rows and of the gaps around them, where each row has its usual height.
@@ -39,7 +40,7 @@ class TestTodoListModel : public QObject
 private Q_SLOTS:
     void aShortChecklistHasAllEntriesAsRows()
     {
-        TodoListModel model;
+        TodoListModel model(blockID);
         model.publish(entries(TodoListModel::shortList));
         QCOMPARE(model.rowCount(), int(TodoListModel::shortList));
         QCOMPARE(model.gapBelow(), 0);
@@ -49,7 +50,7 @@ private Q_SLOTS:
 
     void aLongChecklistHasTheEntriesInSightAsRows()
     {
-        TodoListModel model;
+        TodoListModel model(blockID);
         const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         model.setView(0, 600, rowHeight);
         model.publish(entries(many));
@@ -65,35 +66,35 @@ private Q_SLOTS:
 
     void anEntryThatIsKeptHasItsRowOutOfSight()
     {
-        TodoListModel model;
+        TodoListModel model(blockID);
         const QList<TodoItem> items = entries(many);
         model.setView(0, 600, rowHeight);
         model.publish(items);
-        model.keep(entryID(items.at(700)));
+        model.keep(addressOf(items.at(700)));
         QCOMPARE(model.rows().last().item, items.at(700));
         QCOMPARE(heightOf(model), many * rowHeight);
         model.setView(18'000, 18'600, rowHeight);
         QCOMPARE(model.rows().first().item, items.at(700));
         QCOMPARE(model.rows().first().gap, 700 * rowHeight);
-        model.keep(entryID(items.at(3)));
+        model.keep(addressOf(items.at(3)));
         QCOMPARE(model.rows().first().item, items.at(3));
         QCOMPARE(heightOf(model), many * rowHeight);
     }
 
     void anEntryOutOfSightKeepsItsMeasuredHeight()
     {
-        TodoListModel model;
+        TodoListModel model(blockID);
         const QList<TodoItem> items = entries(many);
         model.setView(0, 600, rowHeight);
         model.publish(items);
-        model.setHeight(entryID(items.first()), 3 * rowHeight);
+        model.setHeight(addressOf(items.first()), 3 * rowHeight);
         model.setView(10'000, 10'600, rowHeight);
         QCOMPARE(heightOf(model), (many + 2) * rowHeight);
     }
 
     void tellsWhetherThereAreEntries()
     {
-        TodoListModel model;
+        TodoListModel model(blockID);
         const QSignalSpy changes(&model, &TodoListModel::entriesChanged);
         QVERIFY(model.isEmpty());
         model.publish({});

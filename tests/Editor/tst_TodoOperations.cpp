@@ -34,7 +34,7 @@ class TestTodoOperations : public QObject
 private Q_SLOTS:
     void theTextOfAnEntryIsStored()
     {
-        const auto edit = TodoOperations::setText(shopping(), idOf('B'), idOf('y'), u"rye"_s, 3);
+        const auto edit = TodoOperations::setText(shopping(), address('B', 'y'), u"rye"_s, 3);
         QCOMPARE(lines(edit.value().document),
                  (QStringList{u"A textLarge \"List\""_s,
                               u"B sticky \"\" todos(x[ ] \"milk\", y[x] \"rye\", z[ ] \"\")"_s}));
@@ -43,13 +43,13 @@ private Q_SLOTS:
 
     void shortcutsOfBlocksMeanNothingInAnEntry()
     {
-        const auto edit = TodoOperations::setText(listOf({todo('x')}), idOf('B'), idOf('x'), u"# "_s, 2);
+        const auto edit = TodoOperations::setText(listOf({todo('x')}), address('B', 'x'), u"# "_s, 2);
         QCOMPARE(checklist(edit), u"B sticky \"\" todos(x[ ] \"# \")"_s);
     }
 
     void anEmptyTextKeepsTheEntry()
     {
-        const auto edit = TodoOperations::setText(listOf({todo('x')}), idOf('B'), idOf('x'), {}, 0);
+        const auto edit = TodoOperations::setText(listOf({todo('x')}), address('B', 'x'), {}, 0);
         QCOMPARE(checklist(edit), u"B sticky \"\" todos(x[ ] \"\")"_s);
         QCOMPARE(edit->focus, std::nullopt);
     }
@@ -83,24 +83,24 @@ private Q_SLOTS:
         QFETCH(const QString, becomes);
         QFETCH(const QString, focus);
         const PelkoDocument before = listOf({todo('x'), todo('y', stored, true), todo('z')});
-        const auto edit = TodoOperations::setText(before, idOf('B'), idOf('y'), typed, caret);
+        const auto edit = TodoOperations::setText(before, address('B', 'y'), typed, caret);
         QCOMPARE(checklist(edit), u"B sticky \"\" todos(x[ ] \"\", %1, z[ ] \"\")"_s.arg(becomes));
         QCOMPARE(PageText::focus(edit->focus), focus);
     }
 
     void theFocusNamesTheLastOfThePastedLines()
     {
-        const auto edit = TodoOperations::setText(listOf({todo('x')}), idOf('B'), idOf('x'), u"a\nb\nc"_s, 5);
-        QCOMPARE(edit.value().focus->todoID, edit->document.blocks.first().todos->last().id);
+        const auto edit = TodoOperations::setText(listOf({todo('x')}), address('B', 'x'), u"a\nb\nc"_s, 5);
+        QCOMPARE(edit.value().focus->address.partID, edit->document.blocks.first().todos->last().id);
     }
 
     void anEntryIsTickedAndUnticked()
     {
         const PelkoDocument before = shopping();
-        const auto ticked = TodoOperations::toggle(before, idOf('B'), idOf('x'));
+        const auto ticked = TodoOperations::toggle(before, address('B', 'x'));
         QCOMPARE(checklist(ticked), u"B sticky \"\" todos(x[x] \"milk\", y[x] \"bread\", z[ ] \"\")"_s);
         QCOMPARE(ticked->focus, std::nullopt);
-        const auto unticked = TodoOperations::toggle(ticked->document, idOf('B'), idOf('x'));
+        const auto unticked = TodoOperations::toggle(ticked->document, address('B', 'x'));
         QCOMPARE(unticked.value().document, before);
     }
 
@@ -109,7 +109,7 @@ private Q_SLOTS:
         const auto edit = TodoOperations::append(listOf({todo('x', u"milk"_s)}), idOf('B'));
         QCOMPARE(checklist(edit), u"B sticky \"\" todos(x[ ] \"milk\", +[ ] \"\")"_s);
         QCOMPARE(PageText::focus(edit->focus), u"B.+@end"_s);
-        QCOMPARE(edit->focus->todoID, edit->document.blocks.first().todos->last().id);
+        QCOMPARE(edit->focus->address.partID, edit->document.blocks.first().todos->last().id);
     }
 
     void aChecklistWithoutAListGetsOne()
@@ -139,35 +139,34 @@ private Q_SLOTS:
         QFETCH(const QString, removed);
         QFETCH(const QString, left);
         QFETCH(const QString, focus);
-        const auto edit = TodoOperations::remove(shopping(), idOf('B'), idOf(removed[0].toLatin1()));
+        const auto edit = TodoOperations::remove(shopping(), address('B', removed[0].toLatin1()));
         QCOMPARE(checklist(edit), u"B sticky \"\" todos(%1)"_s.arg(left));
         QCOMPARE(PageText::focus(edit->focus), focus);
     }
 
     void aCaretElsewhereStays()
     {
-        const FocusTarget inEntry{.blockID = idOf('B'), .todoID = idOf('x')};
-        const FocusTarget inBody{.blockID = idOf('A')};
+        const FocusTarget inEntry{.address = {.blockID = idOf('B'), .partID = idOf('x')}};
+        const FocusTarget inBody{.address = {.blockID = idOf('A')}};
         for (const FocusTarget &caret : {inEntry, inBody})
-            QCOMPARE(TodoOperations::remove(shopping(), idOf('B'), idOf('y'), caret)->focus, std::nullopt);
-        QVERIFY(TodoOperations::remove(shopping(), idOf('B'), idOf('x'), inEntry)->focus);
+            QCOMPARE(TodoOperations::remove(shopping(), address('B', 'y'), caret)->focus, std::nullopt);
+        QVERIFY(TodoOperations::remove(shopping(), address('B', 'x'), inEntry)->focus);
     }
 
     void theOnlyEntryCanBeRemovedAndTheListStays()
     {
-        const auto edit = TodoOperations::remove(listOf({todo('x')}), idOf('B'), idOf('x'));
+        const auto edit = TodoOperations::remove(listOf({todo('x')}), address('B', 'x'));
         QCOMPARE(checklist(edit), u"B sticky \"\" todos()"_s);
         QCOMPARE(edit->focus, std::nullopt);
     }
 
     void unknownIdsChangeNothing()
     {
-        const QList<std::pair<QUuid, QUuid>> places{
-            {idOf('C'), idOf('x')}, {idOf('B'), idOf('w')}, {idOf('A'), idOf('x')}, {QUuid(), QUuid()}};
-        for (const auto &[blockID, todoID] : places) {
-            QVERIFY(!TodoOperations::setText(shopping(), blockID, todoID, u"text"_s, 0));
-            QVERIFY(!TodoOperations::toggle(shopping(), blockID, todoID));
-            QVERIFY(!TodoOperations::remove(shopping(), blockID, todoID));
+        for (const TextAddress &unknown :
+             {address('C', 'x'), address('B', 'w'), address('B'), address('A', 'x'), TextAddress()}) {
+            QVERIFY(!TodoOperations::setText(shopping(), unknown, u"text"_s, 0));
+            QVERIFY(!TodoOperations::toggle(shopping(), unknown));
+            QVERIFY(!TodoOperations::remove(shopping(), unknown));
         }
     }
 };

@@ -137,7 +137,7 @@ Item {
             carryTo(middleOf(row(2)))
             letGo()
             tryVerify(() => readingOrder() === "B C A D")
-            bench.editor.typed(row(1).blockID, "C\nE", 3)
+            bench.editor.typed(row(1).address, "C\nE", 3)
             tryVerify(() => readingOrder() === "B C E A D")
         }
 
@@ -247,7 +247,7 @@ Item {
             Motion.reduced = false
             open(bodies(["A", "B"]))
             const below = topOf(row(1))
-            bench.editor.typed(row(0).blockID, "word ".repeat(60), 300)
+            bench.editor.typed(row(0).address, "word ".repeat(60), 300)
             waitForRendering(page)
             const slide = row(1).transform[0]
             compare(slide.y, 0)

@@ -135,8 +135,8 @@ Item {
 
         function test_keysLeaveWhatHasNoText(row) {
             open([{ type: "textSmall", content: "above" }, row.picture, { type: "textSmall", content: "below" }])
-            const block = everything(page).find(item => item instanceof BlockEditor && !(item instanceof TextBlock))
-            block.takeFocus("", -1)
+            const row = everything(page).find(item => item instanceof BlockRow && !(item instanceof TextBlock))
+            row.block.takeFocus(row.address, -1)
             press(row.keys)
             compare(place(), row.to)
         }
@@ -150,8 +150,8 @@ Item {
         function test_keysDoNotLeadIntoAHiddenTitle(row) {
             open([row.picture, { type: "divider" }, row.picture])
             const ends = everything(page).filter(item => item instanceof ImageBlock)
-            for (const block of [ends[0], ends[ends.length - 1]]) {
-                block.takeFocus("", -1)
+            for (const end of [ends[0], ends[ends.length - 1]]) {
+                end.block.takeFocus(end.address, -1)
                 press(row.key)
                 verify(page.Window.activeFocusItem.visible, page.Window.activeFocusItem)
             }

@@ -119,7 +119,7 @@ Item {
 
         function test_noBreakSpacesSurviveAKey() {
             open([{ type: "textLarge", content: "" }, { type: "textSmall", content: "10\u00a0km" }])
-            bench.editor.focusRequested(named("Body")[0].parent.parent.parent.blockID, "", -1)
+            bench.editor.focusRequested(named("Body")[0].address, -1)
             type("x")
             compare(contents(), "|10\u00a0kmx")
         }
@@ -295,7 +295,7 @@ Item {
             const block = named(row.tag).find(item => item.activeFocus)
             const ringed = () => everything(block).some(item => item instanceof FocusRing && item.shown)
             verify(block && !ringed())
-            bench.editor.focusRequested(fields()[0].parent.parent.parent.blockID, "", 0)
+            bench.editor.focusRequested(fields()[0].address, 0)
             for (let step = 0; step <= row.buttons; ++step)
                 keyClick(Qt.Key_Backtab)
             compare(page.Window.activeFocusItem, block)

@@ -88,7 +88,8 @@ Item {
 
         function test_typingOnADividerIsNotLost() {
             open([{ type: "divider" }, { type: "textSmall", content: "end" }])
-            everything(page).find(item => item instanceof DividerBlock).takeFocus("", -1)
+            const divider = everything(page).find(item => item instanceof DividerBlock)
+            divider.block.takeFocus(divider.address, -1)
             press(["X"])
             compare(written(), "divider textSmall:endx")
         }

@@ -59,7 +59,7 @@ Item {
         }
 
         function block(name) {
-            return everything(page).find(item => item instanceof ImageBlock && item.Accessible.name === name)
+            return everything(page).find(item => item instanceof BlockEditor && item.Accessible.name === name)
         }
 
         function kinds() {

@@ -103,11 +103,16 @@ BlockSelection PageText::between(char first, int from, char last, int to)
             .head = {.passage = {idOf(last)}, .offset = to}};
 }
 
+TextAddress PageText::address(char block, std::optional<char> part)
+{
+    return {.blockID = idOf(block), .partID = part ? std::optional(idOf(*part)) : std::nullopt};
+}
+
 QString PageText::focus(const std::optional<FocusTarget> &target)
 {
     if (!target)
         return {};
-    const QString todo = target->todoID ? u'.' + nameOf(*target->todoID) : QString();
+    const QString todo = target->address.partID ? u'.' + nameOf(*target->address.partID) : QString();
     const QString caret = target->caret == FocusTarget::atEnd ? u"end"_s : QString::number(target->caret);
-    return nameOf(target->blockID) + todo + u'@' + caret;
+    return nameOf(target->address.blockID) + todo + u'@' + caret;
 }

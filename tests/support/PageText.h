@@ -19,6 +19,8 @@ inline constexpr BlockType heading = BlockType::textLarge;
 QUuid idOf(char letter);
 /// As the view models tell it.
 QString id(char letter);
+/// Of a block, or of an entry of its checklist.
+TextAddress address(char block, std::optional<char> part = std::nullopt);
 QString nameOf(const QUuid &id);
 
 Block block(char letter, BlockType type = BlockType::textSmall, const QString &content = {});

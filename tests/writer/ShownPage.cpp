@@ -108,16 +108,16 @@ QList<QQuickItem *> ShownPage::chips() const
     return found.first(std::min<qsizetype>(found.size(), 7));
 }
 
-Spot ShownPage::spotOf(const QUuid &blockID, const std::optional<QUuid> &todoID, int offset) const
+Spot ShownPage::spotOf(const TextAddress &address, int offset) const
 {
-    const auto block = std::ranges::find(m_document.blocks, blockID, &Block::id);
+    const auto block = std::ranges::find(m_document.blocks, address.blockID, &Block::id);
     if (block == m_document.blocks.end())
         return {.block = -1};
     Spot spot{.block = int(block - m_document.blocks.begin()), .offset = offset};
-    if (!todoID)
+    if (!address.partID)
         return spot;
     const QList<TodoItem> todos = block->todos.value_or(QList<TodoItem>());
-    const auto todo = std::ranges::find(todos, *todoID, &TodoItem::id);
+    const auto todo = std::ranges::find(todos, *address.partID, &TodoItem::id);
     return todo == todos.end()
                ? Spot{.block = -1}
                : Spot{.block = spot.block, .entry = int(todo - todos.begin()), .offset = offset};
@@ -125,16 +125,14 @@ Spot ShownPage::spotOf(const QUuid &blockID, const std::optional<QUuid> &todoID,
 
 Spot ShownPage::placeOf(const QQuickItem &field) const
 {
-    const QString todo = field.property("todoID").toString();
-    return spotOf(QUuid(field.property("blockID").toString()),
-                  todo.isEmpty() ? std::nullopt : std::optional(QUuid(todo)), 0);
+    return spotOf(field.property("address").value<TextAddress>(), 0);
 }
 
 int ShownPage::blockOf(const QQuickItem *item) const
 {
     for (; item; item = item->parentItem()) {
         if (isOfType(*item, "BlockRow"))
-            return spotOf(QUuid(item->property("blockID").toString()), std::nullopt, 0).block;
+            return spotOf({.blockID = QUuid(item->property("blockID").toString())}, 0).block;
     }
     return -1;
 }
@@ -144,8 +142,7 @@ int ShownPage::entryOf(const QQuickItem *item) const
     const int block = blockOf(item);
     for (; item && block >= 0; item = item->parentItem()) {
         if (isOfType(*item, "TodoRow"))
-            return spotOf(m_document.blocks.at(block).id, QUuid(item->property("todoID").toString()), 0)
-                .entry;
+            return spotOf(item->property("address").value<TextAddress>(), 0).entry;
     }
     return -1;
 }
@@ -179,7 +176,7 @@ std::optional<Marked> ShownPage::markedFrom(QQuickItem *field) const
 {
     if (const auto crossing = m_editor.selection()->selection()) {
         const auto spot = [this](const PagePosition &position) {
-            return spotOf(position.passage.blockID, position.passage.todoID, position.offset);
+            return spotOf(position.passage, position.offset);
         };
         return Marked{.anchor = spot(crossing->anchor), .head = spot(crossing->head)};
     }

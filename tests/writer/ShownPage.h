@@ -49,7 +49,7 @@ public:
 private:
     void collect(QQuickItem &item);
     std::optional<Marked> markedFrom(QQuickItem *field) const;
-    Spot spotOf(const QUuid &blockID, const std::optional<QUuid> &todoID, int offset) const;
+    Spot spotOf(const TextAddress &address, int offset) const;
     const QString *storedText(const Spot &spot) const;
 
     QQuickWindow &m_window;

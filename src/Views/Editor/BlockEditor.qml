@@ -12,11 +12,11 @@ FocusScope {
     /// The keyboard walked here, so the place of the focus has to be plain to see.
     property bool walkedTo: false
 
-    /// Makes the field of an entry that is not in sight; other kinds have their field always.
-    function makeField(todoID: string) {}
+    /// Makes the field of a text that is not in sight; most kinds have their field always.
+    function makeField(address: textAddress) {}
 
-    /// Takes the keyboard focus; `todoID` names an entry where the kind has any, `caret` -1 is the end.
-    function takeFocus(todoID: string, caret: int) {
+    /// Takes the keyboard focus, in the field of that text where there is one; `caret` -1 is the end.
+    function takeFocus(address: textAddress, caret: int) {
         walkedTo = true
         forceActiveFocus()
     }

@@ -20,18 +20,17 @@ FocusScope {
     /// The keyboard walks out of the page.
     signal walkedOut(bool forward)
 
-    function focusBlock(blockID: string, todoID: string, caret: int) {
+    function focusText(address: textAddress, caret: int) {
         list.forceLayout()
-        makeRow(blockID, todoID)
-        list.currentRow?.block.takeFocus(todoID, caret)
+        makeRow(address)
+        list.currentRow?.block.takeFocus(address, caret)
     }
 
-    /// Creates the row of that block, and the field of that entry if there is one. Scrolls there if the row is too far
-    /// away to have been laid out.
-    function makeRow(blockID: string, todoID: string) {
-        setCurrent(editor.rowOf(blockID))
+    /// Creates the row and the field of that text. Scrolls there if the row is too far away to have been laid out.
+    function makeRow(address: textAddress) {
+        setCurrent(editor.rowOf(address.blockID))
         layOutCurrent()
-        list.currentRow?.block.makeField(todoID)
+        list.currentRow?.block.makeField(address)
     }
 
     /// The view by itself would scroll to the top of the row.
@@ -141,7 +140,7 @@ FocusScope {
         view: list
         onKeyPressed: reveal.start()
         onMenuRequested: list.currentRow?.openMenu()
-        onRowNeeded: (blockID, todoID) => root.makeRow(blockID, todoID)
+        onRowNeeded: address => root.makeRow(address)
         onScrollRequested: distance => root.scrollBy(distance)
         onWalkRequested: forward => list.currentRow?.walk(forward)
         onShowRequested: item => scroll.show(list.contentItem.mapFromItem(item, 0, 0, item.width, item.height))
@@ -193,8 +192,8 @@ FocusScope {
     }
 
     Connections {
-        function onFocusRequested(blockID: string, todoID: string, caret: int) {
-            root.focusBlock(blockID, todoID, caret)
+        function onFocusRequested(address: textAddress, caret: int) {
+            root.focusText(address, caret)
         }
 
         function onScrollTargetChanged() {

@@ -7,7 +7,7 @@ FocusScope {
     id: root
 
     required property int index
-    required property string blockID
+    required property textAddress address
     required property string kind
     required property string kindAbove
     required property bool canDelete
@@ -19,6 +19,8 @@ FocusScope {
     required property BlockEditor block
     default property alias editors: body.data
     property real bodyWidth: page.measure
+
+    readonly property string blockID: address.blockID
 
     /// A new row grows into its place, so that what stands below moves aside instead of jumping.
     property real growth: 1

@@ -14,7 +14,7 @@ DelegateChooser {
     DelegateChoice {
         roleValue: "writing"
 
-        WritingRow {
+        TextBlock {
             page: root.page
         }
     }
@@ -22,7 +22,7 @@ DelegateChooser {
     DelegateChoice {
         roleValue: "divider"
 
-        DividerRow {
+        DividerBlock {
             page: root.page
         }
     }
@@ -30,7 +30,7 @@ DelegateChooser {
     DelegateChoice {
         roleValue: "image"
 
-        ImageRow {
+        ImageBlock {
             page: root.page
         }
     }
@@ -38,7 +38,7 @@ DelegateChooser {
     DelegateChoice {
         roleValue: "sticky"
 
-        StickyRow {
+        StickyBlock {
             page: root.page
         }
     }

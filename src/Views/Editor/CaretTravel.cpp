@@ -13,7 +13,7 @@ qreal scrolled(const QQuickItem &view)
 }
 
 /// The next passage that has text, or a control to make some: an empty checklist.
-const Passage *nextStop(const Passages &passages, const PassageID &from, bool forward)
+const Passage *nextStop(const Passages &passages, const TextAddress &from, bool forward)
 {
     const Passage *next = passages.neighbour(from, forward);
     while (next && !next->text && next->type != BlockType::sticky)

@@ -2,28 +2,34 @@ import QtQuick
 import Pelko
 
 /// A thin rule that fades out towards both ends.
-BlockEditor {
-    id: root
+BlockRow {
+    block: editor
 
-    Accessible.focusable: true
-    Accessible.name: BlockKinds.divider.tip
-    Accessible.role: Accessible.Separator
-    activeFocusOnTab: true
-    implicitHeight: 1
+    BlockEditor {
+        id: editor
 
-    Rectangle {
+        Accessible.focusable: true
+        Accessible.name: BlockKinds.divider.tip
+        Accessible.role: Accessible.Separator
+        activeFocusOnTab: true
         anchors.fill: parent
-        gradient: Gradient {
-            orientation: Gradient.Horizontal
-            GradientStop { position: 0; color: FirePalette.white(0) }
-            GradientStop { position: 0.12; color: FirePalette.divider }
-            GradientStop { position: 0.88; color: FirePalette.divider }
-            GradientStop { position: 1; color: FirePalette.white(0) }
-        }
-    }
+        focus: true
+        implicitHeight: 1
 
-    FocusRing {
-        controlRadius: 2
-        shown: root.activeFocus && root.walkedTo
+        Rectangle {
+            anchors.fill: parent
+            gradient: Gradient {
+                orientation: Gradient.Horizontal
+                GradientStop { position: 0; color: FirePalette.white(0) }
+                GradientStop { position: 0.12; color: FirePalette.divider }
+                GradientStop { position: 0.88; color: FirePalette.divider }
+                GradientStop { position: 1; color: FirePalette.white(0) }
+            }
+        }
+
+        FocusRing {
+            controlRadius: 2
+            shown: editor.activeFocus && editor.walkedTo
+        }
     }
 }

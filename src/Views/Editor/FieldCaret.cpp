@@ -30,14 +30,6 @@ void FieldCaret::componentComplete()
     m_page->add(*this);
 }
 
-PassageID FieldCaret::id() const
-{
-    PassageID id{.blockID = QUuid(m_blockID)};
-    if (!m_todoID.isEmpty())
-        id.todoID = QUuid(m_todoID);
-    return id;
-}
-
 QQuickItem &FieldCaret::field() const
 {
     return *static_cast<QQuickItem *>(parent());

@@ -20,8 +20,7 @@ class FieldCaret : public QObject, public QQmlParserStatus
     Q_MOC_INCLUDE("PageCaret.h")
     Q_INTERFACES(QQmlParserStatus)
     Q_PROPERTY(PageCaret *page MEMBER m_page REQUIRED)
-    Q_PROPERTY(QString blockID MEMBER m_blockID REQUIRED)
-    Q_PROPERTY(QString todoID MEMBER m_todoID)
+    Q_PROPERTY(TextAddress address MEMBER m_address REQUIRED)
     Q_PROPERTY(bool waits READ waits WRITE setWaits NOTIFY waitsChanged)
     Q_PROPERTY(bool hasWaitingInput READ hasWaitingInput NOTIFY waitingInputChanged)
     Q_PROPERTY(bool isCut MEMBER m_isCut)
@@ -32,7 +31,7 @@ class FieldCaret : public QObject, public QQmlParserStatus
 public:
     using QObject::QObject;
 
-    PassageID id() const;
+    const TextAddress &id() const { return m_address; }
     QQuickItem &field() const;
     /// The row of a block that has left the view is in no window any more, even before it is destroyed.
     bool isOnPage() const { return m_page && field().window(); }
@@ -97,8 +96,7 @@ private:
     void offerSelection();
 
     QPointer<PageCaret> m_page;
-    QString m_blockID;
-    QString m_todoID;
+    TextAddress m_address;
     bool m_isSelectedEmpty = false;
     bool m_waits = false;
     bool m_isCut = false;

@@ -1,88 +1,95 @@
 import QtQuick
 import Pelko
 
-/// The picture of an image block, or a button that asks for one. `spread` carries it from its place in the column,
-/// 0, to the banner across the page, 1.
-BlockEditor {
+/// A picture, or a button that asks for one. `spread` carries it from its place in the column, 0, to the banner across
+/// the page, 1.
+BlockRow {
     id: root
 
-    required property PageContext page
-    required property string blockID
-    required property bool hasImage
     required property pictureBytes imageData
     required property bool isBanner
     required property string bannerTitle
-    property real spread: 0
 
     // Where nothing can be drawn, there still is a block to point at.
     readonly property real ratio: Math.min(picture.aspectRatio, Metrics.highestPicture)
-    readonly property real inColumn: ratio > 0 ? Math.max(1, Math.round(width * ratio)) : Metrics.emptyImageHeight
+    readonly property real inColumn: ratio > 0 ? Math.max(1, Math.round(bodyWidth * ratio)) : Metrics.emptyImageHeight
 
-    signal imageRequested
-    signal titleEdited(string value, int caret)
-    signal titleFinished
+    block: editor
+    bodyWidth: page.measure + (width - page.measure) * spread.value
 
-    function takeFocus(todoID: string, caret: int) {
-        isBanner ? title.takeFocus(caret) : hasImage ? forceActiveFocus() : add.forceActiveFocus()
-        add.focusReason = Qt.TabFocusReason // only the keyboard leads here
+    SpringFollower {
+        id: spread
+
+        goal: root.isBanner ? 1 : 0
+        instant: Motion.reduced
     }
 
-    Accessible.focusable: true
-    Accessible.ignored: !hasImage
-    Accessible.name: isBanner ? BlockKinds.banner.tip : BlockKinds.image.tip
-    Accessible.role: Accessible.Graphic
-    activeFocusOnTab: hasImage && !isBanner
-    control: hasImage ? null : add
-    implicitHeight: inColumn + (Metrics.bannerHeight - inColumn) * spread
+    BlockEditor {
+        id: editor
 
-    BlockPicture {
-        id: picture
-
-        anchors.horizontalCenter: parent.horizontalCenter
-        blockID: root.blockID
-        height: parent.height
-        imageData: root.imageData
-        images: root.page.images
-        opacity: ready ? 1 : 0
-        radius: Metrics.pictureRadius * Math.max(0, 1 - root.spread)
-        width: root.isBanner || aspectRatio <= Metrics.highestPicture ? parent.width : Math.max(1, height / aspectRatio)
-
-        Behavior on opacity {
-            NumberAnimation { duration: Motion.fade }
+        function takeFocus(address: textAddress, caret: int) {
+            root.isBanner ? title.takeFocus(caret) : root.hasImage ? forceActiveFocus() : add.forceActiveFocus()
+            add.focusReason = Qt.TabFocusReason // only the keyboard leads here
         }
-    }
 
-    BannerOverlay {
+        Accessible.focusable: true
+        Accessible.ignored: !root.hasImage
+        Accessible.name: root.isBanner ? BlockKinds.banner.tip : BlockKinds.image.tip
+        Accessible.role: Accessible.Graphic
+        activeFocusOnTab: root.hasImage && !root.isBanner
         anchors.fill: parent
-        opacity: Math.min(1, root.spread)
-        visible: root.spread > 0
-    }
+        control: root.hasImage ? null : add
+        focus: true
+        implicitHeight: root.inColumn + (Metrics.bannerHeight - root.inColumn) * spread.value
 
-    BannerTitleField {
-        id: title
+        BlockPicture {
+            id: picture
 
-        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Metrics.bannerPadding }
-        blockID: root.blockID
-        content: root.bannerTitle
-        focus: root.isBanner
-        opacity: Math.min(1, root.spread)
-        page: root.page
-        visible: root.isBanner
-        onEdited: (value, caret) => root.titleEdited(value, caret)
-        onFinished: root.titleFinished()
-    }
+            anchors.horizontalCenter: parent.horizontalCenter
+            blockID: root.blockID
+            height: parent.height
+            imageData: root.imageData
+            images: root.page.images
+            opacity: ready ? 1 : 0
+            radius: Metrics.pictureRadius * Math.max(0, 1 - spread.value)
+            width: root.isBanner || aspectRatio <= Metrics.highestPicture ? parent.width : Math.max(1, height / aspectRatio)
 
-    AddImageButton {
-        id: add
+            Behavior on opacity {
+                NumberAnimation { duration: Motion.fade }
+            }
+        }
 
-        focus: !root.hasImage
-        visible: !root.hasImage
-        width: parent.width
-        onTriggered: root.imageRequested()
-    }
+        BannerOverlay {
+            anchors.fill: parent
+            opacity: Math.min(1, spread.value)
+            visible: spread.value > 0
+        }
 
-    FocusRing {
-        controlRadius: Metrics.pictureRadius
-        shown: root.activeFocus && root.walkedTo && root.hasImage && !root.isBanner
+        BannerTitleField {
+            id: title
+
+            address: root.address
+            anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Metrics.bannerPadding }
+            content: root.bannerTitle
+            focus: root.isBanner
+            opacity: Math.min(1, spread.value)
+            page: root.page
+            visible: root.isBanner
+            onFinished: root.page.walkedOut(root.index, true)
+        }
+
+        AddImageButton {
+            id: add
+
+            focus: !root.hasImage
+            visible: !root.hasImage
+            width: parent.width
+            onTriggered: root.page.editor.imageImport.addImage(root.blockID)
+        }
+
+        FocusRing {
+            controlRadius: Metrics.pictureRadius
+            shown: editor.activeFocus && editor.walkedTo && root.hasImage && !root.isBanner
+        }
     }
 }

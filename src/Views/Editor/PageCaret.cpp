@@ -18,7 +18,7 @@ qreal distance(const QRectF &place, qreal y)
     return std::max({place.top() - y, y - place.bottom(), 0.0});
 }
 
-bool isText(const Passages &passages, const PassageID &id)
+bool isText(const Passages &passages, const TextAddress &id)
 {
     const qsizetype index = passages.indexOf(id);
     return index >= 0 && passages.at(index).text.has_value();
@@ -61,7 +61,7 @@ void PageCaret::add(BlockPlace &block)
     block.setCovered(m_selection->parts().covers(block.id()));
 }
 
-FieldCaret *PageCaret::field(const PassageID &passage)
+FieldCaret *PageCaret::field(const TextAddress &passage)
 {
     // Every picture has a field for the title of a banner, which others hide.
     if (!isText(m_selection->passages(), passage))
@@ -69,8 +69,7 @@ FieldCaret *PageCaret::field(const PassageID &passage)
     if (FieldCaret *found = m_fields.find(passage))
         return found;
     const QScopedValueRollback moving(m_isMoving, true); // the view gives its focus to the row
-    Q_EMIT rowNeeded(passage.blockID.toString(QUuid::WithoutBraces),
-                     passage.todoID ? passage.todoID->toString(QUuid::WithoutBraces) : QString());
+    Q_EMIT rowNeeded(passage);
     return m_fields.find(passage);
 }
 
@@ -110,7 +109,7 @@ std::optional<PagePosition> PageCaret::nearest(QPointF point, bool onlyInText) c
     };
     const Passages &passages = m_selection->passages();
     for (const FieldCaret *field : m_fields.all()) {
-        const PassageID passage = field->id();
+        const TextAddress passage = field->id();
         if (!isText(passages, passage))
             continue;
         consider(field->field(), [&](QPointF inside, QSizeF) {
@@ -118,7 +117,7 @@ std::optional<PagePosition> PageCaret::nearest(QPointF point, bool onlyInText) c
         });
     }
     for (const BlockPlace *block : m_blocks.all()) {
-        const PassageID passage{.blockID = block->id()};
+        const TextAddress passage{.blockID = block->id()};
         if (onlyInText || passages.indexOf(passage) < 0 || isText(passages, passage))
             continue;
         consider(*block->item(), [&](QPointF inside, QSizeF size) {
@@ -160,7 +159,7 @@ void PageCaret::select(const BlockSelection &selection)
 {
     show(selection);
     m_selection->offer();
-    const PassageID &head = selection.head.passage;
+    const TextAddress &head = selection.head.passage;
     if (FieldCaret *target = field(head))
         focus(*target);
     else if (const BlockPlace *block = m_blocks.find(head.blockID))

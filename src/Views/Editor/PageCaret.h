@@ -44,7 +44,7 @@ public:
     void add(BlockPlace &block);
 
     /// The field of that passage, for which the view makes the row if need be; null for one without text.
-    FieldCaret *field(const PassageID &passage);
+    FieldCaret *field(const TextAddress &passage);
     bool isField(const QQuickItem &item) const;
     /// The block in whose row that item is; null outside of all rows.
     const BlockPlace *blockAround(const QQuickItem &item) const;
@@ -77,9 +77,8 @@ Q_SIGNALS:
     void editorChanged();
     void viewChanged();
     void pullChanged();
-    /// The row of that block, and the field of that entry if there is one, have to be made and brought into
-    /// sight.
-    void rowNeeded(const QString &blockID, const QString &todoID);
+    /// The row and the field of that text have to be made and brought into sight.
+    void rowNeeded(const TextAddress &address);
     void showRequested(QQuickItem *item);
     void scrollRequested(qreal distance);
     /// The writer pressed a key, so the caret has to be in sight.

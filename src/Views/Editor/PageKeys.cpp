@@ -127,7 +127,7 @@ bool PageKeys::onWhole(const BlockPlace &block, const EditorKey &key)
 
 bool PageKeys::copiesWhole(const BlockPlace &block, const EditorKey &key)
 {
-    const PassageID passage{.blockID = block.id()};
+    const TextAddress passage{.blockID = block.id()};
     const BlockSelection whole{.anchor = {.passage = passage, .offset = 0},
                                .head = {.passage = passage, .offset = 1}};
     return selection().select(whole) && changeSelection(key);

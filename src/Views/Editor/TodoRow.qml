@@ -6,19 +6,14 @@ import Pelko
 FocusScope {
     id: root
 
-    required property string todoID
+    required property textAddress address
     required property string text
     required property bool done
     /// Room above for the entries that are not made.
     required property real gap
     required property PageContext page
-    required property string blockID
 
     readonly property real entryHeight: Math.max(Typography.checklistRow, field.implicitHeight + Metrics.space6)
-
-    signal toggled
-    signal removed
-    signal edited(string value, int caret)
 
     function takeFocus(caret: int) {
         field.takeFocus(caret)
@@ -28,7 +23,7 @@ FocusScope {
     function remove() {
         if (cross.activeFocus)
             field.forceActiveFocus(Qt.OtherFocusReason)
-        removed()
+        page.editor.removeTodo(address)
     }
 
     implicitHeight: gap + entryHeight
@@ -43,7 +38,7 @@ FocusScope {
         done: root.done
         label: root.text
         y: root.gap + (Typography.checklistRow - height) / 2
-        onTriggered: root.toggled()
+        onTriggered: root.page.editor.toggleTodo(root.address)
     }
 
     WritingField {
@@ -51,7 +46,7 @@ FocusScope {
 
         Accessible.description: placeholder
         Accessible.name: root.text === "" ? placeholder : root.text
-        blockID: root.blockID
+        address: root.address
         anchors { left: toggle.right; leftMargin: Metrics.todoGap; right: cross.left; rightMargin: Metrics.space6 }
         color: root.done ? FirePalette.inkTicked : FirePalette.inkChecklist
         content: root.text
@@ -60,9 +55,7 @@ FocusScope {
         lineHeight: Metrics.todoLine
         page: root.page
         placeholder: qsTr("To do...")
-        todoID: root.todoID
         y: root.gap + (Typography.checklistRow - Metrics.todoLine) / 2
-        onEdited: (value, caret) => root.edited(value, caret)
     }
 
     RemoveTodoButton {

@@ -1,17 +1,15 @@
 import QtQuick
 import Pelko
 
-/// A field to write in, as blocks and checklist entries share it: it shows `content`, reports what the
-/// writer makes of it, and never rewrites it under an input method that is composing.
+/// A field to write in, as blocks and checklist entries share it: it shows `content`, tells the
+/// editor what the writer makes of it, and never rewrites it under an input method that is composing.
 TextEdit {
     id: root
 
     required property string content
     required property string placeholder
     required property PageContext page
-    required property string blockID
-    /// Of the entry of a checklist that is written in; empty elsewhere.
-    property string todoID
+    required property textAddress address
 
     /// Whether the text is too tall to be shown as a whole, and how much of it is not.
     readonly property alias isCut: bridge.isCut
@@ -21,7 +19,6 @@ TextEdit {
 
     property real lineHeight: 0
 
-    signal edited(string value, int caret)
     /// The writer is done with a field of one line.
     signal finished
 
@@ -55,7 +52,7 @@ TextEdit {
     /// While a text that was typed is not reported yet, its caret goes with it.
     function reportCaret() {
         if (activeFocus && length === bridge.shownLength)
-            page.editor.caretMoved(blockID, todoID, cursorPosition)
+            page.editor.caretMoved(address, cursorPosition)
     }
 
     function reveal() {
@@ -89,10 +86,9 @@ TextEdit {
     FieldCaret {
         id: place
 
-        blockID: root.blockID
+        address: root.address
         isCut: bridge.isCut
         page: root.page?.caret ?? null
-        todoID: root.todoID
         waits: bridge.isGrowing
         onFinished: root.finished()
     }
@@ -103,7 +99,7 @@ TextEdit {
         content: root.content
         document: root.textDocument
         lineHeight: root.lineHeight
-        onEdited: value => root.edited(value, root.cursorPosition)
+        onEdited: value => root.page.editor.typed(root.address, value, root.cursorPosition)
     }
 
     // Between two keys the page comes to where the caret is, as between two that are typed.

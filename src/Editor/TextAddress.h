@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QObject>
+#include <QUuid>
+
+#include <optional>
+
+/// Names a text of a page: that of a block, or that of a part of it, such as an entry of a checklist.
+struct TextAddress {
+    Q_GADGET
+    Q_PROPERTY(QString blockID READ blockName)
+    Q_PROPERTY(QString partID READ partName)
+
+public:
+    QUuid blockID;
+    std::optional<QUuid> partID = std::nullopt;
+
+    QString blockName() const { return blockID.toString(QUuid::WithoutBraces); }
+    /// Empty for the text of the block itself.
+    QString partName() const { return partID ? partID->toString(QUuid::WithoutBraces) : QString(); }
+
+    bool operator==(const TextAddress &) const = default;
+};
+
+inline std::size_t qHash(const TextAddress &address, std::size_t seed = 0)
+{
+    return qHashMulti(seed, address.blockID, address.partID.value_or(QUuid()));
+}
