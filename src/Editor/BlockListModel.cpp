@@ -5,6 +5,11 @@
 
 using namespace Qt::StringLiterals;
 
+QString delegateName(BlockType type)
+{
+    return isTextLike(type) ? u"text"_s : rawValue(type);
+}
+
 namespace
 {
 
@@ -43,7 +48,7 @@ QString nameOfAbove(const BlockRow &row)
 
 bool isKeyOf(const BlockRow &shown, const Block &block)
 {
-    return shown.block.id == block.id && rowEditor(shown.block.type) == rowEditor(block.type);
+    return shown.block.id == block.id && delegateName(shown.block.type) == delegateName(block.type);
 }
 
 QList<BlockRow> rowsOf(const PelkoDocument &document)
@@ -55,36 +60,7 @@ QList<BlockRow> rowsOf(const PelkoDocument &document)
     return rows;
 }
 
-QString name(RowEditor editor)
-{
-    switch (editor) {
-    case RowEditor::divider:
-        return u"divider"_s;
-    case RowEditor::image:
-        return u"image"_s;
-    case RowEditor::sticky:
-        return u"sticky"_s;
-    case RowEditor::writing:
-        break;
-    }
-    return u"writing"_s;
-}
-
 } // namespace
-
-RowEditor rowEditor(BlockType type)
-{
-    switch (type) {
-    case BlockType::divider:
-        return RowEditor::divider;
-    case BlockType::image:
-        return RowEditor::image;
-    case BlockType::sticky:
-        return RowEditor::sticky;
-    default:
-        return RowEditor::writing;
-    }
-}
 
 void BlockListModel::publish(const PelkoDocument &document)
 {
@@ -140,8 +116,8 @@ QVariant BlockListModel::data(const QModelIndex &index, int role) const
         return rawValue(block.type);
     case KindAboveRole:
         return nameOfAbove(row);
-    case RowEditorRole:
-        return name(rowEditor(block.type));
+    case DelegateRole:
+        return delegateName(block.type);
     case ContentRole:
         return block.content;
     case ImageDataRole:
@@ -166,7 +142,7 @@ QVariant BlockListModel::data(const QModelIndex &index, int role) const
 QHash<int, QByteArray> BlockListModel::roleNames() const
 {
     return {{AddressRole, "address"},     {KindRole, "kind"},
-            {KindAboveRole, "kindAbove"}, {RowEditorRole, "rowEditor"},
+            {KindAboveRole, "kindAbove"}, {DelegateRole, "delegate"},
             {ContentRole, "content"},     {ImageDataRole, "imageData"},
             {HasImageRole, "hasImage"},   {IsFullWidthRole, "isFullWidth"},
             {IsBannerRole, "isBanner"},   {BannerTitleRole, "bannerTitle"},

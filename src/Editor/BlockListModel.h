@@ -16,21 +16,14 @@ struct BlockRow {
     bool canDelete = false;
 };
 
-/// The kinds of editor that a row can have. The text-like kinds share one, so that a body block which becomes
-/// a heading keeps its field and its caret.
-enum class RowEditor { writing, divider, image, sticky };
+/// The delegate that shows a kind of block: its raw name, or "text" for all text-like kinds, which share one,
+/// so that a body block which becomes a heading keeps its field and its caret.
+QString delegateName(BlockType type);
 
-RowEditor rowEditor(BlockType type);
-
-inline std::size_t qHash(RowEditor editor, std::size_t seed = 0)
+/// A row whose delegate changes is another row to the views.
+inline std::pair<QUuid, QString> rowKey(const BlockRow &row)
 {
-    return ::qHash(static_cast<int>(editor), seed);
-}
-
-/// A row whose editor changes is another row to the views.
-inline std::pair<QUuid, RowEditor> rowKey(const BlockRow &row)
-{
-    return {row.block.id, rowEditor(row.block.type)};
+    return {row.block.id, delegateName(row.block.type)};
 }
 
 /// The blocks of one page for QML.
@@ -45,8 +38,8 @@ public:
         KindRole,
         /// The raw name of the type of the block above, or "banner"; empty for the first.
         KindAboveRole,
-        /// "writing", "divider", "image" or "sticky"; never changes while the row lives.
-        RowEditorRole,
+        /// See delegateName(); never changes while the row lives.
+        DelegateRole,
         ContentRole,
         /// As PictureBytes.
         ImageDataRole,

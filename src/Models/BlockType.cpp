@@ -1,36 +1,36 @@
 #include "Models/BlockType.h"
 
-#include <algorithm>
-#include <array>
-#include <utility>
-
-using namespace Qt::StringLiterals;
+#include <QMetaEnum>
+#include <QStringList>
 
 namespace
 {
-const std::array<std::pair<BlockType, QString>, 7> &names()
+
+/// Each kind's name, at its value.
+const QStringList &names()
 {
-    static const std::array<std::pair<BlockType, QString>, 7> table{{
-        {BlockType::textLarge, u"textLarge"_s},
-        {BlockType::textSmall, u"textSmall"_s},
-        {BlockType::quote, u"quote"_s},
-        {BlockType::code, u"code"_s},
-        {BlockType::divider, u"divider"_s},
-        {BlockType::image, u"image"_s},
-        {BlockType::sticky, u"sticky"_s},
-    }};
-    return table;
+    static const QStringList names = [] {
+        const auto kinds = QMetaEnum::fromType<BlockType>();
+        QStringList found;
+        for (int index = 0; index < kinds.keyCount(); ++index)
+            found.append(QString::fromLatin1(kinds.key(index)));
+        return found;
+    }();
+    return names;
 }
+
 } // namespace
 
 QString rawValue(BlockType type)
 {
-    return names()[static_cast<std::size_t>(type)].second;
+    return names().at(static_cast<qsizetype>(type));
 }
 
 std::optional<BlockType> blockTypeFromRawValue(QAnyStringView raw)
 {
-    const auto found =
-        std::ranges::find(names(), raw, [](const auto &name) { return QAnyStringView(name.second); });
-    return found == names().end() ? std::nullopt : std::optional(found->first);
+    for (qsizetype index = 0; index < names().size(); ++index) {
+        if (QAnyStringView(names().at(index)) == raw)
+            return static_cast<BlockType>(index);
+    }
+    return std::nullopt;
 }

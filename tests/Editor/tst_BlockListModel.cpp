@@ -206,17 +206,17 @@ private Q_SLOTS:
         QFETCH(const Block, becomes);
         QFETCH(const QString, editor);
         show({block('A'), block('B'), block('C')});
-        QCOMPARE(value(1, BlockListModel::RowEditorRole), u"writing"_s);
+        QCOMPARE(value(1, BlockListModel::DelegateRole), u"text"_s);
         QCOMPARE(announcedBy({block('A'), becomes, block('C')}),
                  (QStringList{u"-1..1"_s, u"+1..1"_s, u"2: kindAbove"_s}));
-        QCOMPARE(value(1, BlockListModel::RowEditorRole), editor);
+        QCOMPARE(value(1, BlockListModel::DelegateRole), editor);
     }
 
     void allKindsOfTextShareAnEditor()
     {
         show({block('A', heading), block('B'), block('C', BlockType::quote), block('D', BlockType::code)});
         for (int row = 0; row < 4; ++row)
-            QCOMPARE(value(row, BlockListModel::RowEditorRole), u"writing"_s);
+            QCOMPARE(value(row, BlockListModel::DelegateRole), u"text"_s);
     }
 
     void anInsertionAboveIsOneRow()

@@ -6,6 +6,12 @@ FocusScope {
     /// How far below the top its first line stands, which is where the grip is.
     property real firstLine: Math.min(height, Metrics.gripHeight) / 2
 
+    /// Rounds the corners of what is washed over it.
+    property real cornerRadius: Metrics.pictureRadius
+
+    /// Whether the pointer over it is shown by a wash.
+    property bool showsHover: true
+
     /// Has the focus in the place of the block, where it has nothing but a control.
     property Item control: null
 

@@ -105,7 +105,7 @@ FocusScope {
         color: root.lifted ? FirePalette.takenWash : FirePalette.hoverWash
         opacity: root.pointedAt || root.lifted ? 1 : 0
         radius: Metrics.washRadius
-        visible: opacity > 0 && (root.kind !== "divider" || root.lifted) && root.bodyWidth < root.width
+        visible: opacity > 0 && (root.block.showsHover || root.lifted) && root.bodyWidth < root.width
 
         Behavior on opacity {
             NumberAnimation { duration: PelkoAnimation.micro.duration; easing: PelkoAnimation.micro.curve }
@@ -132,7 +132,6 @@ FocusScope {
         block: root.block
         blockID: root.blockID
         caret: root.page.caret
-        kind: root.kind
         row: root
     }
 

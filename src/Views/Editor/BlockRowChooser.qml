@@ -3,16 +3,16 @@ pragma ComponentBehavior: Bound
 import Qt.labs.qmlmodels
 import Pelko
 
-/// The row that shows a block, by the editor of its kind.
+/// The row that shows a block, by its kind.
 DelegateChooser {
     id: root
 
     required property PageContext page
 
-    role: "rowEditor"
+    role: "delegate"
 
     DelegateChoice {
-        roleValue: "writing"
+        roleValue: "text"
 
         TextBlock {
             page: root.page

@@ -15,6 +15,7 @@ BlockRow {
         anchors.fill: parent
         focus: true
         implicitHeight: 1
+        showsHover: false
 
         Rectangle {
             anchors.fill: parent

@@ -6,7 +6,6 @@ Item {
     id: root
 
     required property string blockID
-    required property string kind
     required property Item row
     required property BlockEditor block
     required property PageCaret caret
@@ -26,7 +25,7 @@ Item {
         anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }
         color: FirePalette.selection
         height: Math.max(parent.height, Metrics.space12)
-        radius: Math.min(root.kind === "sticky" ? Metrics.stickyRadius : Metrics.pictureRadius, height / 4)
+        radius: Math.min(root.block.cornerRadius, height / 4)
         visible: place.covered
     }
 }

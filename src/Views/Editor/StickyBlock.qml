@@ -42,6 +42,7 @@ BlockRow {
         Accessible.role: Accessible.List
         anchors.fill: parent
         control: entries.count === 0 ? first : null
+        cornerRadius: Metrics.stickyRadius
         firstLine: column.y + Typography.stickyLabel.pixelSize / 2
         focus: true
         implicitHeight: column.implicitHeight + 2 * Metrics.space14
