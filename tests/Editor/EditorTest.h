@@ -55,6 +55,12 @@ protected:
         edit(pageID);
     }
 
+    void close()
+    {
+        editor.reset();
+        state.reset();
+    }
+
     QAbstractItemModel &blocks() const { return *qobject_cast<QAbstractItemModel *>(editor->blocks()); }
 
     const PelkoDocument &stored() const { return *state->document(pageID); }
@@ -87,9 +93,5 @@ private Q_SLOTS:
         focused.clear();
     }
 
-    void cleanup()
-    {
-        editor.reset();
-        state.reset();
-    }
+    void cleanup() { close(); }
 };

@@ -135,8 +135,8 @@ Item {
 
         function test_keysLeaveWhatHasNoText(row) {
             open([{ type: "textSmall", content: "above" }, row.picture, { type: "textSmall", content: "below" }])
-            const row = everything(page).find(item => item instanceof BlockRow && !(item instanceof TextBlock))
-            row.block.takeFocus(row.address, -1)
+            const block = everything(page).find(item => item instanceof BlockRow && !(item instanceof TextBlock))
+            block.block.takeFocus(block.address, -1)
             press(row.keys)
             compare(place(), row.to)
         }

@@ -110,8 +110,8 @@ Item {
 
         function test_anotherPictureInTheSameBlockIsShown() {
             open([{ type: "image", picture: "red" }, { type: "textSmall", content: "b" }])
-            const id = bench.editor.blocks.data(bench.editor.blocks.index(0, 0), Qt.UserRole)
-            bench.editor.imageImport.addImage(id)
+            const address = bench.editor.blocks.data(bench.editor.blocks.index(0, 0), Qt.UserRole)
+            bench.editor.imageImport.addImage(address.blockID)
             bench.choosePicture("blue")
             tryVerify(() => colorAt(pictures()[0], 300, 150) === "#0000ff")
             bench.editor.undo()

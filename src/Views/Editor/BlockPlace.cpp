@@ -1,7 +1,5 @@
 #include "BlockPlace.h"
 
-#include "PageCaret.h"
-
 #include <QQuickWindow>
 
 void BlockPlace::componentComplete()

@@ -1,18 +1,17 @@
 #pragma once
 
+#include "PageListener.h"
+
 #include <QPointer>
 #include <QQuickItem>
 #include <QUuid>
-
-class PageCaret;
 
 /// Where a block stands on the page and whether it is selected as a whole.
 class BlockPlace : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
-    Q_MOC_INCLUDE("PageCaret.h")
     Q_INTERFACES(QQmlParserStatus)
-    Q_PROPERTY(PageCaret *page MEMBER m_page REQUIRED)
+    Q_PROPERTY(PageListener *page MEMBER m_page REQUIRED)
     Q_PROPERTY(QString blockID MEMBER m_blockID REQUIRED)
     Q_PROPERTY(QQuickItem *row MEMBER m_row REQUIRED)
     Q_PROPERTY(QQuickItem *item MEMBER m_item REQUIRED)
@@ -47,7 +46,7 @@ Q_SIGNALS:
 private:
     const QQuickItem *focused() const;
 
-    QPointer<PageCaret> m_page;
+    QPointer<PageListener> m_page;
     QString m_blockID;
     QPointer<QQuickItem> m_row;
     QPointer<QQuickItem> m_item;

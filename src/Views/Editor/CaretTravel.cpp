@@ -1,16 +1,9 @@
 #include "CaretTravel.h"
 
-#include "FieldCaret.h"
-#include "PageCaret.h"
 #include "TextLines.h"
 
 namespace
 {
-
-qreal scrolled(const QQuickItem &view)
-{
-    return view.property("contentY").toReal();
-}
 
 /// The next passage that has text, or a control to make some: an empty checklist.
 const Passage *nextStop(const Passages &passages, const TextAddress &from, bool forward)
@@ -23,21 +16,21 @@ const Passage *nextStop(const Passages &passages, const TextAddress &from, bool 
 
 } // namespace
 
-qreal CaretTravel::inField(const FieldCaret &field, qreal x) const
+qreal CaretTravel::inField(const TextAddress &address, qreal x)
 {
-    return field.field().mapFromItem(&m_page.view(), QPointF(x, 0)).x();
+    return x - m_page.originOf(address).x();
 }
 
 std::optional<PagePosition> CaretTravel::destination(const PagePosition &from, const CaretKey &key)
 {
-    const Passages &passages = m_page.selection()->passages();
+    const Passages &passages = m_page.passages();
     const qsizetype index = passages.indexOf(from.passage);
     if (index < 0)
         return std::nullopt;
     if (key.move == CaretMove::start || key.move == CaretMove::end)
         return pageEnd(key.move == CaretMove::end, !key.extends);
     const Passage passage = passages.at(index);
-    const qreal x = isVertical(key.move) ? columnOf(passage, from.offset) : 0;
+    const qreal x = isVertical(key.move) ? columnOf(from) : 0;
     const auto to = step(passage, from.offset, key, x);
     if (to && isVertical(key.move))
         m_column = Column{.at = *to, .x = x};
@@ -47,18 +40,17 @@ std::optional<PagePosition> CaretTravel::destination(const PagePosition &from, c
 std::optional<PagePosition> CaretTravel::step(const Passage &passage, int offset, const CaretKey &key,
                                               qreal x)
 {
-    FieldCaret *field = m_page.field(passage.id);
-    if (!field)
+    const QTextDocument *text = m_page.textOf(passage.id);
+    if (!text)
         return over(passage, offset, key, x);
     if (key.move == CaretMove::pageUp || key.move == CaretMove::pageDown)
-        return pageAway(*field, offset, key, x);
-    const QTextDocument &text = field->text();
-    const auto to = isVertical(key.move)
-                        ? TextLines::nextLine(text, offset, key.move == CaretMove::down, inField(*field, x))
-                        : TextLines::aside(text, offset, key.move);
+        return pageAway({.passage = passage.id, .offset = offset}, *text, key, x);
+    const auto to = isVertical(key.move) ? TextLines::nextLine(*text, offset, key.move == CaretMove::down,
+                                                               inField(passage.id, x))
+                                         : TextLines::aside(*text, offset, key.move);
     if (to)
         return PagePosition{.passage = passage.id, .offset = *to};
-    return beyond(passage, isForward(key.move, TextLines::readsFromRight(text, offset)), key, x);
+    return beyond(passage, isForward(key.move, TextLines::readsFromRight(*text, offset)), key, x);
 }
 
 std::optional<PagePosition> CaretTravel::over(const Passage &passage, int offset, const CaretKey &key,
@@ -72,7 +64,7 @@ std::optional<PagePosition> CaretTravel::over(const Passage &passage, int offset
 std::optional<PagePosition> CaretTravel::beyond(const Passage &passage, bool forward, const CaretKey &key,
                                                 qreal x)
 {
-    const Passages &passages = m_page.selection()->passages();
+    const Passages &passages = m_page.passages();
     const Passage *found =
         key.extends ? passages.neighbour(passage.id, forward) : nextStop(passages, passage.id, forward);
     if (!found)
@@ -80,28 +72,27 @@ std::optional<PagePosition> CaretTravel::beyond(const Passage &passage, bool for
                                                                  .offset = forward ? passage.length() : 0})
                                     : std::nullopt;
     const Passage next = *found;
-    FieldCaret *field = m_page.field(next.id);
-    if (field && isVertical(key.move)) {
-        const int offset = TextLines::endLine(field->text(), !forward, inField(*field, x));
+    const QTextDocument *text = m_page.textOf(next.id);
+    if (text && isVertical(key.move)) {
+        const int offset = TextLines::endLine(*text, !forward, inField(next.id, x));
         return PagePosition{.passage = next.id, .offset = offset};
     }
     // A thing without text is gone over as a whole.
     return PagePosition{.passage = next.id, .offset = forward == (next.text.has_value()) ? 0 : next.length()};
 }
 
-std::optional<PagePosition> CaretTravel::pageAway(const FieldCaret &field, int offset, const CaretKey &key,
-                                                  qreal x)
+std::optional<PagePosition> CaretTravel::pageAway(const PagePosition &from, const QTextDocument &text,
+                                                  const CaretKey &key, qreal x)
 {
     const qreal way = key.move == CaretMove::pageDown ? m_page.pageStep() : -m_page.pageStep();
-    const qreal y = field.field().mapToItem(&m_page.view(), field.rectangleAt(offset).center()).y();
-    const qreal before = scrolled(m_page.view());
-    Q_EMIT m_page.scrollRequested(way);
-    return m_page.nearest({x, y + way - (scrolled(m_page.view()) - before)}, !key.extends);
+    const qreal y = m_page.originOf(from.passage).y() + TextLines::middleOf(text, from.offset);
+    const qreal scrolled = m_page.scrollBy(way);
+    return m_page.nearest({x, y + way - scrolled}, !key.extends);
 }
 
 std::optional<PagePosition> CaretTravel::pageEnd(bool forward, bool onlyInText) const
 {
-    const Passages &passages = m_page.selection()->passages();
+    const Passages &passages = m_page.passages();
     const auto end = forward ? passages.end() : passages.start();
     if (!end || !onlyInText || passages.at(passages.indexOf(end->passage)).text)
         return end;
@@ -110,13 +101,10 @@ std::optional<PagePosition> CaretTravel::pageEnd(bool forward, bool onlyInText) 
                 : std::nullopt;
 }
 
-qreal CaretTravel::columnOf(const Passage &passage, int offset)
+qreal CaretTravel::columnOf(const PagePosition &position)
 {
-    if (m_column && m_column->at == PagePosition{.passage = passage.id, .offset = offset})
+    if (m_column && m_column->at == position)
         return m_column->x;
-    FieldCaret *field = m_page.field(passage.id);
-    return field ? field->field()
-                       .mapToItem(&m_page.view(), QPointF(TextLines::xOf(field->text(), offset), 0))
-                       .x()
-                 : 0;
+    const QTextDocument *text = m_page.textOf(position.passage);
+    return text ? m_page.originOf(position.passage).x() + TextLines::xOf(*text, position.offset) : 0;
 }

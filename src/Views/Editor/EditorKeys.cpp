@@ -138,3 +138,10 @@ EditorKey editorKey(const QKeyEvent &event)
     }
     return writesText(event) ? EditorKey{.action = Action::insertText, .text = event.text()} : EditorKey();
 }
+
+bool isModifier(const QKeyEvent &event)
+{
+    const int key = event.key();
+    return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr ||
+           key == Qt::Key_Super_L || key == Qt::Key_Super_R;
+}

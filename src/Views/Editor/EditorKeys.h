@@ -66,3 +66,6 @@ struct EditorKey {
 };
 
 EditorKey editorKey(const QKeyEvent &event);
+
+/// Whether the key does nothing by itself, such as Shift.
+bool isModifier(const QKeyEvent &event);

@@ -1,6 +1,6 @@
 #include "FieldCaret.h"
 
-#include "PageCaret.h"
+#include "EditorKeys.h"
 #include "TextLines.h"
 
 #include <QQuickWindow>
@@ -8,17 +8,6 @@
 
 #include <algorithm>
 #include <utility>
-
-namespace
-{
-
-bool isModifier(int key)
-{
-    return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr ||
-           key == Qt::Key_Super_L || key == Qt::Key_Super_R;
-}
-
-} // namespace
 
 void FieldCaret::componentComplete()
 {
@@ -97,14 +86,6 @@ bool FieldCaret::follows(const CaretKey &key) const
     return collapses || TextLines::aside(text(), caret(), key.move);
 }
 
-QRectF FieldCaret::rectangleAt(int offset) const
-{
-    QRectF rectangle;
-    QMetaObject::invokeMethod(&field(), "positionToRectangle", Q_RETURN_ARG(QRectF, rectangle),
-                              Q_ARG(int, offset));
-    return rectangle;
-}
-
 void FieldCaret::select(int anchor, int caret)
 {
     m_wanted.reset();
@@ -165,7 +146,7 @@ bool FieldCaret::keeps(const QEvent &event)
         isKept = m_waiting.keepsComposition(static_cast<const QInputMethodEvent &>(event));
     } else {
         const auto &key = static_cast<const QKeyEvent &>(event);
-        isKept = !isModifier(key.key()) && m_waiting.keepsKey(key);
+        isKept = !isModifier(key) && m_waiting.keepsKey(key);
     }
     Q_EMIT waitingInputChanged();
     return isKept;
@@ -206,45 +187,21 @@ void FieldCaret::takeFocus()
 // With the same event the field offers what it shows, which is not always what is stored.
 void FieldCaret::offerSelectionLater()
 {
-    QMetaObject::invokeMethod(this, &FieldCaret::offerSelection, Qt::QueuedConnection);
-}
-
-void FieldCaret::offerSelection()
-{
-    if (!isOnPage() || m_page->selection()->isCrossing())
-        return;
-    const BlockSelection selected = selection();
-    if (std::exchange(m_offered, selected) != selected)
-        m_page->selection()->offerText(selected);
+    const auto offer = [this] {
+        if (isOnPage())
+            m_page->offer(*this);
+    };
+    QMetaObject::invokeMethod(this, offer, Qt::QueuedConnection);
 }
 
 bool FieldCaret::eventFilter(QObject *, QEvent *event)
 {
     if (!m_page)
         return false;
-    switch (event->type()) {
-    case QEvent::KeyPress:
-        if (keeps(*event))
-            return true;
-        if (!isModifier(static_cast<QKeyEvent *>(event)->key()))
-            Q_EMIT m_page->keyPressed();
+    const bool isInput = event->type() == QEvent::KeyPress || event->type() == QEvent::InputMethod;
+    if (isInput && keeps(*event))
+        return true;
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonRelease)
         offerSelectionLater();
-        return m_page->keys().pressed(*this, *static_cast<QKeyEvent *>(event));
-    case QEvent::InputMethod:
-        return keeps(*event) || m_page->keys().composed(*static_cast<QInputMethodEvent *>(event));
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
-        m_page->settle();
-        return m_page->pointer().pressed(*this, *static_cast<QMouseEvent *>(event));
-    case QEvent::MouseMove:
-        return m_page->pointer().moved(*this, *static_cast<QMouseEvent *>(event));
-    case QEvent::MouseButtonRelease:
-        offerSelectionLater();
-        return m_page->pointer().pastes(*this, *static_cast<QMouseEvent *>(event)) ||
-               m_page->pointer().released();
-    case QEvent::UngrabMouse:
-        return m_page->pointer().released();
-    default:
-        return false;
-    }
+    return m_page->handle(*this, *event);
 }

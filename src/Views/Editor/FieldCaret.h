@@ -3,13 +3,12 @@
 #include "CaretMove.h"
 #include "Editor/BlockSelection.h"
 #include "Editor/LineOperations.h"
+#include "PageListener.h"
 #include "WaitingInput.h"
 
 #include <QPointer>
 #include <QQuickItem>
 #include <QQuickTextDocument>
-
-class PageCaret;
 
 /// Lets the caret of one text field, its parent, leave the field for the rest of the page, and shows in the
 /// field what is selected of it. It sees keys and pointer before the field does. While the field has only the
@@ -17,9 +16,8 @@ class PageCaret;
 class FieldCaret : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
-    Q_MOC_INCLUDE("PageCaret.h")
     Q_INTERFACES(QQmlParserStatus)
-    Q_PROPERTY(PageCaret *page MEMBER m_page REQUIRED)
+    Q_PROPERTY(PageListener *page MEMBER m_page REQUIRED)
     Q_PROPERTY(TextAddress address MEMBER m_address REQUIRED)
     Q_PROPERTY(bool waits READ waits WRITE setWaits NOTIFY waitsChanged)
     Q_PROPERTY(bool hasWaitingInput READ hasWaitingInput NOTIFY waitingInputChanged)
@@ -65,7 +63,6 @@ public:
     bool isComposing() const { return !field().property("preeditText").toString().isEmpty(); }
     /// Whether the field can follow that key by itself.
     bool follows(const CaretKey &key) const;
-    QRectF rectangleAt(int offset) const;
     /// There is no text, yet its line belongs to a selection that goes on below.
     bool isSelectedEmpty() const { return m_isSelectedEmpty; }
 
@@ -93,9 +90,8 @@ private:
     bool keeps(const QEvent &event);
     void send(QQuickItem *receiver);
     void offerSelectionLater();
-    void offerSelection();
 
-    QPointer<PageCaret> m_page;
+    QPointer<PageListener> m_page;
     TextAddress m_address;
     bool m_isSelectedEmpty = false;
     bool m_waits = false;
@@ -105,6 +101,4 @@ private:
     WaitingInput m_waiting;
     /// The end of the selection where the caret is to stand, and before it the other one.
     std::optional<std::pair<int, int>> m_wanted;
-    /// What was selected when it was offered to the middle button last.
-    std::optional<BlockSelection> m_offered;
 };

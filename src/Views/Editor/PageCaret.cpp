@@ -1,225 +1,73 @@
 #include "PageCaret.h"
 
-#include "BlockPlace.h"
-#include "Composition.h"
 #include "FieldCaret.h"
-#include "TextLines.h"
 
-#include <QScopedValueRollback>
+#include <utility>
 
-#include <algorithm>
-#include <limits>
-
-namespace
+PageCaret::PageCaret(QObject *parent) : PageListener(parent)
 {
-
-qreal distance(const QRectF &place, qreal y)
-{
-    return std::max({place.top() - y, y - place.bottom(), 0.0});
+    connect(&m_fields, &PageFields::rowNeeded, this, &PageCaret::rowNeeded);
+    connect(&m_fields, &PageFields::showRequested, this, &PageCaret::showRequested);
+    connect(&m_fields, &PageFields::scrollRequested, this, &PageCaret::scrollRequested);
+    connect(&m_keys, &PageKeys::keyPressed, this, &PageCaret::keyPressed);
+    connect(&m_keys, &PageKeys::walkRequested, this, &PageCaret::walkRequested);
+    connect(&m_keys, &PageKeys::menuRequested, this, &PageCaret::menuRequested);
+    connect(&m_pointer, &PointerSelection::pullChanged, this, &PageCaret::pullChanged);
 }
-
-bool isText(const Passages &passages, const TextAddress &id)
-{
-    const qsizetype index = passages.indexOf(id);
-    return index >= 0 && passages.at(index).text.has_value();
-}
-
-} // namespace
-
-PageCaret::PageCaret(QObject *parent) : QObject(parent) {}
 
 void PageCaret::setEditor(EditorViewModel *editor)
 {
-    if (m_editor == editor)
+    if (m_fields.editor() == editor)
         return;
-    if (m_selection)
-        m_selection->disconnect(this);
-    m_editor = editor;
-    m_selection = editor->selection();
-    connect(m_selection, &PageSelection::changed, this, &PageCaret::showSelection);
+    m_fields.setEditor(editor);
     Q_EMIT editorChanged();
 }
 
 void PageCaret::setView(QQuickItem *view)
 {
-    if (m_view == view)
+    if (m_fields.view() == view)
         return;
-    m_view = view;
+    m_fields.setView(view);
     m_keyFilter.watch(*view);
     Q_EMIT viewChanged();
 }
 
-void PageCaret::add(FieldCaret &field)
+void PageCaret::setPageStep(qreal step)
 {
-    m_fields.add(field);
-    field.show(m_selection->parts(), m_selection->selection());
-}
-
-void PageCaret::add(BlockPlace &block)
-{
-    m_blocks.add(block);
-    block.setCovered(m_selection->parts().covers(block.id()));
-}
-
-FieldCaret *PageCaret::field(const TextAddress &passage)
-{
-    // Every picture has a field for the title of a banner, which others hide.
-    if (!isText(m_selection->passages(), passage))
-        return nullptr;
-    if (FieldCaret *found = m_fields.find(passage))
-        return found;
-    const QScopedValueRollback moving(m_isMoving, true); // the view gives its focus to the row
-    Q_EMIT rowNeeded(passage);
-    return m_fields.find(passage);
-}
-
-bool PageCaret::isField(const QQuickItem &item) const
-{
-    return std::ranges::any_of(m_fields.all(),
-                               [&](const FieldCaret *field) { return &field->field() == &item; });
-}
-
-const BlockPlace *PageCaret::blockAround(const QQuickItem &item) const
-{
-    const QList<BlockPlace *> blocks = m_blocks.all();
-    const auto found = std::ranges::find_if(blocks, [&](const BlockPlace *block) {
-        return block->row() == &item || block->row()->isAncestorOf(&item);
-    });
-    return found == blocks.end() ? nullptr : *found;
-}
-
-void PageCaret::showSelection()
-{
-    for (FieldCaret *field : m_fields.all())
-        field->show(m_selection->parts(), m_selection->selection());
-    for (BlockPlace *block : m_blocks.all())
-        block->setCovered(m_selection->parts().covers(block->id()));
-}
-
-std::optional<PagePosition> PageCaret::nearest(QPointF point, bool onlyInText) const
-{
-    qreal least = std::numeric_limits<qreal>::max();
-    std::optional<PagePosition> found;
-    const auto consider = [&](const QQuickItem &item, auto position) {
-        const QRectF place = item.mapRectToItem(m_view, item.boundingRect());
-        if (distance(place, point.y()) >= least)
-            return;
-        least = distance(place, point.y());
-        found = position(point - place.topLeft(), place.size());
-    };
-    const Passages &passages = m_selection->passages();
-    for (const FieldCaret *field : m_fields.all()) {
-        const TextAddress passage = field->id();
-        if (!isText(passages, passage))
-            continue;
-        consider(field->field(), [&](QPointF inside, QSizeF) {
-            return PagePosition{.passage = passage, .offset = TextLines::nearest(field->text(), inside)};
-        });
-    }
-    for (const BlockPlace *block : m_blocks.all()) {
-        const TextAddress passage{.blockID = block->id()};
-        if (onlyInText || passages.indexOf(passage) < 0 || isText(passages, passage))
-            continue;
-        consider(*block->item(), [&](QPointF inside, QSizeF size) {
-            return PagePosition{.passage = passage, .offset = inside.y() > size.height() / 2 ? 1 : 0};
-        });
-    }
-    return found;
-}
-
-void PageCaret::place(const PagePosition &position)
-{
-    FieldCaret *target = field(position.passage);
-    m_selection->clear();
-    if (!target)
-        return focusBlock(position.passage.blockID);
-    target->select(position.offset, position.offset);
-    focus(*target);
-}
-
-void PageCaret::show(const BlockSelection &selection)
-{
-    if (m_selection->select(selection))
+    if (m_fields.pageStep() == step)
         return;
-    const Passages &passages = m_selection->passages();
-    const qsizetype head = passages.indexOf(selection.head.passage);
-    const qsizetype only =
-        head >= 0 && passages.at(head).text ? head : passages.indexOf(selection.anchor.passage);
-    if (only < 0)
+    m_fields.setPageStep(step);
+    Q_EMIT pageStepChanged();
+}
+
+void PageCaret::offer(const FieldCaret &field)
+{
+    const PageSelection &selection = m_fields.selection();
+    if (selection.isCrossing())
         return;
-    const auto within = [&](const PagePosition &position) {
-        const qsizetype index = passages.indexOf(position.passage);
-        return index == only ? position.offset : index < only ? 0 : passages.at(only).length();
-    };
-    if (FieldCaret *target = field(passages.at(only).id))
-        target->select(within(selection.anchor), within(selection.head));
+    const BlockSelection selected = field.selection();
+    if (std::exchange(m_offered, selected) != selected)
+        selection.offerText(selected);
 }
 
-void PageCaret::select(const BlockSelection &selection)
+bool PageCaret::handle(FieldCaret &field, QEvent &event)
 {
-    show(selection);
-    m_selection->offer();
-    const TextAddress &head = selection.head.passage;
-    if (FieldCaret *target = field(head))
-        focus(*target);
-    else if (const BlockPlace *block = m_blocks.find(head.blockID))
-        Q_EMIT showRequested(block->item());
-}
-
-bool PageCaret::extendTo(QPointF point)
-{
-    settle();
-    auto head = nearest(point, false);
-    if (!head || !m_current)
+    switch (event.type()) {
+    case QEvent::KeyPress:
+        return m_keys.pressed(field, static_cast<QKeyEvent &>(event));
+    case QEvent::InputMethod:
+        return m_keys.composed(static_cast<QInputMethodEvent &>(event));
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+        m_fields.settle();
+        return m_pointer.pressed(field, static_cast<QMouseEvent &>(event));
+    case QEvent::MouseMove:
+        return m_pointer.moved(field, static_cast<QMouseEvent &>(event));
+    case QEvent::MouseButtonRelease:
+        return m_pointer.pastes(field, static_cast<QMouseEvent &>(event)) || m_pointer.released();
+    case QEvent::UngrabMouse:
+        return m_pointer.released();
+    default:
         return false;
-    const auto &selected = m_selection->selection();
-    const PagePosition anchor = selected ? selected->anchor : m_current->selection().anchor;
-    const Passages &passages = m_selection->passages();
-    const qsizetype index = passages.indexOf(head->passage);
-    if (!passages.at(index).text)
-        head->offset = index > passages.indexOf(anchor.passage) ? 1 : 0;
-    select({.anchor = anchor, .head = *head});
-    return true;
-}
-
-void PageCaret::settle() const
-{
-    if (FieldCaret *field = current())
-        Composition::settle(&field->field());
-}
-
-void PageCaret::giveUp()
-{
-    m_selection->clear();
-    if (FieldCaret *field = current())
-        field->deselect();
-}
-
-void PageCaret::focus(FieldCaret &field)
-{
-    const QScopedValueRollback moving(m_isMoving, true);
-    field.takeFocus();
-}
-
-void PageCaret::focusBlock(const QUuid &blockID)
-{
-    if (const BlockPlace *block = m_blocks.find(blockID))
-        block->takeFocus();
-}
-
-FieldCaret *PageCaret::current() const
-{
-    return m_current && m_current->isOnPage() ? m_current : nullptr;
-}
-
-void PageCaret::entered(FieldCaret &field)
-{
-    // Back from a menu or from another window, the writer goes on.
-    if (!m_isMoving && m_current != &field)
-        m_selection->clear();
-    // There is one selection on a page.
-    FieldCaret *last = current();
-    if (last && last != &field && !m_selection->isCrossing())
-        last->deselect();
-    m_current = &field;
+    }
 }

@@ -1,81 +1,53 @@
 #pragma once
 
-#include "Editor/EditorViewModel.h"
+#include "PageFields.h"
 #include "PageKeyFilter.h"
 #include "PageKeys.h"
-#include "PageMembers.h"
+#include "PageListener.h"
 #include "PointerSelection.h"
 
-#include <QPointer>
-#include <QQuickItem>
-
-class BlockPlace;
-class FieldCaret;
-
-/// The one caret and the one selection of a page whose blocks are fields of their own. What stays within a
-/// field is left to it; what leads out of it happens here.
-class PageCaret : public QObject
+/// The one caret and the one selection of a page whose blocks are fields of their own, for QML. What stays
+/// within a field is left to it; keys and the pointer that lead out of it are handled here.
+class PageCaret : public PageListener
 {
     Q_OBJECT
     Q_PROPERTY(EditorViewModel *editor READ editor WRITE setEditor NOTIFY editorChanged REQUIRED)
-    Q_PROPERTY(QQuickItem *view READ viewItem WRITE setView NOTIFY viewChanged REQUIRED)
-    Q_PROPERTY(qreal pageStep MEMBER m_pageStep REQUIRED)
+    Q_PROPERTY(QQuickItem *view READ view WRITE setView NOTIFY viewChanged REQUIRED)
+    Q_PROPERTY(qreal pageStep READ pageStep WRITE setPageStep NOTIFY pageStepChanged REQUIRED)
     Q_PROPERTY(qreal pull READ pull NOTIFY pullChanged)
     QML_ELEMENT
 
 public:
     explicit PageCaret(QObject *parent = nullptr);
 
-    EditorViewModel *editor() const { return m_editor; }
+    EditorViewModel *editor() const { return m_fields.editor(); }
     void setEditor(EditorViewModel *editor);
-    PageSelection *selection() const { return m_selection; }
     /// The scrolling view that the fields stand in.
-    QQuickItem &view() const { return *m_view; }
-    QQuickItem *viewItem() const { return m_view; }
+    QQuickItem *view() const { return m_fields.view(); }
     void setView(QQuickItem *view);
-    /// How far the keys that turn a page go.
-    qreal pageStep() const { return m_pageStep; }
-    /// How far the pointer has pulled a selection over an edge of the view; negative above.
+    /// How far Page Up and Page Down go, in device-independent pixels.
+    qreal pageStep() const { return m_fields.pageStep(); }
+    void setPageStep(qreal step);
+    /// How far the pointer has pulled a selection over an edge of the view, in device-independent pixels;
+    /// negative above.
     qreal pull() const { return m_pointer.pull(); }
-    PageKeys &keys() { return m_keys; }
-    PointerSelection &pointer() { return m_pointer; }
 
-    void add(FieldCaret &field);
-    void add(BlockPlace &block);
-
-    /// The field of that passage, for which the view makes the row if need be; null for one without text.
-    FieldCaret *field(const TextAddress &passage);
-    bool isField(const QQuickItem &item) const;
-    /// The block in whose row that item is; null outside of all rows.
-    const BlockPlace *blockAround(const QQuickItem &item) const;
-    /// The field that has the focus, or had it last; null when it has left the page.
-    FieldCaret *current() const;
-    /// The place on the page, among the rows that the view has made, nearest to a point in the view.
-    std::optional<PagePosition> nearest(QPointF point, bool onlyInText) const;
-
-    /// Puts the caret there; in a block without text, the focus on its control.
-    void place(const PagePosition &position);
-    /// Selects, and moves the caret along.
-    void select(const BlockSelection &selection);
-    /// Selects, and leaves the focus where it is.
-    void show(const BlockSelection &selection);
+    void add(FieldCaret &field) override { m_fields.add(field); }
+    void add(BlockPlace &block) override { m_fields.add(block); }
+    void entered(FieldCaret &field) override { m_fields.entered(field); }
+    bool handle(FieldCaret &field, QEvent &event) override;
+    void offer(const FieldCaret &field) override;
 
     /// Shift and a click on something that is not text: selects from where the caret is to what is nearest to
-    /// a point in the view, with all of it. Tells whether there is a caret.
-    Q_INVOKABLE bool extendTo(QPointF point);
-
-    /// What an input method is composing on the page becomes part of the text.
-    void settle() const;
-    /// Selects nothing any more, and leaves the caret where it is.
-    void giveUp();
-    /// A field got the focus.
-    void entered(FieldCaret &field);
+    /// a point in the view, with all of it. Returns whether there is a caret.
+    Q_INVOKABLE bool extendTo(QPointF point) { return m_fields.extendTo(point); }
     /// The view has scrolled under the pointer.
     Q_INVOKABLE void carryOn() { m_pointer.carryOn(); }
 
 Q_SIGNALS:
     void editorChanged();
     void viewChanged();
+    void pageStepChanged();
     void pullChanged();
     /// The row and the field of that text have to be made and brought into sight.
     void rowNeeded(const TextAddress &address);
@@ -89,19 +61,10 @@ Q_SIGNALS:
     void menuRequested();
 
 private:
-    void focus(FieldCaret &field);
-    void focusBlock(const QUuid &blockID);
-    void showSelection();
-
-    QPointer<EditorViewModel> m_editor;
-    QPointer<PageSelection> m_selection;
-    QPointer<QQuickItem> m_view;
-    qreal m_pageStep = 0;
-    PageMembers<FieldCaret> m_fields;
-    PageMembers<BlockPlace> m_blocks;
-    QPointer<FieldCaret> m_current;
-    bool m_isMoving = false;
-    PageKeys m_keys{*this};
-    PageKeyFilter m_keyFilter{*this};
-    PointerSelection m_pointer{*this};
+    PageFields m_fields;
+    PageKeys m_keys{m_fields};
+    PageKeyFilter m_keyFilter{m_fields, m_keys};
+    PointerSelection m_pointer{m_fields};
+    /// What was offered to the middle button last.
+    std::optional<BlockSelection> m_offered;
 };

@@ -1,7 +1,8 @@
 #include "PageKeyFilter.h"
 
 #include "BlockPlace.h"
-#include "PageCaret.h"
+#include "PageFields.h"
+#include "PageKeys.h"
 
 #include <QQuickWindow>
 
@@ -39,7 +40,7 @@ bool PageKeyFilter::pressedOnFocused(const QKeyEvent &event)
     if (m_page.isField(*m_focused))
         return false;
     const BlockPlace *block = m_page.blockAround(*m_focused);
-    return block && m_page.keys().pressed(*block, event);
+    return block && m_keys.pressed(*block, event);
 }
 
 bool PageKeyFilter::eventFilter(QObject *watched, QEvent *event)
@@ -47,5 +48,5 @@ bool PageKeyFilter::eventFilter(QObject *watched, QEvent *event)
     if (event->type() != QEvent::KeyPress)
         return false;
     const auto &key = *static_cast<QKeyEvent *>(event);
-    return watched == m_focused ? pressedOnFocused(key) : m_page.keys().unused(key);
+    return watched == m_focused ? pressedOnFocused(key) : m_keys.unused(key);
 }

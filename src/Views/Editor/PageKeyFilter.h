@@ -3,7 +3,8 @@
 #include <QPointer>
 #include <QQuickItem>
 
-class PageCaret;
+class PageFields;
+class PageKeys;
 class QQuickWindow;
 
 /// Gives the page the keys that are pressed outside of its fields: those of a block or a control before the
@@ -11,7 +12,7 @@ class QQuickWindow;
 class PageKeyFilter : public QObject
 {
 public:
-    explicit PageKeyFilter(PageCaret &page) : m_page(page) {}
+    PageKeyFilter(const PageFields &page, PageKeys &keys) : m_page(page), m_keys(keys) {}
 
     void watch(QQuickItem &view);
 
@@ -22,7 +23,8 @@ private:
     void followFocus();
     bool pressedOnFocused(const QKeyEvent &event);
 
-    PageCaret &m_page;
+    const PageFields &m_page;
+    PageKeys &m_keys;
     QPointer<QQuickItem> m_view;
     QPointer<QQuickWindow> m_window;
     /// The item in the view that has the focus.

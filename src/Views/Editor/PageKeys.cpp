@@ -6,12 +6,14 @@
 #include "EditorKeys.h"
 #include "FieldCaret.h"
 #include "FieldKeys.h"
-#include "PageCaret.h"
+#include "PageFields.h"
 
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QQuickWindow>
+
+PageKeys::PageKeys(PageFields &page) : m_page(page), m_travel(page) {}
 
 EditorViewModel &PageKeys::editor() const
 {
@@ -20,7 +22,7 @@ EditorViewModel &PageKeys::editor() const
 
 PageSelection &PageKeys::selection() const
 {
-    return *m_page.selection();
+    return m_page.selection();
 }
 
 void PageKeys::selectPage()
@@ -46,6 +48,8 @@ void PageKeys::collapse(bool toEnd)
 
 bool PageKeys::pressed(FieldCaret &field, const QKeyEvent &event)
 {
+    if (!isModifier(event))
+        Q_EMIT keyPressed();
     const EditorKey key = editorKey(event);
     const bool isDone = field.isComposing()
                             ? settles(field, key)
@@ -149,7 +153,7 @@ bool PageKeys::inRow(const QUuid &blockID, const EditorKey &key)
     case EditorAction::moveBlockDown:
         return moveBlock(blockID, 1);
     case EditorAction::openBlockMenu:
-        Q_EMIT m_page.menuRequested();
+        Q_EMIT menuRequested();
         return true;
     case EditorAction::indent:
     case EditorAction::focusNext:
@@ -165,13 +169,13 @@ bool PageKeys::inRow(const QUuid &blockID, const EditorKey &key)
 bool PageKeys::moveBlock(const QUuid &blockID, int rows)
 {
     editor().moveBlock(blockID.toString(QUuid::WithoutBraces), rows);
-    Q_EMIT m_page.keyPressed();
+    Q_EMIT keyPressed();
     return true;
 }
 
 bool PageKeys::walk(bool forward)
 {
-    Q_EMIT m_page.walkRequested(forward);
+    Q_EMIT walkRequested(forward);
     return true;
 }
 
@@ -183,7 +187,7 @@ bool PageKeys::unused(const QKeyEvent &event)
     if (selection().isCrossing())
         return changeSelection(key);
     editor().keys()->writeBelow();
-    QQuickItem *field = m_page.view().window()->activeFocusItem();
+    QQuickItem *field = m_page.view()->window()->activeFocusItem();
     if (field && m_page.isField(*field))
         QCoreApplication::sendEvent(field, std::unique_ptr<QEvent>(event.clone()).get());
     return true;

@@ -6,7 +6,7 @@
 class BlockPlace;
 class EditorViewModel;
 class FieldCaret;
-class PageCaret;
+class PageFields;
 class PageSelection;
 class QInputMethodEvent;
 class QKeyEvent;
@@ -14,10 +14,12 @@ struct EditorKey;
 
 /// Does on a page what its keys ask for. The functions for events tell whether the event has done its work;
 /// what a field or a control can do by itself is left to it.
-class PageKeys
+class PageKeys : public QObject
 {
+    Q_OBJECT
+
 public:
-    explicit PageKeys(PageCaret &page) : m_page(page), m_travel(page) {}
+    explicit PageKeys(PageFields &page);
 
     /// Pressed in a field.
     bool pressed(FieldCaret &field, const QKeyEvent &event);
@@ -27,6 +29,14 @@ public:
     bool unused(const QKeyEvent &event);
     /// An input method composes over the selection.
     bool composed(QInputMethodEvent &event);
+
+Q_SIGNALS:
+    /// The writer pressed a key, so the caret has to be in sight.
+    void keyPressed();
+    /// The keyboard goes on to the next control of the row that has the focus, or to the next row.
+    void walkRequested(bool forward);
+    /// The menu of the block that has the focus is to be opened.
+    void menuRequested();
 
 private:
     /// The keys that end or leave a line settle the composition and do nothing more.
@@ -47,6 +57,6 @@ private:
     PageSelection &selection() const;
     EditorViewModel &editor() const;
 
-    PageCaret &m_page;
+    PageFields &m_page;
     CaretTravel m_travel;
 };

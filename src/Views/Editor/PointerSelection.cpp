@@ -1,7 +1,7 @@
 #include "PointerSelection.h"
 
 #include "FieldCaret.h"
-#include "PageCaret.h"
+#include "PageFields.h"
 #include "TextLines.h"
 
 #include <QMouseEvent>
@@ -13,10 +13,10 @@ bool PointerSelection::pressed(FieldCaret &field, QMouseEvent &event)
     if (event.button() != Qt::LeftButton)
         return false;
     m_pressed = &field;
-    m_pointer = m_page.view().mapFromScene(event.scenePosition());
+    m_pointer = m_page.view()->mapFromScene(event.scenePosition());
     if (event.modifiers() & Qt::ShiftModifier && extendFrom(field, event))
         return true;
-    m_page.selection()->clear();
+    m_page.selection().clear();
     m_owner = &field;
     m_isFresh = true;
     m_isDragging = false;
@@ -25,7 +25,7 @@ bool PointerSelection::pressed(FieldCaret &field, QMouseEvent &event)
 
 bool PointerSelection::extendFrom(const FieldCaret &field, QMouseEvent &event)
 {
-    const auto &selection = m_page.selection()->selection();
+    const auto &selection = m_page.selection().selection();
     const FieldCaret *current = m_page.current();
     const auto head = m_page.nearest(m_pointer, false);
     if (!head || !current || (!selection && current == &field))
@@ -51,14 +51,14 @@ bool PointerSelection::moved(const FieldCaret &field, const QMouseEvent &event)
         m_end = {.passage = field.id(), .offset = end};
         m_isFresh = false;
     }
-    m_pointer = m_page.view().mapFromScene(event.scenePosition());
-    setPull(std::max(m_pointer.y() - m_page.view().height(), 0.0) + std::min(m_pointer.y(), 0.0));
+    m_pointer = m_page.view()->mapFromScene(event.scenePosition());
+    setPull(std::max(m_pointer.y() - m_page.view()->height(), 0.0) + std::min(m_pointer.y(), 0.0));
     const auto head = m_page.nearest(m_pointer, false);
     if (!head)
         return m_isDragging;
     if (m_owner && head->passage == field.id() && m_pull == 0) {
         m_isDragging = false;
-        m_page.selection()->clear();
+        m_page.selection().clear();
         return false;
     }
     m_isDragging = true;
@@ -69,7 +69,7 @@ bool PointerSelection::moved(const FieldCaret &field, const QMouseEvent &event)
 bool PointerSelection::released()
 {
     const bool wasDragging = m_isDragging;
-    const auto selection = m_page.selection()->selection();
+    const auto selection = m_page.selection().selection();
     const bool isOwned = m_owner != nullptr;
     m_pressed = nullptr;
     m_owner = nullptr;
@@ -85,7 +85,7 @@ bool PointerSelection::pastes(FieldCaret &field, const QMouseEvent &event)
     if (event.button() != Qt::MiddleButton)
         return false;
     const int offset = TextLines::nearest(field.text(), event.position());
-    if (!m_page.selection()->pasteSelectedText({.passage = field.id(), .offset = offset}))
+    if (!m_page.selection().pasteSelectedText({.passage = field.id(), .offset = offset}))
         return false;
     field.takeFocus();
     return true;
@@ -100,7 +100,7 @@ void PointerSelection::carryOn()
 
 void PointerSelection::dragTo(const PagePosition &head)
 {
-    const Passages &passages = m_page.selection()->passages();
+    const Passages &passages = m_page.selection().passages();
     const qsizetype here = passages.indexOf(head.passage);
     const qsizetype origin = passages.indexOf(m_start.passage);
     const bool forward = here == origin ? head.offset >= m_start.offset : here > origin;
@@ -112,5 +112,5 @@ void PointerSelection::setPull(qreal pull)
     if (m_pull == pull)
         return;
     m_pull = pull;
-    Q_EMIT m_page.pullChanged();
+    Q_EMIT pullChanged();
 }

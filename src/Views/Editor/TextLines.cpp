@@ -128,3 +128,9 @@ qreal TextLines::xOf(const QTextDocument &text, int position)
     const Line line = lineAround(text, position);
     return originOf(line.paragraph).x() + line.line.cursorToX(position - line.paragraph.position());
 }
+
+qreal TextLines::middleOf(const QTextDocument &text, int position)
+{
+    const Line line = lineAround(text, position);
+    return originOf(line.paragraph).y() + line.line.y() + line.line.height() / 2;
+}

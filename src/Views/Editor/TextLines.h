@@ -32,4 +32,7 @@ int nearest(const QTextDocument &text, QPointF point);
 /// Where the caret stands from left to right.
 qreal xOf(const QTextDocument &text, int position);
 
+/// The middle of the line that the caret stands in, from the top of the text.
+qreal middleOf(const QTextDocument &text, int position);
+
 } // namespace TextLines
