@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Editor/IdListModel.h"
 #include "Editor/TodoListModel.h"
+#include "ListModels/IdListModel.h"
 #include "Models/PelkoDocument.h"
 
 #include <map>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Editor/IdListModel.h"
 #include "Editor/TextAddress.h"
+#include "ListModels/IdListModel.h"
 #include "Models/TodoItem.h"
 
 /// An entry of a checklist that has a delegate.

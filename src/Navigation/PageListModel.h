@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Editor/IdListModel.h"
+#include "ListModels/IdListModel.h"
 #include "Navigation/PageRow.h"
 
 /// The pages of the navigation for QML: those of a space, or those that a search has found.

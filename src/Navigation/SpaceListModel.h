@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Editor/IdListModel.h"
+#include "ListModels/IdListModel.h"
 #include "Models/Space.h"
 
 /// A space as the navigation shows it.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Editor/IdListModel.h"
+#include "ListModels/IdListModel.h"
 #include "Tasks/TaskGroups.h"
 
 /// One line of the list: the heading of a document's tasks, or a task.

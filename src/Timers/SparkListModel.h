@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Editor/IdListModel.h"
+#include "ListModels/IdListModel.h"
 #include "Timers/RecentSparks.h"
 
 inline QUuid rowKey(const RecentSpark &card)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Editor/RowDiff.h"
+#include "ListModels/RowDiff.h"
 
 #include <QAbstractListModel>
 
@@ -28,7 +28,7 @@ public:
             return;
         }
         for (const RowChange &change : *changes)
-            carryOut(change, rows);
+            apply(change, rows);
         for (qsizetype row = 0; row < rows.size(); ++row)
             update(row, rows.at(row));
     }
@@ -74,7 +74,7 @@ private:
         return result;
     }
 
-    void carryOut(const RowChange &change, const QList<Row> &rows)
+    void apply(const RowChange &change, const QList<Row> &rows)
     {
         const int first = static_cast<int>(change.row);
         const int last = static_cast<int>(change.row + change.count - 1);

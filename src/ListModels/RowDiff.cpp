@@ -1,4 +1,4 @@
-#include "Editor/RowDiff.h"
+#include "ListModels/RowDiff.h"
 
 namespace
 {
