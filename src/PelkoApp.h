@@ -92,7 +92,8 @@ private:
     ExportViewModel m_exports{m_appState, {m_scheduler, m_fileChooser, m_exportFolder, m_pasteboard}};
     LaunchSequence m_launch{m_scheduler};
     PomodoroTimer m_pomodoroTimer{m_scheduler};
-    TimersViewModel m_timers{m_pomodoroTimer, FlowTimer::shared(), m_appState, m_pasteboard, m_scheduler};
+    FlowTimer m_flowTimer{m_scheduler};
+    TimersViewModel m_timers{m_pomodoroTimer, m_flowTimer, m_appState, m_pasteboard, m_scheduler};
     TasksViewModel m_tasks{m_appState, {m_scheduler, m_clock, m_preferences, m_calendars}};
     QQmlApplicationEngine m_engine;
     QString m_loadErrors;

@@ -20,10 +20,6 @@ public:
 
     explicit FlowTimer(Scheduler &scheduler, QObject *parent = nullptr);
 
-    /// Returns the timer of the process, created on first use and never destroyed. Defined in Platform,
-    /// because it uses a QtScheduler.
-    static FlowTimer &shared();
-
     /// Seconds left in the current run.
     qint64 remaining() const { return m_remaining; }
     bool isRunning() const { return m_isRunning; }

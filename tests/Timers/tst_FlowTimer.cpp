@@ -125,12 +125,6 @@ private Q_SLOTS:
         QCOMPARE(running.count(), 2);
         QCOMPARE(active.count(), 1);
     }
-
-    void thereIsOneOfTheProcess()
-    {
-        QCOMPARE(&FlowTimer::shared(), &FlowTimer::shared());
-        QCOMPARE(FlowTimer::shared().displayTime(), u"5:00"_s);
-    }
 };
 
 PELKO_TEST(TestFlowTimer)
