@@ -4,8 +4,6 @@
 
 namespace
 {
-constexpr Timestamp referenceDate = 978'307'200; // of timestamps, as seconds since 1970
-
 CalendarEvent eventFrom(const Occurrence &occurrence)
 {
     CalendarEvent event{.title = occurrence.title,
@@ -49,8 +47,9 @@ bool CalendarContents::isNear(const CalendarEntry &entry) const
     if (entry.repeats() || entry.recurrenceId)
         return true;
     const qint64 end = entry.end ? entry.end->wall : entry.start.wall + entry.span.roughSeconds();
-    return double(entry.start.wall - slack)<m_range.to &&double(std::max(entry.start.wall, end) + slack)>
-        m_range.from;
+    const auto earliest = double(entry.start.wall - slack);
+    const auto latest = double(std::max(entry.start.wall, end) + slack);
+    return earliest < m_range.to && latest > m_range.from;
 }
 
 QList<CalendarEvent> CalendarContents::events(const IsCancelled &isCancelled) const

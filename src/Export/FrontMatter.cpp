@@ -8,8 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr double referenceDate = 978'307'200; // 2001-01-01 in seconds since 1970
-
 /// In four digits ISO 8601 knows the years 0 to 9999.
 std::optional<QString> isoTime(Timestamp time)
 {

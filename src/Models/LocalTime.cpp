@@ -3,11 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-namespace
-{
-constexpr double referenceDate = 978'307'200; // 2001-01-01 in seconds since 1970
-} // namespace
-
 QDateTime localTime(Timestamp time, const QTimeZone &zone)
 {
     constexpr double edge = 8.64e15;

@@ -35,7 +35,7 @@ struct CalendarFixture {
         QStringList told;
         for (const CalendarEvent &event : std::as_const(found)) {
             const auto time =
-                QDateTime::fromMSecsSinceEpoch(qint64((event.start + 978'307'200) * 1000), zone);
+                QDateTime::fromMSecsSinceEpoch(qint64((event.start + referenceDate) * 1000), zone);
             told << time.toString(QStringLiteral("dd HH:mm ")) + event.title.value_or(QStringLiteral("-"));
         }
         return told;
@@ -43,7 +43,7 @@ struct CalendarFixture {
 
     static Timestamp timestamp(const QDateTime &time)
     {
-        return Timestamp(time.toMSecsSinceEpoch()) / 1000 - 978'307'200;
+        return Timestamp(time.toMSecsSinceEpoch()) / 1000 - referenceDate;
     }
 };
 

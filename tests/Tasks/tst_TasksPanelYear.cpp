@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr qint64 referenceDate = 978'307'200; // of timestamps, as seconds since 1970
+constexpr auto zeroTime = qint64(referenceDate);
 constexpr qint64 day = 86400;
 
 /// Somebody who uses the tasks panel for a year at random, at home and on journeys, and the model beside it.
@@ -73,7 +73,7 @@ public:
             .arg(m_panel->currentStreak())
             .arg(m_panel->streakUnit())
             .arg(m_preferences.integer(u"pelko.currentStreak"_s).value_or(-1))
-            .arg(qint64(m_preferences.date(u"pelko.lastWriteDate"_s).value_or(-1)) + referenceDate)
+            .arg(qint64(m_preferences.date(u"pelko.lastWriteDate"_s).value_or(-1)) + zeroTime)
             .arg(m_calendars.windows.size());
     }
     QString expected() const
@@ -90,7 +90,7 @@ private:
     void moveClock(qint64 moment)
     {
         m_model.now = moment;
-        m_clock.time = double(moment - referenceDate);
+        m_clock.time = double(moment - zeroTime);
     }
 
     void restart()
@@ -161,7 +161,7 @@ private:
         m_model.ends.clear();
         for (int count = m_random.bounded(5); count > 0; --count) {
             const qint64 end = m_model.now + m_random.bounded(-3600, int(day));
-            events.append({.start = double(end - referenceDate) - 1800, .end = double(end - referenceDate)});
+            events.append({.start = double(end - zeroTime) - 1800, .end = double(end - zeroTime)});
             m_model.ends.push_back(end);
         }
         m_calendars.answer(events);
