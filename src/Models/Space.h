@@ -10,6 +10,12 @@ enum class Space { ideas, work, journal };
 
 inline constexpr std::array allSpaces{Space::ideas, Space::work, Space::journal};
 
+/// Whether the tasks panel can be shown beside the documents of that space.
+constexpr bool offersTasks(Space space)
+{
+    return space == Space::work;
+}
+
 /// The name under which the space stands in the data file.
 QString rawValue(Space space);
 

@@ -16,7 +16,7 @@ ShellCommands::ShellCommands(AppState &appState, NavigationViewModel &navigation
     bind(u"newDocument"_s, {.run = [this] { m_navigation.createDocument(); }});
     bind(u"shortcuts"_s, {.run = [this] { setShowShortcuts(true); }});
     bind(u"about"_s, {.run = [this] { m_appState.setShowAbout(true); }});
-    bind(u"goTo"_s, {.run = [this] { m_appState.setShowNav(!m_appState.showNav()); }});
+    bind(u"goTo"_s, {.run = [this] { m_appState.toggleNav(); }});
     bindViews();
     bindSpaces();
     bindRequests();
@@ -36,10 +36,10 @@ void ShellCommands::bindViews()
     bind(u"focusMode"_s, {.run = toggleFocusMode,
                           .isEnabled = [this] { return m_appState.openDocument().has_value(); },
                           .isTicked = [this] { return m_appState.focusMode(); }});
-    const auto isInWork = [this] { return m_appState.currentSpace() == Space::work; };
-    bind(u"tasks"_s, {.run = [this] { m_appState.setShowTasksPanel(!m_appState.showTasksPanel()); },
-                      .isEnabled = isInWork,
-                      .isTicked = [this, isInWork] { return isInWork() && m_appState.showTasksPanel(); }});
+    const auto isOffered = [this] { return offersTasks(m_appState.currentSpace()); };
+    bind(u"tasks"_s, {.run = [this] { m_appState.toggleTasksPanel(); },
+                      .isEnabled = isOffered,
+                      .isTicked = [this, isOffered] { return isOffered() && m_appState.showTasksPanel(); }});
 }
 
 void ShellCommands::bindSpaces()

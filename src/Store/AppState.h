@@ -16,6 +16,10 @@ class DocumentFile;
 class AppState : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(bool showDocLimitNudge READ showDocLimitNudge NOTIFY showDocLimitNudgeChanged)
+    Q_PROPERTY(bool showSavedIndicator READ showSavedIndicator NOTIFY showSavedIndicatorChanged)
+    Q_PROPERTY(bool showNav READ showNav NOTIFY showNavChanged)
+    Q_PROPERTY(bool showAbout READ showAbout NOTIFY showAboutChanged)
 
 public:
     /// How many documents a space takes from `createDocument`.
@@ -54,12 +58,15 @@ public:
     /// The documents of the ideas space, newest first.
     QList<PelkoDocument> sparks() const;
 
+    /// These two change only what they name. The program itself uses `switchSpace` and `showDocument`.
     void setCurrentSpace(Space space);
     void setOpenDocumentID(std::optional<QUuid> id);
     void setShowDocLimitNudge(bool shown);
     void setFocusMode(bool on);
     void setShowNav(bool shown);
+    void toggleNav() { setShowNav(!m_showNav); }
     void setShowTasksPanel(bool shown);
+    void toggleTasksPanel() { setShowTasksPanel(!m_showTasksPanel); }
     void setShowAbout(bool shown);
     void clearLastError();
 

@@ -23,19 +23,6 @@ Block *find(PelkoDocument &doc, const QUuid &blockID)
 }
 } // namespace
 
-std::optional<PelkoDocument> TaskOperations::toggleTodo(PelkoDocument doc, const QUuid &blockID,
-                                                        const QUuid &todoID)
-{
-    Block *block = find(doc, blockID);
-    if (!block || !block->todos)
-        return std::nullopt;
-    const auto todo = std::ranges::find(*block->todos, todoID, &TodoItem::id);
-    if (todo == block->todos->end())
-        return std::nullopt;
-    todo->done = !todo->done;
-    return doc;
-}
-
 std::optional<PelkoDocument> TaskOperations::deleteTodo(PelkoDocument doc, const QUuid &blockID,
                                                         const QUuid &todoID)
 {

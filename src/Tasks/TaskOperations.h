@@ -7,9 +7,6 @@
 namespace TaskOperations
 {
 
-/// Flips the tick of the entry. Nothing when the block, its checklist or the entry is not there.
-std::optional<PelkoDocument> toggleTodo(PelkoDocument doc, const QUuid &blockID, const QUuid &todoID);
-
 /// Removes every entry of that id from the block, which stays even when its checklist becomes empty. Nothing
 /// only when the block is not there: a page that is as it was is stored nevertheless.
 std::optional<PelkoDocument> deleteTodo(PelkoDocument doc, const QUuid &blockID, const QUuid &todoID);

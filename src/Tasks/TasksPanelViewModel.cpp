@@ -1,5 +1,6 @@
 #include "Tasks/TasksPanelViewModel.h"
 
+#include "Editor/TodoOperations.h"
 #include "Services/Clock.h"
 #include "Store/AppState.h"
 #include "Store/ChangeScope.h"
@@ -95,8 +96,9 @@ void TasksPanelViewModel::toggleTodo(const QString &docID, const QString &blockI
     const LibrarySummary::Page *page = m_library.page(QUuid(docID));
     if (!page)
         return;
-    if (auto changed = TaskOperations::toggleTodo(page->doc, QUuid(blockID), QUuid(todoID)))
-        m_appState.updateDocument(*std::move(changed));
+    const TextAddress entry{.blockID = QUuid(blockID), .partID = QUuid(todoID)};
+    if (auto changed = TodoOperations::toggle(page->doc, entry))
+        m_appState.updateDocument(std::move(changed->document));
 }
 
 void TasksPanelViewModel::deleteTodo(const QString &docID, const QString &blockID, const QString &todoID)

@@ -17,7 +17,7 @@ TasksViewModel::TasksViewModel(AppState &appState, TasksServices services, QObje
 
 bool TasksViewModel::isOffered() const
 {
-    return m_appState.currentSpace() == Space::work;
+    return offersTasks(m_appState.currentSpace());
 }
 
 bool TasksViewModel::isShown() const
@@ -27,7 +27,7 @@ bool TasksViewModel::isShown() const
 
 void TasksViewModel::toggle()
 {
-    m_appState.setShowTasksPanel(!m_appState.showTasksPanel());
+    m_appState.toggleTasksPanel();
 }
 
 void TasksViewModel::panelLeft()

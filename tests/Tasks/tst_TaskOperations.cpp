@@ -28,9 +28,6 @@ class TestTaskOperations : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void toggleFlipsOneEntry();
-    void toggleTwiceIsAsBefore();
-    void toggleOfAnUnknownTodoDoesNothing();
     void deleteTakesOneEntryAndKeepsTheOthersInOrder();
     void deleteTakesEveryEntryOfThatId();
     void deleteOfTheLastEntryLeavesAnEmptyChecklist();
@@ -40,36 +37,6 @@ private Q_SLOTS:
     void addFillsAChecklistThatIsAbsent();
     void addMakesAChecklistAtTheEnd();
 };
-
-void TestTaskOperations::toggleFlipsOneEntry()
-{
-    const PelkoDocument before = checklistOf({u"socks"_s, u"pens"_s});
-
-    const auto after = TaskOperations::toggleTodo(before, before.blocks[1].id, todos(before)[1].id);
-    PelkoDocument expected = before;
-    (*expected.blocks[1].todos)[1].done = true;
-    QCOMPARE(after, expected);
-}
-
-void TestTaskOperations::toggleTwiceIsAsBefore()
-{
-    const PelkoDocument before = checklistOf({u"socks"_s});
-    const QUuid block = before.blocks[1].id;
-    const QUuid todo = todos(before)[0].id;
-
-    QCOMPARE(TaskOperations::toggleTodo(*TaskOperations::toggleTodo(before, block, todo), block, todo),
-             before);
-}
-
-void TestTaskOperations::toggleOfAnUnknownTodoDoesNothing()
-{
-    const PelkoDocument before = checklistOf({u"socks"_s});
-    const QUuid unknown = QUuid::createUuid();
-
-    QVERIFY(!TaskOperations::toggleTodo(before, unknown, todos(before)[0].id));
-    QVERIFY(!TaskOperations::toggleTodo(before, before.blocks[1].id, unknown));
-    QVERIFY(!TaskOperations::toggleTodo(before, before.blocks[0].id, todos(before)[0].id));
-}
 
 void TestTaskOperations::deleteTakesOneEntryAndKeepsTheOthersInOrder()
 {
