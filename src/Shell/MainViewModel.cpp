@@ -2,7 +2,6 @@
 
 #include "Navigation/PageTexts.h"
 #include "Shell/WindowTitle.h"
-#include "Store/AppState.h"
 #include "Store/ChangeScope.h"
 #include "Theme/PelkoVoice.h"
 
@@ -32,31 +31,6 @@ void MainViewModel::followStore()
     connect(&m_commands, &ShellCommands::saveRequested, this, &MainViewModel::save);
     connect(&m_appState, &AppState::currentSpaceChanged, this, &MainViewModel::followOpenDocument);
     connect(&m_appState, &AppState::focusModeChanged, this, &MainViewModel::followFocusMode);
-    connect(&m_appState, &AppState::showNavChanged, this, &MainViewModel::showNavChanged);
-    connect(&m_appState, &AppState::showSavedIndicatorChanged, this,
-            &MainViewModel::showSavedIndicatorChanged);
-    connect(&m_appState, &AppState::showDocLimitNudgeChanged, this, &MainViewModel::showDocLimitNudgeChanged);
-    connect(&m_appState, &AppState::showAboutChanged, this, &MainViewModel::showAboutChanged);
-}
-
-bool MainViewModel::showNav() const
-{
-    return m_appState.showNav();
-}
-
-bool MainViewModel::showSavedIndicator() const
-{
-    return m_appState.showSavedIndicator();
-}
-
-bool MainViewModel::showDocLimitNudge() const
-{
-    return m_appState.showDocLimitNudge();
-}
-
-bool MainViewModel::showAbout() const
-{
-    return m_appState.showAbout();
 }
 
 void MainViewModel::greet()
@@ -80,7 +54,7 @@ void MainViewModel::createDocument()
 
 void MainViewModel::toggleNav()
 {
-    m_appState.setShowNav(!m_appState.showNav());
+    m_appState.toggleNav();
 }
 
 bool MainViewModel::leaveFocusMode()

@@ -5,11 +5,11 @@
 #include "Navigation/NavigationViewModel.h"
 #include "Shell/QuitGuard.h"
 #include "Shell/ShellCommands.h"
+#include "Store/AppState.h"
 
 #include <QObject>
 #include <QPointer>
 
-class AppState;
 struct EditorServices;
 
 /// What the main window shows and can do: which page is open, the empty state, the navigation layer and
@@ -18,6 +18,7 @@ struct EditorServices;
 class MainViewModel : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(AppState *appState READ appState CONSTANT)
     Q_PROPERTY(QString openDocumentID READ openDocumentID NOTIFY openDocumentIDChanged)
     Q_PROPERTY(EditorViewModel *editor READ editor NOTIFY editorChanged)
     Q_PROPERTY(NavigationViewModel *navigation READ navigation CONSTANT)
@@ -25,10 +26,6 @@ class MainViewModel : public QObject
     Q_PROPERTY(QString topMessage READ topMessage NOTIFY topMessageChanged)
     Q_PROPERTY(QString emptyMessage READ emptyMessage NOTIFY emptyMessageChanged)
     Q_PROPERTY(bool isFocused READ isFocused NOTIFY isFocusedChanged)
-    Q_PROPERTY(bool showNav READ showNav NOTIFY showNavChanged)
-    Q_PROPERTY(bool showSavedIndicator READ showSavedIndicator NOTIFY showSavedIndicatorChanged)
-    Q_PROPERTY(bool showDocLimitNudge READ showDocLimitNudge NOTIFY showDocLimitNudgeChanged)
-    Q_PROPERTY(bool showAbout READ showAbout NOTIFY showAboutChanged)
     Q_PROPERTY(bool showError READ showError NOTIFY showErrorChanged)
     Q_PROPERTY(QString errorTitle READ errorTitle NOTIFY errorTitleChanged)
     Q_PROPERTY(QString errorText READ errorText NOTIFY errorTextChanged)
@@ -42,6 +39,7 @@ public:
     MainViewModel(AppState &appState, const Clock &clock, const EditorServices &services,
                   MenuLocation menuLocation = MenuLocation::window, QObject *parent = nullptr);
 
+    AppState *appState() { return &m_appState; }
     /// Of the document in the editor; empty when the empty state is shown.
     QString openDocumentID() const { return m_openDocumentID; }
     /// The editor that was opened last; null when it is gone.
@@ -54,10 +52,6 @@ public:
     QString emptyMessage() const { return m_emptyMessage; }
     /// Focus mode: only the page is visible. False without an open page.
     bool isFocused() const { return m_isFocused; }
-    bool showNav() const;
-    bool showSavedIndicator() const;
-    bool showDocLimitNudge() const;
-    bool showAbout() const;
     bool showError() const { return m_showError; }
     /// Both keep their last text while the alert fades out.
     QString errorTitle() const { return m_errorTitle; }
@@ -96,10 +90,6 @@ Q_SIGNALS:
     void topMessageChanged();
     void emptyMessageChanged();
     void isFocusedChanged();
-    void showNavChanged();
-    void showSavedIndicatorChanged();
-    void showDocLimitNudgeChanged();
-    void showAboutChanged();
     void showErrorChanged();
     void errorTitleChanged();
     void errorTextChanged();

@@ -10,7 +10,14 @@
 
 #include <QtQml/qqml.h>
 
-/// QML_FOREIGN registrations of the view models, which do not depend on QtQml.
+/// QML_FOREIGN registrations of the store and the view models, which do not depend on QtQml.
+struct AppStateForQml {
+    Q_GADGET
+    QML_FOREIGN(AppState)
+    QML_NAMED_ELEMENT(AppState)
+    QML_UNCREATABLE("The one store.")
+};
+
 struct MainViewModelForQml {
     Q_GADGET
     QML_FOREIGN(MainViewModel)

@@ -36,13 +36,13 @@ private Q_SLOTS:
     {
         StartedProgram program;
         program.createDocuments(5);
-        QVERIFY(!program.main.showDocLimitNudge());
+        QVERIFY(!program.appState.showDocLimitNudge());
         program.main.commands()->run(u"newDocument"_s);
 
         QCOMPARE(program.appState.documents().size(), 5);
-        QVERIFY(program.main.showDocLimitNudge());
+        QVERIFY(program.appState.showDocLimitNudge());
         program.main.dismissDocLimitNudge();
-        QVERIFY(!program.main.showDocLimitNudge());
+        QVERIFY(!program.appState.showDocLimitNudge());
         QVERIFY(!program.appState.showDocLimitNudge());
     }
 
@@ -53,7 +53,7 @@ private Q_SLOTS:
         program.main.dismissDocLimitNudge();
         program.main.createDocument();
 
-        QVERIFY(program.main.showDocLimitNudge());
+        QVERIFY(program.appState.showDocLimitNudge());
     }
 
     void startWritingInAFullSpaceShowsTheLimit()
@@ -64,7 +64,7 @@ private Q_SLOTS:
         program.main.createDocument();
 
         QCOMPARE(program.main.openDocumentID(), QString());
-        QVERIFY(program.main.showDocLimitNudge());
+        QVERIFY(program.appState.showDocLimitNudge());
     }
 
     void aLoadFailureShowsTheErrorAlertUntilItIsDismissed()
@@ -194,10 +194,10 @@ private Q_SLOTS:
     {
         StartedProgram program;
         program.main.commands()->run(u"about"_s);
-        QVERIFY(program.main.showAbout());
+        QVERIFY(program.appState.showAbout());
 
         program.main.dismissAbout();
-        QVERIFY(!program.main.showAbout());
+        QVERIFY(!program.appState.showAbout());
         QVERIFY(!program.appState.showAbout());
     }
 

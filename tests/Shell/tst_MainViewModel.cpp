@@ -38,10 +38,10 @@ private Q_SLOTS:
     {
         StartedProgram program;
         program.appState.setShowNav(true);
-        QVERIFY(program.main.showNav());
+        QVERIFY(program.appState.showNav());
         program.main.dismissNav();
 
-        QVERIFY(!program.main.showNav());
+        QVERIFY(!program.appState.showNav());
         QVERIFY(!program.appState.showNav());
     }
 
@@ -49,9 +49,9 @@ private Q_SLOTS:
     {
         StartedProgram program;
         program.main.toggleNav();
-        QVERIFY(program.main.showNav());
+        QVERIFY(program.appState.showNav());
         program.main.toggleNav();
-        QVERIFY(!program.main.showNav());
+        QVERIFY(!program.appState.showNav());
     }
 
     void aNewPageClosesTheNavigation()
@@ -60,7 +60,7 @@ private Q_SLOTS:
         program.appState.setShowNav(true);
         program.main.createDocument();
 
-        QVERIFY(!program.main.showNav());
+        QVERIFY(!program.appState.showNav());
     }
 
     void theNavigationStaysWhereASpaceIsFull()
@@ -70,19 +70,19 @@ private Q_SLOTS:
         program.appState.setShowNav(true);
         program.main.createDocument();
 
-        QVERIFY(program.main.showDocLimitNudge());
-        QVERIFY(program.main.showNav());
+        QVERIFY(program.appState.showDocLimitNudge());
+        QVERIFY(program.appState.showNav());
     }
 
     void theTickIsShownAfterASave()
     {
         StartedProgram program;
-        QSignalSpy changes(&program.main, &MainViewModel::showSavedIndicatorChanged);
+        QSignalSpy changes(&program.appState, &AppState::showSavedIndicatorChanged);
         program.appState.save();
-        QVERIFY(program.main.showSavedIndicator());
+        QVERIFY(program.appState.showSavedIndicator());
         program.scheduler.advance(1500ms);
 
-        QVERIFY(!program.main.showSavedIndicator());
+        QVERIFY(!program.appState.showSavedIndicator());
         QCOMPARE(changes.count(), 2);
     }
 

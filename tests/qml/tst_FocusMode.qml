@@ -186,11 +186,11 @@ Item {
             keyClick(Qt.Key_Down)
             const field = holder()
             keyClick(Qt.Key_K, Qt.ControlModifier)
-            verify(app.main.showNav)
+            verify(app.main.appState.showNav)
             verify(holder() !== field)
             toggle()
             verify(app.main.isFocused)
-            verify(!app.main.showNav)
+            verify(!app.main.appState.showNav)
             compare(holder(), field)
         }
 

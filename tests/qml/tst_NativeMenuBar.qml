@@ -88,7 +88,7 @@ Item {
             compare(row("Quit").role, Platform.MenuItem.QuitRole)
             compare(rows().filter(row => row.role !== Platform.MenuItem.NoRole).length, 2)
             row("About Pelko").triggered()
-            verify(app.main.showAbout)
+            verify(app.main.appState.showAbout)
             row("Quit").triggered()
             compare(quitting.count, 1)
         }

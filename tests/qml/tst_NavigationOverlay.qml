@@ -108,11 +108,11 @@ Item {
         function test_oneKeyOpensAndClosesIt() {
             library()
             open()
-            verify(app.main.showNav)
+            verify(app.main.appState.showNav)
             compare(titles(), ["Second", "First"])
             compare(chosen(), "First")
             keyClick(Qt.Key_K, Qt.ControlModifier)
-            verify(!app.main.showNav)
+            verify(!app.main.appState.showNav)
             tryVerify(() => !overlay())
         }
 
@@ -158,15 +158,15 @@ Item {
             const button = named("Go to")
             compare(button.Accessible.role, Accessible.Button)
             mouseClick(button)
-            verify(app.main.showNav)
+            verify(app.main.appState.showNav)
             verify(button.Accessible.checked)
             mouseClick(button)
-            verify(!app.main.showNav)
+            verify(!app.main.appState.showNav)
         }
 
         function test_theEmptyStateHasTheButtonToo() {
             mouseClick(named("Go to"))
-            verify(app.main.showNav)
+            verify(app.main.appState.showNav)
         }
 
         function test_closingGivesTheCaretBack_data() {
@@ -203,7 +203,7 @@ Item {
             keyClick(Qt.Key_Down)
             compare(chosen(), "Diary")
             keyClick(Qt.Key_Return)
-            verify(!app.main.showNav)
+            verify(!app.main.appState.showNav)
             compare(app.main.windowTitle, "Diary – Pelko")
         }
 
@@ -228,7 +228,7 @@ Item {
             library()
             open()
             mouseClick(rows().find(row => row.titleLine.text === "Second"))
-            verify(!app.main.showNav)
+            verify(!app.main.appState.showNav)
             compare(app.main.windowTitle, "Second – Pelko")
             tryVerify(() => all(root, item => item instanceof WritingField).length === 2)
             verify(!overlay() || !overlay().activeFocus)
@@ -241,7 +241,7 @@ Item {
             open()
             keyClick(Qt.Key_1, Qt.ControlModifier)
             compare(titles(), ["a quarter of an hour"])
-            verify(app.main.showNav)
+            verify(app.main.appState.showNav)
             verify(focused().name === "Find")
             keyClick(Qt.Key_2, Qt.ControlModifier)
             compare(titles(), ["Second", "First"])
@@ -277,7 +277,7 @@ Item {
             verify(all(overlay(), item => item.text === "No pages in Work yet")[0])
             keyClick(Qt.Key_Return)
             compare(app.documentCount(), 1)
-            verify(!app.main.showNav)
+            verify(!app.main.appState.showNav)
         }
 
         function test_aPageOpenedWhileItIsOpenTakesNoFocus() {
@@ -296,7 +296,7 @@ Item {
             open()
             mouseClick(named("New Document"))
             compare(app.documentCount(), 5)
-            verify(!app.main.showNav)
+            verify(!app.main.appState.showNav)
             app.advance(1000)
             tryVerify(() => focused() instanceof WritingField)
             keyClick("x")
@@ -317,8 +317,8 @@ Item {
             app.createDocuments(5)
             open()
             mouseClick(named("New Document"))
-            verify(app.main.showDocLimitNudge)
-            verify(app.main.showNav)
+            verify(app.main.appState.showDocLimitNudge)
+            verify(app.main.appState.showNav)
             keyClick(Qt.Key_Return)
             verify(focused().name === "Find")
         }
@@ -349,7 +349,7 @@ Item {
             keyClick(Qt.Key_Return)
             tryVerify(() => titles().join() === "Second")
             compare(chosen(), "Second")
-            verify(app.main.showNav)
+            verify(app.main.appState.showNav)
             verify(overlay().activeFocus)
             compare(app.main.windowTitle, "Second – Pelko")
         }

@@ -110,11 +110,47 @@ Item {
             tryVerify(() => named(root, "Start Writing") && !named(root, "Heading"))
         }
 
+        function everything(item) {
+            return [item].concat(...Array.from(item.children).map(everything))
+        }
+
+        /// Where the window can be dragged, from top to bottom; those that a double click maximises are marked.
+        function dragAreas() {
+            return everything(root).filter(item => item instanceof WindowDragArea && item.visible).map(item => {
+                const place = item.mapToItem(root, 0, 0)
+                return [place.x, place.y, item.width, item.height].join(" ") + (item.maximises ? " maximises" : "")
+            })
+        }
+
+        function test_theWindowIsDraggedByItsGround() {
+            compare(dragAreas(), ["0 0 1100 750", "0 0 1100 " + Metrics.stripHeight + " maximises"])
+            app.createDocuments(1)
+            app.open(0)
+            const bar = () => everything(root).find(item => item instanceof BlockBar && item.opacity === 1)
+            tryVerify(() => dragAreas().length === 2 && bar())
+            compare(dragAreas(), ["0 0 1100 " + Metrics.stripHeight + " maximises",
+                                  [0, 750 - bar().height, 1100, bar().height].join(" ")])
+        }
+
+        function test_pagesFadeIntoEachOther() {
+            app.createDocuments(2)
+            app.open(0)
+            tryVerify(() => everything(root).filter(item => item instanceof EditorView).every(view => view.opacity === 1))
+            app.open(1)
+            const views = everything(root).filter(item => item instanceof EditorView)
+            compare(views.length, 2)
+            let seenTogether = false
+            views.forEach(view => view.opacityChanged.connect(
+                () => seenTogether = seenTogether || views.every(other => other.opacity > 0 && other.opacity < 1)))
+            tryVerify(() => everything(root).filter(item => item instanceof EditorView).length === 1)
+            verify(seenTogether)
+        }
+
         function test_aClickOverTheNavigationOnlyEndsIt() {
             app.showNav()
             const button = named(root, "Start Writing")
             mouseClick(root, button.mapToItem(root, 20, 10).x, button.mapToItem(root, 20, 10).y)
-            verify(!app.main.showNav)
+            verify(!app.main.appState.showNav)
             compare(app.documentCount(), 0)
             mouseClick(button)
             compare(app.documentCount(), 1)
@@ -302,7 +338,7 @@ Item {
                              "Select All", "Ideas", "Work", "Journal", "Tasks", "Pomodoro", "Focus mode", "Full screen",
                              "Export…", "Export everything…", "Copy page as Markdown", "Keyboard Shortcuts", "About Pelko", "Quit"])
             mouseClick(named(root, "About Pelko"))
-            verify(app.main.showAbout)
+            verify(app.main.appState.showAbout)
         }
 
         function choose(command) {

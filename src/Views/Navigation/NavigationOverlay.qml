@@ -29,7 +29,7 @@ ModalLayer {
     }
     Keys.onUpPressed: navigation.moveChoice(-1)
     motion: PelkoAnimation.smooth
-    open: main.showNav
+    open: main.appState.showNav
     passesShortcuts: true
     scrim: FirePalette.dismissLayer
     onClickedBeside: main.dismissNav()

@@ -12,7 +12,7 @@ Item {
     readonly property ImageImport imageImport: main.editor?.imageImport ?? null
 
     AlertDialog {
-        open: root.main.showDocLimitNudge
+        open: root.main.appState.showDocLimitNudge
         backdrop: root.backdrop
         title: qsTr("Five is the limit.")
         message: qsTr("You've got 5 docs in this space. Archive one first. Constraints breed creativity.")
@@ -22,7 +22,7 @@ Item {
     }
 
     AlertDialog {
-        open: root.main.showAbout
+        open: root.main.appState.showAbout
         backdrop: root.backdrop
         title: "Pelko"
         message: qsTr("Built by Dravel. Fueled by espresso and poor decisions.")

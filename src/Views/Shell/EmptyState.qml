@@ -23,7 +23,7 @@ FocusScope {
     }
 
     NavigationButton {
-        active: root.main.showNav
+        active: root.main.appState.showNav
         anchors.horizontalCenter: parent.horizontalCenter
         y: (Metrics.stripHeight - height) / 2
         onTriggered: root.main.toggleNav()

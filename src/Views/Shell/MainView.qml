@@ -24,7 +24,7 @@ FocusScope {
     /// The focused item handles the key of the command. Undo and redo that it does not accept go to the page.
     function edit(command: string) {
         const page = content.currentItem as EditorView
-        if (EditingKeys.press(root.Window.window, command) || !page || main.showNav)
+        if (EditingKeys.press(root.Window.window, command) || !page || main.appState.showNav)
             return
         if (command === "undo")
             page.editor.undo()
@@ -84,8 +84,8 @@ FocusScope {
         id: editor
 
         EditorView {
-            navigationShown: root.main.showNav
-            saved: root.main.showSavedIndicator
+            navigationShown: root.main.appState.showNav
+            saved: root.main.appState.showSavedIndicator
             saveError: root.main.saveError
             onNavigationRequested: root.main.toggleNav()
         }
@@ -124,7 +124,7 @@ FocusScope {
         menuOpen: menu.open
         offersMenu: !root.main.commands.hasMenuBar
         timers: root.timers
-        covered: root.main.showNav
+        covered: root.main.appState.showNav
         onClickedWhileCovered: root.main.dismissNav()
         onFullScreenLeft: root.main.commands.run("fullScreen")
         onMenuRequested: root.toggleMenu()
