@@ -77,6 +77,10 @@ Item {
             language = createTemporaryObject(pseudo, test)
         }
 
+        function everything(item) {
+            return [item].concat(...Array.from(item.children).map(everything))
+        }
+
         function open(scene) {
             const root = createTemporaryObject(window, stage)
             root.forceActiveFocus()
@@ -178,6 +182,28 @@ Item {
             keyClick(Qt.Key_F10, Qt.ShiftModifier)
             tryVerify(() => texts.translated(root).some(text => text.includes("Béñ") || text.includes("Délé")))
             verifyTexts(root)
+        }
+
+        function test_theMenuOfABlockIsMirrored() {
+            language.rightToLeft = true
+            const root = open("page")
+            settle(root)
+            const field = root.Window.activeFocusItem
+            const pointer = field.mapToItem(root, field.width - 40, 10)
+            mouseClick(root, pointer.x, pointer.y, Qt.RightButton)
+            const row = () => everything(root).find(item => item instanceof PopupMenuRow && item.visible && item.opacity === 1)
+            tryVerify(row)
+            verify(row().mirrored)
+            fuzzyCompare(row().menu.card.x + row().menu.card.width, pointer.x, 1)
+        }
+
+        function test_theSymbolOfTheTasksPanelIsMirrored() {
+            const root = open("page")
+            const button = everything(root).find(item => item instanceof TasksPanelToggleButton)
+            const symbol = everything(button).find(item => item instanceof SymbolIcon)
+            compare(symbol.rotation, 0)
+            language.rightToLeft = true
+            compare(symbol.rotation, 180)
         }
 
         function test_textsOfAPageKeepTheirDirection() {

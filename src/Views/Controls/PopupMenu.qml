@@ -14,6 +14,7 @@ ModalLayer {
     default property alias rows: column.data
     readonly property alias card: card
 
+    /// The corner it opens at: of the left edge, or of the right one where texts are read from there.
     property point anchor: Qt.point(0, 0)
     readonly property real edge: Metrics.space8
 
@@ -26,8 +27,7 @@ ModalLayer {
     }
 
     function popUpBelow(item: Item) : void {
-        const beginning = LayoutMirroring.enabled ? item.width - card.width : 0
-        const corner = item.mapToItem(parent, beginning, item.height + Metrics.space6)
+        const corner = item.mapToItem(parent, LayoutMirroring.enabled ? item.width : 0, item.height + Metrics.space6)
         popUp(corner.x, corner.y)
     }
 
@@ -85,7 +85,10 @@ ModalLayer {
     GlassSurface {
         id: card
 
-        x: Math.round(Math.max(menu.edge, Math.min(menu.anchor.x, menu.width - width - menu.edge)))
+        readonly property bool opensLeftwards: menu.LayoutMirroring.enabled
+        readonly property real wantedX: menu.anchor.x - (opensLeftwards ? width : 0)
+
+        x: Math.round(Math.max(menu.edge, Math.min(wantedX, menu.width - width - menu.edge)))
         y: Math.round(Math.max(menu.edge, Math.min(menu.anchor.y, menu.height - height - menu.edge)))
         width: menu.widestRow + 12
         height: Math.min(column.height + 12, menu.height - 2 * menu.edge)
@@ -94,7 +97,7 @@ ModalLayer {
         backdrop: menu.backdrop
         opacity: Math.max(0, Math.min(1, menu.shown))
         scale: Motion.reduced ? 1 : 0.97 + 0.03 * menu.shown
-        transformOrigin: Item.TopLeft
+        transformOrigin: opensLeftwards ? Item.TopRight : Item.TopLeft
 
         Accessible.role: Accessible.PopupMenu
         Accessible.name: menu.name

@@ -274,6 +274,8 @@ FocusScope {
     BlockMenu {
         id: menu
 
+        LayoutMirroring.childrenInherit: true
+        LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
         anchors.fill: parent
         backdrop: list
         offersDelete: root.editor.offersDelete

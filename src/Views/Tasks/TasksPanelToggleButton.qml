@@ -34,6 +34,7 @@ PressableControl {
             anchors.verticalCenter: parent.verticalCenter
             color: label.color
             name: button.icon.name
+            rotation: button.mirrored ? 180 : 0
             size: Metrics.chipSymbol
         }
 
