@@ -2,6 +2,11 @@
 #include "support/TestProgram.h"
 
 #include <array>
+#include <csignal>
+#include <cstdio>
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -77,13 +82,40 @@ private Q_SLOTS:
 
     void thePoolsHaveTheirLines()
     {
-        QCOMPARE(PelkoVoice::errorPool().size(), 3);
-        QCOMPARE(PelkoVoice::emptyNotesPool().size(), 7);
-        QCOMPARE(PelkoVoice::greetingPool().size(), 12);
-        QCOMPARE(PelkoVoice::errorPool().first(), u"Something broke. Not your fault. Probably."_s);
-        QCOMPARE(PelkoVoice::emptyNotesPool().last(),
-                 u"Write something or don't. But you opened the app for a reason."_s);
-        QCOMPARE(PelkoVoice::greetingPool().last(), u"Nobody's coming to save you. That's the good news."_s);
+        QCOMPARE(PelkoVoice::errorPool(),
+                 (QStringList{u"Something broke. Not your fault. Probably."_s,
+                              u"That didn't work. Give it a second and try again before we both panic."_s,
+                              u"Nope. Something went wrong. Try again."_s}));
+        QCOMPARE(PelkoVoice::emptyNotesPool(),
+                 (QStringList{u"Nothing here. That's either zen or procrastination. You know which one."_s,
+                              u"This page is emptier than a gym on January 15th."_s,
+                              u"You opened the app. That's the hard part. Now type something."_s,
+                              u"Blank page. Infinite potential. Or you could just stare at it. Your call."_s,
+                              u"Even my crackhead brain had ideas at 3 AM. You got nothing?"_s,
+                              u"The page is waiting. Don't make it weird."_s,
+                              u"Write something or don't. But you opened the app for a reason."_s}));
+        QCOMPARE(PelkoVoice::greetingPool(),
+                 (QStringList{u"Let's get to work."_s, u"You opened the app. That's 90% of the battle."_s,
+                              u"Your competition is still asleep."_s, u"Ship something today."_s,
+                              u"Stop thinking. Start typing."_s, u"The path illuminates as you walk it."_s,
+                              u"Don't be soft. Get strong."_s, u"93 fuel. Let's go."_s,
+                              u"It's sunflower season, baby."_s, u"My angel's with me, dog."_s,
+                              u"That idea in your head is worthless until it's on this screen."_s,
+                              u"Nobody's coming to save you. That's the good news."_s}));
+    }
+
+    void anEmptyPoolStopsTheProcess()
+    {
+        const pid_t child = fork();
+        if (child == 0) {
+            std::freopen("/dev/null", "w", stderr);
+            std::signal(SIGABRT, SIG_DFL); // not the handler of the test program
+            PelkoVoice::pick({}, u"empty"_s);
+            _exit(0);
+        }
+        int status = 0;
+        QCOMPARE(waitpid(child, &status, 0), child);
+        QVERIFY(WIFSIGNALED(status) || WEXITSTATUS(status) != 0);
     }
 };
 

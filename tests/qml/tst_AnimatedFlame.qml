@@ -51,6 +51,13 @@ Item {
             verify(tallest <= 1.05)
         }
 
+        function test_itsThreeSwingsNeverKeepStep() {
+            const flame = createTemporaryObject(flameComponent, stage)
+            const swings = Array.from(flame.resources).filter(item => item.motion)
+            const durations = swings.map(swing => Array.from(swing.motion.animations).map(animation => animation.duration))
+            compare(durations, [[1200, 1200], [900, 900], [2000, 2000]])
+        }
+
         function test_twoFlamesMoveIndependently() {
             const first = createTemporaryObject(flameComponent, stage)
             tryVerify(() => first.heightScale > 1.0, 5000)

@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtTest
 import Pelko
+import PelkoTest
 
 Item {
     id: stage
@@ -16,6 +17,14 @@ Item {
         id: chipComponent
 
         IconChipButton { x: 40; y: 40; icon.name: "text.quote"; tip: "Quote" }
+    }
+
+    TasksFixture { id: bench }
+
+    Component {
+        id: tasksComponent
+
+        TasksPanelToggleButton { tasks: bench.tasks }
     }
 
     Component {
@@ -143,6 +152,21 @@ Item {
             chip.forceActiveFocus(Qt.TabFocusReason)
             verify(chip.visualFocus)
             tryVerify(() => chip.width > 65)
+        }
+
+        function test_springsOfHoverAndPress_data() {
+            return [
+                { tag: "chip", component: chipComponent, springs: ["0.32 1", "0.18 0.55"] },
+                { tag: "tasks panel", component: tasksComponent, springs: ["0.32 1", "0.18 0.55"] },
+                { tag: "banner", component: bannerComponent, springs: ["0.35 0.7", "0.2 0.5"] },
+                { tag: "delete", component: deleteComponent, springs: ["0.35 0.7", "0.2 0.5"] }
+            ]
+        }
+
+        function test_springsOfHoverAndPress(row) {
+            const button = createTemporaryObject(row.component, stage)
+            const springs = Array.from(button.resources).filter(item => item instanceof SpringFollower)
+            compare(springs.map(spring => spring.response + " " + spring.dampingFraction), row.springs)
         }
 
         function test_ringIsStillShownWhenTheWindowIsBack() {

@@ -46,6 +46,12 @@ Item {
             mouseMove(stage, 1, 1)
         }
 
+        function test_springsOfHoverPressAndActivity() {
+            const springs = Array.from(button.resources).filter(item => item instanceof SpringFollower)
+            compare(springs.map(spring => spring.response + " " + spring.dampingFraction),
+                    ["0.35 0.7", "0.2 0.5", "0.4 0.75"])
+        }
+
         function test_restsAsPlainFlow() {
             compare(button.name, "Flow")
             compare(button.Accessible.name, "Flow")

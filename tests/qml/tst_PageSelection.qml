@@ -80,7 +80,7 @@ Item {
         /// The kinds of the blocks that are shown selected as a whole.
         function washed() {
             return everything(page).filter(item => item instanceof SelectionWash && item.children[0].visible)
-                .map(item => item.kind).join(" ")
+                .map(item => item.row.kind).join(" ")
         }
 
         function three() {

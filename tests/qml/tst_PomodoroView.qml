@@ -110,6 +110,21 @@ Item {
             compare(bench.panel.displayTime, "25:00")
         }
 
+        function test_theRingFollowsInASecond() {
+            make()
+            const ring = all(view, item => item instanceof ProgressRing)[0]
+            compare(ring.progress, 0)
+            mouseClick(named("Start"))
+            const began = Date.now()
+            bench.advance(750000)
+            compare(bench.panel.progress, 0.5)
+            let least = 1
+            ring.progressChanged.connect(() => least = Math.min(least, ring.progress))
+            tryCompare(ring, "progress", 0.5)
+            verify(Date.now() - began >= 950)
+            verify(least < 0.25, least)
+        }
+
         function test_dotsAndFigureCountTheSessions_data() {
             return [
                 { tag: "none", sessions: 0, dots: 0, more: "" },

@@ -52,6 +52,26 @@ TestCase {
         verify(mover.furthest > 103)
     }
 
+    function test_typesOfWriting_data() {
+        return [
+            { tag: "bannerTitle", family: Typography.displayFamily, pixels: 38, weight: Font.Bold, tracking: -0.7 },
+            { tag: "heading", family: Typography.displayFamily, pixels: 34, weight: Font.Bold, tracking: -0.5 },
+            { tag: "body", family: Typography.textFamily, pixels: 16.5, weight: Font.Normal, tracking: 0 },
+            { tag: "quote", family: Typography.textFamily, pixels: 18, weight: Font.Normal, tracking: 0 },
+            { tag: "code", family: Typography.monoFamily, pixels: 13.5, weight: Font.Normal, tracking: 0 },
+            { tag: "checklist", family: Typography.textFamily, pixels: 15, weight: Font.Normal, tracking: 0 }
+        ]
+    }
+
+    function test_typesOfWriting(row) {
+        const type = Typography[row.tag]
+        compare(type.family, row.family)
+        fuzzyCompare(type.pointSize * Typography.pixelsPerPoint(), row.pixels, 0.01)
+        compare(type.weight, row.weight)
+        fuzzyCompare(type.letterSpacing, row.tracking, 0.02) // in 64ths of a pixel
+        compare(type.italic, row.tag === "quote")
+    }
+
     function test_fontsKeepTheirFractionsOfAPixel() {
         fuzzyCompare(Typography.body.pointSize * Typography.pixelsPerPoint(), 16.5, 0.01)
         compare(Typography.heading.weight, Font.Bold)

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Window
 import QtTest
 import Pelko
 
@@ -16,6 +17,22 @@ TestCase {
 
         anchors.fill: parent
         hoverEnabled: true
+    }
+
+    Component {
+        id: windowComponent
+
+        Window {
+            property alias strip: strip
+            property alias ground: ground
+
+            height: 200
+            visible: true
+            width: 200
+
+            WindowDragArea { id: ground; anchors.fill: parent }
+            WindowDragArea { id: strip; height: 40; maximises: true; width: parent.width }
+        }
     }
 
     SignalSpy {
@@ -41,6 +58,18 @@ TestCase {
         mouseMove(area, 120, 100)
         verify(dragged.count > 0)
         mouseRelease(area, 120, 100)
+    }
+
+    function test_aDoubleClickFillsTheScreenAndUndoesIt() : void {
+        const window = createTemporaryObject(windowComponent, test)
+        tryCompare(window, "active", true)
+        waitForRendering(window.strip)
+        mouseDoubleClickSequence(window.strip, 100, 20)
+        compare(window.visibility, Window.Maximized)
+        mouseDoubleClickSequence(window.strip, 100, 20)
+        compare(window.visibility, Window.Windowed)
+        mouseDoubleClickSequence(window.ground, 100, 150)
+        compare(window.visibility, Window.Windowed)
     }
 
     function test_smallPointerMovementDoesNotMoveTheWindow() : void {

@@ -42,21 +42,21 @@ Item {
         easing: PelkoAnimation.smooth.curve
     }
 
-    Face {
+    Digit {
         visible: cell.roll < 1
         opacity: Math.max(0, 1 - 2 * cell.roll)
         text: cell.leavingValue
         y: -cell.rise - cell.travel * cell.roll
     }
 
-    Face {
+    Digit {
         opacity: Math.max(0, Math.min(1, cell.roll))
         text: cell.shownValue
         y: -cell.rise + cell.travel * (1 - cell.roll)
     }
 
-    component Face: Item {
-        id: face
+    component Digit: Item {
+        id: digit
 
         required property string text
         readonly property bool shaded: !Qt.colorEqual(cell.color, cell.footColor)
@@ -65,10 +65,10 @@ Item {
         height: cell.height
 
         Text {
-            visible: !face.shaded
+            visible: !digit.shaded
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
-            text: face.text
+            text: digit.text
             textFormat: Text.PlainText
             font: cell.font
             color: cell.color
@@ -77,8 +77,8 @@ Item {
 
         GradientText {
             anchors.fill: parent
-            visible: face.shaded
-            text: face.shaded ? face.text : ""
+            visible: digit.shaded
+            text: digit.shaded ? digit.text : ""
             font: cell.font
             topColor: cell.color
             footColor: cell.footColor
