@@ -3,26 +3,26 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// Lies over its whole parent while `open`. Takes the keyboard and gives it back to the item that had it; lets
-/// neither clicks nor keys nor, unless it `passesShortcuts`, shortcuts through to what lies below. Tells of Escape and
-/// of a click beside the content; closing is up to whoever opened it. `shown` runs from 0 to 1 and back.
+/// A layer over its whole parent while `open`. It takes the focus and returns it to the previous item. Clicks, keys
+/// and, unless `passesShortcuts` is set, shortcuts do not reach the items below. Escape and a click beside the content
+/// are reported; the owner closes the layer. `shown` is animated from 0 to 1 and back.
 ///
-/// One that opens `unasked` may come up in the middle of a word: it leaves the keyboard where it is until no key has
-/// been pressed for a second, and gives it back when somebody goes on writing, be it with a space.
+/// A layer that opens `unasked` may appear while the user types: it takes the focus only after a second without a key,
+/// and returns it when the user goes on typing.
 FocusScope {
     id: layer
 
     property bool open: false
-    property var motion: PelkoAnimation.settle
+    property springMotion motion: PelkoAnimation.settle
     property color scrim: "transparent"
     property bool passesShortcuts: false
     property bool unasked: false
-    /// Another layer lies over this one and has the keyboard.
+    /// Whether another layer is above this one and has the focus.
     property bool covered: false
     readonly property alias shown: progress.value
 
     property bool complete: false
-    // One that is open from the start has nothing yet to give the keyboard to.
+    // A layer that is open from the start has no item to return the focus to.
     readonly property bool active: open && complete
     property Item returnFocusTo: null
 

@@ -3,14 +3,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The bar under the page with one chip for each kind of block; what is put into it stands at its end.
+/// The bar under the page with one chip for each kind of block. Its children are placed at its end.
 Rectangle {
     id: root
 
     default property alias ends: ends.data
 
     signal addRequested(string kind)
-    /// The keyboard walks back from the first chip.
+    /// The focus moves backwards from the first chip.
     signal walkedBack
 
     function enter() {
@@ -36,7 +36,7 @@ Rectangle {
             model: BlockKinds.all
 
             IconChipButton {
-                required property var modelData
+                required property BlockKind modelData
                 required property int index
 
                 Keys.onBacktabPressed: event => index === 0 ? root.walkedBack() : event.accepted = false
