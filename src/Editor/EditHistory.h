@@ -4,10 +4,9 @@
 #include "Editor/PageChange.h"
 #include "Editor/TypingRun.h"
 
-/// What was done on one page, to be taken back and done again: a value. It knows the page as it last saw it.
-/// When the page has been changed behind its back, that change becomes a step of its own before anything
-/// else happens, so nothing written elsewhere is ever overwritten without a way back. What is kept is
-/// bounded: the oldest steps go first, the latest always stays.
+/// The undo history of one page, a value. It keeps the page as it last saw it: a change made elsewhere
+/// becomes a step of its own before anything else happens, so it can be undone as well. The size is bounded:
+/// the oldest steps are dropped first, and the latest is always kept.
 class EditHistory
 {
 public:
@@ -17,7 +16,7 @@ public:
         qsizetype pictureBytes = 256 << 20;
     };
 
-    /// Where the writer was before a step and is after it.
+    /// The focus before and after a step.
     struct Places {
         std::optional<FocusTarget> before;
         std::optional<FocusTarget> after;
@@ -26,22 +25,20 @@ public:
     EditHistory() = default;
     explicit EditHistory(const Limits &limits) : m_limits(limits) {}
 
-    bool canUndo() const { return !m_past.isEmpty(); }
-    bool canRedo() const { return !m_future.isEmpty(); }
     qsizetype steps() const { return m_past.size() + m_future.size(); }
 
-    /// Remembers what was changed behind its back, if anything, as one step.
+    /// Records changes that were made elsewhere, if any, as one step.
     void follow(const QList<Block> &blocks, const Places &places = {});
-    /// Remembers a change as one step.
+    /// Records a change as one step.
     void record(const PelkoDocument &before, const PelkoDocument &after, const Places &places);
-    /// Remembers what one key made of the text at `places.after`, together with the keys just before it.
+    /// Records a typed change of the text at `places.after`, joined with the keys just before it.
     void recordTyping(const PelkoDocument &before, const PelkoDocument &after, const Places &places);
-    /// The next key begins a step of its own.
+    /// Makes the next key begin a new step.
     void endRun() { m_run.reset(); }
 
-    /// Takes back the last step, or nothing. `page` is the page as it is now.
+    /// Returns the page before the last step, or std::nullopt if there is none. `page` is the present page.
     std::optional<Edit> undo(PelkoDocument page);
-    /// Does the step that was last taken back again, or nothing.
+    /// Returns the page after the step that was undone last, or std::nullopt if there is none.
     std::optional<Edit> redo(PelkoDocument page);
 
 private:
@@ -56,7 +53,7 @@ private:
 
     Limits m_limits;
     QList<Step> m_past;
-    QList<Step> m_future; // the step that was taken back last stands last
+    QList<Step> m_future; // the step that was undone last is the last one
     PageChange::Size m_pastSize;
     std::optional<QList<Block>> m_present;
     std::optional<TypingRun> m_run;
