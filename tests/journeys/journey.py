@@ -131,6 +131,11 @@ class Pelko:
         self.point_at(node)
         subprocess.run(["xdotool", "click", str(button)], check=True)
 
+    def click_into(self, field):
+        """Clicks a field and waits for its focus: a busy window manager passes a click on later than the next key."""
+        self.click(field)
+        until(lambda: screen_reader().is_focused(field), "the clicked field has the focus")
+
     def wheel_down(self, notches=3):
         subprocess.run(["xdotool", "click", "--repeat", str(notches), "--delay", "30", "5"], check=True)
 

@@ -97,7 +97,7 @@ def reorder(pelko):
     time.sleep(1.5)
     assert pelko.data_file.read_bytes() == dropped, "a drag that is called off saves nothing"
 
-    pelko.click(field(pelko, "Delta"))
+    pelko.click_into(field(pelko, "Delta"))
     pelko.keys("End", "alt+Up", "alt+Up", "alt+Down", "alt+Up")
     pelko.type("!")
     pelko.wait_saved(

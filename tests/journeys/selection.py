@@ -84,7 +84,7 @@ def selection(pelko):
     pelko.keys("ctrl+v")
     wait_texts(pelko, ["The plan", "First of all, tea.", "---\nSaid who\nx = 1\nThe end"])
 
-    pelko.click(field_with(pelko, "The plan"))
+    pelko.click_into(field_with(pelko, "The plan"))
     pelko.keys("End", "shift+Down", "shift+End")
     pelko.type("!")
     wait_texts(pelko, ["The plan!", "---\nSaid who\nx = 1\nThe end"])

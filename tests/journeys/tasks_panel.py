@@ -87,7 +87,7 @@ def delete(pelko):
 
 
 def add(pelko):
-    pelko.click(pelko.wait_for("Add task"))
+    pelko.click_into(pelko.wait_for("Add task"))
     pelko.type("Call the printer")
     pelko.keys("Return")
     pelko.wait_saved(lambda saved: tasks_of(saved, OPEN)[1:] == [("Call the printer", False)], "a new task")
