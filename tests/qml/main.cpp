@@ -2,6 +2,7 @@
 #include "EditorFixture.h"
 #include "ExportFixture.h"
 #include "InputMethodFixture.h"
+#include "ItemTree.h"
 #include "PseudoLocale.h"
 #include "ShellFixture.h"
 #include "ShownTexts.h"
@@ -88,6 +89,8 @@ public Q_SLOTS:
         qmlRegisterType<EditorFixture>("PelkoTest", 1, 0, "EditorFixture");
         qmlRegisterType<ExportFixture>("PelkoTest", 1, 0, "ExportFixture");
         qmlRegisterType<InputMethodFixture>("PelkoTest", 1, 0, "InputMethodFixture");
+        qmlRegisterSingletonType<ItemTree>("PelkoTest", 1, 0, "ItemTree",
+                                           [](QQmlEngine *, QJSEngine *) { return new ItemTree; });
         qmlRegisterType<PseudoLocale>("PelkoTest", 1, 0, "PseudoLocale");
         qmlRegisterType<ShellFixture>("PelkoTest", 1, 0, "ShellFixture");
         qmlRegisterType<ShellWithMenuBar>("PelkoTest", 1, 0, "ShellWithMenuBar");

@@ -49,7 +49,7 @@ Item {
             page.forceActiveFocus()
             bench.advance(600)
             waitForRendering(page)
-            list = everything(page).find(item => item instanceof ListView)
+            list = ItemTree.all(page).find(item => item instanceof ListView)
         }
 
         function bodies(texts) {
@@ -64,16 +64,12 @@ Item {
             return bench.blocks().map(block => block.content).join(" ")
         }
 
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(child => everything(child)))
-        }
-
         function row(index) {
             return list.itemAtIndex(index)
         }
 
         function rowWith(text) {
-            return everything(list).find(item => item instanceof BlockRow && item.content === text)
+            return ItemTree.all(list).find(item => item instanceof BlockRow && item.content === text)
         }
 
         /// Where the editor of a block is seen, glide included.
@@ -206,8 +202,8 @@ Item {
             verify(dragged.lifted)
             verify(body.opacity > 0.9)
             tryCompare(body, "opacity", Metrics.liftedOpacity)
-            const card = everything(page).find(item => item instanceof LiftedBlock)
-            const picture = everything(card).find(item => item instanceof Image)
+            const card = ItemTree.all(page).find(item => item instanceof LiftedBlock)
+            const picture = ItemTree.all(card).find(item => item instanceof Image)
             tryCompare(picture, "status", Image.Ready)
             compare(picture.width, dragged.block.width)
             verify(card.visible)
@@ -342,7 +338,7 @@ Item {
 
         function test_altAndAnArrowInAChecklistMoveTheWholeOfIt() {
             open(bodies(["A"]).concat([{ type: "sticky", todos: [{ text: "milk", done: false }] }]))
-            const field = everything(page).find(item => item.Accessible.name === "milk" && item.selectedText === "")
+            const field = ItemTree.all(page).find(item => item.Accessible.name === "milk" && item.selectedText === "")
             field.forceActiveFocus()
             keyClick(Qt.Key_Up, Qt.AltModifier)
             compare(bench.blocks().map(block => block.type), ["sticky", "textSmall"])
@@ -361,7 +357,7 @@ Item {
         }
 
         function grips() {
-            return everything(page).filter(item => item instanceof BlockGrip && item.visible)
+            return ItemTree.all(page).filter(item => item instanceof BlockGrip && item.visible)
         }
 
         function test_theGripShowsUnderThePointerAndOpensTheMenu() {
@@ -373,7 +369,7 @@ Item {
             tryCompare(grips()[0], "opacity", 1)
             compare(grips()[0].Accessible.name, "Move Block")
             mouseClick(grips()[0])
-            tryVerify(() => everything(page).some(item => item.Accessible.name === "Delete Block" && item.visible))
+            tryVerify(() => ItemTree.all(page).some(item => item.Accessible.name === "Delete Block" && item.visible))
             keyClick(Qt.Key_Escape)
         }
 
@@ -397,7 +393,7 @@ Item {
             mouseMove(page, grip.x, below)
             mouseRelease(page, grip.x, below)
             compare(order(), "B A")
-            verify(!everything(page).some(item => item.Accessible.name === "Delete Block" && item.visible))
+            verify(!ItemTree.all(page).some(item => item.Accessible.name === "Delete Block" && item.visible))
         }
 
         function test_whatIsDroppedFromElsewhereChangesNothing_data() {

@@ -69,11 +69,7 @@ Item {
         }
 
         function shownRing(control) {
-            return everything(control).find(item => item instanceof FocusRing && item.shown)
-        }
-
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(everything))
+            return ItemTree.all(control).find(item => item instanceof FocusRing && item.shown)
         }
 
         function make(component) {
@@ -207,8 +203,7 @@ Item {
         }
 
         function label(button) {
-            const everything = item => [item].concat(...Array.from(item.children).map(everything))
-            return everything(button).find(item => item instanceof Text && item.visible)
+            return ItemTree.all(button).find(item => item instanceof Text && item.visible)
         }
 
         function test_bannerSaysWhatItWouldDo_data() {

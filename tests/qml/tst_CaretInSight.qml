@@ -37,15 +37,11 @@ Item {
             page.forceActiveFocus()
             bench.advance(0)
             waitForRendering(page)
-            list = everything(page).find(item => item instanceof ListView)
-        }
-
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(child => everything(child)))
+            list = ItemTree.all(page).find(item => item instanceof ListView)
         }
 
         function fields() {
-            return everything(page).filter(item => item instanceof TextEdit && item.visible)
+            return ItemTree.all(page).filter(item => item instanceof TextEdit && item.visible)
                 .sort((one, other) => one.mapToItem(page, 0, 0).y - other.mapToItem(page, 0, 0).y)
         }
 

@@ -37,12 +37,8 @@ Item {
             waitForRendering(page)
         }
 
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(child => everything(child)))
-        }
-
         function fields() {
-            return everything(page).filter(item => item.Accessible.role === Accessible.EditableText && item.visible)
+            return ItemTree.all(page).filter(item => item.Accessible.role === Accessible.EditableText && item.visible)
                 .sort((a, b) => a.mapToItem(page, 0, 0).y - b.mapToItem(page, 0, 0).y)
         }
 
@@ -135,7 +131,7 @@ Item {
 
         function test_keysLeaveWhatHasNoText(row) {
             open([{ type: "textSmall", content: "above" }, row.picture, { type: "textSmall", content: "below" }])
-            const block = everything(page).find(item => item instanceof BlockRow && !(item instanceof TextBlock))
+            const block = ItemTree.all(page).find(item => item instanceof BlockRow && !(item instanceof TextBlock))
             block.block.takeFocus(block.address, -1)
             press(row.keys)
             compare(place(), row.to)
@@ -149,7 +145,7 @@ Item {
 
         function test_keysDoNotLeadIntoAHiddenTitle(row) {
             open([row.picture, { type: "divider" }, row.picture])
-            const ends = everything(page).filter(item => item instanceof ImageBlock)
+            const ends = ItemTree.all(page).filter(item => item instanceof ImageBlock)
             for (const end of [ends[0], ends[ends.length - 1]]) {
                 end.block.takeFocus(end.address, -1)
                 press(row.key)
@@ -261,7 +257,7 @@ Item {
 
         function test_arrowsLeaveABlockWithoutText(row) {
             open(everyKind())
-            const rule = everything(page).find(item => item.Accessible.role === Accessible.Separator && item.visible)
+            const rule = ItemTree.all(page).find(item => item.Accessible.role === Accessible.Separator && item.visible)
             rule.forceActiveFocus()
             press(row.tag)
             compare(place().replace("body@0", "body@4"), row.to)

@@ -50,12 +50,8 @@ Item {
                 keyClick(letter)
         }
 
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(child => everything(child)))
-        }
-
         function fields() {
-            return everything(page).filter(item => item.Accessible.role === Accessible.EditableText && item.visible)
+            return ItemTree.all(page).filter(item => item.Accessible.role === Accessible.EditableText && item.visible)
         }
 
         function hover(field) {
@@ -65,7 +61,7 @@ Item {
 
         /// The visible items below the view that tell a screen reader this name.
         function named(name) {
-            return everything(page).filter(item => item.Accessible.name === name && item.visible)
+            return ItemTree.all(page).filter(item => item.Accessible.name === name && item.visible)
         }
 
         function test_openingAFreshPagePutsTheCaretIntoItsHeading() {
@@ -133,7 +129,7 @@ Item {
 
         function test_placeholdersStandWhereNothingIsWritten() {
             open([{ type: "textLarge" }, { type: "quote", content: "q" }])
-            const placeholder = everything(page).find(item => item.text === "Start writing..." && item.visible)
+            const placeholder = ItemTree.all(page).find(item => item.text === "Start writing..." && item.visible)
             verify(placeholder)
             const caret = placeholder.parent.cursorRectangle
             verify(Math.abs(placeholder.y - caret.y) <= 1, "it stands where its letters will")
@@ -183,7 +179,7 @@ Item {
 
         function test_aTickChangesItsEntry() {
             open([{ type: "sticky", todos: [{ text: "milk", done: false }, { text: "eggs", done: true }] }])
-            const ticks = everything(page).filter(item => item.Accessible.role === Accessible.CheckBox)
+            const ticks = ItemTree.all(page).filter(item => item.Accessible.role === Accessible.CheckBox)
             compare(ticks.map(tick => tick.Accessible.name), ["milk", "eggs"])
             compare(ticks.map(tick => tick.Accessible.checked), [false, true])
             mouseClick(ticks[0])
@@ -293,7 +289,7 @@ Item {
         function test_theFocusRingShowsOnlyWhereTheKeyboardWalked(row) {
             open([{ type: row.kind, picture: "red" }, { type: "textSmall", content: "b" }])
             const block = named(row.tag).find(item => item.activeFocus)
-            const ringed = () => everything(block).some(item => item instanceof FocusRing && item.shown)
+            const ringed = () => ItemTree.all(block).some(item => item instanceof FocusRing && item.shown)
             verify(block && !ringed())
             bench.editor.focusRequested(fields()[0].address, 0)
             for (let step = 0; step <= row.buttons; ++step)

@@ -44,16 +44,9 @@ Item {
 
         // The item on show that screen readers call so.
         function named(name, item = root) {
-            if (!item.visible)
-                return null
-            if ((item.Accessible.name === name && !item.Accessible.ignored) || item.text === name)
-                return item
-            for (const child of Array.from(item.children)) {
-                const found = named(name, child)
-                if (found)
-                    return found
-            }
-            return null
+            return ItemTree.all(item).find(
+                item => item.visible
+                    && ((item.Accessible.name === name && !item.Accessible.ignored) || item.text === name)) ?? null
         }
 
         function shown(name) {

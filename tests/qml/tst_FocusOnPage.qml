@@ -38,16 +38,12 @@ Item {
             waitForRendering(page)
         }
 
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(child => everything(child)))
-        }
-
         function fieldSaying(text) {
-            return everything(page).find(item => item instanceof TextEdit && item.visible && item.text === text)
+            return ItemTree.all(page).find(item => item instanceof TextEdit && item.visible && item.text === text)
         }
 
         function named(name) {
-            return everything(page).filter(item => item instanceof PressableControl && item.visible && item.name === name)
+            return ItemTree.all(page).filter(item => item instanceof PressableControl && item.visible && item.name === name)
         }
 
         function focused() {
@@ -88,7 +84,7 @@ Item {
 
         function test_typingOnADividerIsNotLost() {
             open([{ type: "divider" }, { type: "textSmall", content: "end" }])
-            const divider = everything(page).find(item => item instanceof DividerBlock)
+            const divider = ItemTree.all(page).find(item => item instanceof DividerBlock)
             divider.block.takeFocus(divider.address, -1)
             press(["X"])
             compare(written(), "divider textSmall:endx")
@@ -109,7 +105,7 @@ Item {
 
         function clickCross(text) {
             const field = fieldSaying(text)
-            const cross = everything(field.parent).find(item => item instanceof RemoveTodoButton)
+            const cross = ItemTree.all(field.parent).find(item => item instanceof RemoveTodoButton)
             mouseMove(page, 1, 1)
             mouseClick(cross, cross.width / 2, cross.height / 2)
         }
@@ -138,7 +134,7 @@ Item {
         function test_theCrossByKeyboardLeavesTheKeyboardInTheList() {
             open(milkAndRye())
             fieldSaying("body").takeFocus(1)
-            const cross = everything(fieldSaying("rye").parent).find(item => item instanceof RemoveTodoButton)
+            const cross = ItemTree.all(fieldSaying("rye").parent).find(item => item instanceof RemoveTodoButton)
             cross.forceActiveFocus(Qt.TabFocusReason)
             press(["Return"])
             compare(written(), "textSmall:body sticky[milk,salt]")

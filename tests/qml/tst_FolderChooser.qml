@@ -48,26 +48,14 @@ Item {
 
         // The item on show that screen readers call so, or the words.
         function named(name, item = root) {
-            if (!item.visible)
-                return null
-            if ((item.Accessible.name === name && !item.Accessible.ignored) || item.text === name)
-                return item
-            for (const child of Array.from(item.children)) {
-                const found = named(name, child)
-                if (found)
-                    return found
-            }
-            return null
+            return ItemTree.all(item).find(
+                item => item.visible
+                    && ((item.Accessible.name === name && !item.Accessible.ignored) || item.text === name)) ?? null
         }
 
         function rows() {
-            const found = []
-            const gather = item => {
-                if (item instanceof FolderRowButton && item.Accessible.role === Accessible.ListItem && item.visible)
-                    found.push(item)
-                Array.from(item.children).forEach(gather)
-            }
-            gather(named("Files"))
+            const found = ItemTree.all(named("Files")).filter(
+                item => item instanceof FolderRowButton && item.Accessible.role === Accessible.ListItem && item.visible)
             return found.sort((one, other) => one.y - other.y)
         }
 

@@ -46,20 +46,16 @@ Item {
             tryVerify(() => pictures().every(picture => picture.ready))
         }
 
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(child => everything(child)))
-        }
-
         function named(name) {
-            return everything(page).filter(item => item.Accessible.name === name && item.visible)
+            return ItemTree.all(page).filter(item => item.Accessible.name === name && item.visible)
         }
 
         function pictures() {
-            return everything(page).filter(item => item instanceof BlockPicture && item.visible && item.aspectRatio > 0)
+            return ItemTree.all(page).filter(item => item instanceof BlockPicture && item.visible && item.aspectRatio > 0)
         }
 
         function block(name) {
-            return everything(page).find(item => item instanceof BlockEditor && item.Accessible.name === name)
+            return ItemTree.all(page).find(item => item instanceof BlockEditor && item.Accessible.name === name)
         }
 
         function kinds() {
@@ -244,7 +240,7 @@ Item {
 
         function test_anUntitledBannerSaysSo() {
             open([{ type: "image", picture: "red", isFullWidth: true }])
-            verify(everything(block("Banner")).find(item => item.text === "Untitled" && item.visible))
+            verify(ItemTree.all(block("Banner")).find(item => item.text === "Untitled" && item.visible))
         }
 
         function test_whatIsTypedIntoTheTitleIsUndoneAndDoneAgain() {

@@ -77,10 +77,6 @@ Item {
         name: "InputMethods"
         when: windowShown
 
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(child => everything(child)))
-        }
-
         function isField(item) {
             return (item instanceof TextEdit || item instanceof TextInput) && item.visible
         }
@@ -115,7 +111,7 @@ Item {
             const view = openField(kind)
             bench.advance(0)
             waitForRendering(view)
-            field = everything(view).find(isField)
+            field = ItemTree.all(view).find(isField)
             field.forceActiveFocus()
             verify(field.activeFocus)
             compare(stored(), "")
@@ -276,7 +272,7 @@ Item {
             type("ab")
             inputMethod.compose("ni")
             const view = stage.children[stage.children.length - 1]
-            const other = everything(view).filter(isField)[1]
+            const other = ItemTree.all(view).filter(isField)[1]
             const place = other.mapToItem(view, 0, other.height / 2)
             mouseClick(view, row.x * view.width, place.y, Qt.LeftButton, Qt.ShiftModifier)
             compare(bench.blocks().map(block => block.type + " " + block.content), ["textSmall abni", "quote "])

@@ -43,12 +43,8 @@ Item {
             waitForRendering(page)
         }
 
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(child => everything(child)))
-        }
-
         function rows() {
-            return everything(page).filter(item => item as TodoRow)
+            return ItemTree.all(page).filter(item => item as TodoRow)
         }
 
         function rowOf(entry) {
@@ -60,7 +56,7 @@ Item {
         }
 
         function list() {
-            return everything(page).find(item => item as ListView)
+            return ItemTree.all(page).find(item => item as ListView)
         }
 
         function test_onlyEntriesInSightHaveRows() {
@@ -75,7 +71,7 @@ Item {
 
         function test_aJumpFromEndToEndMakesFewRows() {
             let most = 0
-            const todos = everything(page).find(item => item as StickyBlock).todos
+            const todos = ItemTree.all(page).find(item => item as StickyBlock).todos
             todos.rowsInserted.connect((parent, first, last) => most = Math.max(most, last - first + 1))
             keyClick(Qt.Key_End, Qt.ControlModifier)
             keyClick(Qt.Key_Up)

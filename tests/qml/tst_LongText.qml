@@ -50,12 +50,8 @@ Item {
             keyClick(Qt.Key_V, Qt.ControlModifier)
         }
 
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(child => everything(child)))
-        }
-
         function fields() {
-            return everything(page).filter(item => item.Accessible.role === Accessible.EditableText)
+            return ItemTree.all(page).filter(item => item.Accessible.role === Accessible.EditableText)
         }
 
         function field() {
@@ -302,9 +298,9 @@ Item {
         function test_itTellsHowMuchIsShown() {
             start(lines.repeat(13))
             tryVerify(() => field())
-            const notes = () => everything(page).filter(item => item.visible && item.text?.startsWith("Showing a long text"))
+            const notes = () => ItemTree.all(page).filter(item => item.visible && item.text?.startsWith("Showing a long text"))
             compare(notes().length, 0)
-            everything(page).find(item => item instanceof GrowthNote).patience = 50
+            ItemTree.all(page).find(item => item instanceof GrowthNote).patience = 50
             tryVerify(() => notes().length === 1, 20000)
             verify(/: [1-9][0-9]? %/.test(notes()[0].text), notes()[0].text)
             field().maximumHeight = 0
@@ -318,7 +314,7 @@ Item {
             tryVerify(() => field().isCut, 20000)
             const length = field().length
             verify(length < lines.length)
-            verify(everything(page).some(item => item.visible && item.text?.includes("more characters are kept")))
+            verify(ItemTree.all(page).some(item => item.visible && item.text?.includes("more characters are kept")))
             field().takeFocus(-1)
             compare(field().cursorPosition, length)
             keyClick(Qt.Key_X)

@@ -64,12 +64,7 @@ Item {
         }
 
         function labelIn(item) {
-            for (const child of Array.from(item.children)) {
-                const found = child.flameOpacity !== undefined ? child : labelIn(child)
-                if (found)
-                    return found
-            }
-            return null
+            return ItemTree.all(item).find(item => item instanceof MenuBarTimerLabel) ?? null
         }
 
         function test_atLaunchItIsADimFlame() {

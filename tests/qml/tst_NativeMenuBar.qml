@@ -63,14 +63,7 @@ Item {
 
         // The first visible item below `item` that answers to `name`.
         function named(item, name) {
-            if (!item.visible || item.Accessible.name === name)
-                return item.visible ? item : null
-            for (const child of Array.from(item.children)) {
-                const found = named(child, name)
-                if (found)
-                    return found
-            }
-            return null
+            return ItemTree.all(item).find(item => item.visible && item.Accessible.name === name) ?? null
         }
 
         function test_aMenuForEachTitle() {

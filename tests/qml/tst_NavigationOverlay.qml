@@ -48,13 +48,8 @@ Item {
         }
 
         /// Every visible item below `item` that `wanted` says yes to.
-        function all(item, wanted, found = []) {
-            if (!item.visible)
-                return found
-            if (wanted(item))
-                found.push(item)
-            Array.from(item.children).forEach(child => all(child, wanted, found))
-            return found
+        function all(item, wanted) {
+            return ItemTree.all(item).filter(item => item.visible && wanted(item))
         }
 
         function named(name) {
@@ -145,6 +140,14 @@ Item {
             overlay().pageWidth = row.pageWidth
             const field = focused()
             tryVerify(() => Math.abs(field.mapToItem(stage, field.width / 2, 0).x - row.middle) < 40)
+        }
+
+        function test_anAlmostInvisibleLayerLiesUnderIt() {
+            library()
+            open()
+            const layer = all(overlay(), item => item.parent === overlay() && item.color !== undefined)[0]
+            compare(layer.color, Qt.rgba(0, 0, 0, 0.01))
+            compare([layer.width, layer.height], [stage.width, stage.height])
         }
 
         function test_itShowsTheGreeting() {

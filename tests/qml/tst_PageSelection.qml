@@ -45,12 +45,8 @@ Item {
             return bench.blocks().map(block => block.content).join("|")
         }
 
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(child => everything(child)))
-        }
-
         function fields() {
-            return everything(page).filter(item => item.Accessible.role === Accessible.EditableText && item.visible)
+            return ItemTree.all(page).filter(item => item.Accessible.role === Accessible.EditableText && item.visible)
                 .sort((a, b) => a.mapToItem(page, 0, 0).y - b.mapToItem(page, 0, 0).y)
         }
 
@@ -79,7 +75,7 @@ Item {
 
         /// The kinds of the blocks that are shown selected as a whole.
         function washed() {
-            return everything(page).filter(item => item instanceof SelectionWash && item.children[0].visible)
+            return ItemTree.all(page).filter(item => item instanceof SelectionWash && item.children[0].visible)
                 .map(item => item.row.kind).join(" ")
         }
 
@@ -404,8 +400,8 @@ Item {
         function test_shiftClickOnAPictureExtendsToAllOfIt(row) {
             open([{ type: "textLarge", content: "first" }, { type: "image", picture: "gold" },
                 { type: "textSmall", content: "third" }])
-            tryVerify(() => everything(page).some(item => item instanceof BlockPicture && item.ready))
-            const picture = everything(page).find(item => item instanceof BlockPicture)
+            tryVerify(() => ItemTree.all(page).some(item => item instanceof BlockPicture && item.ready))
+            const picture = ItemTree.all(page).find(item => item instanceof BlockPicture)
             go(saying(row.from), row.caret)
             for (const height of [0.25, 0.75]) {
                 const there = picture.mapToItem(page, picture.width / 2, picture.height * height)
@@ -435,9 +431,9 @@ Item {
             open(three())
             select("first", 2, "third", 2)
             press("Menu")
-            tryVerify(() => everything(page).some(item => item.Accessible.name === "Delete Block" && item.visible))
+            tryVerify(() => ItemTree.all(page).some(item => item.Accessible.name === "Delete Block" && item.visible))
             press("Escape")
-            tryVerify(() => !everything(page).some(item => item.Accessible.name === "Delete Block" && item.visible))
+            tryVerify(() => !ItemTree.all(page).some(item => item.Accessible.name === "Delete Block" && item.visible))
             compare(selected(), "rst|second|th")
             press("Delete")
             compare(contents(), "fiird")
@@ -478,7 +474,7 @@ Item {
 
         function test_anEmptyTextInTheMiddleIsSeenSelected() {
             open([{ type: "textLarge", content: "first" }, { type: "textSmall" }, { type: "quote", content: "third" }])
-            const sliver = () => everything(fields()[1]).find(item => item.width === Metrics.space6 && item.color === FirePalette.selection)
+            const sliver = () => ItemTree.all(fields()[1]).find(item => item.width === Metrics.space6 && item.color === FirePalette.selection)
             verify(!sliver().visible)
             select("first", 2, "third", 2)
             verify(sliver().visible)

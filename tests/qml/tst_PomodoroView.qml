@@ -55,10 +55,7 @@ Item {
         }
 
         function all(item, test) {
-            if (!item.visible)
-                return []
-            return Array.from(item.children).reduce((found, child) => found.concat(all(child, test)),
-                                                    test(item) ? [item] : [])
+            return ItemTree.all(item).filter(item => item.visible && test(item))
         }
 
         function named(name) {

@@ -43,16 +43,12 @@ Item {
             wait(0)
         }
 
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(child => everything(child)))
-        }
-
         function fieldSaying(text) {
-            return everything(page).find(item => item instanceof TextEdit && item.text === text)
+            return ItemTree.all(page).find(item => item instanceof TextEdit && item.text === text)
         }
 
         function list() {
-            return everything(page).find(item => item instanceof ListView)
+            return ItemTree.all(page).find(item => item instanceof ListView)
         }
 
         /// Presses keys such as "Ctrl+End Up"; what left the view in between is gone by the next.

@@ -38,12 +38,8 @@ Item {
             waitForRendering(page)
         }
 
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(child => everything(child)))
-        }
-
         function fields() {
-            return everything(page).filter(item => item instanceof TextEdit && item.visible)
+            return ItemTree.all(page).filter(item => item instanceof TextEdit && item.visible)
                 .sort((one, other) => one.mapToItem(page, 0, 0).y - other.mapToItem(page, 0, 0).y)
         }
 

@@ -42,17 +42,13 @@ Item {
             return Qt.colorEqual(grabImage(stage).pixel(x, y), FirePalette.deepBackground)
         }
 
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(everything))
-        }
-
         function test_theCardShowsTheFlameAndTheName() {
             const card = createTemporaryObject(scene, stage).card
             compare(card.width, 1100)
             compare(card.height, 750)
             compare(card.opacity, 1)
-            const flame = everything(card).find(item => item instanceof AnimatedFlame)
-            const name = everything(card).find(item => item.text === "Pelko")
+            const flame = ItemTree.all(card).find(item => item instanceof AnimatedFlame)
+            const name = ItemTree.all(card).find(item => item.text === "Pelko")
             compare(flame.size, 56)
             fuzzyCompare(name.font.pointSize * Typography.pixelsPerPoint(), 20, 0.01)
             compare(name.font.weight, Font.DemiBold)
@@ -64,7 +60,7 @@ Item {
         function test_theNameComesAfterTheFlameAndTheCardFades() {
             const root = createTemporaryObject(scene, stage)
             const launch = root.program.launch
-            const name = everything(root.card).find(item => item.text === "Pelko").parent
+            const name = ItemTree.all(root.card).find(item => item.text === "Pelko").parent
             compare(name.opacity, 0)
             let shown = 0
             launch.showTitleChanged.connect(() => shown = Date.now())

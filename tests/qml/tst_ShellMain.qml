@@ -51,36 +51,15 @@ Item {
 
         // The first visible item below `item` that answers to `name`.
         function named(item, name) {
-            if (!item.visible || (item.name === name && item.Accessible.name === name))
-                return item.visible ? item : null
-            for (const child of Array.from(item.children)) {
-                const found = named(child, name)
-                if (found)
-                    return found
-            }
-            return null
+            return accessiblyNamed(item, name, item => item.name === name)
         }
 
-        function accessiblyNamed(item, name) {
-            if (!item.visible || item.Accessible.name === name)
-                return item.visible ? item : null
-            for (const child of Array.from(item.children)) {
-                const found = accessiblyNamed(child, name)
-                if (found)
-                    return found
-            }
-            return null
+        function accessiblyNamed(item, name, fits = () => true) {
+            return ItemTree.all(item).find(item => item.visible && item.Accessible.name === name && fits(item)) ?? null
         }
 
         function reading(item, text) {
-            if (!item.visible || item.text === text)
-                return item.visible ? item : null
-            for (const child of Array.from(item.children)) {
-                const found = reading(child, text)
-                if (found)
-                    return found
-            }
-            return null
+            return ItemTree.all(item).find(item => item.visible && item.text === text) ?? null
         }
 
         function test_emptyStateSaysItsLineAndOffersToWrite() {
@@ -110,13 +89,9 @@ Item {
             tryVerify(() => named(root, "Start Writing") && !named(root, "Heading"))
         }
 
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(everything))
-        }
-
         /// Where the window can be dragged, from top to bottom; those that a double click maximises are marked.
         function dragAreas() {
-            return everything(root).filter(item => item instanceof WindowDragArea && item.visible).map(item => {
+            return ItemTree.all(root).filter(item => item instanceof WindowDragArea && item.visible).map(item => {
                 const place = item.mapToItem(root, 0, 0)
                 return [place.x, place.y, item.width, item.height].join(" ") + (item.maximises ? " maximises" : "")
             })
@@ -126,7 +101,7 @@ Item {
             compare(dragAreas(), ["0 0 1100 750", "0 0 1100 " + Metrics.stripHeight + " maximises"])
             app.createDocuments(1)
             app.open(0)
-            const bar = () => everything(root).find(item => item instanceof BlockBar && item.opacity === 1)
+            const bar = () => ItemTree.all(root).find(item => item instanceof BlockBar && item.opacity === 1)
             tryVerify(() => dragAreas().length === 2 && bar())
             compare(dragAreas(), ["0 0 1100 " + Metrics.stripHeight + " maximises",
                                   [0, 750 - bar().height, 1100, bar().height].join(" ")])
@@ -135,14 +110,14 @@ Item {
         function test_pagesFadeIntoEachOther() {
             app.createDocuments(2)
             app.open(0)
-            tryVerify(() => everything(root).filter(item => item instanceof EditorView).every(view => view.opacity === 1))
+            tryVerify(() => ItemTree.all(root).filter(item => item instanceof EditorView).every(view => view.opacity === 1))
             app.open(1)
-            const views = everything(root).filter(item => item instanceof EditorView)
+            const views = ItemTree.all(root).filter(item => item instanceof EditorView)
             compare(views.length, 2)
             let seenTogether = false
             views.forEach(view => view.opacityChanged.connect(
                 () => seenTogether = seenTogether || views.every(other => other.opacity > 0 && other.opacity < 1)))
-            tryVerify(() => everything(root).filter(item => item instanceof EditorView).length === 1)
+            tryVerify(() => ItemTree.all(root).filter(item => item instanceof EditorView).length === 1)
             verify(seenTogether)
         }
 
@@ -321,14 +296,7 @@ Item {
         }
 
         function menuRows() {
-            const rows = []
-            const gather = item => {
-                if (item instanceof PopupMenuRow && item.visible)
-                    rows.push(item)
-                Array.from(item.children).forEach(gather)
-            }
-            gather(root)
-            return rows
+            return ItemTree.all(root).filter(item => item instanceof PopupMenuRow && item.visible)
         }
 
         function test_theMenuListsTheCommands() {

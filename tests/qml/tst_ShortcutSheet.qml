@@ -51,10 +51,8 @@ Item {
 
         // All visible items below `item` that say something to a screen reader.
         function spoken(item) {
-            if (!item.visible)
-                return []
-            const own = item.Accessible.name !== "" && !item.Accessible.ignored ? [item] : []
-            return own.concat(...Array.from(item.children).map(spoken))
+            return ItemTree.all(item).filter(
+                item => item.visible && item.Accessible.name !== "" && !item.Accessible.ignored)
         }
 
         function line(name) {

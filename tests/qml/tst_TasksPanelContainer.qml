@@ -57,14 +57,7 @@ Item {
         }
 
         function find(item, fits) {
-            if (fits(item))
-                return item
-            for (const child of Array.from(item.children)) {
-                const found = child.visible ? find(child, fits) : null
-                if (found)
-                    return found
-            }
-            return null
+            return ItemTree.all(item).find(item => item.visible && fits(item)) ?? null
         }
 
         function toggle() {

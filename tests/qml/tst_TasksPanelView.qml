@@ -50,18 +50,11 @@ Item {
         property var view
 
         function find(item, fits) {
-            if (fits(item))
-                return item
-            for (const child of Array.from(item.children)) {
-                const found = child.visible ? find(child, fits) : null
-                if (found)
-                    return found
-            }
-            return null
+            return ItemTree.all(item).find(item => item.visible && fits(item)) ?? null
         }
 
         function count(item, fits) {
-            return Array.from(item.children).reduce((sum, child) => sum + count(child, fits), fits(item) ? 1 : 0)
+            return ItemTree.all(item).filter(fits).length
         }
 
         function text(words) {
@@ -150,14 +143,8 @@ Item {
         }
 
         function rows() {
-            const told = []
-            const collect = item => {
-                if (item instanceof EventRow)
-                    told.push(item.Accessible.name)
-                Array.from(item.children).forEach(collect)
-            }
-            collect(kind(CalendarCard))
-            return told
+            return ItemTree.all(kind(CalendarCard)).filter(item => item instanceof EventRow)
+                .map(item => item.Accessible.name)
         }
 
         function badge(card) {

@@ -77,10 +77,6 @@ Item {
             language = createTemporaryObject(pseudo, test)
         }
 
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(everything))
-        }
-
         function open(scene) {
             const root = createTemporaryObject(window, stage)
             root.forceActiveFocus()
@@ -191,7 +187,7 @@ Item {
             const field = root.Window.activeFocusItem
             const pointer = field.mapToItem(root, field.width - 40, 10)
             mouseClick(root, pointer.x, pointer.y, Qt.RightButton)
-            const row = () => everything(root).find(item => item instanceof PopupMenuRow && item.visible && item.opacity === 1)
+            const row = () => ItemTree.all(root).find(item => item instanceof PopupMenuRow && item.visible && item.opacity === 1)
             tryVerify(row)
             verify(row().mirrored)
             fuzzyCompare(row().menu.card.x + row().menu.card.width, pointer.x, 1)
@@ -199,8 +195,8 @@ Item {
 
         function test_theSymbolOfTheTasksPanelIsMirrored() {
             const root = open("page")
-            const button = everything(root).find(item => item instanceof TasksPanelToggleButton)
-            const symbol = everything(button).find(item => item instanceof SymbolIcon)
+            const button = ItemTree.all(root).find(item => item instanceof TasksPanelToggleButton)
+            const symbol = ItemTree.all(button).find(item => item instanceof SymbolIcon)
             compare(symbol.rotation, 0)
             language.rightToLeft = true
             compare(symbol.rotation, 180)

@@ -67,12 +67,8 @@ Item {
                 keySequence(key)
         }
 
-        function everything(item) {
-            return [item].concat(...Array.from(item.children).map(child => everything(child)))
-        }
-
         function fields() {
-            return everything(page).filter(item => item instanceof TextEdit && item.visible)
+            return ItemTree.all(page).filter(item => item instanceof TextEdit && item.visible)
                 .sort((one, other) => one.mapToItem(page, 0, 0).y - other.mapToItem(page, 0, 0).y)
         }
 
@@ -148,7 +144,7 @@ Item {
             open([{ type: "textLarge", content: "t" }, { type: "textSmall", content: "text" }])
             go(1, 2)
             press(["Menu"])
-            tryVerify(() => everything(page).find(item => item instanceof PopupMenuRow && item.visible))
+            tryVerify(() => ItemTree.all(page).find(item => item instanceof PopupMenuRow && item.visible))
             press(["Down", "Return"])
             tryVerify(() => written() === "textLarge:t")
             press(["Ctrl+Z"])
@@ -217,7 +213,7 @@ Item {
             go(1, 0)
             press(["Backspace"])
             compare(written(), "textSmall:ab " + row.type + " textSmall:cd")
-            verify(everything(focused()).find(item => item instanceof FocusRing && item.shown))
+            verify(ItemTree.all(focused()).find(item => item instanceof FocusRing && item.shown))
             press(["Backspace"])
             compare(written(), "textSmall:ab textSmall:cd")
             compare(focused(), fields()[0])
