@@ -51,6 +51,17 @@ Item {
             verify(tallest <= 1.05)
         }
 
+        function test_theGlowGrowsToItsLargeEnd() {
+            const flame = createTemporaryObject(flameComponent, stage)
+            let brightest = 0
+            let largest = 0
+            flame.glowOpacityChanged.connect(() => brightest = Math.max(brightest, flame.glowOpacity))
+            flame.glowRadiusChanged.connect(() => largest = Math.max(largest, flame.glowRadius))
+            tryVerify(() => brightest > 0.59 && largest > 19.9, 6000)
+            verify(brightest <= 0.6)
+            verify(largest <= 20)
+        }
+
         function test_itsThreeSwingsNeverKeepStep() {
             const flame = createTemporaryObject(flameComponent, stage)
             const swings = Array.from(flame.resources).filter(item => item.motion)
