@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMetaEnum>
 #include <QRandomGenerator>
 
 #include <bit>
@@ -40,6 +41,16 @@ private Q_SLOTS:
                  R"({"id":"0A1B2C3D-4E5F-6789-ABCD-EF0123456789","type":"textSmall","content":"a\/b"}],)"
                  R"("createdAt":812345678.5}])");
         QCOMPARE(dataFileText({}), "[]");
+    }
+
+    void everyKindOfBlockComesBack()
+    {
+        const auto kinds = QMetaEnum::fromType<BlockType>();
+        PelkoDocument document(Space::work, 0);
+        document.blocks.clear();
+        for (int index = 0; index < kinds.keyCount(); ++index)
+            document.blocks.append(Block(BlockType(kinds.value(index)), u"x"_s));
+        QCOMPARE(readDocuments(dataFileText({document})), QList{document});
     }
 
     void everyCombinationOfOptionalFieldsComesBack()
