@@ -56,7 +56,7 @@ MenuLocation PelkoApp::menuLocation()
     return isOnMac ? MenuLocation::menuBar : MenuLocation::window;
 }
 
-/// The name under which a chooser of the desktop's own knows the window it belongs to.
+/// Returns the window's identifier for the desktop's file chooser.
 QString PelkoApp::activeWindowName()
 {
     const QWindow *window = QGuiApplication::focusWindow();
@@ -98,7 +98,7 @@ void PelkoApp::watchDataFolder()
     // Moving a folder only notifies watchers of its parent.
     const QStringList folders{QFile::decodeName(dataFolder().c_str()),
                               QFile::decodeName(dataFolder().parent_path().c_str())};
-    m_folderWatcher.removePaths(folders); // which may stand for folders that are gone
+    m_folderWatcher.removePaths(folders); // some may not exist any more
     m_folderWatcher.addPaths(folders);
 }
 

@@ -43,12 +43,11 @@ class QQuickWindow;
 class PelkoApp
 {
 public:
-    /// `instance` has locked the data folder and must outlive the program.
+    /// `instance` has locked the data folder and must outlive this object.
     explicit PelkoApp(SingleInstance &instance);
     ~PelkoApp();
 
-    /// Runs until the program is to end. Returns the exit code: 1 where the window's contents could not be
-    /// loaded.
+    /// Runs the event loop. Returns the exit code, 1 if the window's contents could not be loaded.
     int run();
 
 private:

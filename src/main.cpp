@@ -69,7 +69,7 @@ int sayThereIsNoFolder()
 }
 
 /// If another process has locked the data folder, prints its reply and returns the exit code. Otherwise this
-/// one has it.
+/// process has locked it.
 std::optional<int> forwardToRunning(SingleInstance &instance)
 {
     if (const auto answer = instance.lockOrForward(QCoreApplication::arguments()))
@@ -119,8 +119,8 @@ int runInTerminal(int &argc, char *argv[])
     return say({u"pelko: %1\n"_s.arg(MainTexts::tr("Pelko is not running.")), 1});
 }
 
-/// Before there is an application: of two in one process, the second would have no accessibility, as Qt
-/// forgets with the first one who provides it.
+/// Called before the application exists: a second application in one process would have no accessibility,
+/// because Qt removes its provider with the first one.
 bool wantsWindow(int argc, char *argv[])
 {
     QStringList arguments;

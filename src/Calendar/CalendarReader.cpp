@@ -38,7 +38,7 @@ void CalendarReader::read(QByteArrayView text)
 
 void CalendarReader::begin(QByteArrayView component)
 {
-    // No event is part of another: where one begins, an earlier one has lost its end.
+    // Events are never nested: at a BEGIN, an earlier event has lost its END.
     if (isNamed(component, "VEVENT")) {
         m_event.emplace();
         m_zone.reset();

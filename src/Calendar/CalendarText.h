@@ -10,8 +10,8 @@
 /// read as Latin-1.
 std::optional<QString> titleFrom(QByteArrayView value);
 
-/// "one,two" as two.
+/// Splits a comma-separated list.
 std::vector<QByteArrayView> listItems(QByteArrayView value);
 
-/// "+0130" or "-053000" as seconds; 0 for what is neither.
+/// Returns the seconds of an offset such as "+0130" or "-053000"; 0 if it is malformed.
 int offsetFrom(QByteArrayView value);

@@ -26,7 +26,7 @@ std::optional<qint64> secondsOfTime(QByteArrayView digits)
     const auto second = number(digits.sliced(4, 2));
     if (!hour || !minute || !second || *hour > 23 || *minute > 59 || *second > 60)
         return std::nullopt;
-    return (*hour * 60 + *minute) * 60 + std::min(*second, 59); // a leap second is no second of its own
+    return (*hour * 60 + *minute) * 60 + std::min(*second, 59); // a leap second is rounded down
 }
 
 std::optional<qint64> midnight(QByteArrayView digits)

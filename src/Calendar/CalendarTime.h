@@ -7,9 +7,9 @@
 #include <memory>
 #include <optional>
 
-/// A time as calendars write it: what a clock on some wall shows, or a whole day.
+/// A DATE or DATE-TIME value: a wall time or a whole day.
 struct CalendarTime {
-    /// Seconds since 1970 as if the clock hung in Greenwich; the midnight of a day.
+    /// Seconds since 1970-01-01 00:00 on the clocks of the zone; midnight for a whole day.
     qint64 wall = 0;
     bool isDay = false;
     /// The time zone of `wall`; never null.
@@ -18,7 +18,7 @@ struct CalendarTime {
     qint64 utc() const { return zone->utc(wall); }
 };
 
-/// A duration of calendar days, which a change of daylight saving time may lengthen or shorten, plus seconds.
+/// A duration in calendar days, whose length depends on daylight saving time, plus seconds.
 struct CalendarDuration {
     qint64 days = 0;
     qint64 seconds = 0;
@@ -26,7 +26,7 @@ struct CalendarDuration {
     bool operator==(const CalendarDuration &) const = default;
 
     qint64 roughSeconds() const { return days * 86400 + seconds; }
-    /// Returns the end, in UTC seconds, of an event that starts at `wall` in a zone; never before its start.
+    /// Returns the end, in UTC seconds, of an event that starts at `wall` in the zone; not before its start.
     qint64 endUtc(qint64 wall, const TimeZone &zone) const;
 };
 

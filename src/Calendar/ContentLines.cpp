@@ -101,7 +101,7 @@ QByteArrayView ContentLines::takeUnfolded()
     m_unfolded.append(first);
     while (continues()) {
         const QByteArrayView piece = takePiece().sliced(1);
-        // A picture may be folded into a calendar: it is walked over, not kept.
+        // An embedded picture may be folded into many lines: it is skipped, not kept.
         if (m_unfolded.size() <= longestLine)
             m_unfolded.append(piece);
     }

@@ -4,8 +4,8 @@
 
 #include <optional>
 
-/// One parsed content line of iCalendar: "NAME;PARAMETER=VALUE:VALUE". The parts are views into the
-/// text or, where a line was folded, into the lines it was read from, and hold until the next one is read.
+/// One content line of iCalendar: "NAME;PARAMETER=VALUE:VALUE". The parts are views, valid until the next
+/// line is read.
 struct ContentLine {
     QByteArrayView name;
     QByteArrayView parameters;

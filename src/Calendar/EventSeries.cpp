@@ -10,7 +10,7 @@
 
 namespace
 {
-/// Sorts pointers: sorting the values makes GCC warn of an uninitialised title, which is optional.
+/// Sorts pointers, because GCC warns about an uninitialised optional title when values are sorted.
 QList<Occurrence> byStartWithoutDuplicates(const QList<Occurrence> &occurrences)
 {
     QList<const Occurrence *> order;
@@ -74,7 +74,7 @@ void EventSeries::addRepeated(QList<Occurrence> &found, const CalendarEntry &ent
     }
 }
 
-/// The times an entry has by itself, near a span: without those that were left out or changed one by one.
+/// Returns the occurrences of one entry near the range, without excluded and overridden ones.
 EventSeries::Instances EventSeries::instances(const CalendarEntry &entry, const TimeRange &span,
                                               const IsCancelled &isCancelled) const
 {

@@ -39,7 +39,7 @@ public:
     QList<Occurrence> occurrences(const TimeRange &span, const IsCancelled &isCancelled) const;
 
 private:
-    using Instances = QMap<qint64, CalendarDuration>; // by the wall time in the zone of the entry
+    using Instances = QMap<qint64, CalendarDuration>; // by wall time in the zone of the entry
 
     Instances instances(const CalendarEntry &entry, const TimeRange &span,
                         const IsCancelled &isCancelled) const;

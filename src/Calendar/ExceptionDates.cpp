@@ -2,7 +2,7 @@
 
 namespace
 {
-/// Counted from the first day of 1970.
+/// Returns the number of days since 1970-01-01.
 qint64 dayNumber(qint64 wall)
 {
     constexpr qint64 day = 86400;

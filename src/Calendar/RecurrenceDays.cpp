@@ -6,8 +6,8 @@ namespace
 {
 using Frequency = RecurrenceParts::Frequency;
 
-/// Whether a list names a place among `count`, counted from the front or from the back. An empty list names
-/// all.
+/// Returns whether a list selects number `place` of `count`; negative values count from the end. An empty
+/// list selects all.
 bool names(const std::vector<int> &values, int place, int count)
 {
     return values.empty() || std::ranges::any_of(values, [place, count](int value) {
@@ -18,7 +18,7 @@ bool names(const std::vector<int> &values, int place, int count)
 
 bool RecurrenceDays::isOn(QDate day) const
 {
-    // Most lists are empty, and the fields of a QDate are computed.
+    // Most lists are empty, and computing the fields of a QDate takes time.
     return (m_parts.months.empty() || names(m_parts.months, day.month(), 12)) &&
            (m_parts.monthDays.empty() || names(m_parts.monthDays, day.day(), day.daysInMonth())) &&
            (m_parts.yearDays.empty() || names(m_parts.yearDays, day.dayOfYear(), day.daysInYear())) &&
@@ -67,7 +67,7 @@ std::vector<QDate> RecurrenceDays::inYear(int year) const
 
 QDate RecurrenceDays::firstWeek(int year) const
 {
-    const QDate day(year, 1, 4); // always in it
+    const QDate day(year, 1, 4); // the first ISO week contains January 4
     return day.addDays(-((day.dayOfWeek() - m_parts.firstDayOfWeek + 7) % 7));
 }
 

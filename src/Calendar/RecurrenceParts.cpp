@@ -54,7 +54,7 @@ bool readList(std::vector<int> &list, QByteArrayView text, int least, int most)
     return true;
 }
 
-/// Of numbers that count from the front or, below zero, from the back.
+/// Reads numbers that count from the start or, if negative, from the end.
 bool readPlaces(std::vector<int> &list, QByteArrayView text, int most)
 {
     return readList(list, text, -most, most) && !std::ranges::binary_search(list, 0);
@@ -122,7 +122,7 @@ bool readPart(RecurrenceParts &parts, QByteArrayView name, QByteArrayView value)
     if (isSame(name, "BYMINUTE"))
         return readList(parts.minutes, value, 0, 59);
     if (isSame(name, "BYSECOND"))
-        return readList(parts.seconds, value, 0, 59); // a leap second is no second of its own
+        return readList(parts.seconds, value, 0, 59); // 60, a leap second, is not supported
     if (isSame(name, "BYSETPOS"))
         return readPlaces(parts.positions, value, 366);
     return readLimit(parts, name, value);

@@ -4,14 +4,14 @@
 
 #include <vector>
 
-/// The parts of a recurrence rule, RFC 5545, section 3.3.10. A BY part that is not given is an empty list;
-/// the values of a list are sorted, each once.
+/// The parts of a recurrence rule, RFC 5545, section 3.3.10. A missing BY part is an empty list; the values
+/// of a list are sorted and unique.
 struct RecurrenceParts {
     enum class Frequency { secondly, minutely, hourly, daily, weekly, monthly, yearly };
 
     struct WeekDay {
         int day = 1;      // as in QDate: 1 is Monday
-        int position = 0; // among such days of the month or year, from the end where negative; 0 is every one
+        int position = 0; // which of these days in the month or year, negative from the end; 0 is every one
 
         auto operator<=>(const WeekDay &) const = default;
     };

@@ -52,7 +52,7 @@ void RecurrencePeriods::skipTo(qint64 moment)
     qint64 units = 0;
     switch (m_parts.frequency) {
     case Frequency::yearly:
-        units = day.year() - m_firstDay.year() - 1; // the weeks of a year may begin in the one before
+        units = day.year() - m_firstDay.year() - 1; // the weeks of a year may begin in the year before
         break;
     case Frequency::monthly:
         units = (day.year() - m_firstDay.year()) * 12 + day.month() - m_firstDay.month();

@@ -9,7 +9,7 @@ namespace
 {
 constexpr int mostTimes = 10'000;
 constexpr int mostPeriods = 1'000'000;
-constexpr int mostEmptyPeriods = 50'000; // one after the other
+constexpr int mostEmptyPeriods = 50'000; // in a row
 } // namespace
 
 std::optional<RecurrenceRule> RecurrenceRule::parse(QByteArrayView text)
@@ -47,7 +47,7 @@ std::vector<qint64> RecurrenceRule::times(const CalendarTime &start, const Range
     if (last < first || (start.isDay && m_parts->isWithinDay()))
         return times;
     RecurrencePeriods periods(*m_parts, start);
-    if (!m_parts->count) // otherwise all times have to be counted
+    if (!m_parts->count) // with COUNT, all times from the start must be counted
         periods.skipTo(first);
     int found = 0;
     int empty = 0;

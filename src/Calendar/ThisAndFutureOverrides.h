@@ -21,5 +21,5 @@ public:
 
 private:
     const CalendarEntry &m_entry;
-    std::map<qint64, const CalendarEntry *> m_changes; // by the wall time from which on they hold
+    std::map<qint64, const CalendarEntry *> m_changes; // by the wall time of the first occurrence they change
 };

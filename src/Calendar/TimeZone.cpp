@@ -4,7 +4,7 @@
 
 qint64 TimeZone::utc(qint64 wall) const
 {
-    constexpr qint64 day = 86400; // clocks are not changed twice within two days
+    constexpr qint64 day = 86400; // clocks do not change twice within two days
     const qint64 before = offsetAt(wall - day);
     const qint64 after = offsetAt(wall + day);
     if (before == after || offsetAt(wall - before) == before || offsetAt(wall - after) != after)

@@ -13,7 +13,7 @@ public:
 
     qint64 wall(qint64 utc) const { return utc + offsetAt(utc); }
 
-    /// Returns the UTC time of a wall time. Of an ambiguous wall time it is the first; a skipped one is
+    /// Returns the UTC time of a wall time. An ambiguous wall time is the earlier one; a skipped one is
     /// converted with the offset before the transition.
     qint64 utc(qint64 wall) const;
 };

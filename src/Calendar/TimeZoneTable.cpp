@@ -6,9 +6,9 @@
 namespace
 {
 constexpr qsizetype longestName = 256;
-constexpr qsizetype mostNames = 1000; // looking for a zone that does not exist takes its time
+constexpr qsizetype mostNames = 1000; // looking up an unknown zone is slow
 
-/// Zones without a continent before them. Of any other word Qt would make a zone as well: one at Greenwich.
+/// Zone names without a continent. Qt accepts any other word as a zone with offset 0.
 constexpr std::array shortNames{"GMT", "WET", "CET",     "MET",     "EET",     "EST",
                                 "MST", "HST", "EST5EDT", "CST6CDT", "MST7MDT", "PST8PDT"};
 
@@ -30,7 +30,7 @@ QTimeZone systemZone(const QByteArray &name)
     const QByteArray ofWindows = QTimeZone::windowsIdToDefaultIanaId(name);
     if (!ofWindows.isEmpty())
         return QTimeZone(ofWindows);
-    // "/somebody.org/2024/Europe/Berlin": the IANA id is the end of it, up to three components.
+    // "/somebody.org/2024/Europe/Berlin": the IANA id is the last one to three components.
     QByteArray rest = name;
     for (;;) {
         if (rest.compare("UTC", Qt::CaseInsensitive) == 0)

@@ -31,7 +31,7 @@ private:
 
     std::shared_ptr<const TimeZone> m_local;
     std::shared_ptr<const TimeZone> m_utc;
-    QHash<QByteArray, std::shared_ptr<const TimeZone>> m_system; // null where the system has none
+    QHash<QByteArray, std::shared_ptr<const TimeZone>> m_system; // null if the system has no such zone
     QHash<QByteArray, std::shared_ptr<VTimeZone>> m_written;
 };
 

@@ -6,7 +6,7 @@ namespace
 {
 constexpr qint64 twoYears = qint64(86400) * 731;
 
-/// How far ahead of the world's clocks those of a zone stay.
+/// A zone with a constant offset.
 class FixedTimeZone : public TimeZone
 {
 public:

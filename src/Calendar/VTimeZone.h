@@ -6,14 +6,14 @@
 
 /// A STANDARD or DAYLIGHT section of a VTIMEZONE. Offsets are seconds east of UTC.
 struct Observance {
-    /// Its first onset, as wall time with `offsetBefore`.
+    /// The first onset, as wall time with `offsetBefore`.
     qint64 start = 0;
     qint64 offsetBefore = 0;
     qint64 offset = 0;
     std::vector<qint64> dates = {};
     std::optional<RecurrenceRule> rule = std::nullopt;
 
-    /// Returns its last onset at or before a UTC time, or std::nullopt.
+    /// Returns the last onset at or before a UTC time, or std::nullopt.
     std::optional<qint64> lastBeginning(qint64 utc) const;
 
     /// Returns the rule's onsets in the four years around a wall time. The last result is cached, because
@@ -34,6 +34,6 @@ public:
     qint64 offsetAt(qint64 utc) const override;
 
 private:
-    std::vector<Observance> m_observances; // by their start
+    std::vector<Observance> m_observances; // sorted by start
     std::shared_ptr<const TimeZone> m_otherwise;
 };

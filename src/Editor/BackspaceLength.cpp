@@ -9,8 +9,8 @@
 namespace
 {
 
-/// Looking for clusters from the start of a long text would take too long for a key; an ASCII character
-/// begins a cluster.
+/// Returns a start of a cluster near the end: searching a long text from its start is too slow for a key. An
+/// ASCII character always begins a cluster.
 qsizetype nearClusterStart(QStringView text)
 {
     qsizetype start = text.size() - 1;
@@ -24,7 +24,8 @@ bool isRegionalIndicator(char32_t codePoint)
     return codePoint >= 0x1F1E6 && codePoint <= 0x1F1FF;
 }
 
-/// How many regional indicators the text ends with. Two are a flag; Qt pairs them wrongly behind an emoji.
+/// Returns the number of regional indicators at the end of the text. Two make a flag; Qt pairs them wrongly
+/// behind an emoji.
 qsizetype regionalIndicatorsAtEnd(QStringView text)
 {
     const QList<uint> codePoints = text.toUcs4();
@@ -32,8 +33,8 @@ qsizetype regionalIndicatorsAtEnd(QStringView text)
     return std::ranges::distance(backwards | std::views::take_while(isRegionalIndicator));
 }
 
-/// Pictographs and regional indicators, and what makes an emoji of another character: the variation selector
-/// and the keycap.
+/// Returns whether the character is a pictograph, a regional indicator, or the variation selector or keycap
+/// that turns another character into an emoji.
 bool belongsToEmoji(char32_t codePoint)
 {
     return (codePoint >= 0x1F000 && codePoint <= 0x1FAFF) || codePoint == 0xFE0F || codePoint == 0x20E3;

@@ -2,7 +2,7 @@
 
 #include <QStringView>
 
-/// Returns how many UTF-16 units Backspace deletes behind the text `before` the caret: a whole emoji,
-/// whatever it is composed of, else one code point. Combining marks thus go one by one. 0 where there is no
-/// text.
+/// Returns the number of UTF-16 units that Backspace deletes behind the text `before` the caret: a whole
+/// emoji, however it is composed, otherwise one code point. Combining marks are thus deleted one by one. 0 if
+/// there is no text.
 qsizetype backspaceLength(QStringView before);

@@ -4,9 +4,8 @@
 
 #include <QObject>
 
-/// The drag of one block over the open page: which block it is, and what happens to the page on its way from
-/// row to row. Only the drop saves; a drag that is called off puts the block back where it came from. Ids
-/// cross into QML as strings. Steps that find nothing change nothing.
+/// The drag of one block over the open page. The page changes with each row that the block reaches, but only
+/// the drop saves; a cancelled drag puts the block back. Ids are strings in QML. Unknown ids change nothing.
 class BlockDrag : public QObject
 {
     Q_OBJECT
@@ -15,11 +14,11 @@ class BlockDrag : public QObject
 public:
     explicit BlockDrag(AppState &appState, QObject *parent = nullptr);
 
-    /// The block that is dragged; empty for none.
+    /// The id of the dragged block; empty if there is none.
     QString draggingBlockID() const;
 
     Q_INVOKABLE void begin(const QString &blockID);
-    /// The pointer came to the row of that block.
+    /// Call it when the pointer enters the row of the block.
     Q_INVOKABLE void enter(const QString &blockID);
     Q_INVOKABLE void drop();
     Q_INVOKABLE void cancel();
@@ -28,7 +27,7 @@ Q_SIGNALS:
     void draggingBlockIDChanged();
 
 private:
-    /// Where the dragged block came from, as long as the page is long enough.
+    /// The row of the dragged block before the drag, limited to the length of the page.
     qsizetype origin(const PelkoDocument &page) const;
 
     AppState &m_appState;

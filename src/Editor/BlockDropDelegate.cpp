@@ -12,8 +12,7 @@ void BlockDropDelegate::dropEntered() const
         return;
     const qsizetype from = BlockOperations::indexOf(*page, *draggingBlockID);
     const qsizetype to = BlockOperations::indexOf(*page, targetBlock.id);
-    // In the place of the target: it gives way upwards to what comes from above, downwards to what comes
-    // from below.
+    // After removal, the target moves up if the block comes from above, and down if it comes from below.
     if (from >= 0 && to >= 0)
         appState.moveBlock(page->id, from, to);
 }

@@ -6,29 +6,28 @@ class AppState;
 
 enum class DropOperation { copy, move };
 
-/// What letting go here would do, for the pointer to show.
+/// The operation that a drop would perform, for the shape of the pointer.
 struct DropProposal {
     DropOperation operation;
 
     bool operator==(const DropProposal &) const = default;
 };
 
-/// What one row of the page does while a block is dragged over it, and when it is let go there. Blocks are
-/// reordered within the open document only; whatever cannot be found makes a step do nothing. A value that
-/// lives as long as one step of a drag.
+/// The drop target for one row of the page. Blocks are reordered within the open document only; unknown
+/// blocks change nothing. A value for a single event of a drag.
 struct BlockDropDelegate {
-    /// The block of the row.
+    /// The block of this row.
     Block targetBlock;
-    /// The page as it was shown; where its blocks stand now is read from the store.
+    /// The page as it was shown; the present order of its blocks is read from the store.
     PelkoDocument document;
     AppState &appState;
-    /// The editor's note of what is dragged; nothing while no drag is under way.
+    /// The dragged block, owned by the editor; std::nullopt if there is no drag.
     std::optional<QUuid> &draggingBlockID;
 
-    /// The pointer came to this row: the dragged block takes its place, in memory only. Going down it lands
-    /// below the row, going up above it.
+    /// The pointer entered this row: moves the dragged block to it, without saving. A block that moves down
+    /// comes to lie below the row, one that moves up above it.
     void dropEntered() const;
     DropProposal dropUpdated() const;
-    /// The order that the steps before reached is stored. Always true.
+    /// Stores the order that the moves have produced. Always returns true.
     bool performDrop() const;
 };

@@ -6,27 +6,27 @@
 
 #include <map>
 
-/// A block together with what its neighbours make of it.
+/// A block and what its display needs to know of its neighbours.
 struct BlockRow {
     Block block;
-    /// The kind of the block above; nothing for the first.
+    /// The kind of the block above; std::nullopt for the first block.
     std::optional<BlockType> above;
     bool isBanner = false;
     bool isBelowBanner = false;
     bool canDelete = false;
 };
 
-/// The delegate that shows a kind of block: its raw name, or "text" for all text-like kinds, which share one,
-/// so that a body block which becomes a heading keeps its field and its caret.
+/// Returns the delegate of a kind of block: its raw name, or "text" for all text-like kinds, which share one,
+/// so that a body block that becomes a heading keeps its field and its caret.
 QString delegateName(BlockType type);
 
-/// A row whose delegate changes is another row to the views.
+/// A block whose delegate changes counts as another row.
 inline std::pair<QUuid, QString> rowKey(const BlockRow &row)
 {
     return {row.block.id, delegateName(row.block.type)};
 }
 
-/// The blocks of one page for QML.
+/// The blocks of a page for QML.
 class BlockListModel : public IdListModel<BlockRow>
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ public:
         /// See delegateName(); never changes while the row lives.
         DelegateRole,
         ContentRole,
-        /// As PictureBytes.
+        /// A PictureBytes.
         ImageDataRole,
         HasImageRole,
         IsFullWidthRole,
@@ -64,8 +64,8 @@ protected:
     QList<int> changedRoles(const BlockRow &before, const BlockRow &after) const override;
 
 private:
-    /// Nearly every change leaves the rows where they are: then no other row is touched than those that
-    /// differ.
+    /// For the usual case that no row is added, removed or moved: updates only the rows that differ. Returns
+    /// whether it was possible.
     bool publishInPlace(const PelkoDocument &document);
     void publishTodos(const QList<Block> &blocks);
 

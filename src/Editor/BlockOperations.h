@@ -2,46 +2,49 @@
 
 #include "Editor/Edit.h"
 
-/// The operations on whole blocks: a page in, the changed page out. Nothing is returned when there is
-/// nothing to do, because an id is unknown or a rule forbids it.
+/// Operations on whole blocks. They take the page and return the changed one, or std::nullopt if an id is
+/// unknown or the operation is not allowed.
 namespace BlockOperations
 {
 
-/// A fresh block of that kind; a checklist starts with one empty entry.
+/// Returns a new block of the kind; a checklist has one empty entry.
 Block newBlock(BlockType type);
 
-/// Where the first block of that id stands, or -1.
+/// Returns the index of the first block with this id, or -1.
 qsizetype indexOf(const PelkoDocument &document, const QUuid &blockID);
 
-/// Whether the page opens with a picture that is shown as its banner.
+/// Returns whether the first block is a picture that is shown as the banner.
 bool firstBlockIsBanner(const PelkoDocument &document);
 
-/// Whether a block's own delete button is shown: never for the last block nor for a leading heading.
+/// Returns whether the delete button of a block is shown: not for the only block and not for a leading
+/// heading.
 bool canDelete(const PelkoDocument &document, qsizetype index);
 
-/// Whether the context menu offers to delete: looser than `canDelete`, a leading heading may go.
+/// Returns whether the context menu offers to delete blocks. Unlike `canDelete` it includes a leading
+/// heading.
 bool offersDelete(const PelkoDocument &document);
 
-/// The first text-like block without text, or nothing.
+/// Returns the first text-like block without text.
 std::optional<QUuid> firstEmptyTextBlock(const PelkoDocument &document);
 
-/// The first text-like block, or nothing.
+/// Returns the first text-like block.
 std::optional<QUuid> firstTextBlock(const PelkoDocument &document);
 
-/// New blocks always go last and are scrolled to. The focus names the new block when it is text-like.
+/// Adds a new block at the end of the page, to be scrolled to. It gets the focus if it is text-like.
 Edit addBlock(PelkoDocument document, BlockType type);
 
-/// Goes on at the end of the page: in its last block, or in a new body block when that is none to write in.
+/// Gives the focus to the end of the page: to the last block, or to a new body block if the last one has no
+/// text.
 std::optional<Edit> writeBelow(PelkoDocument document);
 
 /// Removes the block, unless it is the only one.
 std::optional<Edit> deleteBlock(PelkoDocument document, const QUuid &blockID);
 
-/// Moves the block so many rows down, or up when `rows` is negative. It stays where the page ends.
+/// Moves the block down by `rows`, or up if it is negative, at most to the end of the page.
 std::optional<Edit> moveBlock(PelkoDocument document, const QUuid &blockID, int rows);
 
-/// Turns a picture into the banner at the top of the page, and back. A banner takes the place of a blank
-/// leading heading; without one the page gets its heading back. The focus names a new banner.
+/// Turns a picture into the banner at the top of the page, or back. A banner replaces a blank leading
+/// heading; when it is turned back, the page gets a heading again. A new banner gets the focus.
 std::optional<Edit> toggleFullWidth(PelkoDocument document, const QUuid &blockID);
 
 } // namespace BlockOperations

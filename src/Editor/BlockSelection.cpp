@@ -55,7 +55,7 @@ void SelectedParts::cover(const Passages &passages)
         if (!isTextLike(part.passage.type) && !(part.passage.text && isWithinOneBlock))
             m_covered.insert(part.passage.id.blockID);
     }
-    // Where the selection begins or ends inside a block, some of the block is left over.
+    // At the ends of the selection a part of the block may be unselected.
     for (const bool atEnd : {false, true}) {
         const SelectedPart &part = atEnd ? m_parts.last() : m_parts.first();
         const Passage *outside = passages.neighbour(part.passage.id, atEnd);

@@ -4,7 +4,7 @@
 
 #include <QSet>
 
-/// What the writer has selected on a page: from where it was begun to where it has come.
+/// The selection on a page, from its anchor to its moving end.
 struct BlockSelection {
     PagePosition anchor;
     PagePosition head;
@@ -19,12 +19,12 @@ struct SelectedPart {
     int end = 0;
 
     bool isWhole() const { return start == 0 && end == passage.length(); }
-    /// The selected text; nothing where the passage has none.
+    /// The selected text; std::nullopt if the passage has no text.
     std::optional<QString> text() const;
 };
 
-/// A selection laid over a page: its parts in reading order. A passage without text that the selection only
-/// touches from one side does not belong to it. No parts where an end of the selection is not on the page.
+/// The parts of a selection in reading order. A passage without text is included only if the selection covers
+/// it. Empty if an end of the selection is not on the page.
 class SelectedParts
 {
 public:
@@ -32,12 +32,12 @@ public:
     SelectedParts(const Passages &passages, const BlockSelection &selection);
 
     const QList<SelectedPart> &all() const { return m_parts; }
-    /// Whether it reaches over more than one passage, or holds one without text.
+    /// Returns whether it contains several passages, or one without text.
     bool isCrossing() const;
-    /// The part of that passage, or nothing.
+    /// Returns the part of the passage, or nullptr.
     const SelectedPart *of(const TextAddress &id) const;
-    /// Whether a block that is more than text, such as a picture or a checklist, is selected as a whole, from
-    /// a place outside.
+    /// Returns whether a block such as a picture or a checklist is selected as a whole, from a position
+    /// outside.
     bool covers(const QUuid &blockID) const { return m_covered.contains(blockID); }
 
 private:

@@ -49,7 +49,7 @@ protected:
     }
 };
 
-/// A banner is told by its title alone, as a heading.
+/// A banner is represented by its title, as a heading.
 class MarkedUpText : public BlockFormat
 {
 protected:

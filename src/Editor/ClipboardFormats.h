@@ -4,17 +4,17 @@
 
 #include <QList>
 
-/// Blocks as text for other programs.
+/// Converts blocks to the clipboard formats for other programs.
 namespace ClipboardFormats
 {
 
-/// What stands there, a line for each block and each entry of a checklist. Pictures say nothing.
+/// Returns the text, with a line for each block and each entry of a checklist. Pictures are left out.
 QString plainText(const QList<Block> &blocks);
 
-/// The kinds as marks. What the writer wrote is kept as it is: marks in it remain marks.
+/// Returns Markdown. Characters of the text are not escaped, so typed Markdown stays Markdown.
 QString markdown(const QList<Block> &blocks);
 
-/// The kinds as elements, without any look.
+/// Returns HTML elements without styles.
 QString html(const QList<Block> &blocks);
 
 } // namespace ClipboardFormats

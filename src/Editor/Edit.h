@@ -5,28 +5,28 @@
 
 #include <functional>
 
-/// Where the caret goes after an edit.
+/// The text that gets the focus after an edit, and the position of its caret.
 struct FocusTarget {
-    /// Stands for the end of the text, whatever its length.
+    /// The end of the text.
     static constexpr int atEnd = -1;
 
     TextAddress address;
-    /// Counted in UTF-16 units from the start of the text.
+    /// In UTF-16 units from the start of the text.
     int caret = atEnd;
 
     bool operator==(const FocusTarget &) const = default;
 };
 
-/// What an editing rule made of a page: the page, and where the writer goes on.
+/// The result of an operation on a page: the changed page and the new focus.
 struct Edit {
     PelkoDocument document;
     std::optional<FocusTarget> focus = std::nullopt;
-    /// The block to bring into sight, where the focus does not do that.
+    /// The block to scroll to, if the focus does not do that.
     std::optional<QUuid> scrollTo = std::nullopt;
-    /// When a rule made something else of what was typed, the page with the typed characters: undo stops
-    /// there.
+    /// If a typing rule changed what was typed, the page with the typed characters, as a step of its own for
+    /// undo.
     std::optional<PelkoDocument> asTyped = std::nullopt;
 };
 
-/// Makes an edit of the page as it is at that moment, or nothing.
+/// Returns the edit of the given page, or std::nullopt to do nothing.
 using EditOperation = std::function<std::optional<Edit>(PelkoDocument)>;

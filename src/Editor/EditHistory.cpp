@@ -20,7 +20,7 @@ QString textAt(const PelkoDocument &page, const FocusTarget &place)
     return entry == todos.end() ? QString() : entry->text;
 }
 
-/// The page after a step was taken back or done again, and what of it the writer should see.
+/// Returns the page after undo or redo, with the focus or the block to scroll to.
 Edit shown(PelkoDocument page, const std::optional<FocusTarget> &place, qsizetype row, qsizetype rows)
 {
     Edit edit{.document = std::move(page)};

@@ -5,32 +5,32 @@
 
 class AppState;
 
-/// The work of one editor on its page: every change of it is stored and remembered here, so that it can be
-/// taken back. A change that reaches another page, because another one is open, is stored only.
+/// The editing of one page: stores every change of it and records it for undo. A change of another page is
+/// stored only.
 class EditSession
 {
 public:
     EditSession(AppState &appState, Scheduler &scheduler, const QUuid &documentID);
 
-    /// Where the writer is; after the focus has gone, where it was last.
+    /// Sets the text that has the focus, or had it last, and its caret.
     void goTo(const FocusTarget &place) { m_place = place; }
     const std::optional<FocusTarget> &place() const { return m_place; }
 
-    /// Stores the changed page; undo takes it back in one step.
+    /// Stores the changed page as one step of the history.
     void commit(const Edit &edit);
-    /// The page as the store has it now. What was changed there by others since the last call, such as the
-    /// tasks panel or a drag, becomes a step of its own.
+    /// Takes the page from the store. Changes made elsewhere since the last call, such as by the tasks panel
+    /// or a drag, become a step of their own.
     void follow(const PelkoDocument &page);
-    /// Stores what a key made of the text of `field`, whose caret is the one after the key. Keys typed one
-    /// after the other are taken back together, a word at a time, unless the writer paused between them.
+    /// Stores the text of `field` after a key; `field.caret` is the caret after the key. Consecutive keys are
+    /// undone together, word by word, unless there was a pause between them.
     void commitTyping(const Edit &edit, const FocusTarget &field);
 
-    /// Takes the last step back, or does it again. Nothing is returned when there is none.
+    /// Undoes the last step, or redoes it. Returns std::nullopt if there is none.
     std::optional<Edit> undo();
     std::optional<Edit> redo();
 
 private:
-    /// The page as it is stored, if `page` is a version of it.
+    /// Returns the stored version of the page, or nullptr if it is not the page of this session.
     const PelkoDocument *stored(const PelkoDocument &page) const;
     std::optional<Edit> travel(std::optional<Edit> (EditHistory::*step)(PelkoDocument));
 

@@ -17,7 +17,7 @@ QString text(const QUuid &id)
     return id.toString(QUuid::WithoutBraces);
 }
 
-// The field of a block that was just made needs a moment to slide into view.
+// The field of a new block needs a moment to slide into view.
 constexpr auto newBlockFocusDelay = 180ms;
 constexpr auto bannerFocusDelay = 100ms;
 } // namespace
@@ -69,7 +69,7 @@ void EditorViewModel::refresh()
     const PelkoDocument *found = document();
     const PelkoDocument &shown = found ? *found : nothing;
     ChangeScope scope(*this);
-    // A drag is one step, which ends with the drop.
+    // A drag is one step, which the drop records.
     if (found && m_drag.draggingBlockID().isEmpty())
         m_session.follow(*found);
     m_selection.publish(shown);
@@ -170,7 +170,7 @@ void EditorViewModel::commit(const std::optional<Edit> &edit, std::chrono::milli
     if (!edit)
         return;
     const PelkoDocument *before = m_appState.document(edit->document.id);
-    if (before && before->blocks != edit->document.blocks) // else only the caret goes elsewhere
+    if (before && before->blocks != edit->document.blocks) // otherwise only the focus has changed
         m_session.commit(*edit);
     goOn(*edit, focusDelay);
 }
@@ -214,9 +214,9 @@ void EditorViewModel::focusInFocusMode()
 
 void EditorViewModel::focus(const FocusTarget &target)
 {
-    if (rowOf(target.address.blockName()) < 0) // deleted since, or on another page
+    if (rowOf(target.address.blockName()) < 0) // deleted meanwhile, or on another page
         return;
-    if (m_appState.showNav()) { // which has the keyboard until it closes
+    if (m_appState.showNav()) { // the navigation keeps the focus until it closes
         m_waitingFocus = target;
         return;
     }

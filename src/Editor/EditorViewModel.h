@@ -12,9 +12,8 @@
 
 class AppState;
 
-/// What the editor of one document shows and can do. It follows the document in the store and hands every
-/// change back to it, so that the next save has it. Ids cross into QML as strings. Operations that find
-/// nothing change nothing.
+/// The view model of the editor of one document. It follows the document in the store and stores every change
+/// there, so that the next save contains it. Ids are strings in QML. Unknown ids change nothing.
 class EditorViewModel : public QObject
 {
     Q_OBJECT
@@ -44,46 +43,45 @@ public:
     bool firstBlockIsBanner() const { return m_firstBlockIsBanner; }
     /// Whether the context menu of a block offers to delete it.
     bool offersDelete() const { return m_offersDelete; }
-    /// The block whose field has the keyboard focus; empty for none.
+    /// The block whose field has the focus; empty for none.
     QString focusedBlockID() const { return m_focusedBlockID; }
-    /// The block that the view should bring into sight; empty for none.
+    /// The block that the view should scroll to; empty for none.
     QString scrollTarget() const { return m_scrollTarget; }
 
-    /// Where a block stands on the page, or -1.
+    /// Returns the row of a block, or -1.
     Q_INVOKABLE int rowOf(const QString &blockID) const;
 
-    /// Adds a block of the kind of that raw name at the end of the page.
+    /// Adds a block at the end of the page; `kind` is a raw name.
     Q_INVOKABLE void addBlock(const QString &kind);
     Q_INVOKABLE void deleteBlock(const QString &blockID);
-    /// Moves the block so many rows down, or up when negative.
+    /// Moves the block down by `rows`, or up if it is negative.
     Q_INVOKABLE void moveBlock(const QString &blockID, int rows);
     Q_INVOKABLE void toggleFullWidth(const QString &blockID);
 
-    /// Takes what the field of a text reports; see TextOperations. The page and the focus have followed when
-    /// this returns.
+    /// Call it with the text and caret of a field after each change; see TextOperations. Page and focus are
+    /// up to date when it returns.
     Q_INVOKABLE void typed(const TextAddress &address, const QString &value, int caret);
     Q_INVOKABLE void toggleTodo(const TextAddress &entry);
     Q_INVOKABLE void appendTodo(const QString &blockID);
     Q_INVOKABLE void removeTodo(const TextAddress &entry);
 
-    /// Puts the picture of the pasteboard, when there is one and no text, into a new block after that one.
-    /// Tells whether it did.
+    /// Puts the picture of the clipboard into a new block after the given one. Returns false if the clipboard
+    /// has no picture, or text as well.
     bool pastePicture(const QString &blockID);
 
-    /// Takes back what was done last on this page, with the focus and the caret where they were; and does it
-    /// again.
+    /// Undoes the last change of this page, or redoes it, and restores focus and caret.
     Q_INVOKABLE void undo();
     Q_INVOKABLE void redo();
 
-    /// The view is on screen: the first empty text block gets the focus.
+    /// Call it when the view is on screen: the first empty text block gets the focus.
     Q_INVOKABLE void appeared();
-    /// The view has scrolled to `scrollTarget`.
+    /// Call it when the view has scrolled to `scrollTarget`.
     Q_INVOKABLE void scrolled();
     Q_INVOKABLE void focusGained(const QString &blockID);
     Q_INVOKABLE void focusLost(const QString &blockID);
-    /// The caret of the focused field stands elsewhere, without anything having been typed.
+    /// Call it when the caret of the focused field moves without a change of the text.
     Q_INVOKABLE void caretMoved(const TextAddress &address, int caret);
-    /// The view is gone: stops following the store and deletes itself.
+    /// Call it when the view is destroyed: stops following the store and deletes this object.
     Q_INVOKABLE void release();
 
 Q_SIGNALS:
@@ -92,23 +90,22 @@ Q_SIGNALS:
     void offersDeleteChanged();
     void focusedBlockIDChanged();
     void scrollTargetChanged();
-    /// What an input method is composing has to become part of the text now: another document is about to be
-    /// opened, or the page to be changed otherwise.
+    /// Fields must commit the preedit text of an input method now, because another document is opened or the
+    /// page is changed otherwise.
     void settleRequested();
-    /// The field of that text has to take the keyboard focus with the caret at that place, -1 for the end of
-    /// its text.
+    /// The field of this text must take the focus and put its caret at `caret`; -1 is the end of the text.
     void focusRequested(const TextAddress &address, int caret);
 
 private:
     const PelkoDocument *document() const;
-    /// Contains what an input method was composing.
+    /// Returns the page after committing preedit text.
     std::optional<PelkoDocument> documentToMutate();
     void refresh();
-    /// The one way by which operations change the page.
+    /// Stores the result of an operation; all changes of the page go through it.
     void commit(const std::optional<Edit> &edit, std::chrono::milliseconds focusDelay = {});
     void storePicture(const QUuid &blockID, const QByteArray &bytes);
     void commitTyping(const std::optional<Edit> &edit, const FocusTarget &field);
-    /// Runs an operation on the page, with the arguments behind it, and stores what comes out as one step.
+    /// Applies an operation to the page and stores the result as one step.
     template <typename Operation, typename... Arguments>
     void change(const Operation &operation, const Arguments &...arguments);
     void goOn(const Edit &edit, std::chrono::milliseconds focusDelay = {});

@@ -2,5 +2,5 @@
 
 #include "Editor/BlockSelection.h"
 
-/// The selected blocks, those at the ends cut down to what is selected of them.
+/// Returns the selected blocks, with those at the ends cut to the selected part.
 QList<Block> excerpt(const PelkoDocument &document, const BlockSelection &selection);

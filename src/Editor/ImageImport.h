@@ -8,8 +8,8 @@
 
 #include <map>
 
-/// Fills the image blocks of an editor with pictures from the user's files. Only a failure of the chooser
-/// itself is told to the user; a file that cannot be read leaves the block as it was.
+/// Imports pictures from the user's files into image blocks. A failure of the chooser is reported to the
+/// user; a file that cannot be read leaves the block unchanged.
 class ImageImport : public QObject
 {
     Q_OBJECT
@@ -18,23 +18,24 @@ class ImageImport : public QObject
     Q_PROPERTY(QString imageImportError READ imageImportError NOTIFY imageImportErrorChanged)
 
 public:
-    /// Takes a picture's bytes for a block, which may be gone by then.
+    /// Stores the bytes of a picture in a block, which may have been deleted meanwhile.
     using Store = std::function<void(const QUuid &blockID, const QByteArray &bytes)>;
 
     ImageImport(const EditorServices &services, Store store);
 
     /// Whether the chooser is open.
     bool showImagePicker() const { return m_showImagePicker; }
-    /// The block that the chooser will fill; remembered after that.
+    /// The block that the chooser was last opened for.
     const QUuid &imageBlockID() const { return m_imageBlockID; }
     bool showImageImportError() const { return m_showImageImportError; }
-    /// What went wrong, in words for the user. Keeps its last value after it was dismissed.
+    /// The error in words for the user. Keeps its value after it was dismissed.
     QString imageImportError() const { return m_imageImportError.description(); }
 
-    /// Asks for a picture for that block. A chooser that is already open fills this block instead.
+    /// Asks for a picture for the block. If the chooser is already open, its result goes to this block
+    /// instead.
     Q_INVOKABLE void addImage(const QString &blockID);
     Q_INVOKABLE void dismissImageImportError();
-    /// Closes the chooser and forgets what is still being read.
+    /// Closes the chooser and drops the files that are being read.
     void cancel();
 
 Q_SIGNALS:
@@ -56,5 +57,5 @@ private:
     bool m_showImageImportError = false;
     FileError m_imageImportError;
     ScheduledCall m_choosing;
-    std::map<QUuid, ScheduledCall> m_readings; // by the block that waits for the bytes
+    std::map<QUuid, ScheduledCall> m_readings; // by the id of the block that is waiting
 };

@@ -2,18 +2,19 @@
 
 #include "Editor/Edit.h"
 
-/// The operations on pictures: a page in, the changed page out, or nothing where the block is unknown.
+/// Operations on pictures. They take the page and return the changed one, or std::nullopt if the block is
+/// unknown.
 namespace ImageOperations
 {
 
-/// Fills the block with the bytes of a picture file, which are kept as they are.
+/// Stores the bytes of a picture file, unchanged, in the block.
 std::optional<Edit> setImageData(PelkoDocument document, const QUuid &blockID, const QByteArray &bytes);
 
-/// Adds a picture right after the block and brings it into sight; the focus stays where it is.
+/// Adds a picture after the block and scrolls to it; the focus is not changed.
 std::optional<Edit> insertImage(PelkoDocument document, const QUuid &blockID, const QByteArray &bytes);
 
-/// Stores what the field over a banner reports, `caret` being where the caret stood in `title`. A title is
-/// one line: line breaks and tabs that come in become spaces.
+/// Stores the text of the field over a banner; `caret` is the position of the caret in `title`. A title has
+/// one line: line breaks and tabs become spaces.
 std::optional<Edit> setBannerTitle(PelkoDocument document, const QUuid &blockID, const QString &title,
                                    int caret);
 

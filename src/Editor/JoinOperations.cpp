@@ -21,7 +21,7 @@ bool hasEntries(const Block &block)
     return block.type == BlockType::sticky && block.todos && !block.todos->isEmpty();
 }
 
-/// The place before the first, or behind the last character of a block; of a divider or picture, the block.
+/// Returns the start or end of a block's text, or the block itself if it is a divider or picture.
 FocusTarget edgeOf(const Block &block, bool start)
 {
     FocusTarget edge{.address = {.blockID = block.id}, .caret = start ? 0 : FocusTarget::atEnd};
@@ -30,7 +30,7 @@ FocusTarget edgeOf(const Block &block, bool start)
     return edge;
 }
 
-/// Adds text behind the last character of a block, with the caret where the two meet.
+/// Appends text to a block and returns the caret between the two.
 FocusTarget append(Block &block, const QString &text)
 {
     FocusTarget seam = edgeOf(block, false);
@@ -55,7 +55,8 @@ Edit becomeBody(PelkoDocument document, qsizetype row, const QString &text)
     return {.document = std::move(document), .focus = start};
 }
 
-/// An empty block goes where the rules of typing let it; the page keeps its empty leading heading.
+/// Deletes an empty block, or turns it into body text, by the rules of typing. The page keeps an empty
+/// leading heading.
 std::optional<Edit> backwardsFromEmpty(const PelkoDocument &document, qsizetype row)
 {
     const Block &block = document.blocks.at(row);
@@ -86,7 +87,7 @@ std::optional<Edit> blockBackwards(PelkoDocument document, qsizetype row)
     return Edit{.document = std::move(document), .focus = seam};
 }
 
-/// The first entry leaves its checklist upwards, as body text.
+/// Turns the first entry of the checklist into body text above it.
 Edit leaveChecklist(PelkoDocument document, qsizetype row)
 {
     QList<TodoItem> &todos = *document.blocks[row].todos;
@@ -115,7 +116,7 @@ Edit todoBackwards(PelkoDocument document, qsizetype row, qsizetype todo)
     return {.document = std::move(document), .focus = seam};
 }
 
-/// Takes the first text of a block away; a block that has no other goes with it.
+/// Removes the first text of a block and returns it; a block without another text is removed as a whole.
 QString takeText(PelkoDocument &document, qsizetype row)
 {
     Block &block = document.blocks[row];

@@ -12,7 +12,7 @@ namespace
 struct Field {
     qsizetype row;
     QString *text;
-    /// Where the entry stands in its checklist; -1 for a block's own text.
+    /// The index of the entry in its checklist; -1 for the text of a block.
     qsizetype todo = -1;
 };
 
@@ -38,14 +38,13 @@ LineOperations::Stretch within(const QString &text, LineOperations::Stretch sele
     return {.start = start, .end = std::clamp(selected.end, start, int(text.size()))};
 }
 
-/// A second empty line at the end of code says that the code is over.
+/// Returns whether Return leaves the code block: at a second empty line at its end.
 bool leavesCode(const QString &text, LineOperations::Stretch selected)
 {
     return selected.start == text.size() && text.endsWith(u'\n');
 }
 
-/// Where the lines begin that the selection touches, in order. The line that it ends before is not one of
-/// them.
+/// Returns the starts of the selected lines. A line at whose start the selection ends is not included.
 QList<qsizetype> startsOfLines(const QString &text, LineOperations::Stretch selected)
 {
     qsizetype start = selected.start;
@@ -60,7 +59,7 @@ QList<qsizetype> startsOfLines(const QString &text, LineOperations::Stretch sele
     return starts;
 }
 
-/// How many characters at the start of the line are one step of indentation: a tab, or up to four spaces.
+/// Returns the length of one step of indentation at the start of the line: a tab, or up to four spaces.
 qsizetype indentation(QStringView line)
 {
     if (line.startsWith(u'\t'))

@@ -2,28 +2,27 @@
 
 #include "Editor/Edit.h"
 
-/// The keys that work on lines, where they say something else than the value of a field would: a line break
-/// within a block, a split of a block, and the indentation of several lines.
+/// Keys that work on lines: line break, split of a block, and indentation of several lines.
 namespace LineOperations
 {
 
-/// The part of a text that is selected, or where its caret stands: UTF-16 units from the start.
+/// The selected range of a text, or an empty one at the caret, in UTF-16 units.
 struct Stretch {
     int start = 0;
     int end = 0;
 };
 
-/// Shift+Return: a line break in the text that `field` names, in place of what is selected.
+/// Shift+Return: replaces the selection with a line break.
 std::optional<Edit> breakLine(PelkoDocument document, const TextAddress &field, Stretch selected);
 
-/// Return: what stands behind the selection goes on below, in a body block or in an entry of its own. Code of
-/// several lines takes a line break instead; a second one at its end leaves it.
+/// Return: moves the text behind the selection to a new body block or entry below. In code it inserts a line
+/// break instead; a second empty line at the end of the code leaves it.
 std::optional<Edit> split(PelkoDocument document, const TextAddress &field, Stretch selected);
 
-/// Tab over selected lines: each line that the selection touches begins with one more tab.
+/// Tab over selected lines: inserts a tab at the start of each selected line.
 std::optional<Edit> indent(PelkoDocument document, const TextAddress &field, Stretch selected);
 
-/// Shift+Tab over selected lines: each loses the tab, or up to four spaces, that it begins with.
+/// Shift+Tab over selected lines: removes a tab, or up to four spaces, from the start of each.
 std::optional<Edit> unindent(PelkoDocument document, const TextAddress &field, Stretch selected);
 
 } // namespace LineOperations

@@ -6,7 +6,7 @@
 namespace
 {
 
-/// The change of the text, when nothing else of the block has changed.
+/// Returns the change of the text if nothing else of the block differs.
 std::optional<TextChange> textChange(const Block &before, const Block &after)
 {
     Block rewritten = before;
@@ -33,7 +33,7 @@ qsizetype textSize(const Block &block)
     return units * qsizetype(sizeof(QChar)) + qsizetype(sizeof(Block));
 }
 
-/// The bytes of the pictures in `blocks` that `others` do not share.
+/// Returns the size of the pictures in `blocks` that are not shared with `others`.
 qsizetype pictureSize(const QList<Block> &blocks, const QList<Block> &others)
 {
     qsizetype size = 0;

@@ -3,16 +3,16 @@
 #include "Editor/TextChange.h"
 #include "Models/Block.h"
 
-/// What differs between two versions of a page: the stretch of text that changed in the first row that
-/// differs, and the rows behind it that were replaced by others. It keeps nothing of what did not change, and
-/// pictures are shared. A block that is split or joined thus costs only the text that moved.
+/// The difference between two versions of a page: the changed range of text in the first row that differs,
+/// and the replaced rows behind it. Unchanged blocks are not kept, and pictures are shared. Splitting or
+/// joining a block thus costs only the text that moved.
 class PageChange
 {
 public:
-    /// What it takes to keep a change, in bytes.
+    /// The memory that a change occupies, in bytes.
     struct Size {
         qsizetype text = 0;
-        /// Of the pictures that only one of the two versions has.
+        /// The pictures that only one of the two versions contains.
         qsizetype pictures = 0;
     };
 
@@ -21,24 +21,24 @@ public:
     bool isEmpty() const { return !m_text && m_before.isEmpty() && m_after.isEmpty(); }
     /// The first row that differs.
     qsizetype row() const { return m_row; }
-    /// How many rows stood there before, and stand there now.
+    /// The number of rows of the change in the old and in the new version.
     qsizetype rowsBefore() const { return rewrittenRows() + m_before.size(); }
     qsizetype rowsAfter() const { return rewrittenRows() + m_after.size(); }
     Size size() const;
 
-    /// `page` has to be the version before.
+    /// Returns the new version; `page` must be the old one.
     QList<Block> applied(QList<Block> page) const;
-    /// `page` has to be the version after.
+    /// Returns the old version; `page` must be the new one.
     QList<Block> reverted(QList<Block> page) const;
 
 private:
-    /// How many rows of the change keep their block and have another text: 1 or 0.
+    /// The number of rows in which only the text differs: 1 or 0.
     qsizetype rewrittenRows() const { return m_text ? 1 : 0; }
 
     qsizetype m_row = 0;
-    /// The change of text of the block in the first row, where it is only that.
+    /// The change of the text of the first row, if nothing else of its block differs.
     std::optional<TextChange> m_text;
-    /// The rows behind it.
+    /// The replaced rows behind it.
     QList<Block> m_before;
     QList<Block> m_after;
 };

@@ -9,8 +9,8 @@
 
 class Pasteboard;
 
-/// What is selected on a page where the selection goes beyond one text; within one text its field knows. The
-/// selection is dropped as soon as the page changes.
+/// The selection on a page when it spans several texts; a selection within one text belongs to its field. It
+/// is cleared when the page changes.
 class PageSelection : public QObject
 {
     Q_OBJECT
@@ -26,44 +26,44 @@ public:
     bool isCrossing() const { return m_selection.has_value(); }
     const std::optional<BlockSelection> &selection() const { return m_selection; }
     const SelectedParts &parts() const { return m_parts; }
-    /// Of the page as it is now.
+    /// Of the present page.
     const Passages &passages() const;
 
-    /// The page as it is now.
+    /// Sets the present page.
     void publish(const PelkoDocument &document);
 
-    /// Tells whether the selection goes beyond one text. If not, there is none here.
+    /// Sets the selection. Returns false, and clears it, if it lies within one text.
     bool select(const BlockSelection &selection);
     void clear();
 
     void copy() const;
     void cut();
     void remove();
-    /// Types over what is selected.
+    /// Replaces the selection with typed text.
     void replace(const QString &text);
-    /// Return and Shift+Return over what is selected.
+    /// Return and Shift+Return over the selection.
     void split();
     void breakLine();
-    /// Puts the text, or else the picture, of the pasteboard in place of what is selected.
+    /// Replaces the selection with the text, or otherwise the picture, of the clipboard.
     void paste();
-    /// The same for what is selected within one text.
+    /// Copies a selection within one text.
     void copyText(const BlockSelection &selected) const;
     void cutText(const BlockSelection &selected);
-    /// Puts the text of the pasteboard in place of `selected`, within one text or beyond. Tells whether there
+    /// Replaces `selected`, within one text or several, with the text of the clipboard. Returns whether there
     /// is any.
     bool pasteText(const BlockSelection &selected);
-    /// Puts the text that was selected last, in whatever program, at that place.
+    /// Inserts the text of the primary selection. Returns whether there is any.
     bool pasteSelectedText(const PagePosition &place);
-    /// Offers the text of the selection to the middle button.
+    /// Offers the selected text as the primary selection.
     void offer() const;
-    /// The same for what is selected within one text; nothing if that is empty.
+    /// The same for a selection within one text. Does nothing if it is empty.
     void offerText(const BlockSelection &selected) const;
 
 Q_SIGNALS:
     void changed();
 
 private:
-    /// What is selected within one text.
+    /// Returns the text of a selection within one text.
     QString textOf(const BlockSelection &selected) const;
     bool insert(QString text, const BlockSelection &selected);
 

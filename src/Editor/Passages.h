@@ -5,29 +5,29 @@
 
 #include <QHash>
 
-/// A place between two characters of a page.
+/// A caret position on a page.
 struct PagePosition {
     TextAddress passage;
-    /// Counted in UTF-16 units. A passage without text has one place before it, 0, and one behind it, 1.
+    /// In UTF-16 units. A passage without text has two positions: 0 before it and 1 behind it.
     int offset = 0;
 
     bool operator==(const PagePosition &) const = default;
 };
 
-/// What a caret runs through without a jump: the text of a block, of a banner or of an entry of a checklist.
-/// A divider, a picture and a checklist without entries are passages without text.
+/// A text in which the caret moves character by character: of a block, of a banner or of an entry of a
+/// checklist. Dividers, pictures and checklists without entries are passages without text.
 struct Passage {
     TextAddress id;
-    /// Where its block stands on the page.
+    /// The row of its block on the page.
     qsizetype row = 0;
     BlockType type = BlockType::textSmall;
-    /// Nothing where no caret can stand.
+    /// std::nullopt if the passage cannot contain a caret.
     std::optional<QString> text = std::nullopt;
 
     int length() const { return text ? static_cast<int>(text->size()) : 1; }
 };
 
-/// The passages of a page in reading order. Of blocks that share an id the first counts.
+/// The passages of a page in reading order. Of blocks with the same id only the first is included.
 class Passages
 {
 public:
@@ -36,15 +36,15 @@ public:
 
     qsizetype size() const { return m_passages.size(); }
     const Passage &at(qsizetype index) const { return m_passages.at(index); }
-    /// Where it stands, or -1.
+    /// Returns the index, or -1.
     qsizetype indexOf(const TextAddress &id) const { return m_index.value(id, -1); }
 
     std::optional<PagePosition> start() const;
     std::optional<PagePosition> end() const;
 
-    /// The next passage behind or before this one; nothing at the end of the page.
+    /// Returns the next passage in this direction, or nullptr at the end of the page.
     const Passage *neighbour(const TextAddress &id, bool forward) const;
-    /// The next one that a caret can stand in.
+    /// Returns the next passage that can contain a caret, or nullptr.
     const Passage *textNeighbour(const TextAddress &id, bool forward) const;
 
 private:

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QObject>
 
-/// The bytes of a picture file on their way through QML, which would make a copy of a bare QByteArray.
+/// The bytes of a picture file, passed through QML without the copy that QML makes of a QByteArray.
 struct PictureBytes {
     Q_GADGET
 

@@ -11,7 +11,7 @@
 namespace
 {
 
-/// The passage that stays, with what is left of the text around the selection.
+/// The passage that remains after the selection was removed, and its text on either side.
 struct Seam {
     TextAddress passage = {};
     QString before = {};
@@ -36,8 +36,8 @@ std::optional<Seam> seamOf(const SelectedParts &parts)
     return std::nullopt;
 }
 
-/// Takes what is selected out of a block, except the passage that stays. Tells whether anything of it is
-/// left.
+/// Removes the selected parts from a block, except the remaining passage. Returns whether any part of the
+/// block is left.
 bool cut(Block &block, const SelectedParts &parts, const TextAddress &staying)
 {
     if (parts.covers(block.id))
@@ -98,7 +98,7 @@ FocusTarget caretIn(const TextAddress &passage, qsizetype offset)
     return {.address = passage, .caret = static_cast<int>(offset)};
 }
 
-/// Removes the selection and then makes a line at the seam, where its text can have several.
+/// Removes the selection and breaks the remaining text at its place, if it can have several lines.
 std::optional<Edit> makeLine(PelkoDocument document, const BlockSelection &selection,
                              decltype(LineOperations::split) operation)
 {
@@ -128,7 +128,7 @@ std::optional<Edit> SelectionOperations::replace(PelkoDocument document, const B
     if (!removed)
         return std::nullopt;
     const Seam &seam = removed->seam;
-    // Within one text, a paste is typing: its rules compare with the text as it was.
+    // Within one text, pasting is typing: the typing rules compare with the text before.
     if (!SelectedParts(Passages(document), selection).isCrossing())
         removed->document = std::move(document);
     const QString typed = isBannerTitle(removed->document, seam.passage) ? onOneLine(text) : text;

@@ -7,7 +7,7 @@
 namespace
 {
 
-/// QTextDocument takes U+FDD0 and U+FDD1 for the ends of a frame and U+FFFC for an embedded object.
+/// QTextDocument uses U+FDD0 and U+FDD1 for the ends of a frame and U+FFFC for an embedded object.
 bool isReserved(QChar character)
 {
     return character.isNull() || character == u'\ufdd0' || character == u'\ufdd1' ||
@@ -23,7 +23,7 @@ QChar shownAs(QChar character, QChar next)
     return isReserved(character) ? QChar(QChar::ReplacementCharacter) : character;
 }
 
-/// Asked of every character with every key.
+/// Called for every character after every key.
 bool isShownAsItIs(QChar character)
 {
     const bool isCommon = character >= u' ' && character <= u'~';

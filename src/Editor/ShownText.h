@@ -2,14 +2,14 @@
 
 #include <QString>
 
-/// What a QTextDocument shows of a stored text. A document ends its paragraphs at several characters and
-/// reports all of them as line feeds, so stored text must not go through it. Both texts have the same length,
-/// and each UTF-16 unit stands for the one at the same place: positions are valid in both.
+/// The text that a QTextDocument shows for a stored text. A document ends paragraphs at several characters
+/// and returns all of them as line feeds, so stored text must never be read back from it. Both texts have the
+/// same length and correspond unit by unit, so positions are valid in both.
 namespace ShownText
 {
 
-/// The text to show: every line break is a line feed, and what a document cannot hold as a character is
-/// U+FFFD. The CR of a CR LF is a zero width space.
+/// Returns the text to show: line breaks become line feeds, and characters that a document cannot contain
+/// become U+FFFD. The CR of CR LF becomes a zero width space.
 QString of(const QString &stored);
 
 } // namespace ShownText

@@ -8,8 +8,8 @@ constexpr qsizetype paragraph = 4'000;
 
 constexpr qsizetype longWord = 2'000;
 
-/// The space nearest to where a paragraph that begins at `from` should end, or -1 where there is none before
-/// `to`.
+/// Returns the space nearest to the wanted end of a paragraph that begins at `from`, or -1 if there is none
+/// before `to`.
 qsizetype spaceIn(const QString &text, qsizetype from, qsizetype to)
 {
     const qsizetype before = text.lastIndexOf(u' ', from + paragraph);
@@ -17,7 +17,7 @@ qsizetype spaceIn(const QString &text, qsizetype from, qsizetype to)
     return space < to ? space : -1;
 }
 
-/// Whether a line can end here. Between ideographs it can everywhere.
+/// Returns whether a line can break at this character; it can at every ideograph.
 bool endsWord(QChar character)
 {
     constexpr char16_t firstIdeograph = 0x2e80;
@@ -56,7 +56,7 @@ void SoftBreaks::shift(const TextChange &change)
 
 void SoftBreaks::breakLines(const QString &text, qsizetype from, qsizetype to)
 {
-    // The paragraphs that hold both ends belong to it.
+    // Includes the paragraphs that contain both ends.
     auto next = std::ranges::lower_bound(m_places, from);
     const qsizetype before = next == m_places.begin() ? 0 : *std::prev(next) + 1;
     qsizetype start = from == 0 ? 0 : std::max(before, text.lastIndexOf(u'\n', from - 1) + 1);

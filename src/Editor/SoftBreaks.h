@@ -4,33 +4,33 @@
 
 #include <QList>
 
-/// Where the view of a long text breaks a long line into paragraphs of some thousand characters, which a text
-/// field can lay out one by one. A break stands in the place of a space, so positions are the same in both
-/// texts; the stored text has none of them. A line without spaces is not broken.
+/// The places where the view breaks long lines of a long text into paragraphs of some thousand characters,
+/// which a text field can lay out separately. A break is shown in place of a space, so positions are valid in
+/// both texts; the stored text is not changed. Lines without spaces are not broken.
 class SoftBreaks
 {
 public:
-    /// A text of more than this is long. Others have no breaks.
+    /// The number of characters above which a text is long. Shorter texts have no breaks.
     static constexpr qsizetype longText = 50'000;
 
     static bool isLong(const QString &text) { return text.size() > longText; }
 
-    /// Whether there is a word of thousands of characters. To wrap one at its end or anywhere takes a field
-    /// time that grows with the square of its length.
+    /// Returns whether the text contains a word of thousands of characters. Wrapping it takes a field
+    /// quadratic time.
     static bool hasLongWord(const QString &text);
 
-    /// Starts afresh.
+    /// Computes the breaks of another text.
     void reset(const QString &text);
-    /// The text has changed to `text`. Breaks outside the change stay.
+    /// Updates the breaks after a change. Breaks outside the change stay.
     void follow(const TextChange &change, const QString &text);
 
-    /// The text, or the beginning of it, with a line feed in the place of each of these spaces.
+    /// Returns the text, or a beginning of it, with line feeds in place of these spaces.
     QString applied(QString text) const;
     const QList<qsizetype> &places() const { return m_places; }
 
 private:
     void shift(const TextChange &change);
-    /// Breaks the lines that begin between two places of the text.
+    /// Breaks the lines that begin in the range of the text.
     void breakLines(const QString &text, qsizetype from, qsizetype to);
 
     QList<qsizetype> m_places; // ascending

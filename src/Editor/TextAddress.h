@@ -5,7 +5,8 @@
 
 #include <optional>
 
-/// Names a text of a page: that of a block, or that of a part of it, such as an entry of a checklist.
+/// The address of a text on a page: a block, and the part of the block if it has several texts, such as the
+/// entries of a checklist.
 struct TextAddress {
     Q_GADGET
     Q_PROPERTY(QString blockID READ blockName)
@@ -16,7 +17,7 @@ public:
     std::optional<QUuid> partID = std::nullopt;
 
     QString blockName() const { return blockID.toString(QUuid::WithoutBraces); }
-    /// Empty for the text of the block itself.
+    /// The id of the part; empty for the text of the block itself.
     QString partName() const { return partID ? partID->toString(QUuid::WithoutBraces) : QString(); }
 
     bool operator==(const TextAddress &) const = default;

@@ -4,14 +4,14 @@
 
 #include <limits>
 
-/// What differs between two texts: one stretch that was replaced by another. All are counted in UTF-16 units.
+/// The difference between two texts: one range that was replaced by another, in UTF-16 units.
 struct TextChange {
     qsizetype position = 0;
     QString removed;
     QString inserted;
 
-    /// `caret` is where the caret stands in `after`. It settles which of several equal letters was typed or
-    /// deleted; without it, the last of them.
+    /// `caret` is the position of the caret in `after`. It decides which one of several equal letters was
+    /// typed or deleted; without it, it is the last one.
     static TextChange between(const QString &before, const QString &after,
                               qsizetype caret = std::numeric_limits<qsizetype>::max());
 

@@ -2,13 +2,12 @@
 
 #include "Editor/Edit.h"
 
-/// What can be done with any text of a page, whatever it belongs to.
+/// Operations on any text of a page, in whatever kind of block.
 namespace TextOperations
 {
 
-/// What becomes of the page when the field of that text reports a new value, `caret` being where the caret
-/// stood in it; see TypingRules, TodoOperations and ImageOperations. Nothing is returned for an unknown
-/// address.
+/// Returns the page after the field of the text reported a new value; `caret` is the position of the caret in
+/// it. See TypingRules, TodoOperations and ImageOperations. Returns std::nullopt for an unknown address.
 std::optional<Edit> typed(PelkoDocument document, const TextAddress &address, const QString &value,
                           int caret);
 

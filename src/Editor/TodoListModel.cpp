@@ -7,7 +7,7 @@
 
 namespace
 {
-// Scrolling by less than a step makes no rows.
+// The smallest scrolling distance that updates the rows.
 constexpr qreal step = 200;
 constexpr qreal margin = 400;
 } // namespace
@@ -57,7 +57,7 @@ bool TodoListModel::isShown(const TodoItem &item, qreal top, qreal bottom) const
 
 void TodoListModel::publishRows()
 {
-    // Rows that come and go can scroll the view that asks for them.
+    // Adding or removing rows can scroll the view that asks for them.
     m_isStale = true;
     if (m_isPublishing)
         return;
@@ -70,7 +70,7 @@ void TodoListModel::publishRows()
         Q_EMIT entriesChanged();
 }
 
-/// Also finds out what is left below them.
+/// Also computes the height of the gap below.
 QList<TodoEntry> TodoListModel::shownRows()
 {
     QList<TodoEntry> rows;

@@ -16,9 +16,9 @@ inline QUuid rowKey(const TodoEntry &entry)
     return entry.item.id;
 }
 
-/// The entries of one checklist for QML. Of a long checklist the rows are only the entries in sight and near
-/// it, and the one that has the focus; heights are in device-independent pixels, and places are counted from
-/// the top of the first entry.
+/// The entries of one checklist for QML. A long checklist has rows only for the entries in and near the
+/// visible part, and for the one with the focus. Heights are in device-independent pixels; positions are
+/// relative to the top of the first entry.
 class TodoListModel : public IdListModel<TodoEntry>
 {
     Q_OBJECT
@@ -28,23 +28,22 @@ class TodoListModel : public IdListModel<TodoEntry>
 public:
     enum Role { AddressRole = Qt::UserRole, TextRole, DoneRole, GapRole };
 
-    /// A checklist of so many entries has all of them as rows.
+    /// Up to this number of entries, all of them have rows.
     static constexpr qsizetype shortList = 100;
 
     explicit TodoListModel(const QUuid &blockID, QObject *parent = nullptr);
 
     bool isEmpty() const { return m_isEmpty; }
-    /// The height of the entries without delegates behind the last row.
+    /// The height of the entries without rows below the last row.
     qreal gapBelow() const { return m_gapBelow; }
 
     void publish(const QList<TodoItem> &items);
 
-    /// The part of the checklist that is in sight; `usualHeight` is taken for entries that were never
-    /// measured.
+    /// Sets the visible part of the checklist. `usualHeight` is assumed for entries that were never measured.
     Q_INVOKABLE void setView(qreal top, qreal bottom, qreal usualHeight);
-    /// The entry keeps its row wherever it is, until another one is kept.
+    /// Keeps a row for this entry wherever it is, until the next call.
     Q_INVOKABLE void keep(const TextAddress &entry);
-    /// Remembers the height of an entry for the time when it has no delegate.
+    /// Sets the height of an entry, for when it has no row.
     Q_INVOKABLE void setHeight(const TextAddress &entry, qreal height);
 
     QVariant data(const QModelIndex &index, int role) const override;

@@ -2,21 +2,21 @@
 
 #include "Editor/Edit.h"
 
-/// The operations on the entries of a checklist: a page in, the changed page out, or nothing where the
-/// block or the entry is unknown.
+/// Operations on the entries of a checklist. They take the page and return the changed one, or std::nullopt
+/// if the block or the entry is unknown.
 namespace TodoOperations
 {
 
-/// Stores what the entry's field reports, `caret` being where the caret stood in `text`. A line feed in a
-/// text that had none breaks it up: each further line becomes an entry of its own below.
+/// Stores the text of an entry; `caret` is the position of the caret in `text`. If the text contains a first
+/// line feed, each further line becomes an entry below.
 std::optional<Edit> setText(PelkoDocument document, const TextAddress &entry, const QString &text, int caret);
 std::optional<Edit> toggle(PelkoDocument document, const TextAddress &entry);
 
-/// Adds an empty entry at the end, which gets the focus.
+/// Adds an empty entry at the end and gives it the focus.
 std::optional<Edit> append(PelkoDocument document, const QUuid &blockID);
 
-/// Removes the entry. A caret in it, or an unknown one, goes to the entry above, else to the one that takes
-/// its place; elsewhere it stays.
+/// Removes the entry. If the caret was in it, or is unknown, it goes to the entry above, or otherwise to the
+/// next one; a caret elsewhere stays.
 std::optional<Edit> remove(PelkoDocument document, const TextAddress &entry,
                            const std::optional<FocusTarget> &caret = std::nullopt);
 

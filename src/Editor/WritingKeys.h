@@ -5,15 +5,14 @@
 
 #include <QObject>
 
-/// The keys that mean more than the value they would leave in a field: they join, split and step from one
-/// text to the next. A field asks for them where it stands at its own end. Steps that find nothing change
-/// nothing.
+/// The keys that do more than change the value of a field: they join texts, split them and move between them.
+/// A field calls them at its start and end. Unknown addresses change nothing.
 class WritingKeys : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Runs an operation on the page and stores what comes out as one step.
+    /// Applies an operation to the page and stores the result as one step.
     using Apply = std::function<void(const EditOperation &)>;
     using Stretch = LineOperations::Stretch;
 
@@ -21,7 +20,7 @@ public:
 
     /// Backspace before the first character of a text.
     void joinBackwards(const TextAddress &text);
-    /// Delete behind the last.
+    /// Delete behind the last character.
     void joinForwards(const TextAddress &text);
     /// Backspace or Delete on a block without text.
     void remove(const QUuid &blockID, bool forward);
@@ -32,7 +31,7 @@ public:
     /// Tab and Shift+Tab over selected lines of code.
     void indent(const TextAddress &text, Stretch selected);
     void unindent(const TextAddress &text, Stretch selected);
-    /// A click below the last block: the writer goes on there.
+    /// A click below the last block: gives the focus to the end of the page.
     Q_INVOKABLE void writeBelow();
 
 private:

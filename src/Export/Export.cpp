@@ -19,7 +19,7 @@ bool isBlank(const QString &text)
     return QStringView(text).trimmed().isEmpty();
 }
 
-/// Pages without a heading, sparks above all, are known by their first words.
+/// Pages without a heading, such as sparks, are named by their first words.
 QString firstWords(const PelkoDocument &document)
 {
     for (const Block &block : document.blocks) {

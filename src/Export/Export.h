@@ -5,15 +5,15 @@
 
 #include <QList>
 
-/// Pages as Markdown files with their pictures beside them.
+/// Exports pages as Markdown files with their pictures in separate files.
 namespace Export
 {
 
-/// The page, named by its title.
+/// Returns the files of the page, named by its title.
 QList<ExportedFile> page(const PelkoDocument &document);
 
-/// All pages, those of each space in a folder of its own. The names depend on nothing but the pages: the same
-/// library is always the same files.
+/// Returns the files of all pages, with a folder for each space. The names depend on the pages only, so the
+/// same library always has the same files.
 QList<ExportedFile> library(const QList<PelkoDocument> &documents);
 
 /// Returns the number of pages and pictures as text, such as "12 pages and 1 picture".

@@ -14,7 +14,7 @@ constexpr qsizetype longestName = 80;
 bool isDropped(QChar character)
 {
     const bool joins =
-        character == QChar(0x200c) || character == QChar(0x200d); // letters, or parts of an emoji
+        character == QChar(0x200c) || character == QChar(0x200d); // belongs to letters or emoji
     return character.category() == QChar::Other_Format && !joins;
 }
 
@@ -32,14 +32,14 @@ QString withoutForbidden(const QString &text)
     return kept.simplified();
 }
 
-/// Leading dots hide a file, a leading hyphen makes it an option, trailing dots get lost.
+/// A leading dot hides a file, a leading hyphen looks like an option, and trailing dots are dropped.
 QString trimmed(const QString &name)
 {
     static const QRegularExpression edges(u"^[\\s.-]+|[\\s.]+$"_s);
     return QString(name).remove(edges);
 }
 
-/// The longest beginning of at most that many bytes that ends between two characters as a reader sees them.
+/// Returns the longest beginning of at most `bytes` bytes that ends at a grapheme boundary.
 QString shortened(const QString &name, qsizetype bytes)
 {
     if (name.toUtf8().size() <= bytes)
@@ -56,7 +56,7 @@ QString shortened(const QString &name, qsizetype bytes)
     return name.first(lastSpace > end / 2 ? lastSpace : end);
 }
 
-/// Reserved device names on some systems, with any suffix.
+/// Device names that some systems reserve, with any suffix.
 bool isReserved(const QString &name)
 {
     static const QRegularExpression devices(
@@ -68,8 +68,8 @@ bool isReserved(const QString &name)
 
 QString fileNameFrom(const QString &text)
 {
-    // Far more than is kept, so that a novel for a title is no work. Half a pair of surrogates, which is no
-    // text, becomes a question mark by way of UTF-8, and is forbidden then.
+    // Limited before the work: a title may be very long. UTF-8 turns half a surrogate pair into a question
+    // mark, which is removed as forbidden.
     const QString start = QString::fromUtf8(text.trimmed().left(1000).toUtf8());
     const QString composed = start.normalized(QString::NormalizationForm_C);
     const QString name = trimmed(shortened(trimmed(withoutForbidden(composed)), longestName));
@@ -98,7 +98,7 @@ QString FileNames::take(const QString &text, const QUuid &id)
 
 bool FileNames::takeIfFree(const QString &name)
 {
-    // By way of capitals, which tell "ß" as "SS".
+    // Upper case first, because it turns "ß" into "SS".
     const QString seen = name.toUpper().toCaseFolded().normalized(QString::NormalizationForm_C);
     if (m_taken.contains(seen))
         return false;

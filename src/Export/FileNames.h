@@ -4,13 +4,13 @@
 #include <QString>
 #include <QUuid>
 
-/// The text as the name of a file, without a suffix: nothing in it that any usual file system forbids,
-/// reserves, drops or hides, no line breaks and no marks that turn the direction of what follows, and short
-/// enough for a number and a suffix to be added. "Untitled" where nothing is left.
+/// Returns the text as a file name without a suffix: without characters that usual file systems forbid,
+/// without reserved names, line breaks and direction marks, not hidden, and short enough for a number and a
+/// suffix. "Untitled" if nothing is left.
 QString fileNameFrom(const QString &text);
 
-/// Assigns unique names to the files of one folder. Names that differ only in case, or in how an accent is
-/// put together, are the same name on some file systems, so they are here.
+/// Assigns unique names to the files of one folder. Names that differ only in case or in Unicode
+/// normalisation are equal, because they are on some file systems.
 class FileNames
 {
 public:

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// In four digits ISO 8601 knows the years 0 to 9999.
+/// The years 0 to 9999 only, which ISO 8601 writes with four digits.
 std::optional<QString> isoTime(Timestamp time)
 {
     constexpr double firstYear = -62'167'219'200;
@@ -27,7 +27,7 @@ bool isEscapedInYaml(QChar c)
            c.category() == QChar::Separator_Paragraph || c.unicode() == byteOrderMark;
 }
 
-/// In the form that YAML and JSON have in common.
+/// Quotes the text in a form that is valid in YAML and in JSON.
 QString quoted(const QString &text)
 {
     QString result(u'"');

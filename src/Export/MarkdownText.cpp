@@ -28,7 +28,7 @@ class Line
 public:
     explicit Line(QStringView text) : m_text(text) {}
 
-    /// With the letter at `markAtStart`, where there is one, escaped whatever it is.
+    /// Escapes the line, and in any case the character at `markAtStart`, if given.
     QString escaped(qsizetype markAtStart = -1) const
     {
         QString result;
@@ -74,7 +74,7 @@ private:
         }
     }
 
-    /// Null beyond the ends.
+    /// Returns a null character beyond the ends.
     QChar charAt(qsizetype at) const { return at >= 0 && at < m_text.size() ? m_text[at] : QChar(); }
 
     bool opensTag(qsizetype at) const
@@ -91,7 +91,7 @@ private:
         return end > at + 1 && charAt(end) == u';';
     }
 
-    /// A run of stars or underscores between spaces means nothing, and neither do underscores in a word.
+    /// Stars or underscores between spaces do not emphasise, and neither do underscores within a word.
     bool emphasises(qsizetype at) const
     {
         const QChar mark = m_text[at];
@@ -106,14 +106,14 @@ private:
         return !isInnerSpace(first - 1) || !isInnerSpace(last + 1);
     }
 
-    /// One that stays a space; those at the edges are spelled out.
+    /// Spaces at the edges are written as entities, inner ones stay.
     bool isInnerSpace(qsizetype at) const { return at > 0 && at < m_text.size() - 1 && m_text[at] == u' '; }
 
     QStringView m_text;
 };
 
-/// Where the mark stands that would make the line a heading, an entry of a list, a quote, a rule or an
-/// underline; -1 for none.
+/// Returns the position of the mark that would make the line a heading, list entry, quote, rule or underline;
+/// -1 for none.
 qsizetype markAtStart(const QString &line)
 {
     static const QRegularExpression mark(uR"(^(?:#{1,6}(?=\s|\z)|>|[-+](?=\s|\z)|[-=|:](?=[-=|:\s]*\z)))"_s);

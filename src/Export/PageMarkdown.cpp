@@ -18,17 +18,17 @@ class ExportedMarkdown : public BlockFormat
 public:
     ExportedMarkdown() : BlockFormat(EmptyBlocks::omitted) {}
 
-    /// For the next block, where it is a picture; empty if its file is not exported.
+    /// Sets the address of the next block's picture; empty if its file is not exported.
     void setPictureAddress(const QString &address) { m_pictureAddress = address; }
 
 protected:
     QString heading(const QString &text) override
     {
         const QString marked = MarkdownText::escaped(text, Place::marked);
-        // Only an underlined heading has room for more than one line.
+        // Only the underlined form of a heading can have several lines.
         if (marked.contains(u'\n'))
             return MarkdownText::escaped(text, Place::line) + "\n==="_L1;
-        // Number signs at the end would be taken for a closing mark.
+        // Number signs at the end would be read as a closing sequence.
         return marked.endsWith(u'#') ? "# "_L1 + marked.chopped(1) + R"(\#)"_L1 : "# "_L1 + marked;
     }
     QString body(const QString &text) override { return MarkdownText::escaped(text, Place::line); }
@@ -60,7 +60,7 @@ protected:
             const QString text = MarkdownText::escaped(todo.text, Place::marked, u"      "_s);
             lines << m_bullet + box + (text.isEmpty() ? QString() : u' ' + text);
         }
-        // Two lists that follow each other are one, unless their bullets differ.
+        // Two consecutive lists are read as one unless their bullets differ.
         m_bullet = m_bullet == u'-' ? u'*' : u'-';
         return lines.join(u'\n');
     }

@@ -5,11 +5,10 @@
 #include <QHash>
 #include <QList>
 
-/// The blocks as CommonMark that says the same: read back, every text is the text of its block. Blocks that
-/// say nothing are left out, as are pictures of which no address is known.
+/// Returns the blocks as CommonMark. Read back, every text equals the text of its block. Blocks without
+/// content and pictures without an address are left out.
 ///
-/// Unlike the Markdown of the pasteboard's selections it keeps no mark that the writer typed: a star on the
-/// page is a star in the text.
+/// Unlike ClipboardFormats::markdown it escapes typed marks: a star on the page stays a star.
 ///
-/// `pictures` names where the picture of the block in that row is to be found.
+/// `pictures` maps rows to the addresses of their pictures.
 QString pageMarkdown(const QList<Block> &blocks, const QHash<qsizetype, QString> &pictures = {});

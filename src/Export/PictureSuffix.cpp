@@ -47,7 +47,7 @@ const Format formats[] = {
     {{0, bytes("qoif"_L1)}, none, "qoi"_L1},
 };
 
-/// A drawing is text: its element may follow a declaration and remarks.
+/// Returns whether the picture is SVG: text whose root element may follow a declaration and comments.
 bool isDrawing(QByteArrayView picture)
 {
     const QByteArrayView start = picture.first(qMin<qsizetype>(picture.size(), 1024)).trimmed();

@@ -47,7 +47,7 @@ int main(int argc, char *argv[])
     if (const auto folder = asksAboutTheProgram(arguments) ? std::nullopt : userDataFolder()) {
         const auto answer = askRunningInstance(*folder + "/Pelko", arguments);
         if (answer && answer->exitCode == InstanceReply::silent) {
-            // The program knows how to say it in the user's language.
+            // The program reports it in the user's language.
             ::setenv(unansweredVariable, "1", 1);
             return execMainProgram(argv);
         }

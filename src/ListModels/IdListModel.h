@@ -4,9 +4,9 @@
 
 #include <QAbstractListModel>
 
-/// A list of value rows for QML that is handed whole and finds out by itself what changed. Rows are told
-/// apart by their `rowKey`: a row that moves is announced as a move and one that changes in place only with
-/// the roles that differ, so delegates, and with them caret and focus, live on.
+/// A list of values for QML. It is given the whole new list and finds the changes itself. Rows are identified
+/// by their `rowKey`: a moved row is announced as a move, and a changed one only with the roles that differ,
+/// so that delegates keep caret and focus.
 template <typename Row>
 class IdListModel : public QAbstractListModel
 {
@@ -34,8 +34,9 @@ public:
     }
 
 protected:
-    /// For rows that have nothing to do with those before. Not as a reset of the model: after one, a ListView
-    /// that is creating a delegate ahead asks for its old index, which may be out of range by then.
+    /// Replaces all rows, for lists that share hardly any row with the one before. The model is not reset:
+    /// after a reset, a ListView that is creating a delegate asks for its old index, which may be out of
+    /// range.
     void replaceAll(QList<Row> rows)
     {
         if (!m_rows.isEmpty()) {
@@ -50,7 +51,7 @@ protected:
         endInsertRows();
     }
 
-    /// Puts a row of the same key in the place of another and tells what differs.
+    /// Replaces a row by one with the same key and announces the roles that differ.
     void update(qsizetype row, const Row &after)
     {
         const QList<int> roles = changedRoles(m_rows.at(row), after);
@@ -61,7 +62,7 @@ protected:
         Q_EMIT dataChanged(changed, changed, roles);
     }
 
-    /// The roles in which two rows of the same key differ; empty when they are equal.
+    /// Returns the roles in which two rows of the same key differ.
     virtual QList<int> changedRoles(const Row &before, const Row &after) const = 0;
 
 private:

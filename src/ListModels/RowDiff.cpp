@@ -26,10 +26,10 @@ std::vector<RowChange> removals(const Rows &newRows)
     return changes;
 }
 
-/// The values of one of the longest rising runs, gaps allowed: the rows that can stay where they are.
+/// Returns the values of a longest increasing subsequence: the rows that need not move.
 Rows longestRisingRun(const Rows &values)
 {
-    Rows tails; // tails[n] ends the best run of n + 1 values seen so far
+    Rows tails; // tails[n] is the last value of the best subsequence of n + 1 values so far
     Rows lengths;
     for (const qsizetype value : values) {
         const auto place = std::ranges::lower_bound(tails, value);

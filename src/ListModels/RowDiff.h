@@ -7,15 +7,15 @@
 #include <optional>
 #include <vector>
 
-/// One step on the way from one list of rows to another. Steps hold when carried out one after the other.
+/// One step of a diff. The steps are valid when applied in their order.
 struct RowChange {
     enum class Kind { remove, move, insert };
 
     Kind kind;
     qsizetype row;
-    /// How many rows are removed or inserted from `row` on; a move takes one.
+    /// The number of rows removed or inserted from `row` on; 1 for a move.
     qsizetype count = 1;
-    /// Where a moved row stands afterwards.
+    /// The row of a moved row after the step.
     qsizetype destination = -1;
 
     bool operator==(const RowChange &) const = default;
@@ -24,13 +24,13 @@ struct RowChange {
 namespace RowDiff
 {
 
-/// The steps between two lists when row i of the old one belongs at `newRows[i]` of the new one, -1 for a
-/// row that is gone: removals from the end backwards, then as few moves as possible, then insertions from
-/// the start on until there are `newCount` rows.
+/// Returns the steps when row i of the old list becomes row `newRows[i]` of the new one, or -1 if it is
+/// removed: removals from the end, then as few moves as possible, then insertions from the start until there
+/// are `newCount` rows.
 std::vector<RowChange> steps(const std::vector<qsizetype> &newRows, qsizetype newCount);
 
-/// The steps from `before` to `after`. Nothing when an id stands twice in one of them: rows cannot be told
-/// apart then, and the list has to be shown anew.
+/// Returns the steps from `before` to `after`. std::nullopt if an id occurs twice in one list: the list must
+/// then be replaced as a whole.
 template <typename Id>
 std::optional<std::vector<RowChange>> between(const QList<Id> &before, const QList<Id> &after)
 {

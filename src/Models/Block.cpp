@@ -5,7 +5,7 @@
 namespace
 {
 
-/// Qt compares byte by byte; a page of thousands of blocks is compared with every key.
+/// QUuid's comparison goes byte by byte; a page of thousands of blocks is compared after every key.
 bool isSameID(const QUuid &one, const QUuid &other)
 {
     static_assert(std::has_unique_object_representations_v<QUuid>);

@@ -23,7 +23,7 @@ struct Block {
     /// The title laid over a banner.
     std::optional<QString> bannerTitle;
 
-    /// Null id, for readers that fill it in. Generating a UUID costs a system call.
+    /// Null id, for readers that set it. Generating a UUID costs a system call.
     Block() = default;
     /// A new block, with an id of its own.
     explicit Block(BlockType blockType, QString text = {})
@@ -33,7 +33,7 @@ struct Block {
     {
     }
 
-    /// Runs of characters between white space in the text.
+    /// Returns the number of runs of characters between white space in the text.
     qint64 wordCount() const;
 
     bool operator==(const Block &other) const;

@@ -2,13 +2,13 @@
 
 #include "Models/Block.h"
 
-/// A form that blocks can be written in, such as Markdown. Each kind of block has its function.
+/// A text format for blocks, such as Markdown. Each kind of block has its function.
 class BlockFormat
 {
 public:
     virtual ~BlockFormat() = default;
 
-    /// Nothing for a block that has no words, or nothing to be told in this form.
+    /// Returns std::nullopt for a block that this format leaves out.
     std::optional<QString> operator()(const Block &block);
 
 protected:

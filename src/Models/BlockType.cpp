@@ -6,7 +6,7 @@
 namespace
 {
 
-/// Each kind's name, at its value.
+/// The name of each kind, indexed by its value.
 const QStringList &names()
 {
     static const QStringList names = [] {

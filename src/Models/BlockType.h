@@ -9,21 +9,20 @@ namespace BlockTypes
 {
 Q_NAMESPACE
 
-/// The kinds of block, in the order that makes every kind before `divider` text-like. The data file has them
-/// by these names.
+/// The kinds of block. All kinds before `divider` are text-like. The data file uses these names.
 enum class BlockType { textLarge, textSmall, quote, code, divider, image, sticky };
 Q_ENUM_NS(BlockType)
 } // namespace BlockTypes
 
 using BlockTypes::BlockType;
 
-/// A text-like block is edited as text; the others draw something else.
+/// A text-like block consists of editable text.
 constexpr bool isTextLike(BlockType type)
 {
     return type < BlockType::divider;
 }
 
-/// The name under which the kind stands in the data file.
+/// Returns the name of the kind in the data file.
 QString rawValue(BlockType type);
 
 /// Returns the kind with this exact name, or std::nullopt.

@@ -2,5 +2,5 @@
 
 #include <QString>
 
-/// Code between two Markdown fences, which are longer than any run of backticks in it.
+/// Returns the code between two Markdown fences that are longer than any run of backticks in it.
 QString fenced(const QString &code);

@@ -5,7 +5,7 @@
 
 /// One file of an export.
 struct ExportedFile {
-    /// Below the folder that is exported to; parts are separated by slashes. Safe on every file system.
+    /// Relative to the export folder, with slashes between the parts. Valid on every file system.
     QString path;
     QByteArray bytes;
 

@@ -12,25 +12,26 @@ struct PelkoDocument {
     QUuid id;
     Space space = Space::work;
     QList<Block> blocks;
-    /// Also what lists of documents are sorted by.
+    /// Lists of documents are sorted by it.
     Timestamp createdAt = 0;
     /// Absent until the first edit.
     std::optional<Timestamp> updatedAt;
     std::optional<bool> isPinned;
     std::optional<bool> isArchived;
 
-    /// Null id and no blocks, for readers that fill it in. Generating a UUID costs a system call.
+    /// Null id and no blocks, for readers that set them. Generating a UUID costs a system call.
     PelkoDocument() = default;
     /// A new page with an id of its own: an empty heading, then an empty body block.
     PelkoDocument(Space space, Timestamp createdAt);
 
-    /// The title of the first banner that has one, else the first heading; std::nullopt when both are blank.
+    /// Returns the title of the first banner that has one, else the first heading; std::nullopt if both are
+    /// blank.
     std::optional<QString> writtenTitle() const;
-    /// The written title, else "Untitled" in the user's language.
+    /// Returns the written title, or "Untitled" in the user's language.
     QString title() const;
-    /// Runs of characters between white space, over all blocks.
+    /// Returns the number of runs of characters between white space in all blocks.
     qint64 wordCount() const;
-    /// How long ago the page was last edited ("5m ago"), in words the reader of `locale` knows.
+    /// Returns the time since the last edit, such as "5m ago". Dates are formatted for `locale`.
     QString relativeDate(Timestamp now, const QTimeZone &zone, const QLocale &locale) const;
 
     bool operator==(const PelkoDocument &) const = default;

@@ -5,7 +5,7 @@
 namespace
 {
 
-/// What a unit becomes: none, one or two others.
+/// The folded form of a UTF-16 unit: at most two units.
 struct Letters {
     char16_t first = 0;
     char16_t second = 0;
@@ -13,7 +13,8 @@ struct Letters {
 
 using Alphabet = std::array<Letters, 0x10000>;
 
-/// Accents have a class of their own in every script; the vowels of some are marks that make the letter.
+/// Returns whether the mark is an accent, or invisible. Marks that make another letter, such as the vowels of
+/// Indic scripts, have other combining classes.
 bool isAccent(QChar mark)
 {
     constexpr char16_t softHyphen = 0x00AD, zeroWidthSpace = 0x200B;
@@ -24,7 +25,7 @@ bool isAccent(QChar mark)
     return mark.category() == QChar::Mark_NonSpacing && (place >= 200 || pointsOfSemiticScripts);
 }
 
-/// The letter itself where taking it apart leaves one letter and accents.
+/// Returns the base letter if the letter decomposes into one letter and accents.
 QChar withoutAccents(QChar letter)
 {
     QChar base = letter;
@@ -47,7 +48,7 @@ Letters foldedLetter(char16_t unit)
     return {withoutAccents(plain).unicode()};
 }
 
-/// Letters whose stroke or ligature Unicode takes for a part of them, and the two apostrophes.
+/// Letters with a stroke and ligatures, which Unicode does not decompose, and the typographic apostrophe.
 constexpr struct {
     char16_t letter;
     Letters folded;

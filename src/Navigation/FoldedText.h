@@ -3,20 +3,20 @@
 #include <QList>
 #include <QString>
 
-/// Text as it is compared: without case and without accents, so that "Łódź" and "lodz" are the same.
-/// Ligatures and "ß" come apart, marks that stand over or under a letter go, and everything else stays: a
-/// kana keeps its voicing and a syllable its vowel, because they would be other letters without.
+/// Text without case and accents, for comparison: "Łódź" and "lodz" are equal. Ligatures and "ß" are
+/// decomposed. Marks that make another letter stay, such as the voicing of kana and the vowels of a syllable.
 namespace FoldedText
 {
 
-/// Folds into `folded`, whose room is used again.
+/// Folds `text` into `folded`, reusing its memory.
 void fold(QStringView text, QString &folded);
 QString folded(QStringView text);
 
-/// For each unit of the folded text, where in `text` the letter begins that it stands for; at last the end.
+/// Returns for each unit of the folded text the position in `text` of its letter, followed by the end of
+/// `text`.
 QList<qsizetype> origins(QStringView text);
 
-/// Where in `text` the letter begins that the folded text has at `place`, or the end of it.
+/// Returns the position in `text` of the letter at `place` in the folded text, or the end of `text`.
 qsizetype originOf(QStringView text, qsizetype place);
 
 } // namespace FoldedText

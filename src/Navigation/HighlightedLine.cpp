@@ -10,7 +10,8 @@ namespace
 constexpr qsizetype roomBefore = 28;
 constexpr qsizetype roomAfter = 60;
 
-/// A place from which a line can begin: behind white space, if there is any before `end`.
+/// Returns the first position from `from` to `end` that follows white space; otherwise the next start of a
+/// letter.
 qsizetype beginningOfWord(QStringView text, qsizetype from, qsizetype end)
 {
     if (from == 0 || text.at(from - 1).isSpace())
@@ -24,7 +25,8 @@ qsizetype beginningOfWord(QStringView text, qsizetype from, qsizetype end)
     return from;
 }
 
-/// A place at which a line can end: before white space, if there is any behind `start`.
+/// Returns the last position from `start` to `from` that precedes white space; otherwise the start of the
+/// letter at `from`.
 qsizetype endOfWord(QStringView text, qsizetype from, qsizetype start)
 {
     if (from == text.size() || text.at(from).isSpace())
@@ -38,7 +40,7 @@ qsizetype endOfWord(QStringView text, qsizetype from, qsizetype start)
     return from;
 }
 
-/// Whole letters, also where only the first half of an "ß" was found.
+/// Returns the range of whole letters, also if only the first half of an "ß" was found.
 HighlightRange mark(const QList<qsizetype> &origins, qsizetype place, qsizetype length)
 {
     const auto last = origins.begin() + place + length - 1;
@@ -58,7 +60,7 @@ QList<HighlightRange> places(const SearchWord &word, QStringView folded, const Q
     return marks;
 }
 
-/// Marks that touch or overlap become one.
+/// Merges ranges that touch or overlap.
 QList<HighlightRange> united(QList<HighlightRange> marks)
 {
     std::ranges::sort(marks, {}, &HighlightRange::start);

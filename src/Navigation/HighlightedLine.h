@@ -6,7 +6,7 @@
 
 class SearchWords;
 
-/// A part of a line, in UTF-16 units.
+/// A range of a line, in UTF-16 units.
 struct HighlightRange {
     qsizetype start = 0;
     qsizetype length = 0;
@@ -21,16 +21,16 @@ struct HighlightedLine {
 
 public:
     QString text;
-    /// In their order, and apart from each other.
+    /// Sorted, and not adjacent.
     QList<HighlightRange> marks;
 
     bool operator==(const HighlightedLine &) const = default;
 };
 
-/// The parts of `text` in which the words stand. Where a word stands at the beginning of some words, those
-/// within others are left alone: of a short word the page would be full.
+/// Returns the ranges of `text` in which the words occur. If a word occurs at the start of words, its other
+/// occurrences are not included: a short word would highlight most of the page.
 QList<HighlightRange> highlightRanges(QStringView text, const SearchWords &words);
 
-/// So much of a text as fits into a row, in one line, around the place, with the words marked and "…" where
-/// it was cut.
+/// Returns a line of a length that fits a row, from the text around `place`, with the words highlighted and
+/// "…" where it was cut.
 HighlightedLine lineAround(QStringView text, qsizetype place, const SearchWords &words);

@@ -10,7 +10,7 @@
 
 namespace
 {
-constexpr qsizetype shownHits = 100; // more are of no use: another word narrows the search
+constexpr qsizetype shownHits = 100; // more would not help: another word narrows the search
 
 QString hitsInWords(qsizetype hits)
 {
@@ -102,7 +102,7 @@ void NavigationViewModel::choose(int row)
 {
     const int chosen = std::min(std::max(row, 0), lastRow());
     m_chosenRow = chosen;
-    Q_EMIT chosenRowChanged(); // also where another page has come into the row
+    Q_EMIT chosenRowChanged(); // also if the row now has another page
 }
 
 void NavigationViewModel::moveChoice(int rows)

@@ -9,8 +9,8 @@ class AppState;
 class Clock;
 
 /// The view model of the navigation overlay: the three spaces, the pages of the current one, and a search
-/// over all of them. One row is chosen, by arrow keys; the one behind the last page makes a new one. While
-/// the navigation is closed it follows nothing, and with each opening it begins anew.
+/// over all of them. One row is selected with the arrow keys; the row behind the last page creates a new one.
+/// While the overlay is closed nothing is updated; each opening resets it.
 class NavigationViewModel : public QObject
 {
     Q_OBJECT
@@ -31,36 +31,38 @@ public:
     bool isSearching() const { return !m_query.trimmed().isEmpty(); }
     /// The number of search results, or that the space is empty; otherwise an empty text.
     QString summary() const;
-    /// Beside the row that makes a new page.
+    /// The number of free places in the space, shown beside the row that creates a page.
     QString placesLeft() const;
     QObject *pages() { return &m_pages; }
     QObject *spaces() { return &m_spaces; }
     int pageCount() const { return m_pages.rowCount(); }
-    /// `pageCount` for the row that makes a new page, which a search does not have; -1 where there is no row.
+    /// The selected row: `pageCount` for the row that creates a page, which search results do not have; -1 if
+    /// there are no rows.
     int chosenRow() const { return m_chosenRow; }
-    /// Empty where no page is chosen.
+    /// The id of the selected page; empty if none is selected.
     Q_INVOKABLE QString chosenPage() const;
-    /// What the chosen row says, in one line for assistive technology.
+    /// The text of the selected row on one line, for assistive technology.
     QString chosenDescription() const;
 
-    /// Shows the pages on which all the words of `query` stand, or the space where there are none.
+    /// Shows the pages that contain all words of `query`, or those of the space if it has no words.
     Q_INVOKABLE void search(const QString &query);
-    /// Rows beyond either end choose the one at that end.
+    /// Selects a row; numbers beyond either end select the first or last row.
     Q_INVOKABLE void choose(int row);
-    /// So many rows down, or up when negative.
+    /// Moves the selection down by `rows`, or up if it is negative.
     Q_INVOKABLE void moveChoice(int rows);
-    /// Opens the chosen page or makes a new one.
+    /// Opens the selected page or creates a new one.
     Q_INVOKABLE void openChosen();
-    /// Opens a page, in whatever space it lies, and closes the navigation.
+    /// Opens a page of any space and closes the navigation.
     Q_INVOKABLE void open(const QString &pageID);
-    /// Makes a page in the current space and closes the navigation; a full space raises the limit alert.
+    /// Creates a page in the current space and closes the navigation, or shows the limit alert if the space
+    /// is full.
     Q_INVOKABLE void createDocument();
-    /// Shows the space of that raw name and what lies in it.
+    /// Shows the space with this raw name.
     Q_INVOKABLE void switchSpace(const QString &space);
 
 Q_SIGNALS:
     void queryChanged();
-    /// Other pages, or the same ones changed.
+    /// The list has other pages, or changed ones.
     void pagesChanged();
     void chosenRowChanged();
 

@@ -77,7 +77,7 @@ QVariant PageListModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> PageListModel::roleNames() const
 {
-    // Screen readers read the accessible name.
+    // Assistive technology reads the accessible name instead.
     return {{PageIDRole, "pageID"}, {NameRole, "titleLine"},   {DetailRole, "detailLine"},
             {IsOpenRole, "isOpen"}, {IsSparkRole, "isSpark"},  {IsPinnedRole, "isPinned"},
             {SpaceRole, "space"},   {DescriptionRole, "name"}, {IsArchivedRole, "isArchived"}};

@@ -3,7 +3,7 @@
 #include "ListModels/IdListModel.h"
 #include "Navigation/PageRow.h"
 
-/// The pages of the navigation for QML: those of a space, or those that a search has found.
+/// The rows of the navigation for QML: the pages of a space, or search results.
 class PageListModel : public IdListModel<PageRow>
 {
     Q_OBJECT
@@ -23,11 +23,12 @@ public:
 
     using IdListModel::IdListModel;
 
-    /// Publishes the rows at that time, from which on the ages of the pages are told. Rows that stay keep
-    /// their delegates: to make them anew would take longer than all else.
+    /// Replaces the rows. The ages of the pages are relative to `now`. Rows that stay keep their delegates,
+    /// because creating delegates takes most of the time.
     void begin(QList<PageRow> rows, Timestamp now, const QTimeZone &zone);
 
-    /// For rows that have hardly any in common with those before: ten thousand are not put in one by one.
+    /// Replaces the rows by others that share hardly any with them, because ten thousand single insertions
+    /// are slow.
     void replace(QList<PageRow> rows) { replaceAll(std::move(rows)); }
 
     QVariant data(const QModelIndex &index, int role) const override;

@@ -3,12 +3,12 @@
 #include "Navigation/HighlightedLine.h"
 #include "Navigation/PageSearch.h"
 
-/// One page in the list of the navigation. What costs something to tell of the page is left until it is asked
-/// for: there may be ten thousand of them, of which ten are seen.
+/// One page in the list of the navigation. Texts that are slow to compute are computed when they are asked
+/// for, because of ten thousand rows only some ten are visible.
 struct PageRow {
     PelkoDocument page;
     bool isOpen = false;
-    /// Where a search found it: its name, and the text that speaks of it.
+    /// For search results: the highlighted name, and the text that contains the words.
     std::optional<HighlightedLine> name;
     std::optional<HighlightedLine> context;
 
@@ -20,5 +20,5 @@ inline QUuid rowKey(const PageRow &row)
     return row.page.id;
 }
 
-/// The row of a page that was found.
+/// Returns the row of a search result.
 PageRow hitRow(const PelkoDocument &page, const PageHit &hit, const SearchWords &words);

@@ -9,9 +9,9 @@
 
 namespace
 {
-constexpr int aboveText = int(Fit::whole); // the worst fit in a title counts more than the best in a text
+constexpr int aboveText = int(Fit::whole); // any fit in a title ranks above the best one in a text
 
-/// Looks for the same words on one page after another.
+/// Searches one page after another for the same words.
 class Reader
 {
 public:
@@ -32,7 +32,7 @@ public:
     }
 
 private:
-    /// The words, and behind them the phrase.
+    /// The number of words, plus one if there is a phrase.
     std::size_t count() const { return m_words.all().size() + m_words.phrase().has_value(); }
     const SearchWord &word(std::size_t index) const
     {

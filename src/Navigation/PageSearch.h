@@ -3,28 +3,28 @@
 #include "Models/PelkoDocument.h"
 #include "Navigation/SearchWords.h"
 
-/// A page on which all words were found.
+/// A page that contains all words.
 struct PageHit {
-    /// Where it stands in the list that was searched.
+    /// The index in the searched list.
     qsizetype page = 0;
-    /// The higher, the better the words fit.
+    /// Higher is better.
     int rank = 0;
-    /// The text in which they fit best, counted as visitTexts does, apart from the title; -1 for none.
+    /// The index of the best matching text, counted as by visitTexts, without the title; -1 for none.
     qsizetype text = -1;
-    /// The place in that text when it is folded.
+    /// The position of the match in the folded text.
     qsizetype place = -1;
 
     bool operator==(const PageHit &) const = default;
 };
 
 struct PageHits {
-    /// The best of them, best first; of equals, the one that was written last.
+    /// The best pages, best first; of equal ones, the newest first.
     QList<PageHit> best;
-    /// Of all, not only the best.
+    /// The number of all pages found.
     qsizetype total = 0;
 };
 
-/// The pages on which all the words stand, in the title or in the texts. What stands in a title fits better,
-/// and so does a whole word than the beginning of one, and that better than the middle. Reads every text
-/// once for each word: nothing is kept that could be out of date.
+/// Finds the pages that contain all words in the title or the texts. A match in the title ranks above one in
+/// a text; a whole word above the beginning of a word, and that above the middle. Reads every text once for
+/// each word; there is no index.
 PageHits findPages(const QList<PelkoDocument> &documents, const SearchWords &words, qsizetype limit);

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr qsizetype lineLength = 120; // more than fits into a row
+constexpr qsizetype lineLength = 120; // more than fits in a row
 
 bool namesThePage(const Block &block)
 {
@@ -42,7 +42,7 @@ QString namingText(const PelkoDocument &page)
 QString oneLine(QStringView text)
 {
     text = text.trimmed();
-    // Generous, because white space within shrinks; and never half of a character of two units.
+    // Some more, because white space is collapsed; never ends within a surrogate pair.
     QStringView start = text.left(4 * lineLength);
     QString line = start.toString().simplified();
     if (line.size() <= lineLength && start.size() == text.size())

@@ -2,8 +2,8 @@
 
 #include "Models/PelkoDocument.h"
 
-/// The texts that a reader of the page sees, in their order, the title among them. `visit` is given each as a
-/// const QString & and says whether to go on.
+/// Calls `visit` with each visible text of the page (a const QString &) in order, including the title, until
+/// it returns false.
 template <typename Visit>
 void visitTexts(const PelkoDocument &page, Visit visit)
 {
@@ -22,14 +22,15 @@ void visitTexts(const PelkoDocument &page, Visit visit)
     }
 }
 
-/// A thought that was caught and never given a title: it goes by what it says.
+/// Returns whether the page is a spark: captured text without a title. It is named by its text.
 bool isSpark(const PelkoDocument &page);
 
-/// What names the page: its title as it stands, or what a spark says. May be of any length and have lines.
+/// Returns the title of the page as written, or the text of a spark. Of any length, possibly with line
+/// breaks.
 QString namingText(const PelkoDocument &page);
 
-/// The beginning of a text in one line, with "…" where more follows.
+/// Returns the beginning of a text on one line, with "…" if it was cut.
 QString oneLine(QStringView text);
 
-/// What the page is called in lists and questions.
+/// Returns the name of the page in lists and questions.
 QString pageName(const PelkoDocument &page);

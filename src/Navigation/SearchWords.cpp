@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// Whether a word may end between two characters.
+/// Returns whether there is a word boundary between two characters.
 bool isEdge(QChar before, QChar after)
 {
     return !before.isLetterOrNumber() || !after.isLetterOrNumber();

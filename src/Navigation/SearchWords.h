@@ -4,25 +4,25 @@
 
 #include <vector>
 
-/// How well a word fits where it was found: within another, at the beginning of one, or as a whole one.
+/// How a search word matches: within another word, at the beginning of one, or as a whole word.
 enum class Fit { none, within, beginning, whole };
 
-/// Where a word was found in a folded text.
+/// A match of a word in a folded text.
 struct WordMatch {
     Fit fit = Fit::none;
     qsizetype place = -1;
 };
 
-/// One word that is looked for, folded.
+/// One search word, folded.
 class SearchWord
 {
 public:
     explicit SearchWord(const QString &folded) : m_word(folded), m_matcher(folded) {}
 
     qsizetype length() const { return m_word.size(); }
-    /// The first place from `from` on where it stands in the folded text.
+    /// Returns the first match at or after `from` in the folded text.
     WordMatch next(QStringView folded, qsizetype from) const;
-    /// The first of the places that it fits best.
+    /// Returns the first of the best matches.
     WordMatch best(QStringView folded) const;
 
 private:
@@ -32,16 +32,16 @@ private:
     QStringMatcher m_matcher;
 };
 
-/// The words somebody typed to find a page. Each of them has to be found.
+/// The words of a search. A page must contain all of them.
 class SearchWords
 {
 public:
     SearchWords() = default;
     explicit SearchWords(QStringView typed);
 
-    /// In the order in which they were typed; none when nothing can be found.
+    /// In the order in which they were typed; empty if the query has no words.
     const std::vector<SearchWord> &all() const { return m_words; }
-    /// These words one after the other, where there are several: it need not be found, but fits better.
+    /// All words in a row, if there are several. It is optional and improves the rank.
     const std::optional<SearchWord> &phrase() const { return m_phrase; }
 
 private:

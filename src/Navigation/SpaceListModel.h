@@ -3,10 +3,10 @@
 #include "ListModels/IdListModel.h"
 #include "Models/Space.h"
 
-/// A space as the navigation shows it.
+/// A space in the navigation.
 struct SpaceTab {
     Space space = Space::ideas;
-    /// How many pages lie in it, those beyond the limit included.
+    /// The number of pages, which may exceed the limit.
     qsizetype pages = 0;
     bool isCurrent = false;
 

@@ -16,10 +16,10 @@ constexpr qint64 writeBackStep = 1024 * 1024;
 constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR; // as mkostemp sets it
 constexpr std::string_view uniquePart = "XXXXXX";
 
-/// The file itself, also behind links to files that do not exist yet.
+/// Resolves symbolic links, also to a file that does not exist yet.
 fs::path behindLinks(fs::path path)
 {
-    constexpr int mostLinks = 40; // as the kernel's own
+    constexpr int mostLinks = 40; // the kernel's own limit
     std::error_code ignored;
     for (int step = 0; step < mostLinks && fs::is_symlink(fs::symlink_status(path, ignored)); ++step)
         path = path.parent_path() / fs::read_symlink(path, ignored);
@@ -40,7 +40,7 @@ bool flushToDisk(int descriptor)
 #endif
 }
 
-/// A new name in a folder is on the disk only when the folder is.
+/// A rename survives a power cut only after the folder is synchronised as well.
 std::optional<FileError> flushFolder(const fs::path &folder)
 {
     const FileDescriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -67,7 +67,7 @@ std::optional<FileError> AtomicFile::open(const fs::path &path)
         return lastSystemError();
     if (exists && !S_ISREG(existing.st_mode))
         return systemError(S_ISDIR(existing.st_mode) ? EISDIR : EINVAL);
-    // Replacing needs the folder's leave only, but a file that is marked as read-only is meant to stay.
+    // Renaming needs write permission for the folder only, but a file that is marked read-only must stay.
     if (exists && ::faccessat(AT_FDCWD, m_target.c_str(), W_OK, AT_EACCESS) != 0)
         return lastSystemError();
 
@@ -76,7 +76,7 @@ std::optional<FileError> AtomicFile::open(const fs::path &path)
     if (!m_descriptor.isOpen())
         return lastSystemError();
     m_temporary = name;
-    ::flock(m_descriptor.number(), LOCK_EX | LOCK_NB); // says "not abandoned"; see removeAbandoned
+    ::flock(m_descriptor.number(), LOCK_EX | LOCK_NB); // tells removeAbandoned() that the file is in use
     const mode_t mode = exists ? existing.st_mode & 07777 : ownerOnly;
     if (mode != ownerOnly && ::fchmod(m_descriptor.number(), mode) != 0)
         return lastSystemError();

@@ -22,8 +22,7 @@ public:
     /// can take as long as writing.
     [[nodiscard]] std::optional<FileError> settle();
 
-    /// Removes temporary files of `path` that a killed process left behind. Files being written are locked
-    /// and stay.
+    /// Removes temporary files of `path` that a killed process left behind. Files in use are locked and stay.
     static void removeAbandoned(const std::filesystem::path &path);
 
 private:

@@ -58,7 +58,7 @@ bool ClipboardOwner::answers(QClipboard::Mode mode) const
         mode == QClipboard::Selection ? xcb_atom_t(XCB_ATOM_PRIMARY) : atom("CLIPBOARD");
     if (!hasOwner(selection))
         return true;
-    takeAnswer(); // one to an earlier question, which came too late
+    takeAnswer(); // a late answer to an earlier question
     ask(selection);
     return waitForAnswer();
 }
@@ -87,7 +87,8 @@ void ClipboardOwner::ask(xcb_atom_t selection) const
     xcb_flush(m_connection.get());
 }
 
-/// Takes all events that have come. An answer can also be that the owner has no formats.
+/// Takes all pending events. Returns whether one is an answer, which may also say that the owner has no
+/// formats.
 bool ClipboardOwner::takeAnswer() const
 {
     bool isAnswered = false;

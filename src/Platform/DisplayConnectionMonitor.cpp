@@ -25,7 +25,7 @@ void runAction()
         (*once)();
 }
 
-/// A thread of Qt's own may be the first to notice.
+/// May be called on a thread of Qt, which can be the first to notice.
 void runOnInterfaceThread()
 {
     QCoreApplication *application = QCoreApplication::instance();
@@ -62,7 +62,7 @@ DisplayConnectionMonitor::DisplayConnectionMonitor(std::function<void()> action)
 {
     pendingAction = &m_action;
     previousHandler = qInstallMessageHandler(hearMessage);
-    // The X server's end can also be noticed below Qt.
+    // Xlib may also end the process by exit() without a message from Qt.
     static const int isRegistered = std::atexit(runOnInterfaceThread);
     Q_UNUSED(isRegistered)
 }

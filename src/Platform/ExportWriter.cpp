@@ -28,8 +28,8 @@ Error writeFile(const fs::path &path, const QByteArray &bytes)
     return file.close();
 }
 
-/// What is undone with its end unless it has come to a good one: the files that were moved first, then what
-/// was not moved, then the folders.
+/// Undoes an unfinished export in its destructor: first the files that were moved, then the staging folder,
+/// then the folders that were made.
 class Attempt
 {
 public:
@@ -88,7 +88,7 @@ private:
 
     const fs::path m_folder;
     const ExportFolder::Existing m_existing;
-    // In the order in which they are made; they end the other way round.
+    // Members are destroyed in reverse order.
     FileTransaction m_folders;
     StagingFolder m_staging;
     FileTransaction m_installation;

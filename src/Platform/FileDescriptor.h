@@ -22,7 +22,7 @@ public:
     bool isOpen() const { return m_number >= 0; }
     int number() const { return m_number; }
 
-    /// Writes all of it.
+    /// Writes all bytes.
     [[nodiscard]] std::optional<FileError> write(QByteArrayView bytes) const;
     /// Closes the file. Some file systems report a full disk only here.
     [[nodiscard]] std::optional<FileError> close();
@@ -33,5 +33,5 @@ private:
 
 /// Returns the localised message of errno.
 FileError lastSystemError();
-/// The same for an error number.
+/// Returns the localised message of an error number.
 FileError systemError(int code);

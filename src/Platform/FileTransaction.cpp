@@ -25,7 +25,7 @@ bool renameToFreePlace(const fs::path &file, const fs::path &target)
         return true;
     if (errno != EINVAL && errno != ENOSYS)
         return false;
-    // Some network file systems cannot promise it: then it has to do to look first.
+    // Some network file systems cannot rename without replacing, so check first.
     if (!isTaken(target))
         return ::rename(file.c_str(), target.c_str()) == 0;
     errno = EEXIST;

@@ -15,14 +15,14 @@ public:
     FileTransaction(const FileTransaction &) = delete;
     FileTransaction &operator=(const FileTransaction &) = delete;
 
-    /// Makes the folder, and those above it, as far as they are missing.
+    /// Makes the folder and its parents, as far as they are missing.
     [[nodiscard]] std::optional<FileError> makeFolder(const std::filesystem::path &folder);
 
-    /// Moves a file to a place that is free.
+    /// Moves a file to `target`. An error if something exists there.
     [[nodiscard]] std::optional<FileError> moveIn(const std::filesystem::path &file,
                                                   const std::filesystem::path &target);
 
-    /// Moves a file out of the way, if there is one: to `aside`, on the same disk.
+    /// Moves an existing file from `target` to `aside`, on the same disk. Does nothing if there is none.
     [[nodiscard]] std::optional<FileError> moveAside(const std::filesystem::path &target,
                                                      const std::filesystem::path &aside);
 

@@ -17,7 +17,7 @@ namespace
 {
 constexpr qint64 longestReadable = std::numeric_limits<quint32>::max(); // the parser's own limit
 constexpr std::uintmax_t roomToSpare = 64 * 1024;                       // the documents may have grown
-constexpr qsizetype parserPadding = 64; // room that a parser may look at, so that it need not copy the file
+constexpr qsizetype parserPadding = 64; // bytes behind the text that the parser may read
 
 DocumentFile::Contents readAll(int descriptor, qint64 expectedSize)
 {
@@ -101,8 +101,8 @@ std::optional<FileError> LocalDocumentFile::replace(const Producer &produce)
         return error;
     if (auto error = file->commit())
         return error;
-    // Where no thread is to be had it is done by whoever confirms. std::async's threads are the language's
-    // own, and seen by the thread sanitizer.
+    // If no thread can be started, confirm() runs it. std::async is used because the thread sanitizer sees
+    // its threads.
     m_settling = std::async(std::launch::async | std::launch::deferred,
                             [file = std::move(file)] { return file->settle(); });
     return std::nullopt;

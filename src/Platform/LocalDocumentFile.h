@@ -5,9 +5,9 @@
 
 #include <future>
 
-/// "data.json" in the folder "Pelko" of the application-support directory. The path is made afresh, and the
-/// folder if need be, each time. Whatever else may lie in the file's place (a folder, a pipe, a device) is an
-/// error and is neither waited for nor touched.
+/// "data.json" in the folder "Pelko" of the application-support directory. Every operation determines the
+/// path again and creates the folder if it is missing. A folder, pipe or device in the place of the file is
+/// an error and stays untouched.
 class LocalDocumentFile : public DocumentFile
 {
 public:
@@ -16,12 +16,12 @@ public:
     Contents read() override;
     [[nodiscard]] std::optional<FileError> replace(const Producer &produce) override;
     [[nodiscard]] std::optional<FileError> confirm() override;
-    /// Looks at the permissions and at the free space, for a file as large as the one that is there.
+    /// Checks the permissions, and the free space for a file as large as the present one.
     bool canReplace() const override;
 
 private:
     std::optional<std::filesystem::path> path() const;
 
     const DataLocation &m_location;
-    std::future<std::optional<FileError>> m_settling; // waited for in the end
+    std::future<std::optional<FileError>> m_settling; // the destructor waits for it
 };

@@ -15,7 +15,7 @@ public:
     /// Both must outlive this object.
     LockedDocumentFile(DocumentFile &file, SingleInstance &instance);
 
-    /// Called when another folder was locked, ahead of the write into it.
+    /// Sets the action that is called after another folder was locked and before the file is written there.
     void onFolderChanged(std::function<void()> action) { m_folderChanged = std::move(action); }
     /// Locks the folder again if it is another one than before.
     [[nodiscard]] std::optional<FileError> followFolder();

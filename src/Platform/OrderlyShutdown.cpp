@@ -12,7 +12,7 @@ OrderlyShutdown::OrderlyShutdown(Callbacks callbacks, QObject *parent)
     : QObject(parent)
     , m_callbacks(std::move(callbacks))
 {
-    qGuiApp->installEventFilter(this); // which is shown the events of every object
+    qGuiApp->installEventFilter(this); // an application's event filter receives the events of all objects
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &OrderlyShutdown::endSession,
             Qt::DirectConnection);
 }

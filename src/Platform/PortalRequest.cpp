@@ -90,7 +90,7 @@ QVariantMap optionsFor(FileChooser::Target target, const QString &token)
     return options;
 }
 
-/// File names are bytes, which an address spells out and text could lose.
+/// A file name is bytes, which may not be valid text; the percent-encoded URI keeps them.
 QList<std::filesystem::path> filesOf(const QStringList &addresses)
 {
     QList<std::filesystem::path> files;
@@ -153,13 +153,13 @@ void PortalRequest::send(const QString &parentWindow, std::chrono::milliseconds 
 void PortalRequest::accepted(const QString &handle)
 {
     m_isAccepted = true;
-    if (!m_path.isEmpty() && handle != m_path) // as early versions of the service have it
+    if (!m_path.isEmpty() && handle != m_path) // early versions of the service choose the handle themselves
         listenTo(handle);
 }
 
 void PortalRequest::refused()
 {
-    close(); // It may only be late.
+    close(); // The request may have been accepted although the reply is late.
     m_otherChooser =
         m_otherwise.choose(m_target, [this](const FileChooser::Choice &choice) { finish(choice); });
 }
@@ -173,7 +173,7 @@ void PortalRequest::listenTo(const QString &path)
 
 void PortalRequest::answered(uint response, const QVariantMap &results)
 {
-    if (m_path.isEmpty()) // closed before
+    if (m_path.isEmpty()) // cancelled before the reply
         return;
     m_path.clear();
     finish(response == successResponse ? filesOf(results.value(u"uris"_s).toStringList())

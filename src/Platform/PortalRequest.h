@@ -38,7 +38,7 @@ private:
     const FileChooser::Target m_target;
     FileChooser::Completion m_completion;
     FileChooser &m_otherwise;
-    QString m_path; // of the request on the bus, empty when nothing is under way there
+    QString m_path; // of the request on the bus; empty if there is none
     bool m_isAccepted = false;
     ScheduledCall m_otherChooser;
 };

@@ -12,7 +12,7 @@
 class TerminalProgress
 {
 public:
-    /// The line for so many done of all, such as "Exporting 12 of 100 files".
+    /// Returns the text of the line, such as "Exporting 12 of 100 files".
     using Words = std::function<QString(qsizetype done, qsizetype all)>;
 
     explicit TerminalProgress(Words words, const Clock &clock, std::FILE *stream = stderr);

@@ -35,7 +35,7 @@ TerminationSignals::TerminationSignals(std::function<void()> action)
 {
     int ends[2];
     if (::pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
-        return; // the signals keep ending the process at once
+        return; // without the pipe the signals end the process at once
     m_reading = FileDescriptor(ends[0]);
     m_writing = FileDescriptor(ends[1]);
     m_notifier = std::make_unique<QSocketNotifier>(m_reading.number(), QSocketNotifier::Read);

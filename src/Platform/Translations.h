@@ -3,8 +3,9 @@
 #include <QLocale>
 #include <QTranslator>
 
-/// The texts of the program in the user's language, for as long as this lives. Needs an application object,
-/// and comes before the first text. A language without a catalogue gets the English of the sources.
+/// Translates the program's texts into the user's language as long as the object lives. Needs an application
+/// object and must be created before the first text. A language without a catalogue gets the English of the
+/// sources.
 class Translations
 {
 public:

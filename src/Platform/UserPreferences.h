@@ -4,14 +4,13 @@
 
 #include <QSettings>
 
-/// Preferences in the user's configuration folder, in a file that can be read: numbers as they are written,
-/// dates as ISO 8601 in UTC. Whatever is set is on the disk when the call returns, as far as the disk lets
-/// it.
+/// Preferences in a text file in the user's configuration folder: numbers in decimal, dates as ISO 8601 in
+/// UTC. Each change is written before the call returns; failures to write are ignored.
 class UserPreferences : public Preferences
 {
 public:
     UserPreferences();
-    /// Keeps the values in that file.
+    /// Stores the values in this file.
     explicit UserPreferences(const QString &file);
 
     std::optional<qint64> integer(const QString &key) const override;
@@ -20,7 +19,7 @@ public:
     void setDate(const QString &key, Timestamp value) override;
 
 private:
-    /// Empty for a value that is no single text.
+    /// Returns an empty text for a value that is not a single text.
     QString text(const QString &key) const;
     void set(const QString &key, const QString &text);
 

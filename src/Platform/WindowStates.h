@@ -4,8 +4,8 @@ class QWindow;
 
 bool fillsScreen(const QWindow &window);
 
-/// Full screen and back, to the state before: a window that was maximised is so again.
+/// Makes the window fill the screen, or restores the state before, maximised or normal.
 void toggleFullScreen(QWindow &window);
 
-/// Shows the window, in front and with the keyboard. One that is maximised or fills the screen stays so.
+/// Shows the window in front and gives it the keyboard. A maximised or full-screen window keeps its state.
 void bringToFront(QWindow &window);

@@ -13,7 +13,7 @@
 struct CalendarEvent {
     std::optional<QString> title = std::nullopt;
     Timestamp start = 0;
-    /// Not before the start, where it is known.
+    /// If the end is known, not before the start.
     Timestamp end = 0;
     std::optional<QString> identifier = std::nullopt;
 

@@ -13,7 +13,7 @@ class FileChooser
 public:
     enum class Target {
         picture,
-        /// One to write into.
+        /// A folder to write into.
         folder,
     };
 

@@ -4,19 +4,19 @@
 
 #include <variant>
 
-/// Why a file could not be made, read or written. A value: it is put into words where it is shown.
+/// Why a file could not be made, read or written. A value; `description` puts it into words when it is shown.
 class FileError
 {
 public:
-    /// What the program finds out for itself.
+    /// Errors that the program itself detects.
     enum class Problem { undefinedDate, openedElsewhere, folderRemoved, chooserEnded, notAFolder };
 
     FileError() = default;
     explicit FileError(Problem problem) : m_reason(problem) {}
-    /// In the words of the system, which are in the user's language already.
+    /// An error of the system, described in the user's language.
     explicit FileError(QString systemWords) : m_reason(std::move(systemWords)) {}
 
-    /// In words for the user.
+    /// Returns the text for the user.
     QString description() const;
 
     bool operator==(const FileError &) const = default;

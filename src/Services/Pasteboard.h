@@ -21,16 +21,17 @@ class Pasteboard
 public:
     virtual ~Pasteboard() = default;
 
-    /// The plain text there is; empty when there is none.
+    /// Returns the plain text; empty if there is none.
     virtual QString text() const = 0;
 
-    /// The bytes of a picture file when there is a picture and no text; else empty.
+    /// Returns the bytes of a picture file; empty if there is none or if there is text.
     virtual QByteArray picture() const = 0;
 
     /// Replaces the contents. An empty item, or one with only a picture of unknown format, changes nothing.
     virtual void put(const PasteboardItem &item) = 0;
 
-    /// The text of the primary selection, which the middle button pastes; empty on platforms without one.
+    /// Returns the text of the primary selection, which the middle button pastes; empty on platforms without
+    /// one.
     virtual QString selectedText() const = 0;
     virtual void putSelectedText(const QString &text) = 0;
 };

@@ -13,7 +13,7 @@ struct CommandLineTexts {
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
 };
 
-/// What Qt's parser says; for the catalogues.
+/// The texts of Qt's parser, listed for the catalogues.
 [[maybe_unused]] constexpr const char *textsOfQt[] = {
     QT_TRANSLATE_NOOP("QCommandLineParser", "Unknown option '%1'."),
     QT_TRANSLATE_NOOP("QCommandLineParser", "Unknown options: %1."),

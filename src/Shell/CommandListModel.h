@@ -29,18 +29,18 @@ public:
         TitleRole,
         SymbolRole,
         ShortcutRole,
-        /// A second key.
+        /// A second shortcut.
         OtherShortcutRole,
-        /// Its key as it is labelled on the user's keyboard.
+        /// The shortcut as it is labelled on the user's keyboard.
         KeyTextRole,
-        /// "about" or "quit" where the system has a place for it.
+        /// "about" or "quit" for commands that the system places itself.
         SystemRole,
-        /// Whether it has a place in the menu and not only a key.
+        /// Whether the command is in the menu; others have only a shortcut.
         IsInMenuRole,
         /// Whether it is one of the editing commands, which share lines of the app menu.
         IsEditingRole,
         IsEnabledRole,
-        /// Whether it can be on or off at all.
+        /// Whether the command can be ticked.
         IsTickableRole,
         IsTickedRole,
     };
@@ -57,7 +57,7 @@ public:
     void bind(const QString &id, CommandAction action);
     /// Runs the command. Does nothing if it is unknown or disabled.
     void run(const QString &id) const;
-    /// Asks every action again whether it is enabled and ticked.
+    /// Updates whether each command is enabled and ticked.
     void refresh();
 
 private:

@@ -4,8 +4,8 @@
 
 #include <QSortFilterProxyModel>
 
-/// One menu of a menu bar: the rows of the commands that belong to it, with the hairlines between its groups
-/// and none at its ends. The commands outlive it.
+/// One menu of a menu bar: its commands, with separators between the groups and none at the ends. The
+/// commands must outlive it.
 class CommandMenu : public QSortFilterProxyModel
 {
     Q_OBJECT

@@ -15,7 +15,7 @@ using Existing = ExportFolder::Existing;
 
 namespace
 {
-constexpr auto quietTime = 500ms; // most exports are done by then
+constexpr auto quietTime = 500ms; // most exports take less
 constexpr auto libraryFolder = "Pelko";
 
 QList<ExportedFile> filesOf(const QList<PelkoDocument> &documents, bool isLibrary)

@@ -38,9 +38,9 @@ public:
     /// Binds the export commands.
     void bindTo(CommandListModel &commands);
 
-    /// While an export takes longer than a moment.
+    /// Whether an export has been running for longer than half a second.
     bool showProgress() const { return m_showProgress; }
-    // Alerts keep their text while they fade out.
+    // Alerts keep their texts while they fade out.
     QString progressText() const { return m_progressText; }
     bool asksToReplace() const { return m_asksToReplace; }
     QString questionTitle() const { return m_questionTitle; }
@@ -52,11 +52,11 @@ public:
 
     /// Copies the open page as Markdown. Does nothing if no page is open.
     Q_INVOKABLE void copyAsMarkdown();
-    /// Into the folder that the user chooses.
+    /// Exports the open page to a folder that the user chooses.
     Q_INVOKABLE void exportDocument();
-    /// Into a folder "Pelko" in the one that the user chooses.
+    /// Exports all pages to a folder "Pelko" in the folder that the user chooses.
     Q_INVOKABLE void exportLibrary();
-    // The answers to the question about existing files. They do nothing if no question is shown.
+    // Answers to the question about existing files. They do nothing if it is not shown.
     Q_INVOKABLE void replace();
     Q_INVOKABLE void keep();
     /// Cancels the running export.

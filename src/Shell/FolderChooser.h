@@ -6,8 +6,8 @@
 #include <QObject>
 #include <QStringList>
 
-/// A file chooser of the app's own, for desktops that offer none: it walks through the user's folders and
-/// shows the pictures in them. Begins where it was last.
+/// A file chooser of the program, for desktops that offer none. It shows the user's folders and the pictures
+/// in them, and starts in the last folder.
 class FolderChooser : public QObject, public FileChooser
 {
     Q_OBJECT
@@ -28,29 +28,29 @@ public:
     ScheduledCall choose(Target target, Completion completion) override;
 
     bool isOpen() const { return m_isOpen; }
-    /// A folder is to be chosen, and not a picture; then no pictures are shown.
+    /// Whether a folder is chosen; then no pictures are shown.
     bool wantsFolder() const { return m_target == Target::folder; }
-    /// The path of the folder that is shown.
+    /// The path of the shown folder.
     QString folder() const;
-    /// The last part of it.
+    /// The last component of the path.
     QString folderName() const { return PictureFolders::nameOf(m_folder); }
     bool canGoUp() const { return m_folder.has_relative_path(); }
-    /// Why the folder cannot be shown; empty when it can.
+    /// Why the folder cannot be shown; otherwise empty.
     QString problem() const { return m_problem.description(); }
     bool isListing() const { return m_isListing; }
     QObject *entries() { return &m_entries; }
-    /// The names of the folders where users keep things.
+    /// The names of the user's standard folders.
     QStringList places() const;
-    /// Which of these is shown, or -1.
+    /// The index of the shown folder in `places`, or -1.
     int place() const;
 
-    /// Goes into the folder in that row, or chooses the picture.
+    /// Opens the folder in the row, or chooses the picture.
     Q_INVOKABLE void take(int row);
-    /// Chooses the folder that is shown.
+    /// Chooses the shown folder.
     Q_INVOKABLE void takeFolder();
     Q_INVOKABLE void goUp();
     Q_INVOKABLE void goToPlace(int place);
-    /// Goes to the folder of a typed path, "~" being the home folder, or chooses the file it names.
+    /// Opens the folder of a typed path, or chooses the file. "~" is the home folder.
     Q_INVOKABLE void goTo(const QString &path);
     Q_INVOKABLE int rowStartingWith(const QString &text, int from) const;
     Q_INVOKABLE void cancel();
@@ -61,7 +61,7 @@ Q_SIGNALS:
     void folderChanged();
     void problemChanged();
     void isListingChanged();
-    /// The folder is on show; the row to begin with.
+    /// Another folder is shown. `row` is the one to select.
     void listed(int row);
 
 private:

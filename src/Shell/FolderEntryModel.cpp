@@ -4,7 +4,7 @@
 
 void FolderEntryModel::setEntries(QList<PictureFolders::Entry> entries)
 {
-    // Not as a reset, for the reason given at IdListModel::replaceAll.
+    // Not as a reset; see IdListModel::replaceAll.
     if (!m_entries.isEmpty()) {
         beginRemoveRows({}, 0, rowCount() - 1);
         m_entries.clear();

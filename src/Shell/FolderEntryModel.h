@@ -4,7 +4,7 @@
 
 #include <QAbstractListModel>
 
-/// The entries of the folder that the file chooser shows.
+/// The entries of the folder in the file chooser.
 class FolderEntryModel : public QAbstractListModel
 {
     Q_OBJECT
@@ -17,9 +17,10 @@ public:
     const QList<PictureFolders::Entry> &entries() const { return m_entries; }
     void setEntries(QList<PictureFolders::Entry> entries);
 
-    /// The first row at or after `from`, going round, whose name begins so, whatever its case; or -1.
+    /// Returns the first row at or after `from`, cyclically, whose name starts with `text`, ignoring case; or
+    /// -1.
     int rowStartingWith(const QString &text, int from) const;
-    /// The row of that path, or -1.
+    /// Returns the row of the path, or -1.
     int rowOf(const std::filesystem::path &path) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;

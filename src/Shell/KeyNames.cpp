@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// The keys with a word on them. Letters, figures and signs are labelled alike everywhere.
+/// The keys that are labelled with words. Letters, digits and signs need no translation.
 constexpr std::array wordedKeys{
     QT_TRANSLATE_NOOP("KeyNames", "Ctrl"),  QT_TRANSLATE_NOOP("KeyNames", "Shift"),
     QT_TRANSLATE_NOOP("KeyNames", "Alt"),   QT_TRANSLATE_NOOP("KeyNames", "Return"),

@@ -2,6 +2,6 @@
 
 #include <QStringList>
 
-/// The keys of a combination, one after the other, as they are labelled on keyboards of the user's language.
-/// `combination` is in portable words, such as "Ctrl+Shift+E"; an empty one has no keys.
+/// Returns the keys of a combination in their order, as they are labelled on keyboards of the user's
+/// language. `combination` is in Qt's portable format, such as "Ctrl+Shift+E".
 QStringList keyNames(const QString &combination);

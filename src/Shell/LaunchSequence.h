@@ -4,8 +4,8 @@
 
 #include <QObject>
 
-/// The state of the launch card: `start` shows flame and name, and the card is removed one second later. Each
-/// of the three properties changes once. The view animates them.
+/// The state of the launch card. `start` shows flame and name; one second later the card is removed. Each of
+/// the three properties changes once; the view animates the changes.
 class LaunchSequence : public QObject
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     Q_INVOKABLE void start();
     /// Removes the card now.
     Q_INVOKABLE void cancel();
-    /// The window's contents cannot be loaded. `errors` are the lines of the QML engine.
+    /// Called when the window's contents cannot be loaded. `errors` are the messages of the QML engine.
     Q_INVOKABLE void fail(const QString &errors) { Q_EMIT failed(errors); }
 
 Q_SIGNALS:

@@ -136,7 +136,7 @@ void MainViewModel::followError()
 {
     const std::optional<QString> error = m_appState.lastError();
     if (error && error == m_knownSaveError) {
-        m_appState.clearLastError(); // reported already; the title still shows it
+        m_appState.clearLastError(); // already reported; the title still shows it
         return;
     }
     ChangeScope changes(*this);

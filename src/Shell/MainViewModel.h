@@ -12,9 +12,8 @@
 
 struct EditorServices;
 
-/// What the main window shows and can do: which page is open, the empty state, the navigation layer and
-/// the alerts, one of which confirms a deletion. Lines drawn by lot are drawn here, so that a view that is
-/// painted again keeps its words.
+/// The view model of the main window: the open page, the empty state, the navigation overlay and the alerts.
+/// Random lines are picked here, so that a view that is created again shows the same one.
 class MainViewModel : public QObject
 {
     Q_OBJECT
@@ -40,32 +39,32 @@ public:
                   MenuLocation menuLocation = MenuLocation::window, QObject *parent = nullptr);
 
     AppState *appState() { return &m_appState; }
-    /// Of the document in the editor; empty when the empty state is shown.
+    /// The document in the editor; empty if the empty state is shown.
     QString openDocumentID() const { return m_openDocumentID; }
-    /// The editor that was opened last; null when it is gone.
+    /// The editor that was opened last; null after it was deleted.
     EditorViewModel *editor() const { return m_editor; }
     NavigationViewModel *navigation() { return &m_navigation; }
     QString windowTitle() const { return m_windowTitle; }
-    /// The greeting of the window, the same for as long as it is open.
+    /// The greeting of the window; the same while the window is open.
     QString topMessage() const { return m_topMessage; }
-    /// Picked again whenever the empty state comes up, and stays while it is read.
+    /// Picked each time the empty state is shown.
     QString emptyMessage() const { return m_emptyMessage; }
     /// Focus mode: only the page is visible. False without an open page.
     bool isFocused() const { return m_isFocused; }
     bool showError() const { return m_showError; }
-    /// Both keep their last text while the alert fades out.
+    /// Title and text of the error alert. They keep their last values while it fades out.
     QString errorTitle() const { return m_errorTitle; }
     QString errorText() const { return m_errorText; }
-    /// Why the last save failed; empty while all is well.
+    /// Why the last save failed; empty if it succeeded.
     QString saveError() const;
     QuitGuard *quitGuard() { return &m_quitGuard; }
     const std::optional<PelkoDocument> &docToDelete() const { return m_docToDelete; }
     bool showDeleteConfirmation() const { return m_docToDelete.has_value(); }
-    /// Keeps its last value after the alert is gone.
+    /// Keeps its last value while the alert fades out.
     QString deleteConfirmText() const { return m_deleteConfirmText; }
     ShellCommands *commands() { return &m_commands; }
 
-    /// The window was closed: it opens with another greeting than before.
+    /// Picks another greeting, for the next opening of the window.
     void greet();
     /// Creates an editor for the document. The caller must call its `release`.
     Q_INVOKABLE EditorViewModel *openEditor(const QString &documentID);
@@ -119,7 +118,7 @@ private:
     bool m_showError = false;
     QString m_errorTitle;
     QString m_errorText;
-    /// A failure of saving that was dismissed and has not changed since.
+    /// The last error of a save that was dismissed.
     std::optional<QString> m_knownSaveError;
     std::optional<PelkoDocument> m_docToDelete;
     QString m_deleteConfirmText;

@@ -7,11 +7,11 @@
 #include <array>
 #include <optional>
 
-/// The groups of the app menu, in its order, with a hairline between any two. What belongs to none is given
-/// by its key alone.
+/// The groups of the app menu in their order, with separators between them. Commands of the group `none` have
+/// only a shortcut.
 enum class CommandGroup { documents, editing, spaces, views, exports, program, none };
 
-/// The menus of the menu bar, in its order.
+/// The menus of the menu bar in their order.
 enum class BarMenu { file, edit, spaces, view, help };
 inline constexpr std::array allBarMenus{BarMenu::file, BarMenu::edit, BarMenu::spaces, BarMenu::view,
                                         BarMenu::help};
@@ -19,10 +19,10 @@ inline constexpr std::array allBarMenus{BarMenu::file, BarMenu::edit, BarMenu::s
 /// Roles that systems with a global menu bar treat specially.
 enum class CommandRole { ordinary, about, quit, windowMenu };
 
-/// Where the commands are offered: behind a button of the window, or in the menu bar of the system.
+/// Where the commands are offered: in the app menu of the window, or in the menu bar of the system.
 enum class MenuLocation { window, menuBar };
 
-/// A command of the program: its title and its key.
+/// A command of the program: its title and its shortcut.
 struct MenuCommand {
     Q_DECLARE_TR_FUNCTIONS(MenuCommand)
 
@@ -31,24 +31,25 @@ public:
     /// The title before it is translated.
     const char *englishTitle = nullptr;
     QString symbol = {};
-    /// In portable words, where "Ctrl" is Command on a Mac; empty for none.
+    /// In Qt's portable format, where "Ctrl" is Command on a Mac; empty for none.
     QString shortcut = {};
     CommandGroup group = CommandGroup::none;
     CommandRole role = CommandRole::ordinary;
-    /// A second key, not shown anywhere.
+    /// A second shortcut, which is not shown.
     QString otherShortcut = {};
 
     QString title() const;
 
-    /// Every command, in the order of the menu. The app menu, the keys and the sheet of keys are all made
-    /// from it.
+    /// All commands in the order of the menu. The app menu, the menu bar, the shortcuts and the shortcut
+    /// sheet are generated from this table.
     static const QList<MenuCommand> &all();
 };
 
-/// Those that make sense where the commands are offered there.
+/// Returns the commands that apply to the location.
 QList<MenuCommand> menuCommands(MenuLocation place);
 
-/// The menu that holds the group in a menu bar. Groups may share one; what belongs to none is in none.
+/// Returns the menu of the menu bar that contains the group, or std::nullopt for `none`. Groups may share a
+/// menu.
 std::optional<BarMenu> barMenu(CommandGroup group);
 
 QString menuTitle(BarMenu menu);

@@ -15,7 +15,7 @@ bool QuitGuard::mayQuit()
     ChangeScope changes(*this);
     changes.assign(m_reason, *error, &QuitGuard::reasonChanged);
     changes.assign(m_asks, true, &QuitGuard::asksChanged);
-    m_appState.clearLastError(); // the question says it
+    m_appState.clearLastError(); // the question names the error
     return false;
 }
 

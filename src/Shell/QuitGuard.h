@@ -4,7 +4,7 @@
 
 class AppState;
 
-/// Saves before the program ends. Where that fails it keeps the program running and asks the writer once
+/// Saves before the program ends. If saving fails, the program keeps running and the user is asked once
 /// whether the unsaved changes may be lost.
 class QuitGuard : public QObject
 {
@@ -17,12 +17,12 @@ public:
 
     /// Whether the question is shown.
     bool asks() const { return m_asks; }
-    /// Why the changes could not be saved. Keeps its text while the question fades out.
+    /// Why the changes could not be saved. Keeps its value while the question fades out.
     QString reason() const { return m_reason; }
 
     /// Saves the changes. Returns whether the program may end; if not, the question is shown.
     Q_INVOKABLE bool mayQuit();
-    /// Ends the program without the changes that could not be saved.
+    /// Ends the program and discards the changes that could not be saved.
     Q_INVOKABLE void quitAnyway();
     Q_INVOKABLE void stay();
 

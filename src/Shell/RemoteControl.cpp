@@ -66,5 +66,5 @@ CommandLineResult RemoteControl::controlPomodoro(PomodoroCommand::Verb verb)
 QString RemoteControl::pomodoroStatus() const
 {
     return u"%1 %2 %3\n"_s.arg(m_timer.isFocusPhase() ? "focus"_L1 : "break"_L1, m_timer.displayTime(),
-                               m_timer.isRunning() ? "running"_L1 : "paused"_L1); // as scripts know them
+                               m_timer.isRunning() ? "running"_L1 : "paused"_L1); // for scripts
 }

@@ -7,7 +7,7 @@
 class AppState;
 class PomodoroTimer;
 
-/// Adds the spark and saves. An error means that it was not saved; the store has it either way.
+/// Adds the spark and saves. Returns an error if it could not be saved; the store keeps it in any case.
 CommandLineResult captureSpark(AppState &appState, const SparkCommand &command);
 
 /// Runs the command lines that other processes send to this one.
@@ -22,11 +22,11 @@ public:
     CommandLineResult answer(const QStringList &arguments);
 
 Q_SIGNALS:
-    /// The window must be raised.
+    /// The window must be shown in front.
     void openRequested();
 
 private:
-    /// Saves, then lets the caller export from the file.
+    /// Saves, then returns the exit code that makes the caller export from the file.
     CommandLineResult allowExport();
     CommandLineResult controlPomodoro(PomodoroCommand::Verb verb);
     QString pomodoroStatus() const;

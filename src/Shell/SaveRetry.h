@@ -7,14 +7,14 @@
 class AppState;
 class DocumentFile;
 
-/// After a failed save, looks every thirty seconds whether the file can be written, and then saves again. A
-/// look costs next to nothing, a save that is bound to fail may not.
+/// After a failed save, checks every thirty seconds whether the file can be written, and then saves again.
+/// The check is cheap; a save that fails may not be.
 class SaveRetry : public QObject
 {
     Q_OBJECT
 
 public:
-    /// All three must outlive this object.
+    /// All arguments must outlive this object.
     SaveRetry(AppState &appState, const DocumentFile &file, Scheduler &scheduler, QObject *parent = nullptr);
 
 private:

@@ -9,8 +9,8 @@
 class AppState;
 class NavigationViewModel;
 
-/// What the program can be told by menu and key. Commands that only change the store are carried out here;
-/// what needs the window, the timers or the end of the program is asked for.
+/// Runs the commands of menus and shortcuts. Commands that only change the store are run here; signals
+/// request the ones that need the window, the timers or the end of the program.
 class ShellCommands : public QObject
 {
     Q_OBJECT
@@ -24,22 +24,22 @@ public:
     ShellCommands(AppState &appState, NavigationViewModel &navigation,
                   MenuLocation place = MenuLocation::window, QObject *parent = nullptr);
 
-    /// The list model, for menus, keys and bind().
+    /// The commands, for menus, shortcuts and bind().
     CommandListModel *list() { return &m_list; }
 
-    /// The system keeps a menu bar, which offers the commands and gives them their keys.
+    /// Whether the system has a menu bar. It then offers the commands and handles their shortcuts.
     bool hasMenuBar() const { return m_place == MenuLocation::menuBar; }
-    /// The menus of that bar, each a `CommandMenu`.
+    /// The menus of that bar, as `CommandMenu`.
     QVariantList menus() const { return m_menus; }
 
-    /// The sheet that lists all keys is open.
+    /// Whether the shortcut sheet is open.
     bool showShortcuts() const { return m_showShortcuts; }
     QList<ShortcutLine> commandKeys() const { return ::commandKeys(m_place); }
 
     /// Runs the command. Does nothing if it is unknown or disabled.
     Q_INVOKABLE void run(const QString &id);
     Q_INVOKABLE void dismissShortcuts() { setShowShortcuts(false); }
-    /// The window fills the screen, or does so no longer.
+    /// Call it when the window enters or leaves full screen.
     void setFullScreen(bool on);
 
 Q_SIGNALS:
@@ -48,7 +48,7 @@ Q_SIGNALS:
     void pomodoroRequested();
     void fullScreenToggled();
     void saveRequested();
-    /// An editing command, by its id, for whatever has the keyboard.
+    /// An editing command must be run by the item that has the focus. `id` is the command.
     void editingRequested(const QString &id);
     void quitRequested();
 

@@ -5,8 +5,7 @@
 #include <QMetaType>
 #include <QStringList>
 
-/// One line of the sheet of keys: what they do and the keys one after the other, or the heading of the lines
-/// below it, which has no keys.
+/// One line of the shortcut sheet: a title and the keys of the combination, or a heading, which has no keys.
 struct ShortcutLine {
     Q_GADGET
     Q_PROPERTY(QString title MEMBER title CONSTANT)
@@ -19,11 +18,11 @@ public:
     bool operator==(const ShortcutLine &) const = default;
 };
 
-/// The keys of the commands, from their table.
+/// Returns the shortcuts of the commands.
 QList<ShortcutLine> commandKeys(MenuLocation place);
 
-/// The keys of the editing commands, without a heading.
+/// Returns the shortcuts of the editing commands, without a heading.
 QList<ShortcutLine> editingKeys();
 
-/// What is typed at the start of an empty line to make it a block of another kind.
+/// Returns what turns an empty line into a block of another kind when it is typed at its start.
 QList<ShortcutLine> typingMarkers();

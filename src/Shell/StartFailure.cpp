@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// Each module once, in the order in which they are missed.
+/// Returns each module once, in the order of the errors.
 QStringList missingModules(const QString &errors)
 {
     static const QRegularExpression missing(u"module \"([^\"]+)\"(?: version \\S+)? is not installed"_s);

@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// Returns the message for the user when the window's contents cannot be loaded. `errors` are the lines of
-/// the QML engine. Names each QML module that is not installed; other errors are passed on as they are.
+/// Returns the message for the user when the window's contents cannot be loaded. `errors` are the messages of
+/// the QML engine. QML modules that are not installed are named; other errors are returned unchanged.
 QString startFailure(const QString &errors);

@@ -8,8 +8,8 @@ namespace
 {
 constexpr qsizetype longest = 80;
 
-/// Marks, embeddings, overrides and isolates, which reach beyond the text they stand in when they are left
-/// open.
+/// Returns whether the character is a direction mark, embedding, override or isolate. Unclosed ones affect
+/// the text behind them.
 bool turnsDirection(QChar character)
 {
     switch (character.unicode()) {
@@ -28,7 +28,7 @@ bool isHarmful(QChar character)
     return turnsDirection(character) || character.category() == QChar::Other_Control;
 }
 
-/// Cut between two letters as a reader sees them.
+/// Cuts the text at a grapheme boundary.
 QString shortened(const QString &text)
 {
     if (text.size() <= longest)

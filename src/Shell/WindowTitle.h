@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// What a task switcher calls the window: the title of the document on one line of bounded length, and the
-/// program's name. Nothing in the title can turn the direction of the name around, or hide.
+/// Returns the title of the window: the document's title, on one line of bounded length, and the program's
+/// name. Direction characters in the title are removed, so that they cannot reverse the program's name.
 QString windowTitle(const QString &documentTitle);

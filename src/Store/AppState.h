@@ -10,9 +10,9 @@
 class Clock;
 class DocumentFile;
 
-/// The one store: every document, which of them is open, and the few flags that several views share. It
-/// alone reads and writes the data file. The whole list is saved when `SaveSchedule` says so.
-/// Setting a value that is already held announces nothing. Interface thread only.
+/// The one store: all documents, which of them is open, and the few flags that several views share. Only the
+/// store reads and writes the data file; it saves the whole list when `SaveSchedule` says so. Setting a value
+/// that is already held emits nothing. Interface thread only.
 class AppState : public QObject
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ class AppState : public QObject
     Q_PROPERTY(bool showAbout READ showAbout NOTIFY showAboutChanged)
 
 public:
-    /// How many documents a space takes from `createDocument`.
+    /// The number of documents in a space from which on `createDocument` refuses.
     static constexpr qsizetype documentLimit = 5;
 
     /// Loads the documents. The services must outlive the store.
@@ -38,18 +38,18 @@ public:
     bool showNav() const { return m_showNav; }
     bool showTasksPanel() const { return m_showTasksPanel; }
     bool showAbout() const { return m_showAbout; }
-    /// What went wrong, in words for the user, until it is dismissed.
+    /// The last error in words for the user, until it is dismissed.
     std::optional<QString> lastError() const;
 
-    /// Why the last save failed, dismissed or not; std::nullopt when it went well. While it is set, the
+    /// Why the last save failed, dismissed or not; std::nullopt after a successful save. While it is set, the
     /// documents hold changes that are not in the file.
     std::optional<QString> lastSaveError() const;
 
-    /// The document of that id, or nullptr. Valid until the documents next change.
+    /// Returns the document with this id, or nullptr. Valid until the documents change.
     const PelkoDocument *document(const QUuid &id) const;
-    /// The document that `openDocumentID` names, whatever its space.
+    /// Returns the document with the id `openDocumentID`, in any space.
     std::optional<PelkoDocument> openDocument() const;
-    /// How often the documents have changed. With `documentsChanged` this has grown already.
+    /// The number of changes of the documents. It is increased before `documentsChanged` is emitted.
     quint64 changeCount() const { return m_changeCount; }
     /// Returns the row of the document if the last change replaced only this one, otherwise std::nullopt.
     std::optional<qsizetype> replacedRow() const;
@@ -58,7 +58,7 @@ public:
     /// The documents of the ideas space, newest first.
     QList<PelkoDocument> sparks() const;
 
-    /// These two change only what they name. The program itself uses `switchSpace` and `showDocument`.
+    /// These two change only the named value. The program itself uses `switchSpace` and `showDocument`.
     void setCurrentSpace(Space space);
     void setOpenDocumentID(std::optional<QUuid> id);
     void setShowDocLimitNudge(bool shown);
@@ -70,36 +70,36 @@ public:
     void setShowAbout(bool shown);
     void clearLastError();
 
-    /// Shows a space: the newest of its documents is opened, or none where it is empty. An open document that
-    /// lies in it stays open.
+    /// Shows a space. Opens its newest document, or none if it is empty, unless the open document is in this
+    /// space.
     void switchSpace(Space space);
-    /// Opens a document and shows the space it lies in. An unknown id changes nothing.
+    /// Opens a document and shows its space. An unknown id changes nothing.
     void showDocument(const QUuid &id);
-    /// Adds an empty page to `space` and opens it, or raises `showDocLimitNudge` when five are there.
+    /// Adds an empty page to `space` and opens it, or sets `showDocLimitNudge` if the space has five already.
     void createDocument(Space space);
-    /// Replaces the document of the same id and stamps it as edited now. An unknown id changes nothing.
+    /// Replaces the document with the same id and sets its edit time to now. An unknown id changes nothing.
     void updateDocument(PelkoDocument document);
-    /// Removes the document; if it was open, the newest of the current space is opened instead.
+    /// Removes the document. If it was open, opens the newest one of the current space.
     void permanentlyDeleteDocument(const PelkoDocument &document);
     /// Adds one line as a new ideas document and saves at once. Returns std::nullopt for blank text.
     std::optional<PelkoDocument> captureSpark(const QString &text);
-    /// Moves one block of a document in memory without saving or stamping, for the live moves of a drag.
+    /// Moves one block of a document during a drag, without saving and without changing its edit time.
     void moveBlock(const QUuid &documentID, qsizetype from, qsizetype to);
-    /// Writes all documents now. A failure becomes `lastError`.
+    /// Writes all documents now. Sets `lastError` on failure.
     void save();
     /// Writes all documents if there are unsaved changes. Sets `lastSaveError`.
     void saveChanges();
     /// Call it when the file was removed, or replaced by another program. Adds the file's documents that the
-    /// store does not have and marks the rest as unsaved. A file that cannot be read is kept until the next
+    /// store does not have and marks the rest as unsaved. A file that cannot be read stays until the next
     /// save.
     void adoptFile();
-    /// Waits until the last save is synchronised to the disk. A failure becomes `lastError`.
+    /// Waits until the last save is synchronised to the disk. Sets `lastError` on failure.
     void confirmSave();
 
 Q_SIGNALS:
     void documentsChanged();
     void currentSpaceChanged();
-    /// Emitted before another document is opened. Uncommitted input for the open one must be stored now.
+    /// Emitted before another document is opened. Receivers must store uncommitted input now.
     void openDocumentIDAboutToChange();
     void openDocumentIDChanged();
     void showDocLimitNudgeChanged();

@@ -9,7 +9,7 @@
 
 namespace
 {
-constexpr std::uint32_t foreign = 0x0100'0000; // above the 24 bits that four characters make
+constexpr std::uint32_t foreign = 0x0100'0000; // above the 24 bits of four characters
 
 /// Two characters of base64 as JSON text: two to four bytes.
 struct EscapedPair {
@@ -33,7 +33,7 @@ constexpr auto escapedPairs = [] {
     return pairs;
 }();
 
-/// For each of the four places in a group: the bits that a character gives there, or `foreign`.
+/// For each of the four places in a group: the bits of a character there, or `foreign`.
 constexpr auto decodedBits = [] {
     std::array<std::array<std::uint32_t, 256>, 4> places{};
     for (std::size_t place = 0; place < places.size(); ++place) {
@@ -51,7 +51,7 @@ char *putPair(char *out, unsigned bits)
     return out + pair.size;
 }
 
-/// The one or two bytes that make no whole group.
+/// Encodes the last one or two bytes, which make no whole group.
 char *putRest(char *out, const unsigned char *in, qsizetype count)
 {
     const unsigned second = count == 2 ? in[1] : 0;
@@ -61,7 +61,7 @@ char *putRest(char *out, const unsigned char *in, qsizetype count)
         *out++ = '=';
         return out;
     }
-    // The last two characters as a pair, of which only the first is wanted: "A" stands for six empty bits.
+    // "A" stands for six zero bits, so the first character of this pair is the wanted one.
     out = putPair(out, (second & 15) << 8);
     out[-1] = '=';
     return out;
@@ -111,7 +111,7 @@ std::optional<QByteArray> decodeBase64(std::string_view text)
     if (text.size() % 4 != 0)
         return std::nullopt;
     const std::size_t padding = paddingOf(text);
-    std::array<char, 4> lastGroup{'A', 'A', 'A', 'A'}; // "A" stands for six empty bits
+    std::array<char, 4> lastGroup{'A', 'A', 'A', 'A'}; // "A" stands for six zero bits
     text.substr(text.size() - 4, 4 - padding).copy(lastGroup.data(), lastGroup.size());
     text.remove_suffix(4);
 

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string_view>
 
-/// Base64 with the standard alphabet and padding, at the speed of a data file full of pictures: Qt's own is
-/// ten times slower, and needs a second pass to escape the slashes.
+/// Base64 with the standard alphabet and padding, for data files full of pictures: Qt's own is ten times
+/// slower and needs a second pass to escape the slashes.
 
 inline constexpr std::string_view base64Alphabet =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";

@@ -15,9 +15,9 @@
 
 namespace
 {
-constexpr std::uint8_t nothing = 0x80; // shuffles a zero byte
+constexpr std::uint8_t nothing = 0x80; // makes the shuffle write a zero byte
 
-/// How eight characters move apart to make room for the backslashes, for each set of slashes among them.
+/// For each set of slashes among eight characters: how they move apart to make room for the backslashes.
 struct Escape {
     std::array<std::uint8_t, 16> moves{};
     std::array<char, 16> backslashes{};
@@ -48,8 +48,8 @@ void store(void *to, __m128i value)
     _mm_storeu_si128(static_cast<__m128i *>(to), value);
 }
 
-/// Sixteen numbers of six bits from the first twelve bytes: each group of three is spread over four, and its
-/// bits are shifted into place by multiplying.
+/// Returns sixteen numbers of six bits from the first twelve bytes: each group of three bytes is spread over
+/// four, and its bits are shifted into place by multiplication.
 __attribute__((target("ssse3,popcnt"))) __m128i sixBits(__m128i bytes)
 {
     const __m128i groups =
@@ -61,7 +61,7 @@ __attribute__((target("ssse3,popcnt"))) __m128i sixBits(__m128i bytes)
     return _mm_or_si128(even, odd);
 }
 
-/// The alphabet has five runs: what is to be added to a number depends on its run only.
+/// Returns the letters of the alphabet, which has five runs: the number to add depends on the run only.
 __attribute__((target("ssse3,popcnt"))) __m128i letters(__m128i numbers)
 {
     const __m128i beyondLetters = _mm_subs_epu8(numbers, _mm_set1_epi8(51)); // 0, or 1 to 12
@@ -88,8 +88,8 @@ __attribute__((target("ssse3,popcnt"))) Base64Vector::Encoded encodeTwelves(cons
     std::size_t done = 0;
     for (; done + lookedAt <= count; done += 12) {
         const __m128i text = letters(sixBits(load(bytes + done)));
-        // With or without slashes: to tell them apart takes the processor longer, as it cannot foresee which
-        // it is.
+        // No branch on the existence of slashes: the processor would often predict it wrongly, which costs
+        // more.
         const auto slashes = unsigned(_mm_movemask_epi8(_mm_cmpeq_epi8(text, _mm_set1_epi8('/'))));
         out = putEscaped(out, text, slashes & 0xFF);
         out = putEscaped(out, _mm_srli_si128(text, 8), slashes >> 8);
@@ -97,8 +97,8 @@ __attribute__((target("ssse3,popcnt"))) Base64Vector::Encoded encodeTwelves(cons
     return {done, out};
 }
 
-/// Each group of three bytes over four: so the six bits of every letter lie in two neighbours, as the shifts
-/// below want them.
+/// Spreads each group of three bytes over four, so that the six bits of every letter lie in two neighbours,
+/// as the shifts need them.
 constexpr auto spreadGroups = [] {
     std::array<std::uint8_t, 64> places{};
     for (std::size_t group = 0; group < 16; ++group) {
@@ -112,7 +112,7 @@ constexpr auto spreadGroups = [] {
 }();
 #    define PELKO_WIDE __attribute__((target("avx512f,avx512bw,avx512vbmi,avx512vbmi2,bmi2,popcnt")))
 
-/// Every letter is given a backslash, of which those of slashes are kept.
+/// Puts a backslash before every letter and keeps those of slashes.
 PELKO_WIDE char *putEscaped(char *out, __m256i text, std::uint32_t slashes)
 {
     constexpr std::uint64_t backslashPlaces = 0x5555'5555'5555'5555;

@@ -7,7 +7,7 @@
 namespace Base64Vector
 {
 
-/// How much was encoded, in bytes from the front, and where its text ends.
+/// The number of bytes that were encoded, from the front, and the end of their text.
 struct Encoded {
     std::size_t bytes = 0;
     char *end = nullptr;

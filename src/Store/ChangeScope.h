@@ -30,7 +30,7 @@ public:
         announce(changed);
     }
 
-    /// For a field that was changed in place.
+    /// Announces a field that was changed in place.
     void announce(Signal changed)
     {
         if (std::find(m_signals.begin(), m_signals.end(), changed) == m_signals.end())

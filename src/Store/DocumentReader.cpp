@@ -18,11 +18,12 @@ namespace
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view shortestDocument =
     R"({"id":"00000000-0000-0000-0000-000000000000","space":"work","blocks":[],"createdAt":0})";
-/// The parser may look at so many bytes after a text, without counting them.
+/// The number of bytes behind a text that the parser may read.
 constexpr auto padding = qsizetype(simdjson::SIMDJSON_PADDING);
 static_assert(padding < qsizetype(shortestDocument.size()), "a run pads the one before it");
 
-/// The members of a JSON object under each of the names, of two alike the last. None when it is no object.
+/// Returns the values of these names in a JSON object, the last one of duplicates. All are std::nullopt if
+/// `json` is not an object.
 template <std::size_t count>
 std::array<std::optional<dom::element>, count> membersOf(dom::element json,
                                                          const std::array<std::string_view, count> &names)
@@ -31,7 +32,7 @@ std::array<std::optional<dom::element>, count> membersOf(dom::element json,
     dom::object object;
     if (json.get(object) != simdjson::SUCCESS)
         return members;
-    std::size_t expected = 0; // mostly they are in the order of the names
+    std::size_t expected = 0; // members are usually in the order of the names
     for (const dom::key_value_pair member : object) {
         if (expected >= count || member.key != names[expected])
             expected = std::size_t(std::ranges::find(names, member.key) - names.begin());
@@ -70,7 +71,7 @@ bool read(dom::element json, QString &value)
     value = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     if (marks > 0)
         value.prepend(QString(marks, QChar::ByteOrderMark));
-    // QString::fromUtf8 makes room for a unit of each byte, three times what Chinese needs.
+    // QString::fromUtf8 reserves a unit for each byte, three times what Chinese needs.
     if (value.capacity() > value.size() + value.size() / 4)
         value.squeeze();
     return true;
@@ -170,7 +171,7 @@ Value unread()
 template <>
 TodoItem unread()
 {
-    return {.id = {}, .text = {}, .done = false}; // left out, the id would be a fresh one
+    return {.id = {}, .text = {}, .done = false}; // without it, a fresh UUID would be generated
 }
 
 template <typename Value>
@@ -213,7 +214,7 @@ bool takeLast(QByteArray &json, const ObjectRun &run, dom::parser &parser,
     return true;
 }
 
-/// From the last to the first, so that the text makes room for the documents.
+/// Reads the runs from the last to the first, so that their text can be freed meanwhile.
 std::optional<QList<PelkoDocument>> readRuns(QByteArray json, const std::vector<ObjectRun> &runs)
 {
     qsizetype count = 0;

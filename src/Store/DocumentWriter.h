@@ -8,10 +8,10 @@
 
 class JsonText;
 
-/// Writes the text of "data.json", piece by piece as it is made. It remembers the text of what it wrote
-/// last, so that one changed page among ten thousand costs the encoding of a few; a page counts as unchanged
-/// while it still shares its list of blocks with the one that was written, which no change leaves as it is.
-/// Pages with pictures are not remembered, and of the others no more than `memoryLimit` bytes.
+/// Writes the text of "data.json" to a sink. It keeps the text of unchanged pages, so that one changed page
+/// among ten thousand costs the encoding of a few. A page is unchanged while it shares its list of blocks
+/// with the written one; every change detaches the list. The text of pages with pictures is not kept, and of
+/// the others at most `memoryLimit` bytes.
 class DocumentWriter
 {
 public:
@@ -19,7 +19,7 @@ public:
 
     [[nodiscard]] std::optional<FileError> write(const QList<PelkoDocument> &documents, ByteSink &sink);
 
-    /// The pages that the last writing had to encode.
+    /// The number of pages that the last write had to encode; for tests.
     qsizetype encodedDocuments() const { return m_encodedDocuments; }
 
 private:

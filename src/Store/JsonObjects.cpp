@@ -4,8 +4,7 @@
 
 namespace
 {
-/// The quote that ends the string whose text begins at `at`: one that no backslash escapes. Without one, the
-/// end.
+/// Returns the position of the first unescaped quote from `at` on, or the end of the text.
 std::size_t closingQuote(std::string_view text, std::size_t at)
 {
     for (at = text.find('"', at); at != text.npos; at = text.find('"', at + 1)) {
@@ -16,7 +15,7 @@ std::size_t closingQuote(std::string_view text, std::size_t at)
     return text.size();
 }
 
-/// The brace that ends the object that begins at `at`. Without one, the end.
+/// Returns the position of the brace that closes the object at `at`, or the end of the text.
 std::size_t closingBrace(std::string_view text, std::size_t at)
 {
     for (std::size_t depth = 0; at < text.size(); ++at) {
@@ -44,7 +43,7 @@ public:
         return isNext;
     }
 
-    /// How long it was.
+    /// Returns the length of the object, or std::nullopt if there is none.
     std::optional<std::size_t> takeObject()
     {
         skipSpace();

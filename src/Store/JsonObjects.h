@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-/// Neighbours among the objects of an array, from the character before the first to the one after the last:
-/// put brackets in these two places, and the text between is an array of its own.
+/// Consecutive objects of an array, from the character before the first to the one after the last. With these
+/// two characters replaced by brackets, the text between is an array of its own.
 struct ObjectRun {
     std::size_t start = 0;
     std::size_t size = 0;
@@ -23,8 +23,8 @@ struct ObjectLengths {
     std::size_t run = 0;
 };
 
-/// Finds the objects of the JSON array that begins at `start`, so that they can be parsed run by run. It
-/// looks at nothing but the strings and braces in them: the text is one valid array of objects exactly when
-/// runs are found and each of them is one.
+/// Finds the objects of the JSON array that begins at `start`, so that they can be parsed run by run. Looks
+/// at strings and braces only: the text is a valid array of objects exactly if runs are found and each of
+/// them is one.
 std::optional<std::vector<ObjectRun>> findObjects(std::string_view text, std::size_t start,
                                                   const ObjectLengths &lengths);

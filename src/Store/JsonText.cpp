@@ -58,7 +58,7 @@ char *putUtf8(char *out, char32_t character)
     return out;
 }
 
-/// The code point at `index`, which is moved to the last unit of it.
+/// Returns the code point at `index` and moves `index` to its last unit.
 char32_t codePointAt(QStringView string, qsizetype &index)
 {
     const QChar unit = string[index];
@@ -74,7 +74,7 @@ JsonText::JsonText(ByteSink &sink) : m_sink(&sink) {}
 
 void JsonText::put(QByteArrayView json)
 {
-    if (m_sink && json.size() >= drainAt) { // nothing gained by copying it first
+    if (m_sink && json.size() >= drainAt) { // copying it into the buffer would gain nothing
         drain();
         if (!m_error)
             m_error = m_sink->write(json);
@@ -119,7 +119,7 @@ void JsonText::putNumber(double number)
         m_error = FileError(FileError::Problem::undefinedDate);
         return;
     }
-    // Written as integers, a number beyond 64 bits would be unreadable and -0 would lose its sign.
+    // As an integer, a number beyond 64 bits would be unreadable and -0 would lose its sign.
     constexpr double exactIntegers = 9'007'199'254'740'992; // 2^53
     const bool exponent = std::abs(number) >= exactIntegers || (number == 0 && std::signbit(number));
     std::array<char, 32> text;
@@ -154,7 +154,7 @@ std::optional<FileError> JsonText::finish()
 
 QByteArray JsonText::take()
 {
-    const QByteArray text(m_bytes.constData(), m_size); // exactly as large as it need be
+    const QByteArray text(m_bytes.constData(), m_size); // without unused capacity
     m_size = 0;
     return text;
 }

@@ -4,34 +4,33 @@
 
 #include <QUuid>
 
-/// Compact JSON text, put together piece by piece. With a sink to drain into it never holds much more than
-/// `drainAt` bytes, however long the text; without one it keeps all. The text is valid UTF-8 in any case:
-/// what a QString may hold and UTF-8 may not (half a surrogate pair) becomes U+FFFD.
+/// Builds compact JSON text. With a sink it holds little more than `drainAt` bytes, however long the text is;
+/// without one it keeps all. The text is always valid UTF-8: half of a surrogate pair becomes U+FFFD.
 class JsonText
 {
 public:
-    /// Large, as the system takes a large file in large pieces for less.
+    /// Large writes cost the system less than many small ones.
     static constexpr qsizetype drainAt = 1024 * 1024;
 
     JsonText() = default;
     explicit JsonText(ByteSink &sink);
 
-    /// JSON as it is, punctuation for instance.
+    /// Appends JSON as it is, such as punctuation.
     void put(QByteArrayView json);
     void putString(QStringView string);
     void putUuid(const QUuid &uuid);
-    /// The shortest number that reads back as exactly this one. JSON knows no NaN and no infinity: an error.
+    /// Appends the shortest number that reads back as exactly this one. NaN and infinity are errors.
     void putNumber(double number);
     void putBool(bool value);
-    /// As a string of base64.
+    /// Appends a string in base64.
     void putBytes(QByteArrayView bytes);
 
-    /// Drains the rest. Returns the first error of encoding or writing.
+    /// Writes the rest to the sink. Returns the first error of encoding or writing.
     [[nodiscard]] std::optional<FileError> finish();
-    /// The text that was not drained.
+    /// Returns the text that was not written to a sink.
     QByteArray take();
     bool hasFailed() const { return m_error.has_value(); }
-    /// For text that was encoded separately and inserted.
+    /// Takes over the error of text that was encoded separately.
     void inheritError(const JsonText &other);
 
 private:

@@ -5,7 +5,7 @@
 
 QList<PelkoDocument> newestFirst(const QList<PelkoDocument> &documents, Space space)
 {
-    std::vector<const PelkoDocument *> found; // ten thousand of them are sorted in less than a frame
+    std::vector<const PelkoDocument *> found; // sorting ten thousand pointers takes less than a frame
     for (const PelkoDocument &document : documents) {
         if (document.space == space)
             found.push_back(&document);

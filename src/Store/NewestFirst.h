@@ -2,7 +2,7 @@
 
 #include "Models/PelkoDocument.h"
 
-/// The documents of a space, newest first. Those made in the same instant keep their order.
+/// Returns the documents of a space, newest first. Documents with the same creation time keep their order.
 QList<PelkoDocument> newestFirst(const QList<PelkoDocument> &documents, Space space);
 
 /// Returns the id of the newest document, or std::nullopt if the space is empty.

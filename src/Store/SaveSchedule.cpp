@@ -9,7 +9,7 @@ namespace
 {
 constexpr auto delayAfterLast = 500ms;
 constexpr auto delayAfterFirst = 2s;
-constexpr int pausePerSave = 9; // times its duration: a tenth of the time goes into saving
+constexpr int pausePerSave = 9; // times its duration, so that at most a tenth of the time goes into saving
 } // namespace
 
 SaveSchedule::SaveSchedule(Scheduler &scheduler, std::function<void()> save)

@@ -6,20 +6,20 @@
 #include <functional>
 #include <optional>
 
-/// When changes are saved: half a second after the last one, and two seconds after the first one that is not
-/// saved. Where a save is slow, the two seconds stretch, so that at most a tenth of the time goes into
-/// saving.
+/// Decides when changes are saved: half a second after the last change, and two seconds after the first
+/// unsaved one. If a save is slow, the two seconds become longer, so that at most a tenth of the time goes
+/// into saving.
 class SaveSchedule
 {
 public:
-    /// `save` is called when it is time, and calls `saved`.
+    /// `save` is called when a save is due; it must call `saved`.
     SaveSchedule(Scheduler &scheduler, std::function<void()> save);
 
-    /// A change was made.
+    /// Call it after each change.
     void changed();
-    /// A save was tried and took this long.
+    /// Call it after each attempt to save, with the time it took.
     void saved(std::chrono::milliseconds duration);
-    /// Saves no more before the next change.
+    /// Cancels the pending save.
     void cancel();
 
 private:

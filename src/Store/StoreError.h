@@ -2,14 +2,14 @@
 
 #include "Services/FileError.h"
 
-/// What went wrong with the documents as a whole. A value: it is put into words where it is shown.
+/// An error that concerns all documents. A value; `description` puts it into words when it is shown.
 struct StoreError {
     enum class Task { load, save };
 
     Task task = Task::save;
     FileError cause = {};
 
-    /// In words for the user. What is wrong with a file that cannot be loaded is of no use to them.
+    /// Returns the text for the user. The cause of a failed load is left out, because it would not help them.
     QString description() const;
 
     bool operator==(const StoreError &) const = default;

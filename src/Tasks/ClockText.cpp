@@ -15,7 +15,7 @@ QString timeFormat()
     return QCoreApplication::translate("ClockText", "h:mm a");
 }
 
-/// Whether the half of the day is told.
+/// Returns whether the user's clock has AM and PM.
 bool hasMarker()
 {
     return timeFormat().contains(u'a');
@@ -27,7 +27,7 @@ QString ClockText::time(Timestamp moment, const QTimeZone &zone, const QLocale &
     const QTime time = localTime(moment, zone).time();
     if (!hasMarker())
         return locale.toString(time, timeFormat());
-    // A format of its own would need the marker beside it to be one of twelve hours.
+    // "h" counts to twelve only in a format with "a".
     const int hour = (time.hour() + 11) % 12 + 1;
     return locale.toString(hour) + u':' + locale.toString(time, u"mm"_s);
 }

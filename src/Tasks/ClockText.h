@@ -5,15 +5,15 @@
 #include <QLocale>
 #include <QTimeZone>
 
-/// How a moment is told on the panel, to whoever lives in that zone and reads in that language.
+/// Texts for times and dates on the tasks panel.
 namespace ClockText
 {
 
-/// Hour and minute on a dial of twelve, like "7:42".
+/// Returns hour and minute, such as "7:42".
 QString time(Timestamp moment, const QTimeZone &zone, const QLocale &locale);
-/// Which half of the day it is, like "AM".
+/// Returns "AM" or "PM"; empty for a clock of twenty-four hours.
 QString marker(Timestamp moment, const QTimeZone &zone, const QLocale &locale);
-/// Weekday and day, like "Thursday, Oct 16".
+/// Returns weekday and date, such as "Thursday, Oct 16".
 QString date(Timestamp moment, const QTimeZone &zone, const QLocale &locale);
 
 } // namespace ClockText

@@ -35,7 +35,7 @@ qint64 wordsIn(std::span<const Block> blocks)
     return words;
 }
 
-/// The words of the page, of which another version had so many: only blocks with another text are read.
+/// Returns the word count of the page. Reads only the blocks whose text differs from the last reading.
 qint64 wordsIn(const PelkoDocument &doc, const Page &before)
 {
     const auto sharesText = [](const Block &one, const Block &other) {

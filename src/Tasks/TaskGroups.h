@@ -2,7 +2,7 @@
 
 #include "Models/PelkoDocument.h"
 
-/// An entry of a checklist and the block it stands in, as they were when the list was made.
+/// An entry of a checklist and its block, as they were when the list was made.
 struct Task {
     Block block;
     TodoItem todo;
@@ -10,7 +10,7 @@ struct Task {
     bool operator==(const Task &) const = default;
 };
 
-/// The entries of all checklists of one document, and the document as it was when they were gathered.
+/// The entries of all checklists of one document, and the document itself at that time.
 struct TaskGroup {
     PelkoDocument doc;
     QList<Task> todos;
@@ -18,13 +18,13 @@ struct TaskGroup {
     bool operator==(const TaskGroup &) const = default;
 };
 
-/// The entries of all checklists of the page in its own order, ticked ones too.
+/// Returns the entries of all checklists of the page in their order, ticked ones too.
 TaskGroup tasksOf(const PelkoDocument &doc);
 
-/// One group for each document that has an entry, in the order of the list, whatever their space and whether
-/// they are archived or not.
+/// Returns a group for each document that has an entry, in the order of `documents`, from all spaces and
+/// including archived ones.
 QList<TaskGroup> todosByDoc(const QList<PelkoDocument> &documents);
 
-/// How many entries of a page are not ticked.
+/// Returns the number of entries that are not ticked.
 qint64 pendingCount(const TaskGroup &group);
 qint64 pendingCount(const QList<TaskGroup> &groups);

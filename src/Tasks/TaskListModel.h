@@ -3,16 +3,16 @@
 #include "ListModels/IdListModel.h"
 #include "Tasks/TaskGroups.h"
 
-/// One line of the list: the heading of a document's tasks, or a task.
+/// One row of the list: a task, or the heading above the tasks of a document.
 struct TaskListRow {
     enum class Kind { heading, task };
 
     Kind kind = Kind::heading;
     QUuid docID = {};
-    /// Of a task only.
+    /// Set for tasks only.
     QUuid blockID = {};
     QUuid todoID = {};
-    /// The document's title in capitals, or what there is to do.
+    /// The document's title in capitals, or the text of the task.
     QString text = {};
     bool done = false;
 
@@ -24,10 +24,10 @@ inline QUuid rowKey(const TaskListRow &row)
     return row.kind == TaskListRow::Kind::heading ? row.docID : row.todoID;
 }
 
-/// Each group's heading, and its tasks below it.
+/// Returns the heading and the tasks of each group.
 QList<TaskListRow> taskRows(const QList<TaskGroup> &groups);
 
-/// The list of the tasks card for QML.
+/// The rows of the tasks card for QML.
 class TaskListModel : public IdListModel<TaskListRow>
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ public:
 
     using IdListModel::IdListModel;
 
-    /// The row of the first task from that row on, downwards or, with a step of -1, upwards; -1 for none.
+    /// Returns the first task at or after `row`, or before it if `step` is -1; -1 for none.
     int taskFrom(int row, int step) const;
 
     QVariant data(const QModelIndex &index, int role) const override;

@@ -17,7 +17,7 @@ namespace
 {
 constexpr auto tickInterval = 60s;
 
-/// Line breaks are no blanks here.
+/// Line breaks do not count as blanks here.
 bool isBlankTask(const QString &text)
 {
     return std::ranges::all_of(text, [](QChar character) {

@@ -8,13 +8,13 @@
 
 class AppState;
 
-/// What the tasks panel shows and can do, from its opening to its closing. It follows the store and, once a
-/// minute counted from its opening, the clock; so the minute it shows may be up to 59 seconds old. While the
-/// panel is hidden, the clock, the streak and the events are not updated. Ids cross into QML as strings.
+/// The view model of the tasks panel while it is open. It updates with the store and once a minute, counted
+/// from its opening; the shown minute may be up to 59 seconds old. While the panel is hidden, the clock, the
+/// streak and the events are not updated. Ids are strings in QML.
 class TasksPanelViewModel : public QObject
 {
     Q_OBJECT
-    // QML has no 64-bit integers: it is given the numbers of the kind it has.
+    // QML has no 64-bit integers, so numbers are doubles or 32-bit integers here.
     Q_PROPERTY(bool hasOpenDocument READ hasOpenDocument NOTIFY openDocumentChanged)
     Q_PROPERTY(QString openDocumentText READ openDocumentText NOTIFY openDocumentChanged)
     Q_PROPERTY(QString time READ time NOTIFY currentTimeChanged)
@@ -34,19 +34,19 @@ public:
     TasksPanelViewModel(AppState &appState, const TasksServices &services, QObject *parent = nullptr);
 
     bool hasOpenDocument() const { return !m_openDocumentText.isEmpty(); }
-    /// The word count of the open page and its age, such as "107 words · 5m ago".
+    /// The word count of the open page and the time since its last edit, such as "107 words · 5m ago".
     const QString &openDocumentText() const { return m_openDocumentText; }
-    /// Such as "7:42", and the marker "AM".
+    /// The time, such as "7:42", and "AM" or "PM".
     QString time() const;
     QString timeMarker() const;
-    /// Like "Thursday, Oct 16".
+    /// Such as "Thursday, Oct 16".
     QString dateString() const;
     /// A TaskListModel.
     QObject *tasks() { return &m_tasks; }
     qint64 pendingCount() const { return m_pendingCount; }
     /// The text of the field for a new task.
     const QString &newTaskText() const { return m_newTaskText; }
-    /// The words of the whole library.
+    /// The word count of the whole library.
     qint64 wordTotal() const { return m_wordTotal; }
     qint64 wordGoal() const;
     /// From 0 to 1.

@@ -46,7 +46,7 @@ void TasksViewModel::update(bool isOpen, TasksPanelViewModel *panel)
 {
     TasksPanelViewModel *before = m_panel;
     {
-        // Both before either is announced: the closing animation of the view before may end meanwhile.
+        // Set both before either is announced: the closing animation of the old view may end meanwhile.
         ChangeScope changes(*this);
         changes.assign(m_panel, panel, &TasksViewModel::panelChanged);
         changes.assign(m_isOpen, isOpen, &TasksViewModel::isOpenChanged);

@@ -29,7 +29,7 @@ void UpcomingEvents::fetchEvents()
     if (std::exchange(m_fetchZone, m_clock.timeZone()) != m_fetchZone && rowCount() > 0)
         Q_EMIT dataChanged(index(0), index(rowCount() - 1), {TimeRole});
     const QDateTime end =
-        localTime(m_fetchTime, m_fetchZone).addDays(1); // of the calendar: not always 24 hours
+        localTime(m_fetchTime, m_fetchZone).addDays(1); // a calendar day is not always 24 hours
     const CalendarWindow window{
         .from = m_fetchTime, .to = end.isValid() ? timestampOf(end) : m_fetchTime, .zone = m_fetchZone};
     m_fetch = m_eventStore.fetch(window, [this](const CalendarStore::Answer &answer) {
@@ -63,7 +63,7 @@ void UpcomingEvents::assign(const QList<CalendarEvent> &events)
     for (const CalendarEvent &event : events)
         order.append(&event);
     std::ranges::stable_sort(order, {}, &CalendarEvent::start);
-    // Assigned, not appended: GCC 14 takes the event that append() moves for uninitialised.
+    // Assigned, because GCC 14 warns about an uninitialised event in append().
     QList<CalendarEvent> sorted(order.size());
     std::ranges::transform(order, sorted.begin(), [](const CalendarEvent *event) { return *event; });
     if (sorted == m_upcomingEvents)

@@ -7,8 +7,8 @@
 
 class Clock;
 
-/// The events of the 24 hours after a fetch, sorted by start. The rows, for QML, are the first three; the
-/// total counts all. If the calendars cannot be read, the list stays unchanged.
+/// The events of the 24 hours after a fetch, sorted by start. The rows are the first three; the total counts
+/// all. If the calendars cannot be read, the list stays unchanged.
 class UpcomingEvents : public QAbstractListModel
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     UpcomingEvents(CalendarStore &eventStore, const Clock &clock, const QLocale &locale,
                    QObject *parent = nullptr);
 
-    /// Sorted by start; events of the same start keep the order of the store.
+    /// Sorted by start; events with the same start keep the order of the store.
     const QList<CalendarEvent> &upcomingEvents() const { return m_upcomingEvents; }
     int total() const { return static_cast<int>(m_upcomingEvents.size()); }
 
@@ -31,7 +31,7 @@ public:
     /// changed since the last fetch.
     void followClock();
 
-    /// When it starts, like "9:30 AM", on whatever day that is.
+    /// Returns the start of the event, such as "9:30 AM", without the date.
     QString eventTimeString(const CalendarEvent &event) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;

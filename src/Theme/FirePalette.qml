@@ -2,7 +2,7 @@ pragma Singleton
 
 import QtQuick
 
-/// The one warm, dark look of fire and embers. All colours are sRGB. Views name a colour; none restates a value.
+/// The colours of the program's dark theme, in sRGB. Views use these names and no values of their own.
 QtObject {
     readonly property color amber: Qt.rgba(0.88, 0.45, 0.22, 1)
     readonly property color amberSoft: Qt.rgba(0.94, 0.63, 0.45, 1)
@@ -45,7 +45,7 @@ QtObject {
     readonly property color hitGround: Qt.alpha(amber, 0.30)
     readonly property color well: Qt.rgba(0, 0, 0, 0.20)
     readonly property color focusRing: Qt.alpha(amberSoft, 0.9)
-    // Almost invisible: it only has to be hit.
+    // Almost transparent, but it must receive clicks.
     readonly property color dismissLayer: Qt.rgba(0, 0, 0, 0.01)
     readonly property color scrim: Qt.rgba(10 / 255, 7 / 255, 6 / 255, 0.52)
 
@@ -66,7 +66,7 @@ QtObject {
     readonly property color chosenRowFoot: Qt.alpha(amber, 0.20)
     readonly property color chosenRowHairline: Qt.alpha(amberSoft, 0.16)
 
-    /// Plain white, for the places whose figure says white.
+    /// White, for the places that the design gives as white with an opacity.
     function white(opacity: real) : color {
         return Qt.rgba(1, 1, 1, opacity)
     }

@@ -4,8 +4,8 @@
 
 #include <array>
 
-/// The outline of the flame, on a square of 24: where it starts, then three points for each Bézier curve, the
-/// last of which closes it. The symbol "flame.fill" is the same.
+/// The outline of the flame on a grid of 24 × 24: the starting point, then three points for each cubic Bézier
+/// curve, the last of which closes the outline. The symbol "flame.fill" has the same outline.
 inline constexpr double flameGrid = 24;
 inline constexpr double flameTip = 1.2;
 inline constexpr double flameFoot = 22.8;

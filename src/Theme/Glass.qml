@@ -3,7 +3,7 @@ pragma Singleton
 import QtQuick
 import Pelko
 
-/// The kinds of glass. Each says what it lays over the blurred ground, what it is without shaders, and its shadow.
+/// The kinds of glass.
 QtObject {
     readonly property GlassKind chip: GlassKind {
         sheenOnPlain: true

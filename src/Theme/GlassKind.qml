@@ -1,7 +1,7 @@
 import QtQuick
 
-/// The parameters of one kind of glass. `tint` lies over the blurred ground; `plain` stands in for both of them where
-/// nothing can be blurred.
+/// The parameters of one kind of glass: `tint` over the blurred background, or `plain` where shaders are not available,
+/// and the shadow.
 QtObject {
     property color tint
     property color plain
@@ -11,7 +11,7 @@ QtObject {
     property color rimMiddle: Qt.rgba(1, 1, 1, 0.06)
     property color rimFoot: Qt.rgba(1, 1, 1, 0.09)
     property color hairline: Qt.rgba(1, 1, 1, 0.10)
-    // The plain colours of most kinds have their sheen mixed in already.
+    // The plain colours of most kinds include the sheen.
     property bool sheenOnPlain: false
     property real blur: 0
     property real saturation: 1

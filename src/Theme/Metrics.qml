@@ -2,7 +2,7 @@ pragma Singleton
 
 import QtQml
 
-/// Space, radii and the sizes that several views share, in device-independent pixels.
+/// Spacing, radii and sizes that several views share, in device-independent pixels.
 QtObject {
     readonly property int space2: 2
     readonly property int space4: 4
@@ -102,7 +102,7 @@ QtObject {
     readonly property int pageMargin: 48
     readonly property int pageTop: 60
     readonly property int pageFoot: 40
-    /// How much lower a page begins while nothing else is to be seen.
+    /// Additional space above the page in focus mode.
     readonly property int focusAir: 32
     readonly property int bannerTop: 56
     readonly property int titleMargin: 96
@@ -120,7 +120,7 @@ QtObject {
     readonly property int emptyImageHeight: 100
     readonly property int bannerHeight: 280
     readonly property int bannerPadding: 24
-    /// Pictures higher than so many times their width are shown narrower.
+    /// The largest ratio of height to width; higher pictures are shown narrower.
     readonly property int highestPicture: 4
     readonly property int todoToggleSize: 17
     readonly property int todoLine: 22
@@ -131,12 +131,13 @@ QtObject {
     readonly property int gripHeight: 26
     readonly property int gripSymbol: 16
     readonly property real liftedOpacity: 0.32
-    /// The tallest picture of a dragged block, in pixels.
+    /// The largest height of the picture of a dragged block, in pixels.
     readonly property int liftedPixels: 8192
-    /// A dragged block this near to the edge of the page scrolls it; so many times further, the more a second.
+    /// A dragged block within `dragEdge` of the edge of the page scrolls it: per second by `dragScroll` times the
+    /// overlap.
     readonly property int dragEdge: 64
     readonly property int dragScroll: 14
 
-    /// How far one notch of a wheel scrolls.
+    /// The scrolling distance of one notch of a wheel.
     readonly property int wheelStep: 72
 }

@@ -24,7 +24,7 @@ private:
     QEasingCurve m_curve;
 };
 
-/// The springs every animated control moves by, from the quickest to the slowest.
+/// The springs of the animated controls, from the fastest to the slowest.
 class PelkoAnimation : public QObject
 {
     Q_OBJECT
@@ -46,6 +46,7 @@ public:
     SpringMotion bouncy() const;
     SpringMotion settle() const;
 
-    /// For the few controls that bring a spring of their own. Bind it to a property once, not in every frame.
+    /// Returns a motion for a control with a spring of its own. Bind it to a property, so that it is computed
+    /// once.
     Q_INVOKABLE SpringMotion spring(qreal response, qreal dampingFraction) const;
 };

@@ -2,20 +2,21 @@
 
 #include <QStringList>
 
-/// The program's voice: one line at random from a pool, never the line that was picked last time under the
-/// same key. Not stored between launches. Interface thread only.
+/// Picks random lines from pools, never the same line twice in a row for one key. The last lines are not
+/// stored between launches. Interface thread only.
 class PelkoVoice
 {
 public:
     PelkoVoice() = delete;
 
-    /// The pool must not be empty. The memory belongs to the key, whatever the pool.
+    /// Returns a random line of the pool, which must not be empty. The last line is remembered by key, not by
+    /// pool.
     static QString pick(const QStringList &pool, const QString &key);
 
     /// Titles of the error alert; key "error".
     static const QStringList &errorPool();
-    /// What an empty space says; key "emptyNotes".
+    /// Texts of an empty space; key "emptyNotes".
     static const QStringList &emptyNotesPool();
-    /// What the main view opens with; key "greeting".
+    /// Greetings of the main view; key "greeting".
     static const QStringList &greetingPool();
 };

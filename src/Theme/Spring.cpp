@@ -93,7 +93,7 @@ QEasingCurve Spring::curve() const
         from = to;
         fromSlope = toSlope;
     }
-    // Qt 6.4 keeps room for ten segments only and writes past it without a word.
+    // Qt 6.4 has room for ten segments and writes beyond it without a check.
     Q_ASSERT(curve.toCubicSpline().size() <= 3 * segmentCount);
     return curve;
 }

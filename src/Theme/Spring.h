@@ -3,10 +3,10 @@
 #include <QEasingCurve>
 #include <QtGlobal>
 
-/// A damped spring that starts at rest at 0 and settles at 1. Given by its response, the period in seconds it
-/// would swing with undamped, and its damping fraction, where 1 is the least damping without an overshoot.
+/// A damped spring that starts at rest at 0 and settles at 1. `response` is the period in seconds of the
+/// undamped spring; a damping fraction of 1 is the smallest without overshoot.
 struct Spring {
-    /// Where something is and how fast it moves, in units and units a second.
+    /// Position, and velocity in units per second.
     struct State {
         qreal position = 0;
         qreal velocity = 0;
@@ -20,19 +20,19 @@ struct Spring {
     qreal response;
     qreal dampingFraction;
 
-    /// Where the spring is, `seconds` after it was let go.
+    /// Returns the position `seconds` after the start.
     qreal position(qreal seconds) const;
-    /// How fast it is there, in whole ways a second.
+    /// Returns the velocity at this time, per second.
     qreal velocity(qreal seconds) const;
 
-    /// Where something that was at `start` is `seconds` later when the spring pulls it to 0.
+    /// Returns the state after `seconds` when the spring moves from `start` to 0.
     State pulledToZero(State start, qreal seconds) const;
 
-    /// The moment, in seconds, from which the rest of the way stays below the threshold.
+    /// Returns the time in seconds after which the remaining distance stays below the threshold.
     qreal settlingTime() const;
-    /// The same in whole milliseconds, as animations take it.
+    /// Returns the settling time in whole milliseconds.
     int duration() const;
-    /// The motion from 0 to 1 over `duration()` as an easing curve.
+    /// Returns the motion from 0 to 1 over `duration()` as an easing curve.
     QEasingCurve curve() const;
 
     friend bool operator==(const Spring &, const Spring &) = default;

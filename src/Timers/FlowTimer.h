@@ -6,8 +6,8 @@
 
 #include <optional>
 
-/// Five minutes to get going. It is started with one click, counts down and stops by itself, resting on
-/// "0:00" for one second before it does. A finished run starts afresh; one stopped half-way goes on.
+/// A timer of five minutes. It counts down, shows "0:00" for one second and stops by itself. `start` begins
+/// again after a finished run and resumes a stopped one.
 class FlowTimer : public QObject
 {
     Q_OBJECT
@@ -23,12 +23,12 @@ public:
     /// Seconds left in the current run.
     qint64 remaining() const { return m_remaining; }
     bool isRunning() const { return m_isRunning; }
-    /// Whether a run has started and is not finished.
+    /// Returns whether a run has started and is not finished.
     bool isActive() const { return m_isRunning || m_remaining < totalSeconds; }
     /// "m:ss".
     QString displayTime() const;
 
-    /// Does nothing while a run goes on.
+    /// Starts or resumes the count-down. Does nothing while it runs.
     Q_INVOKABLE void start();
     /// Stops and keeps the remaining time.
     void stop();

@@ -4,7 +4,7 @@ namespace
 {
 constexpr int gap = 8;
 
-/// A panel that does not fit is aligned to the start, so that its beginning is visible.
+/// Returns the start of a span within the room. A span that does not fit is aligned to the start of the room.
 int inside(int start, int length, int roomStart, int roomLength)
 {
     return qMax(roomStart, qMin(start, roomStart + roomLength - length));

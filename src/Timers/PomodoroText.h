@@ -4,17 +4,17 @@
 
 class PomodoroTimer;
 
-/// How much of the phase has passed, from 0 to 1.
+/// Returns the elapsed part of the phase, from 0 to 1.
 double phaseProgress(const PomodoroTimer &timer);
 
-/// Rounded up, so that the last minute reads 1.
+/// Returns the remaining minutes, rounded up.
 int minutesLeft(const PomodoroTimer &timer);
 
-/// "16:42 of focus left".
+/// Returns the remaining time and the phase, such as "16:42 of focus left".
 QString timeLeftInWords(const PomodoroTimer &timer);
 
-/// The same while the timer runs; otherwise whether it is paused, or has not been started yet.
+/// Returns the same while the timer runs, otherwise that it is paused or not started.
 QString stateInWords(const PomodoroTimer &timer);
 
-/// What one button that starts and pauses does.
+/// Starts or pauses the timer: the action of its one button.
 void startOrPause(PomodoroTimer &timer);

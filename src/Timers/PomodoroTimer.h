@@ -7,9 +7,9 @@
 #include <optional>
 #include <vector>
 
-/// A count-down that alternates between 25 minutes of focus and 5 minutes of break and stops at each
-/// boundary: the next phase is started by hand. It rests on "00:00" for one second before a phase ends, so a
-/// phase takes one tick more than it has seconds. Nothing is stored between launches.
+/// A count-down that alternates between 25 minutes of focus and 5 minutes of break. It stops at the end of
+/// each phase; the next one is started by hand. "00:00" is shown for one second, so a phase takes one second
+/// longer than its length. Nothing is stored between launches.
 class PomodoroTimer : public QObject
 {
     Q_OBJECT
@@ -55,5 +55,5 @@ private:
     bool m_isFocusPhase = true;
     qint64 m_sessionCount = 0;
     std::optional<ScheduledCall> m_timer;
-    std::vector<ScheduledCall> m_lostTimers; // of starts while running
+    std::vector<ScheduledCall> m_lostTimers; // timers of calls to start() while running
 };

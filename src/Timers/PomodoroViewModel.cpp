@@ -34,7 +34,7 @@ PomodoroViewModel::PomodoroViewModel(PomodoroTimer &timer, AppState &appState, P
 void PomodoroViewModel::followTimer()
 {
     connect(&m_timer, &PomodoroTimer::timeRemainingChanged, this, &PomodoroViewModel::timeChanged);
-    // A phase decides how long the ring is.
+    // The progress depends on the length of the phase.
     connect(&m_timer, &PomodoroTimer::isFocusPhaseChanged, this, &PomodoroViewModel::timeChanged);
     connect(&m_timer, &PomodoroTimer::isFocusPhaseChanged, this, &PomodoroViewModel::phaseChanged);
     connect(&m_timer, &PomodoroTimer::isRunningChanged, this, &PomodoroViewModel::isRunningChanged);
@@ -119,7 +119,7 @@ void PomodoroViewModel::submitSpark()
     if (!canSubmit())
         return;
     if (holdsUnsavedSpark())
-        m_appState.saveChanges(); // which clears the field when it succeeds
+        m_appState.saveChanges(); // clears the field when it succeeds
     else
         captureNote();
     focusCaptureAfter(focusDelayAfterCapture);
@@ -173,7 +173,7 @@ void PomodoroViewModel::deleteSpark(const QString &sparkID)
 {
     if (const PelkoDocument *spark = m_appState.document(QUuid(sparkID)))
         m_appState.permanentlyDeleteDocument(*spark);
-    focusCaptureAfter(focusDelayAfterCapture); // the card that may have had the keyboard is gone
+    focusCaptureAfter(focusDelayAfterCapture); // the removed card may have had the focus
 }
 
 void PomodoroViewModel::refreshSparks()

@@ -35,18 +35,18 @@ public:
     bool isRunning() const;
     /// "FOCUS" or "BREAK".
     QString phase() const;
-    /// Of the completed sessions.
+    /// The number of completed sessions.
     int sessionCount() const;
-    /// One for each completed session, four at most.
+    /// The number of dots: one for each completed session, at most four.
     int sessionDots() const;
-    /// "+N" for the sessions that have no dot; empty when all have.
+    /// "+N" for the sessions without a dot; empty if there are none.
     QString moreSessions() const;
     /// The text of the capture field.
     const QString &quickNote() const { return m_quickNote; }
     bool canSubmit() const;
     /// The error of the last attempt to save the spark in the field; otherwise empty.
     const QString &captureError() const { return m_captureError; }
-    /// Of all sparks.
+    /// The number of all sparks.
     int sparkCount() const { return m_sparkCount; }
     QObject *sparks() { return &m_sparks; }
 
@@ -58,8 +58,8 @@ public:
     Q_INVOKABLE void resetTimer();
     /// Called by the view when the text of the field changes.
     Q_INVOKABLE void typed(const QString &text);
-    /// Captures the text of the field, unless it is blank. A spark that cannot be saved stays in the
-    /// field; the next submission of the same text tries to save it again, and captures it no second time.
+    /// Captures the text of the field, unless it is blank. A spark that cannot be saved stays in the field;
+    /// submitting the same text again tries to save it and does not add another spark.
     Q_INVOKABLE void submitSpark();
     /// Puts all of the spark's text on the pasteboard.
     Q_INVOKABLE void copySpark(const QString &sparkID);
@@ -74,7 +74,7 @@ Q_SIGNALS:
     void captureErrorChanged();
     void sparkCountChanged();
     void startedFresh();
-    /// The capture field must take the focus.
+    /// The view must give the focus to the capture field.
     void captureFocusRequested();
 
 private:

@@ -7,7 +7,7 @@ namespace
 {
 constexpr qsizetype shownCharacters = 300;
 
-/// Those made in the same instant keep the order of the list.
+/// Sparks with the same creation time keep the order of the list.
 bool comesFirst(const PelkoDocument *left, const PelkoDocument *right)
 {
     return left->createdAt != right->createdAt ? left->createdAt > right->createdAt : left < right;

@@ -5,7 +5,7 @@
 /// One row of the list of recent sparks.
 struct RecentSpark {
     QUuid id;
-    /// The beginning of its text, as much as a card can show.
+    /// The beginning of the text, as much as a card can show.
     QString text;
     bool isNew = false;
 
@@ -15,14 +15,14 @@ struct RecentSpark {
 struct RecentSparks {
     /// Newest first.
     QList<RecentSpark> cards;
-    /// Of all sparks, not only those on cards.
+    /// The number of all sparks, with or without a card.
     qsizetype total = 0;
 };
 
-/// Returns the text of a spark: its first block.
+/// Returns the text of a spark, which is its first block.
 QString sparkText(const PelkoDocument &spark);
 
-/// The newest `limit` documents of the ideas space, in the order of AppState::sparks, found without sorting
+/// Returns the newest `limit` documents of the ideas space, in the order of AppState::sparks, without sorting
 /// all documents.
 RecentSparks recentSparks(const QList<PelkoDocument> &documents, qsizetype limit,
                           const std::optional<QUuid> &newest);

@@ -8,7 +8,7 @@ inline QUuid rowKey(const RecentSpark &card)
     return card.id;
 }
 
-/// The sparks on cards for QML.
+/// The cards of the recent sparks for QML.
 class SparkListModel : public IdListModel<RecentSpark>
 {
     Q_OBJECT

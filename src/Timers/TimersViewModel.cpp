@@ -9,7 +9,7 @@ using namespace std::chrono_literals;
 
 namespace
 {
-constexpr auto clickTime = 300ms; // from a press to the click it becomes
+constexpr auto clickTime = 300ms; // the longest time between a press and its click
 }
 
 TimersViewModel::TimersViewModel(PomodoroTimer &timer, FlowTimer &flow, AppState &appState,

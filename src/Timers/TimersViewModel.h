@@ -10,8 +10,8 @@ class AppState;
 class Pasteboard;
 class PomodoroTimer;
 
-/// The timers as the windows show them: the flow timer, the label of the pomodoro that opens its panel, and
-/// whether the tray shows this label instead.
+/// The timers in the window: the flow timer, the label of the pomodoro, which opens its panel, and whether
+/// the tray shows this label instead.
 class TimersViewModel : public QObject
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ public:
     void setInTray(bool inTray);
 
     PomodoroViewModel &panel() { return m_panel; }
-    /// Opens the panel at a place of the screen or closes the one that is open.
+    /// Opens the panel beside `opener`, a rectangle on the screen, or closes it if it is open.
     Q_INVOKABLE void togglePanel(const QRect &opener);
     Q_INVOKABLE void closePanel();
     /// Called when the panel loses the focus: closes it, unless the capture field has text. If the focus was

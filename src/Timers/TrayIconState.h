@@ -17,9 +17,9 @@ struct TrayMenuRow {
 /// The state of the pomodoro that the tray shows.
 struct TrayIconState {
     bool isRunning = false;
-    /// Of the flame: 0.8 at rest; while the timer runs the two ends of its pulse, second by second.
+    /// The opacity of the flame: 0.8 at rest; while the timer runs it alternates every second.
     double flameOpacity = 0.8;
-    /// From 0 to 1.
+    /// The elapsed part of the phase, from 0 to 1.
     double progress = 0;
     int minutesLeft = 25;
     /// The remaining time beside the flame; empty at rest.

@@ -4,8 +4,8 @@ import QtQuick
 import QtQuick.Window
 import Pelko
 
-/// A flame that flickers and glows by itself. Each of the three states, once set, swings for ever between its two
-/// ends; the periods differ so that the flame never repeats visibly. It only moves while it is visible.
+/// A flame that flickers and glows. Each of the three states alternates for ever between two values; their periods
+/// differ, so that the flame never repeats visibly. It moves only while it is visible.
 Item {
     id: flame
 
@@ -35,7 +35,7 @@ Item {
         radius: flame.largestGlow
         color: FirePalette.amber
         opacity: flame.glowOpacity
-        // One blurred picture serves every radius: scaled until it reaches just as far beyond the flame.
+        // One blurred picture serves every radius: it is scaled to extend equally far beyond the flame.
         scale: (flame.size / 2 + flame.glowRadius) / (flame.size / 2 + flame.largestGlow)
     }
 

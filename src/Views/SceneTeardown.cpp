@@ -5,7 +5,7 @@
 
 namespace
 {
-// The layers of a window stand in its content.
+// The layers of a window are in its content item.
 constexpr int layerDepth = 2;
 
 /// Topmost first, because glass items use the items below them.

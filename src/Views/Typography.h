@@ -132,7 +132,7 @@ public:
     int taskLine() const { return 14; }
     int eventTimeLine() const { return 12; }
 
-    /// A face of the given height in pixels, with `tracking` pixels added after each letter.
+    /// The font of the given height in pixels, with `tracking` pixels added after each letter.
     Q_INVOKABLE QFont face(const QString &family, qreal pixels, int weight, qreal tracking = 0) const;
     /// Returns the font without kerning and ligatures, which makes the layout of long texts much faster.
     Q_INVOKABLE static QFont unshaped(QFont font);

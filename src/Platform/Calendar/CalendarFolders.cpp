@@ -46,7 +46,7 @@ Listing listing(const fs::path &folder)
          entry.increment(error)) {
         const std::string name = entry->path().filename();
         std::error_code unreachable;
-        if (name.starts_with('.')) // not yet whole, or bookkeeping
+        if (name.starts_with('.')) // temporary files, and files of the program that synchronises
             continue;
         if (name.ends_with(".ics"))
             result.calendarFiles.push_back(entry->path());
@@ -58,7 +58,7 @@ Listing listing(const fs::path &folder)
     return result;
 }
 
-/// Reads folders one after the other and none of them twice, however they are linked.
+/// Reads folders one after the other. A folder that is reached twice through links is read once.
 class FolderReader
 {
 public:

@@ -17,8 +17,8 @@ struct UserFolders {
     static UserFolders ofThisUser();
 };
 
-/// Calendars that are folders with a file for each event, as terminal programs and programs that synchronise
-/// keep them.
+/// Calendars that are stored as folders with one file per event (vdir), as terminal programs and
+/// synchronisers do.
 namespace CalendarFolders
 {
 

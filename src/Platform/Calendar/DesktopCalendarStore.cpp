@@ -27,8 +27,8 @@ DesktopCalendarStore::DesktopCalendarStore(QDBusConnection bus, UserFolders fold
 DesktopCalendarStore::~DesktopCalendarStore()
 {
     m_lifetime.reset();
-    // A disk far away may hold up a thread for as long as it likes, but not the end of the program: then the
-    // thread is left to the system.
+    // A network disk may block the thread for any time, but must not delay the end of the program: the thread
+    // is then abandoned.
     if (!m_thread->waitForDone(int(std::chrono::milliseconds(longestFarewell).count())))
         std::ignore = m_thread.release();
 }

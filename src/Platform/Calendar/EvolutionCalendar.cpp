@@ -14,8 +14,9 @@ const QString interfaceName = u"org.gnome.evolution.dataserver.Calendar"_s;
 /// The maximum number of parallel calls. The bus limits pending replies, and sent calls cannot be cancelled.
 constexpr int mostCalls = 32;
 
-/// Events in the window and, because the server does not find occurrences moved into it, all
-/// that repeats. A day more on either side: it has a mind of its own about zones and days, and we look again.
+/// Selects the events in the window and, because the server does not find occurrences that were moved into
+/// it, all recurring events. One day is added on either side, because the server treats zones and days
+/// differently; the result is filtered again.
 QString query(const CalendarWindow &window)
 {
     const auto moment = [](Timestamp time, int days) {

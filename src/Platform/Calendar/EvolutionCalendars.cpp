@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 namespace
 {
 /// The interval of the check whether the fetch was cancelled.
-constexpr auto glance = 20ms;
+constexpr auto cancellationCheckInterval = 20ms;
 
 /// Runs the event loop until all calls are done or the deadline has expired.
 template <typename IsDone>
@@ -27,7 +27,7 @@ void wait(QEventLoop &loop, const FetchDeadline &limit, IsDone isDone)
         if (limit.isOver())
             loop.quit();
     });
-    timer.start(glance);
+    timer.start(cancellationCheckInterval);
     if (!isDone() && !limit.isOver())
         loop.exec();
 }

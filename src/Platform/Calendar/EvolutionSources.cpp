@@ -12,7 +12,7 @@ using Properties = QVariantMap;
 using Interfaces = QMap<QString, Properties>;
 using Objects = QMap<QDBusObjectPath, Interfaces>;
 
-constexpr int deepestAccount = 8; // a source may say that it belongs to itself
+constexpr int deepestAccount = 8; // a source may name itself as its parent
 
 struct Source {
     bool isCalendar = false;

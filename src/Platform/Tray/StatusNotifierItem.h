@@ -9,8 +9,8 @@
 
 class Tray;
 
-/// The item of the tray as the bus knows it: properties that hosts read, calls they make and signals that
-/// tell them to read again. Icons are painted when a host asks for them. The names are those of the bus.
+/// The tray item on the session bus: properties that hosts read, methods they call and signals that tell them
+/// to read again. Icons are painted when a host asks for them. The names are those of the bus.
 class StatusNotifierItem : public QDBusAbstractAdaptor
 {
     Q_OBJECT

@@ -69,7 +69,7 @@ void Tray::connectTo(const QDBusConnection &bus)
         m_bus.connect(watcherService, watcherPath, watcherService, signal, this, SLOT(askForHost()));
     const auto *watcher =
         new QDBusServiceWatcher(watcherService, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
-    // The name may pass from one owner to another directly: then it is neither registered nor unregistered.
+    // The name may pass from one owner to another directly, without serviceRegistered or serviceUnregistered.
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
             [this](const QString &, const QString &, const QString &newOwner) {
                 withdraw();
@@ -87,7 +87,7 @@ void Tray::show(const TrayIconState &state)
 
 void Tray::registerWithWatcher()
 {
-    m_registration = std::make_unique<QObject>(); // answers of an earlier owner come too late
+    m_registration = std::make_unique<QObject>(); // drops replies to calls for an earlier owner
     m_isRegistered = false;
     QDBusMessage message = QDBusMessage::createMethodCall(watcherService, watcherPath, watcherService,
                                                           u"RegisterStatusNotifierItem"_s);
@@ -105,7 +105,7 @@ void Tray::registerWithWatcher()
 
 void Tray::askForHost()
 {
-    if (!m_isRegistered) // it will be asked for
+    if (!m_isRegistered) // hosts read all properties after the registration
         return;
     QDBusMessage message = QDBusMessage::createMethodCall(watcherService, watcherPath,
                                                           u"org.freedesktop.DBus.Properties"_s, u"Get"_s);

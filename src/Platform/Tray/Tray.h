@@ -23,7 +23,7 @@ public:
 
     explicit Tray(QObject *parent = nullptr);
 
-    /// Whether somebody shows the item.
+    /// Whether a host shows the item.
     bool isPresent() const { return m_isPresent; }
 
     /// Offers the item on `bus`, which need not be connected.
@@ -32,15 +32,15 @@ public:
 
 Q_SIGNALS:
     void isPresentChanged();
-    /// The item was clicked, at that place of the desktop, in device-independent pixels.
+    /// The item was clicked. `place` is the position on the desktop in device-independent pixels.
     void activated(const QPoint &place);
-    /// The other click, that of the middle button.
+    /// The item was clicked with the middle button.
     void secondaryActivated();
     void chosen(TrayMenuRow::Command command);
 
 private Q_SLOTS:
     void askForHost();
-    /// The watcher that had the item has gone, or the bus.
+    /// Called when the watcher or the bus has gone.
     void withdraw();
 
 private:

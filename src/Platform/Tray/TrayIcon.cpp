@@ -51,12 +51,12 @@ void paintRing(QPainter &painter, int size, const TrayIconState &state)
     const QRectF ring = QRectF(0, 0, size, size).adjusted(stroke / 2, stroke / 2, -stroke / 2, -stroke / 2);
     painter.setPen(QPen(track, stroke));
     painter.drawEllipse(ring);
-    // A dot from the beginning, so that a ring is seen at all.
+    // The smallest arc that is visible, so that the ring shows from the first second.
     const qreal spent = qMax(state.progress, 0.01);
     QConicalGradient colours(ring.center(), top);
     colours.setColorAt(0, ember);
     colours.setColorAt(1 - spent, amberSoft);
-    // An arc that has just begun is too short for two colours.
+    // A very short arc has no room for two colours.
     colours.setColorAt(1, spent < shortArc ? amberSoft : ember);
     painter.setOpacity(state.flameOpacity);
     painter.setPen(QPen(colours, stroke, Qt::SolidLine, spent < 0.9 ? Qt::RoundCap : Qt::FlatCap));
@@ -66,12 +66,13 @@ void paintRing(QPainter &painter, int size, const TrayIconState &state)
 
 qreal digitHeight(int size)
 {
-    // Sizes that were set by eye, and between and beyond them a line.
-    constexpr std::pair<int, qreal> eyed[] = {{22, 11}, {24, 12}, {32, 15.5}, {48, 22}};
-    const auto *upper = std::ranges::find_if(eyed, [size](const auto &pair) { return size <= pair.first; });
-    if (upper == std::end(eyed))
+    // Height of the digits by icon size, chosen by eye; other sizes are interpolated.
+    constexpr std::pair<int, qreal> heights[] = {{22, 11}, {24, 12}, {32, 15.5}, {48, 22}};
+    const auto *upper =
+        std::ranges::find_if(heights, [size](const auto &pair) { return size <= pair.first; });
+    if (upper == std::end(heights))
         return 22.0 * size / 48;
-    if (upper->first == size || upper == std::begin(eyed))
+    if (upper->first == size || upper == std::begin(heights))
         return upper->second * size / upper->first;
     const auto *lower = std::prev(upper);
     const qreal part = qreal(size - lower->first) / (upper->first - lower->first);

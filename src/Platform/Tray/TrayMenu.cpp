@@ -68,7 +68,7 @@ QString TrayMenu::textDirection() const
 
 bool TrayMenu::AboutToShow(int)
 {
-    return false; // it is never behind
+    return false; // the menu's contents are always current
 }
 
 QList<int> TrayMenu::AboutToShowGroup(const QList<int> &ids, QList<int> &unknownIDs)

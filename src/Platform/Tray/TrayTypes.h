@@ -5,7 +5,7 @@
 #include <QImage>
 #include <QVariantMap>
 
-// The structures that the two interfaces of a tray item put on the bus.
+// The D-Bus structures of the two interfaces of a tray item.
 
 /// "(iiay)": pixels as 32-bit ARGB in network byte order.
 struct TrayPixmap {
@@ -63,5 +63,5 @@ const QDBusArgument &operator>>(const QDBusArgument &argument, TrayMenuNode &nod
 QDBusArgument &operator<<(QDBusArgument &argument, const TrayMenuEvent &event);
 const QDBusArgument &operator>>(const QDBusArgument &argument, TrayMenuEvent &event);
 
-/// Makes all of them known to the bus; more than once does no harm.
+/// Registers all of these types with the bus. Further calls have no effect.
 void registerTrayTypes();

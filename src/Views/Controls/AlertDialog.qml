@@ -3,9 +3,9 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// A message over the dimmed window with one choice or two. Return takes the choice that has the focus, which is
-/// never the dangerous one at first; Escape takes the one that cancels. Every choice, and Escape without a choice
-/// that cancels, ends with `dismissed`: the owner then resets what had the dialog shown.
+/// A message over the dimmed window with one or two choices. Return triggers the focused choice, which at first is
+/// never the destructive one; Escape triggers the one that cancels. Every choice, and Escape without a choice that
+/// cancels, ends with `dismissed`: the owner then closes the dialog.
 ModalLayer {
     id: dialog
 
@@ -124,7 +124,7 @@ ModalLayer {
             Row {
                 id: row
 
-                /// The buttons are all as wide as the widest has to be.
+                /// The width of the widest button, which all buttons have.
                 readonly property real widest: Array.from(children).reduce(
                     (widest, button) => Math.max(widest, button.implicitWidth), 0)
                 readonly property real neededWidth: buttons.count * (widest + spacing) - spacing

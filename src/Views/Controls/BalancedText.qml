@@ -1,6 +1,6 @@
 import QtQuick
 
-/// Centred text of at most `widest` pixels whose lines come out about equally long.
+/// Centred text of at most `widest` pixels, wrapped into lines of similar length.
 Text {
     id: text
 

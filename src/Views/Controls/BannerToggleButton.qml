@@ -1,6 +1,6 @@
 import Pelko
 
-/// Makes the picture under the pointer the banner of its page, and back.
+/// Makes a picture the banner of its page, or turns it back.
 HoverCapsule {
     required property bool isBanner
 

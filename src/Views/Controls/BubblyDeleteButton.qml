@@ -1,6 +1,6 @@
 import Pelko
 
-/// The round bin over a block under the pointer; it warms up when pointed at itself.
+/// The round button that deletes a block. It becomes red under the pointer.
 HoverCapsule {
     name: qsTr("Delete")
     icon.name: "trash"

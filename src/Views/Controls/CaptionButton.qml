@@ -1,8 +1,8 @@
 import QtQuick
 import Pelko
 
-/// A round button, with the symbol `icon.name`, of the window's own frame: no ground at rest, a soft one under the pointer. The one that closes
-/// turns ember.
+/// A round button of the window frame with the symbol `icon.name`. Its background appears under the pointer, for the
+/// close button in ember.
 PressableControl {
     id: button
 

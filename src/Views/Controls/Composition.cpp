@@ -22,7 +22,7 @@ void insertComposed(QQuickItem &field, const QString &text)
 
 void Composition::settle(QQuickItem *field)
 {
-    // Keys wait while a long text is being shown.
+    // While a long text is being shown, keys wait.
     if (field && field->metaObject()->indexOfMethod("takeWaitingInput()") >= 0)
         QMetaObject::invokeMethod(field, "takeWaitingInput");
     if (!field || preeditOf(*field).isEmpty())
@@ -32,10 +32,11 @@ void Composition::settle(QQuickItem *field)
     const QString composed = preeditOf(*field);
     const int length = field->property("length").toInt();
     QGuiApplication::inputMethod()->commit();
-    // fcitx5 commits only on a reset, and would commit once more what is inserted without one.
+    // fcitx5 commits only on a reset, and would commit text a second time if it were inserted here without
+    // one.
     if (!preeditOf(*field).isEmpty())
         QGuiApplication::inputMethod()->reset();
-    // Some input methods do nothing then, and ibus clears what some engines composed.
+    // Some input methods ignore a reset, and ibus discards the text of some engines.
     if (!preeditOf(*field).isEmpty() || field->property("length").toInt() == length)
         insertComposed(*field, composed);
 }

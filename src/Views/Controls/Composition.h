@@ -2,8 +2,8 @@
 
 #include <QQuickItem>
 
-/// The text that an input method is composing in a field: shown there as preedit text, but not part of the
-/// field's text yet.
+/// The preedit text of a field: text that an input method composes and that does not belong to the field's
+/// text yet.
 class Composition : public QObject
 {
     Q_OBJECT
@@ -13,7 +13,7 @@ class Composition : public QObject
 public:
     using QObject::QObject;
 
-    /// Makes the preedit text of that field part of its text, in its place, so that it cannot be lost. Fields
-    /// and other items without preedit text stay as they are; so does null.
+    /// Inserts the preedit text of the field into its text. Does nothing for items without preedit text and
+    /// for null.
     Q_INVOKABLE static void settle(QQuickItem *field);
 };

@@ -1,8 +1,8 @@
 import QtQuick
 import QtQuick.Templates as T
 
-/// The ring of a control that the keyboard led to. Unlike `visualFocus` it is still shown when the window was left and
-/// has come back.
+/// The focus ring of a control that got the focus by keyboard. Unlike `visualFocus` it is shown again when the window
+/// becomes active again.
 FocusRing {
     id: ring
 

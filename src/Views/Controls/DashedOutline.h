@@ -5,7 +5,7 @@
 #include <QColor>
 #include <QtQml/qqml.h>
 
-/// A dashed hairline along the inside of the item's edge, with rounded corners: a place to be filled.
+/// A dashed line with rounded corners along the inside of the item's edge.
 class DashedOutline : public PictureItem
 {
     Q_OBJECT

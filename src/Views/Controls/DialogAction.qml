@@ -1,6 +1,6 @@
 import QtQml
 
-/// One of the choices a dialog offers. Escape makes the one that cancels. A dialog of one choice offers it strongly.
+/// One choice of a dialog. Escape triggers the one that cancels. The only choice of a dialog is emphasised.
 QtObject {
     required property string name
     property bool cancels: false

@@ -3,8 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// A time, or a number, whose digits stand in cells of one width each, so that nothing shifts while it counts. Where it `rolls`,
-/// a digit that changes rolls upwards to the next. Whoever uses it sets the accessible role and name.
+/// A time or a number with digits of equal width, so that nothing moves while it counts. With `rolls`, a changed digit
+/// rolls upwards. The user of this type sets the accessible role and name.
 Row {
     id: time
 
@@ -13,7 +13,7 @@ Row {
     required property color color
     property color footColor: color
     property bool rolls: false
-    /// By how much the colon's cell is narrower than a digit's, and how far it is lifted.
+    /// How much narrower than a digit the colon is, and how far it is raised.
     property real colonInset: digitWidth - Math.ceil(metrics.advanceWidth(":"))
     property real colonRise: 0
 
@@ -21,7 +21,7 @@ Row {
         (widest, digit) => Math.max(widest, metrics.advanceWidth(digit)), 0))
 
     baselineOffset: metrics.ascent
-    // Figures run from left to right everywhere.
+    // Digits are ordered from left to right in all languages.
     layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight
 
     FontMetrics {

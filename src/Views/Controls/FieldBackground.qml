@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The ground of a one-line field: brighter, with a warm line and a halo, while the field has the keyboard.
+/// The background of a field of one line; with a warm outline and a glow while the field has the focus.
 Rectangle {
     id: plate
 

@@ -6,7 +6,7 @@
 #include <QObject>
 #include <QtQml/qqml.h>
 
-/// The rules of text that fields need.
+/// Functions on texts for fields in QML.
 class FieldText : public QObject
 {
     Q_OBJECT
@@ -16,7 +16,8 @@ class FieldText : public QObject
 public:
     using QObject::QObject;
 
-    /// How many UTF-16 units Backspace deletes behind the text `before` the caret; see backspaceLength().
+    /// Returns how many UTF-16 units Backspace deletes behind the text `before` the caret; see
+    /// backspaceLength().
     Q_INVOKABLE int backspaceLength(const QString &before) const
     {
         return static_cast<int>(::backspaceLength(before));

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Five glowing pieces of coal in a row: a space that is full.
+/// Five glowing embers in a row, for a space that is full.
 Row {
     spacing: Metrics.space6
 

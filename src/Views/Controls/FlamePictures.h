@@ -5,7 +5,7 @@
 #include <QColor>
 #include <QtQml/qqml.h>
 
-/// The bare flame, as large as the item, in its gradient from top to foot.
+/// The flame without glow, in the size of the item, with a vertical gradient.
 class FlameShape : public PictureItem
 {
     Q_OBJECT
@@ -29,8 +29,8 @@ private:
     QColor m_footColor;
 };
 
-/// The glow of a flame: its shape, `flameSize` large, blurred by `radius` and centred in the item. The
-/// implicit size has room for the blur.
+/// The glow of a flame: a flame of `flameSize`, blurred by `radius` and centred in the item. The implicit
+/// size includes the blur.
 class FlameGlow : public PictureItem
 {
     Q_OBJECT

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Shows where the keyboard is: two pixels wide, two outside the control it fills.
+/// A focus ring two pixels wide, two pixels outside of the control that it fills.
 Rectangle {
     id: ring
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Says below a field of one line that what was pasted did not fit.
+/// The message below a field of one line that a pasted text was too long.
 Text {
     required property LineField field
 

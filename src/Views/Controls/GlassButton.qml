@@ -1,7 +1,8 @@
 import QtQuick
 import Pelko
 
-/// A labelled capsule, with the symbol `icon.name` if there is one: plain glass for the harmless choice, warm for the one strong button, red for a danger.
+/// A button with a label and, if `icon.name` is set, a symbol: of plain glass, warm for the main choice of a view, or
+/// red for a destructive one.
 PressableControl {
     id: button
 

@@ -3,8 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The blurred backdrop of a glass surface: rendered at a quarter of its size, which is both cheaper and softer than
-/// a blur of the whole, then blurred across and down, and cut to shape.
+/// The blurred backdrop of a glass surface: rendered at a quarter of its size, which is cheaper and softer, then
+/// blurred horizontally and vertically, and cut to the shape.
 Item {
     id: pane
 
@@ -16,7 +16,7 @@ Item {
     readonly property real shrink: 4
     readonly property int texelsWide: Math.max(1, Math.ceil(width / shrink))
     readonly property int texelsHigh: Math.max(1, Math.ceil(height / shrink))
-    // The nine samples make a Gaussian of 3.35 texels; the one asked for decides how far apart they lie.
+    // The nine samples make a Gaussian of 3.35 texels; the wanted radius determines their distance.
     readonly property real step: blur / 2 / shrink / 3.35
 
     function look() : void {
@@ -56,7 +56,7 @@ Item {
         readonly property real cornerRadius: Math.min(pane.radius, width / 2, height / 2)
         readonly property real pixel: 1 / Screen.devicePixelRatio
         readonly property real saturation: pane.saturation
-        // A backdrop that is clear in places stands on the window's own ground.
+        // The window's background, for transparent parts of the backdrop.
         readonly property color under: FirePalette.deepBackground
         readonly property vector2d plateSize: Qt.vector2d(width, height)
 

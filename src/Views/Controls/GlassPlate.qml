@@ -1,8 +1,8 @@
 import QtQuick
 import Pelko
 
-/// The surface of a piece of glass without what lies behind: ground, sheen and rim. `lift` lays that much white over
-/// it, for hover and press. `tinted` where something blurred lies below. Draws the same from a shader and, less finely, without one.
+/// The surface of a piece of glass without the backdrop: fill, sheen and rim. `lift` is the opacity of a white overlay
+/// for hover and press. Set `tinted` if the backdrop is blurred. Drawn by a shader, or with less detail without one.
 Item {
     id: plate
 

@@ -1,8 +1,8 @@
 import QtQuick
 import Pelko
 
-/// A piece of glass of the given kind, with its shadow. What lies behind shows through it, blurred, where `backdrop`
-/// names an item that does not contain the glass; without one, and without shaders, it is a plain plate.
+/// A piece of glass of the given kind with its shadow. If `backdrop` is an item, which must not contain the glass, it
+/// is seen blurred through the glass. Without a backdrop or without shaders the plain colour is used.
 Item {
     id: glass
 

@@ -1,13 +1,12 @@
 import QtQuick
 import Pelko
 
-/// A round button of glass over a block under the pointer, with the symbol `icon.name`; pointed at itself, it unfolds
-/// and says what it does.
+/// A round glass button over a block, with the symbol `icon.name`. Under the pointer it expands and shows its label.
 PressableControl {
     id: capsule
 
     property Item backdrop: null
-    /// How much of the colour of a danger the glass takes on as the button unfolds.
+    /// How much the glass turns red as the button expands, from 0 to 1.
     property real danger: 0
 
     readonly property real unfolded: Math.max(0, Math.min(1, hoverAmount))

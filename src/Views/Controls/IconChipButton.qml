@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The symbol `icon.name` in a capsule that unfolds its label under the pointer and when the keyboard reaches it.
+/// A button with the symbol `icon.name`. It expands and shows its label under the pointer and with keyboard focus.
 PressableControl {
     id: chip
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// A key as it looks on a keyboard.
+/// A key, drawn as on a keyboard.
 Rectangle {
     id: cap
 

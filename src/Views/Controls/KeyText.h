@@ -2,6 +2,6 @@
 
 class QKeyEvent;
 
-/// Returns whether the key inserts its text into a field: characters beyond the first plane and format
-/// characters, such as those that join letters, included.
+/// Returns whether the key inserts its text into a field. Includes characters beyond the Basic Multilingual
+/// Plane and format characters, such as joiners.
 bool writesText(const QKeyEvent &event);

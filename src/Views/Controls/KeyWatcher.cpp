@@ -10,7 +10,7 @@ void KeyWatcher::setActive(bool active)
     if (m_isActive == active)
         return;
     m_isActive = active;
-    // An input method sends its texts to the focused item itself, past the window.
+    // An input method sends its events to the focused item directly.
     if (active)
         qGuiApp->installEventFilter(this);
     else

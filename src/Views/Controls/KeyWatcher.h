@@ -21,8 +21,8 @@ public:
 
 Q_SIGNALS:
     void activeChanged();
-    /// A key or a text from an input method is about to reach the item that has the keyboard. It `writes`
-    /// when it would put a character into a line of text.
+    /// A key or text from an input method is about to reach the focused item. `writes` is whether it would
+    /// insert a character.
     void pressed(bool writes);
 
 private:

@@ -1,8 +1,8 @@
 import QtQuick
 import Pelko
 
-/// A field of one line on whatever ground it is put: it shows `content` and reports what is made of it. Line breaks and
-/// tabs that are pasted become spaces.
+/// A field of one line without a background. It shows `content` and reports changes with `edited`. Pasted line breaks
+/// and tabs become spaces.
 TextInput {
     id: field
 
@@ -16,7 +16,7 @@ TextInput {
 
     /// Clears the undo history of the field.
     function forgetTyping() : void {
-        // Only a change of the text drops its history.
+        // The history is only dropped when the text changes.
         text = content + " "
         text = Qt.binding(() => field.content)
     }
@@ -28,7 +28,7 @@ TextInput {
         cursorPosition = length - behind
     }
 
-    /// The field by itself would delete an emoji in pieces.
+    /// TextInput deletes an emoji in parts.
     function eraseBackwards(event: KeyEvent) : void {
         const isPlain = (event.modifiers & ~(Qt.ShiftModifier | Qt.KeypadModifier)) === 0
         event.accepted = isPlain && selectedText === "" && preeditText === ""
@@ -38,12 +38,12 @@ TextInput {
             report()
     }
 
-    /// The last of the text before the caret; as much as one character may be made of.
+    /// Returns the end of the text before the caret, longer than any emoji.
     function textBefore() : string {
         return getText(Math.max(0, cursorPosition - 256), cursorPosition)
     }
 
-    // Return ends a composition before it ends the line.
+    // Return commits preedit text first.
     function settles(event: KeyEvent) {
         event.accepted = preeditText !== ""
         Composition.settle(field)
@@ -56,7 +56,7 @@ TextInput {
     text: content
     onTextEdited: report()
     Keys.onPressed: event => event.key === Qt.Key_Backspace ? eraseBackwards(event) : event.accepted = false
-    // With each key all of the text is laid out; of this many characters in some hundredths of a second.
+    // Each key lays out the whole text; for this many characters that takes some hundredths of a second.
     maximumLength: 200000
     clip: true
     activeFocusOnTab: true
@@ -68,7 +68,7 @@ TextInput {
     renderType: Text.NativeRendering
     cursorDelegate: Caret {}
 
-    // Commit preedit text before a click, which would discard it.
+    // A click would discard preedit text.
     PointHandler {
         onActiveChanged: if (active) Composition.settle(field)
     }

@@ -1,9 +1,9 @@
 import QtQuick
 import Pelko
 
-/// A thin scroll bar that is hidden a second after the last movement. Wider under the pointer, where it
-/// can be dragged. Position and length glide, because a list with rows of different heights keeps correcting its
-/// guess of how long it is.
+/// A thin scroll bar that is hidden a second after the last movement. It is wider under the pointer, where it can be
+/// dragged. Position and length are animated, because a list with rows of different heights corrects its estimated
+/// length often.
 Item {
     id: bar
 
@@ -17,7 +17,7 @@ Item {
     readonly property bool needed: ratio < 0.999
     property bool recentlyMoved: false
 
-    /// The view was moved by the bar.
+    /// The bar was dragged.
     signal moved
 
     width: 12

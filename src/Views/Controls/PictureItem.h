@@ -4,9 +4,9 @@
 
 class QPainter;
 
-/// An item that shows a small picture painted by the subclass, in device pixels and only when it changed.
-/// Works the same with and without a graphics card. The picture is painted while the interface thread waits,
-/// so painting may use what belongs to that thread.
+/// An item that shows a picture painted by a subclass in device pixels, repainted only after a change. Works
+/// with and without a graphics card. It is painted while the interface thread is blocked, so painting may use
+/// its data.
 class PictureItem : public QQuickItem
 {
     Q_OBJECT

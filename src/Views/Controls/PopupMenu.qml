@@ -3,8 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// A menu of glass over its whole parent, which is the area it may not leave. Rows are its children. It opens with
-/// `popUp` at a point of its parent, or below an item, and closes by itself. One that is higher than that area scrolls.
+/// A glass menu over its whole parent, inside of which it stays. Its children are the rows. `popUp` opens it at a point
+/// of its parent or below an item; it closes by itself. A menu that is too high scrolls.
 ModalLayer {
     id: menu
 
@@ -14,7 +14,7 @@ ModalLayer {
     default property alias rows: column.data
     readonly property alias card: card
 
-    /// The corner it opens at: of the left edge, or of the right one where texts are read from there.
+    /// The corner at which it opens: top left, or top right in right-to-left layouts.
     property point anchor: Qt.point(0, 0)
     readonly property real edge: Metrics.space8
 
@@ -45,7 +45,7 @@ ModalLayer {
             take(rows[(index + rows.length) % rows.length])
     }
 
-    /// The row on the same line.
+    /// Selects the row on the same line.
     function chooseBeside(step: int) : void {
         const row = choices()[chosen()]
         const next = choices()[chosen() + step]

@@ -2,15 +2,15 @@ import QtQuick
 import QtQuick.Templates as T
 import Pelko
 
-/// One entry of a menu: the symbol `icon.name`, what it does, its key if it has one, and a tick where it is the
-/// current choice. The pointer and the arrow keys choose; a click, Return or Space take it and close the menu.
+/// One entry of a menu: the symbol `icon.name`, its text, its shortcut, and a tick if it is checked. The pointer and
+/// the arrow keys select it; a click, Return or Space trigger it and close the menu.
 T.AbstractButton {
     id: row
 
     required property string name
     property string keys: ""
     property bool destroys: false
-    /// How many rows of the same kind share a line.
+    /// The number of rows of this kind that share a line.
     property int perLine: 1
     /// Whether the row is checkable.
     property bool tickable: ticked

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The hairline between two groups of a menu.
+/// The separator between two groups of a menu.
 Item {
     width: parent?.width ?? 0
     height: 13

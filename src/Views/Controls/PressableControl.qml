@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Pelko
 
-/// The base of all buttons: they are reached with Tab but leave the caret where it is when clicked, answer to Space
-/// and Return, shrink while pressed, and tell assistive technology what they are. `name` is the accessible name.
+/// The base of all buttons: they are reached with Tab, but a click does not take the focus; Space and Return trigger
+/// them; they shrink while pressed. `name` is the accessible name.
 T.AbstractButton {
     id: control
 

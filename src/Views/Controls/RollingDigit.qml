@@ -4,14 +4,14 @@ import QtQuick
 import QtQuick.Window
 import Pelko
 
-/// One cell of a time. A new value comes in from below while the old one leaves upwards, fading.
+/// One digit of a time. A new value moves in from below while the old one fades out upwards.
 Item {
     id: cell
 
     required property string value
     required property font font
     required property color color
-    /// Where it differs, the digit is shaded from its colour at the top to this one.
+    /// The colour at the bottom, if the digit has a gradient.
     property color footColor: color
     required property bool rolls
     property real rise: 0

@@ -1,6 +1,6 @@
 import Pelko
 
-/// A round glass button with the symbol `icon.name`; a new symbol grows in where the old one shrinks away.
+/// A round glass button with the symbol `icon.name`. A change of the symbol is animated.
 PressableControl {
     id: button
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The shadow of a glass surface: a wide and a narrow one, drawn over each other.
+/// The shadow of a glass surface: a wide one and a narrow one.
 Item {
     id: shadow
 

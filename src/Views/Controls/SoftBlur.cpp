@@ -9,7 +9,7 @@
 namespace
 {
 
-/// A running mean over `2 * reach + 1` values, along one row or column.
+/// Replaces the values of one row or column by their running mean over `2 * reach + 1` values.
 void boxBlurLine(uchar *line, qsizetype stride, int count, int reach, std::vector<uchar> &copy)
 {
     for (int i = 0; i < count; ++i)
@@ -30,7 +30,7 @@ void boxBlurLine(uchar *line, qsizetype stride, int count, int reach, std::vecto
 
 QImage softened(const QImage &shape, qreal radius, const QColor &color)
 {
-    // Three box blurs of half the radius each have the deviation of that Gaussian, and its looks.
+    // Three box blurs of half the radius have the deviation of that Gaussian and look like it.
     QImage alpha = shape.convertToFormat(QImage::Format_Alpha8);
     const int reach = qMax(1, qRound(radius / 2));
     std::vector<uchar> copy(qMax(alpha.width(), alpha.height()));

@@ -11,7 +11,7 @@
 namespace
 {
 
-/// Nine pictures with one texture between them.
+/// Nine rectangles with one texture.
 class NinePatch : public QSGNode
 {
 public:

@@ -4,9 +4,9 @@
 #include <QQuickItem>
 #include <QtQml/qqml.h>
 
-/// The soft shadow of a rounded shape as large as the item. It lies only outside the shape, so that nothing
-/// dark shines through translucent glass. One small blurred picture is cut in nine and stretched, so a
-/// growing shape does not have it blurred anew, and no shader is needed.
+/// The soft shadow of a rounded rectangle of the item's size. It is drawn only outside the rectangle, so that
+/// it does not darken translucent glass. A small blurred picture is drawn as a nine-patch, so a growing item
+/// needs no new blur, and no shader is needed.
 class SoftShadow : public QQuickItem
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ protected:
 
 private:
     qreal margin() const;
-    /// The smallest shape whose shadow, stretched in the middle, is the shadow of this one.
+    /// Returns the size of the smallest rectangle whose shadow can be stretched to this one.
     QSizeF pictureShape() const;
     QImage picture(const QSizeF &shape, qreal ratio) const;
 

@@ -1,6 +1,6 @@
 #include "SpringFollower.h"
 
-/// Beats with the scene's frames for as long as the follower is under way.
+/// Updates the follower once per frame while it moves.
 class SpringFollower::Ticks : public QAbstractAnimation
 {
 public:

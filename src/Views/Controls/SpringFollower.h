@@ -8,9 +8,8 @@
 
 #include <memory>
 
-/// A value that follows its goal on a spring and keeps its speed when the goal moves half-way, as an
-/// animation that starts anew cannot. It begins at its first goal without moving and ticks only while it is
-/// under way.
+/// A value that follows its goal like a spring and keeps its velocity when the goal changes, which a
+/// restarted animation cannot. It starts at its first goal and is updated only while it moves.
 class SpringFollower : public QObject
 {
     Q_OBJECT
@@ -30,10 +29,10 @@ public:
     qreal value() const { return m_goal + m_distance.position; }
     qreal response() const { return m_spring.response; }
     qreal dampingFraction() const { return m_spring.dampingFraction; }
-    /// While set, a change of the goal moves the value by as much; the distance that is left goes on
-    /// shrinking.
+    /// While set, a change of the goal moves the value by the same amount at once; the remaining distance
+    /// continues to shrink.
     bool isCarried() const { return m_isCarried; }
-    /// While set, jumps to the goal; for reduced motion.
+    /// While set, the value jumps to the goal; for reduced motion.
     bool isInstant() const { return m_isInstant; }
 
     void setGoal(qreal goal);

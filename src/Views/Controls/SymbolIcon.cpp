@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Drawings are read once and kept: a page shows the same few symbols many times over.
+/// Returns the parsed drawing; drawings are cached, because a page shows a few symbols many times.
 QSvgRenderer &drawing(const QString &name)
 {
     static QHash<QString, std::shared_ptr<QSvgRenderer>> drawings;

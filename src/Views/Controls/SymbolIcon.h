@@ -5,8 +5,8 @@
 #include <QColor>
 #include <QtQml/qqml.h>
 
-/// Draws one of the app's symbols, by name, in any colour and as sharp as the screen allows. The symbol fills
-/// the largest square in the middle of the item. A name without a drawing draws nothing.
+/// Draws a symbol of the program, by name, in one colour and at the resolution of the screen. It fills the
+/// largest square in the centre of the item. Nothing is drawn for an unknown name.
 class SymbolIcon : public PictureItem
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
 
     QString name() const { return m_name; }
     QColor color() const { return m_color; }
-    /// Edge of the square in device-independent pixels; sets the item's implicit size.
+    /// The edge of the square in device-independent pixels; sets the implicit size.
     qreal size() const { return implicitWidth(); }
 
     void setName(const QString &name);

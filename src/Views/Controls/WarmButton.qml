@@ -1,6 +1,6 @@
 import Pelko
 
-/// The one strong button of a view, lit from within.
+/// The emphasised button of a view.
 GlassButton {
     kind: Glass.warm
 }

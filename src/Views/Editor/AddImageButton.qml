@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Stands in the place of a picture until one is chosen.
+/// The button in an image block without a picture, which opens the file chooser.
 PressableControl {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Darkens a banner where words stand on it and lets its foot melt into the page.
+/// Darkens a banner behind its title and fades its lower edge into the page.
 Rectangle {
     gradient: Gradient {
         GradientStop { position: 0.00; color: Qt.alpha(FirePalette.deepBackground, 0.20) }

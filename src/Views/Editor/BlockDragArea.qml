@@ -1,9 +1,9 @@
 import QtQuick
 import Pelko
 
-/// Lies under the page and takes what the rows leave to it: a press beside the text of a block, or on a block
-/// without text. Pulled away, the block goes to the row under the pointer, until it is let go. It belongs to no
-/// row, so a drag outlives the rows it passes.
+/// Lies under the page and receives the presses that the rows do not handle: beside the text of a block, or on a block
+/// without text. A drag moves the block to the row under the pointer until it is released. The area belongs to no row,
+/// so a drag does not end when rows are destroyed.
 MouseArea {
     id: root
 
@@ -12,7 +12,7 @@ MouseArea {
     required property PageCaret caret
 
     readonly property bool dragging: blocks.draggingBlockID !== ""
-    /// How far the pointer is over the line from which the page scrolls; negative at the top.
+    /// The distance of the pointer beyond the line at which the page starts to scroll; negative at the top.
     readonly property real pull: Math.max(0, mouseY - height + Metrics.dragEdge)
         - Math.max(0, Metrics.stripHeight + Metrics.dragEdge - mouseY)
 
@@ -25,7 +25,7 @@ MouseArea {
     signal carried(point position)
     signal scrollRequested(real distance)
 
-    /// The row at that height, or the nearest one in sight.
+    /// Returns the row at this height, or the nearest visible one.
     function rowAt(height: real) : BlockRow {
         const top = Math.max(list.contentY, list.originY)
         const end = Math.min(list.contentY + list.height, list.originY + list.contentHeight) - 1

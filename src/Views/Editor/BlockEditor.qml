@@ -1,27 +1,27 @@
 import QtQuick
 import Pelko
 
-/// What the row of a block asks of the editor of its kind.
+/// The interface that the row of a block expects from the editor of its kind.
 FocusScope {
-    /// How far below the top its first line stands, which is where the grip is.
+    /// The middle of the first line, from the top; the grip is beside it.
     property real firstLine: Math.min(height, Metrics.gripHeight) / 2
 
-    /// Rounds the corners of what is washed over it.
+    /// The corner radius of the overlays for hover and selection.
     property real cornerRadius: Metrics.pictureRadius
 
-    /// Whether the pointer over it is shown by a wash.
+    /// Whether hovering shows an overlay.
     property bool showsHover: true
 
-    /// Has the focus in the place of the block, where it has nothing but a control.
+    /// The control that takes the focus for a block without text.
     property Item control: null
 
-    /// The keyboard walked here, so the place of the focus has to be plain to see.
+    /// Whether the focus came by keyboard, so that it must be clearly visible.
     property bool walkedTo: false
 
-    /// Makes the field of a text that is not in sight; most kinds have their field always.
+    /// Creates the field of a text that has scrolled out of sight; most kinds always have their fields.
     function makeField(address: textAddress) {}
 
-    /// Takes the keyboard focus, in the field of that text where there is one; `caret` -1 is the end.
+    /// Takes the focus, in the field of the text if it has one; `caret` -1 is the end.
     function takeFocus(address: textAddress, caret: int) {
         walkedTo = true
         forceActiveFocus()

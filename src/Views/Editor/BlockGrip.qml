@@ -1,8 +1,8 @@
 import QtQuick
 import Pelko
 
-/// Shows in the margin that the block can be taken here. The pointer is left to the margin, which takes the block
-/// when it is pulled and triggers the grip when it is clicked.
+/// Shows in the margin that the block can be dragged. The area of the margin handles the pointer: pressing and moving
+/// drags the block, a click triggers the grip.
 Item {
     id: root
 

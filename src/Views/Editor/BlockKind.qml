@@ -1,6 +1,6 @@
 import QtQml
 
-/// One kind of block: its name in the file, what the writer calls it, and its air above and below.
+/// One kind of block: its name in the data file, its name for the user, and the space above and below it.
 QtObject {
     required property string name
     required property string icon

@@ -2,7 +2,7 @@ pragma Singleton
 
 import QtQml
 
-/// How each kind of block is called and drawn in the bar, and how much air it wants on the page.
+/// The name, the symbol and the spacing of each kind of block.
 QtObject {
     id: kinds
 
@@ -58,7 +58,7 @@ QtObject {
         after: 24
     }
 
-    /// A picture at the top of the page, which stands above everything.
+    /// A picture that is shown across the top of the page.
     readonly property BlockKind banner: BlockKind {
         name: "banner"
         icon: "photo"
@@ -78,7 +78,7 @@ QtObject {
         return body
     }
 
-    /// The free space between a block and the one above it.
+    /// Returns the space between a block and the one above it.
     function gap(above: string, name: string) : int {
         return above === "" ? 0 : Math.max(named(above).after, named(name).before)
     }

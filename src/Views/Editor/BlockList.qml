@@ -8,16 +8,16 @@ FocusScope {
     id: root
 
     required property EditorViewModel editor
-    /// What is added above the page.
+    /// Additional space above the page.
     property real air: 0
     property alias quiet: context.quiet
 
     readonly property alias atTop: list.atYBeginning
 
-    /// The view jumps and comes back.
+    /// Whether the current row is being set; the view then scrolls to it and back.
     property bool isSettingCurrent: false
 
-    /// The keyboard walks out of the page.
+    /// The focus leaves the page.
     signal walkedOut(bool forward)
 
     function focusText(address: textAddress, caret: int) {
@@ -26,14 +26,14 @@ FocusScope {
         list.currentRow?.block.takeFocus(address, caret)
     }
 
-    /// Creates the row and the field of that text. Scrolls there if the row is too far away to have been laid out.
+    /// Creates the row and the field of the text. Scrolls there if the row is too far away to exist.
     function makeRow(address: textAddress) {
         setCurrent(editor.rowOf(address.blockID))
         layOutCurrent()
         list.currentRow?.block.makeField(address)
     }
 
-    /// The view by itself would scroll to the top of the row.
+    /// Sets the current row without the view's own scrolling to the top of it.
     function setCurrent(row: int) {
         const place = list.contentY
         isSettingCurrent = true
@@ -42,7 +42,7 @@ FocusScope {
         isSettingCurrent = false
     }
 
-    /// Only near the view do rows have a place; a glide leads to one.
+    /// Rows have a position only near the visible part; scrolling there creates the row.
     function layOutCurrent() {
         if (!list.itemAtIndex(list.currentIndex) && !scroll.gliding)
             bringIntoSight(list.currentIndex)
@@ -62,8 +62,8 @@ FocusScope {
         walkFrom(forward ? -1 : list.count, forward)
     }
 
-    /// Scrolls just as far as it takes to see the caret, or the control that has the focus. What changes its height
-    /// later does not push it out of sight, until something else scrolls.
+    /// Scrolls as little as needed to show the caret, or the control with the focus. Until something else scrolls,
+    /// later changes of height keep it visible.
     function revealCaret() {
         scroll.followsCaret = true
         list.forceLayout()
@@ -73,17 +73,18 @@ FocusScope {
             scroll.show(restingPlace(item, (item as WritingField)?.cursorRectangle ?? Qt.rect(0, 0, item.width, item.height)))
     }
 
-    /// Where that part of an item of the current row stands in the list once the row has ended its glide.
+    /// Returns the place in the list of a part of an item of the current row, as it will be when the row has stopped
+    /// moving.
     function restingPlace(item: Item, part: rect) : rect {
         const place = list.contentItem.mapFromItem(item, part)
         return Qt.rect(place.x, place.y - list.currentRow.glide, place.width, place.height)
     }
 
-    /// Above the first block there is the air that belongs to it.
+    /// The first block is shown with the space above it.
     function bringIntoSight(row: int) {
         const from = list.contentY
         row === 0 ? list.positionViewAtBeginning() : list.positionViewAtIndex(row, ListView.Contain)
-        // Where the page begins is a guess, and no reason to stop there on the way down.
+        // The view only estimates where the page begins, so do not stop there when scrolling down.
         const item = list.itemAtIndex(row)
         if (item?.y > from)
             list.contentY = Math.min(list.contentY, Math.max(from, item.y + item.height + Metrics.space24 - list.height))
@@ -95,7 +96,7 @@ FocusScope {
         scroll.glide(from, list.contentY)
     }
 
-    /// A click under the last block, or on a page without any, goes on writing there.
+    /// A click under the last block, or on an empty page, gives the focus to the end of the page.
     function writeBelow(position: point) {
         const last = list.itemAtIndex(list.count - 1)
         if (list.count === 0 || last && list.mapToItem(last, position).y > last.height)
@@ -123,7 +124,7 @@ FocusScope {
         onWalkedOut: (row, forward) => root.walkFrom(row, forward)
     }
 
-    // A long checklist would drop the row that just gets the focus while the view has jumped.
+    // While the view jumps, a long checklist must not destroy the row that is about to get the focus.
     Binding {
         property: "viewTop"
         restoreMode: Binding.RestoreNone
@@ -154,7 +155,7 @@ FocusScope {
         }
     }
 
-    // Rows that were just made or moved find their place with the next layout.
+    // New and moved rows get their position with the next layout.
     Timer {
         id: reveal
 
@@ -171,7 +172,7 @@ FocusScope {
         target: root.editor.blocks
     }
 
-    // What else changed with the order follows at once.
+    // Runs after all rows of a change have been moved.
     Timer {
         id: reorder
 
@@ -228,7 +229,7 @@ FocusScope {
         anchors.fill: parent
         bottomMargin: Metrics.pageFoot
         boundsBehavior: Flickable.StopAtBounds
-        // Rows made ahead of time are cancelled too late when the model shrinks: Qt complains.
+        // With a cache, rows are cancelled too late when the model shrinks, and Qt warns.
         cacheBuffer: 0
         displayMarginBeginning: 400
         displayMarginEnd: 400

@@ -53,7 +53,7 @@ void BlockPicture::look()
         return;
     const bool hasPicture = !m_imageData.isEmpty() && !m_blockID.isNull();
     const QSize full = hasPicture ? m_images->sizeOf(m_blockID, m_imageData) : QSize();
-    // Gives the item its size, which decides how large a picture is asked for.
+    // Sets the item's size first, on which the requested size of the picture depends.
     ChangeScope(*this).assign(m_aspectRatio, full.isEmpty() ? 0.0 : qreal(full.height()) / full.width(),
                               &BlockPicture::aspectRatioChanged);
     const QSize pixels = (size() * window()->effectiveDevicePixelRatio()).toSize();

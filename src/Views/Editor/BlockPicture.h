@@ -6,8 +6,8 @@
 
 #include <QPointer>
 
-/// Shows the picture of an image block: it covers the item, whose corners are rounded, and what does not
-/// fit is cut off evenly. Bytes that no decoder understands draw nothing.
+/// Shows the picture of an image block. It is scaled to cover the item, centred and cut off, with rounded
+/// corners. Nothing is drawn if the bytes cannot be decoded.
 class BlockPicture : public PictureItem
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class BlockPicture : public PictureItem
     Q_PROPERTY(QString blockID READ blockID WRITE setBlockID NOTIFY blockIDChanged REQUIRED)
     Q_PROPERTY(PictureBytes imageData READ imageData WRITE setImageData NOTIFY imageDataChanged)
     Q_PROPERTY(qreal radius READ radius WRITE setRadius NOTIFY radiusChanged)
-    /// Height divided by width; 0 while it is not known and when there is nothing to draw.
+    /// Height divided by width; 0 while it is unknown or if there is nothing to draw.
     Q_PROPERTY(qreal aspectRatio READ aspectRatio NOTIFY aspectRatioChanged)
     Q_PROPERTY(bool ready READ isReady NOTIFY readyChanged)
     QML_ELEMENT
@@ -28,7 +28,7 @@ public:
     PictureBytes imageData() const { return {m_imageData}; }
     qreal radius() const { return m_radius; }
     qreal aspectRatio() const { return m_aspectRatio; }
-    /// Whether there is something to draw, if only a preview.
+    /// Whether there is something to draw, possibly only a preview.
     bool isReady() const { return !m_image.isNull(); }
 
     void setImages(ImageCache *images);

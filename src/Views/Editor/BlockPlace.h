@@ -6,7 +6,7 @@
 #include <QQuickItem>
 #include <QUuid>
 
-/// Where a block stands on the page and whether it is selected as a whole.
+/// Gives the page access to a row: which block it shows, and whether the block is selected as a whole.
 class BlockPlace : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
@@ -23,18 +23,18 @@ public:
     using QObject::QObject;
 
     QUuid id() const { return QUuid(m_blockID); }
-    /// A row that has left the view is in no window any more, even before it is destroyed.
+    /// A row that has left the view has no window, even before it is destroyed.
     bool isOnPage() const { return m_page && m_item && m_item->window(); }
-    /// With the controls beside the block.
+    /// Including the controls beside the block.
     QQuickItem *row() const { return m_row; }
     QQuickItem *item() const { return m_item; }
     bool isCovered() const { return m_isCovered; }
     void setCovered(bool covered);
 
-    /// Whether it has the keyboard itself, or the control that stands for it.
+    /// Whether the block, or the control that stands for it, has the focus.
     bool hasFocus() const;
     bool hasFocusItself() const;
-    /// Gives the keyboard to the control that stands for the block.
+    /// Gives the focus to the control that stands for the block.
     void takeFocus() const;
 
     void classBegin() override {}

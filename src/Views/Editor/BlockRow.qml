@@ -1,8 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The place of one block on the page: around the editor of its kind, what hover, focus and the context menu
-/// add.
+/// One block on the page: the editor of its kind, with the grip, the buttons and the context menu around it.
 FocusScope {
     id: root
 
@@ -22,11 +21,11 @@ FocusScope {
 
     readonly property string blockID: address.blockID
 
-    /// A new row grows into its place, so that what stands below moves aside instead of jumping.
+    /// A new row grows from 0 to 1, so that the rows below it move smoothly.
     property real growth: 1
 
     readonly property alias grip: grip
-    /// How far its glide still has to take it.
+    /// The remaining distance of its movement to a new place.
     readonly property alias glide: slide.y
     readonly property BlockDrag drag: page.editor.drag
     readonly property bool lifted: drag.draggingBlockID === blockID
@@ -36,7 +35,7 @@ FocusScope {
         return item !== null && (item === root || owns(item.parent))
     }
 
-    /// Tab walks through this block's own controls first, then on to the next block.
+    /// Moves the focus through the controls of this block, then to the next block.
     function walk(forward: bool) {
         const next = (Window.activeFocusItem as Item).nextItemInFocusChain(forward)
         owns(next) ? next.forceActiveFocus(Qt.TabFocusReason) : page.walkedOut(index, forward)
@@ -152,7 +151,7 @@ FocusScope {
     HoverControls {
         id: controls
 
-        // Over text they straddle its edge, so that they cover no words; over a picture they lie inside.
+        // Over text they straddle the edge, so that they cover no words; over a picture they are inside.
         anchors { right: body.right; rightMargin: root.hasImage ? Metrics.space8 : 0 }
         backdrop: root.hasImage ? body : null
         isBanner: root.isFullWidth

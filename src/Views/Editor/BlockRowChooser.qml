@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import Qt.labs.qmlmodels
 import Pelko
 
-/// The row that shows a block, by its kind.
+/// Chooses the delegate for a block by its kind.
 DelegateChooser {
     id: root
 

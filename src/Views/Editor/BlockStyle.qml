@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The type a text-like block is set in.
+/// The font, colour and line height of a text-like block.
 QtObject {
     required property string kind
 

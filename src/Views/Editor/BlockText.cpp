@@ -15,14 +15,14 @@
 
 namespace
 {
-/// To select all of a paragraph so long takes a fifth of a second, and four times as much in one twice as
-/// long.
+/// Selecting a paragraph of this length takes a fifth of a second; the time grows with the square of the
+/// length.
 constexpr int longestParagraph = 40'000;
 
-/// UTF-16 units; fewer are shown where they are taller than a text may be.
+/// UTF-16 units. Less is shown if the text would be taller than allowed.
 constexpr qsizetype longestShown = 5'000'000;
 
-/// To shape letters takes five times as long as to lay them out.
+/// Shaping letters takes five times as long as laying them out.
 QTextCharFormat formatOf(bool isPlain)
 {
     QTextCharFormat format;
@@ -59,7 +59,7 @@ void BlockText::setDocument(QQuickTextDocument *document)
     m_document = document;
     if (text()) {
         const QScopedValueRollback updating(m_isUpdating, true);
-        // Undo belongs to the page, not to one field.
+        // Undo belongs to the page, not to a field.
         text()->setUndoRedoEnabled(false);
         applyLineHeight();
         show();
@@ -76,7 +76,7 @@ void BlockText::setContent(const QString &content)
     Q_EMIT contentChanged();
 }
 
-// Before the field knows its width and its font, a text would be laid out in vain.
+// The layout needs the width and the font of the field.
 void BlockText::componentComplete()
 {
     m_isComplete = true;
@@ -107,7 +107,7 @@ void BlockText::report(int caret)
     const QString value = shown();
     if (value == before)
         return;
-    // While the store answers, the field passes through states that nobody typed.
+    // While the store answers, the field passes through states that were not typed.
     const QScopedValueRollback updating(m_isUpdating, true);
     m_typed = TextChange::between(before, value, caret);
     Q_EMIT edited(m_typed->applied(m_content));
@@ -120,8 +120,7 @@ void BlockText::show()
     if (!text() || !m_isComplete)
         return;
     const QScopedValueRollback updating(m_isUpdating, true);
-    // What takes long is laid out in the quick way only: that begins before the text comes and ends when it
-    // has gone.
+    // A long text uses the plain layout from before it is set until after it is removed.
     m_whole = toShow();
     const bool hasLongWord = SoftBreaks::hasLongWord(m_whole);
     setPlain(m_isPlain || SoftBreaks::isLong(m_content));
@@ -198,7 +197,7 @@ void BlockText::setPlain(bool isPlain)
     QTextCursor all(text());
     all.select(QTextCursor::Document);
     all.setCharFormat(formatOf(isPlain));
-    // Draws only what is in sight.
+    // Draws only the visible part.
     if (auto *const field = qobject_cast<QQuickItem *>(m_document->parent()))
         field->setFlag(QQuickItem::ItemObservesViewport, isPlain);
 }

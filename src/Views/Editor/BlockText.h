@@ -11,13 +11,13 @@
 
 class QTextDocument;
 
-/// Keeps a text field and the text of a block the same, both ways, without ever losing the caret. A text
-/// edit's own `text` turns no-break spaces into plain ones and puts the caret back to the start when it is
-/// assigned; this one reads and writes the document under the field, and changes only what differs.
-/// Characters that the document cannot hold are shown as others and stay in the stored text. A long text is
-/// shown in a plainer way that stays quick: in short paragraphs, and without kerning and ligatures. What
-/// takes longer to lay out than a moment is shown in slices, from the first to the last: the field holds the
-/// beginning of the text until `showMore()` has shown the rest, and positions in it are the same in the text.
+/// Connects a text field and the text of a block in both directions and keeps the caret. TextEdit's own
+/// `text` turns no-break spaces into plain ones and moves the caret to the start when it is set; this class
+/// reads and writes the field's document and changes only the difference. Characters that a document cannot
+/// contain are replaced in the field and stay in the stored text. A long text is shown in short paragraphs
+/// without kerning and ligatures, which is faster. A very long one is shown in slices: the field contains the
+/// beginning of the text until `showMore()` has added the rest. Positions in the field and in the text are
+/// always equal.
 class BlockText : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
@@ -36,28 +36,28 @@ public:
     using QObject::QObject;
 
     QQuickTextDocument *document() const { return m_document; }
-    /// The text as the store has it.
+    /// The text in the store.
     QString content() const { return m_content; }
-    /// Device-independent pixels from one line to the next; 0 leaves it to the font.
+    /// The distance of lines in device-independent pixels; 0 is the font's own.
     qreal lineHeight() const { return m_lineHeight; }
-    /// Whether the field has to wrap words anywhere.
+    /// Whether the field must wrap within words.
     bool hasLongWord() const { return m_hasLongWord; }
-    /// Whether more of the text is to be shown.
+    /// Whether a part of the text has not been shown yet.
     bool isGrowing() const { return m_isGrowing; }
-    /// Whether the text is too tall to be shown as a whole, so that its end stays hidden.
+    /// Whether the text is too tall, so that its end is never shown.
     bool isCut() const { return m_isCut; }
-    /// How much of the text the field holds, in UTF-16 units.
+    /// The length of the shown part of the text in UTF-16 units.
     int shownLength() const { return static_cast<int>(m_shownLength); }
 
     void setDocument(QQuickTextDocument *document);
     void setContent(const QString &content);
     void setLineHeight(qreal lineHeight);
 
-    /// Announces the field's text if the writer has changed it. To be called when it may have changed, but
-    /// not while the field has preedit text. Whatever the store made of it is in the field afterwards.
-    /// `caret` is where the caret stands now.
+    /// Emits the field's text if the user has changed it. Call it whenever that is possible, but not while
+    /// the field has preedit text. Afterwards the field shows what the store has made of it. `caret` is the
+    /// position of the caret.
     Q_INVOKABLE void report(int caret);
-    /// Shows the next slice of a text that grows.
+    /// Shows the next slice of the text.
     Q_INVOKABLE void showMore();
 
     void classBegin() override {}
@@ -74,16 +74,16 @@ Q_SIGNALS:
 
 private:
     QTextDocument *text() const;
-    /// What the field shows, with a line feed for each of its line breaks.
+    /// Returns the text in the field, with a line feed for each of its line breaks.
     QString shown() const;
-    /// What the field is to show in the end: the content in characters that a document can hold, in short
-    /// paragraphs.
+    /// Returns the text that the field shows in the end: with the characters that a document can contain, and
+    /// in short paragraphs.
     QString toShow() const;
-    /// As much of it as can be shown at once in the place of `before`.
+    /// Returns the part of it that can be shown at once in place of `before`.
     QString firstPart(const QString &before) const;
     void follow(const QString &before);
     void setHasLongWord(bool hasLongWord);
-    /// Without kerning and ligatures, and drawn only where it is in sight.
+    /// A plain field has no kerning and ligatures, and draws only its visible part.
     void setPlain(bool isPlain);
     void replaceShown(const QString &before, const QString &after);
     void setShownLength(qsizetype length);
@@ -94,13 +94,13 @@ private:
     QPointer<QQuickTextDocument> m_document;
     QString m_content;
     SoftBreaks m_breaks;
-    /// The writer's change of the content, while it is reported.
+    /// The user's change of the content while it is reported.
     std::optional<TextChange> m_typed;
-    /// The whole text in the characters that are shown, while the field has only the beginning of it.
+    /// The whole text to show while the field contains only its beginning.
     QString m_whole;
     qsizetype m_shownLength = 0;
-    /// Device-independent pixels. To select all of a text so tall takes a fifth of a second; for one taller
-    /// than 8 million, Qt never comes to an end.
+    /// Device-independent pixels. Selecting a text of this height takes a fifth of a second; above 8 million,
+    /// Qt does not return.
     qreal m_maximumHeight = 700'000;
     qreal m_lineHeight = 0;
     bool m_isComplete = false;

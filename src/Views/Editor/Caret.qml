@@ -1,12 +1,11 @@
 import QtQuick
 import Pelko
 
-/// The writing caret. It blinks while the writer is about and stands still once nothing has happened for a
-/// while, because every blink costs a redraw.
+/// The caret of a field. It stops blinking some time after the last activity, because every blink costs a redraw.
 Item {
     id: root
 
-    // The field it stands in, of one line or of many.
+    // The field, a TextInput or a TextEdit.
     readonly property var field: parent
     readonly property bool blinking: field?.activeFocus && field.selectedText === ""
 

@@ -1,6 +1,6 @@
 #pragma once
 
-/// The ways a caret can go.
+/// The movements of a caret.
 enum class CaretMove {
     left,
     right,
@@ -16,16 +16,16 @@ enum class CaretMove {
     end,
 };
 
-/// Whether the move leads towards the end of a text. What is left and right is the other way round in scripts
-/// that are read from right to left.
+/// Returns whether the move leads towards the end of the text. Left and right are exchanged in right-to-left
+/// text.
 bool isForward(CaretMove move, bool readsFromRight);
 
-/// Whether the move keeps to its column.
+/// Returns whether the move keeps its column.
 bool isVertical(CaretMove move);
 
-/// What a key does to the caret.
+/// A key that moves the caret.
 struct CaretKey {
     CaretMove move = CaretMove::left;
-    /// The selection goes along.
+    /// Whether the selection is extended.
     bool extends = false;
 };

@@ -5,7 +5,7 @@
 namespace
 {
 
-/// The next passage that has text, or a control to make some: an empty checklist.
+/// Returns the next passage with text, or the next empty checklist, which has a control to add an entry.
 const Passage *nextStop(const Passages &passages, const TextAddress &from, bool forward)
 {
     const Passage *next = passages.neighbour(from, forward);
@@ -77,7 +77,7 @@ std::optional<PagePosition> CaretTravel::beyond(const Passage &passage, bool for
         const int offset = TextLines::endLine(*text, !forward, inField(next.id, x));
         return PagePosition{.passage = next.id, .offset = offset};
     }
-    // A thing without text is gone over as a whole.
+    // A block without text is passed as a whole.
     return PagePosition{.passage = next.id, .offset = forward == (next.text.has_value()) ? 0 : next.length()};
 }
 

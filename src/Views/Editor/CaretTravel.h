@@ -3,13 +3,13 @@
 #include "CaretMove.h"
 #include "PageLayout.h"
 
-/// Finds out where a key takes the caret on a page. Up and down keep to the column they began in.
+/// Computes the destination of the caret on a page. Consecutive vertical moves keep their column.
 class CaretTravel
 {
 public:
     explicit CaretTravel(PageLayout &page) : m_page(page) {}
 
-    /// Nothing where there is no way to go.
+    /// Returns std::nullopt if the caret cannot move further.
     std::optional<PagePosition> destination(const PagePosition &from, const CaretKey &key);
 
 private:
@@ -19,15 +19,15 @@ private:
     };
 
     std::optional<PagePosition> step(const Passage &passage, int offset, const CaretKey &key, qreal x);
-    /// Across a passage that no caret can stand in.
+    /// Returns the destination behind a passage that cannot contain a caret.
     std::optional<PagePosition> over(const Passage &passage, int offset, const CaretKey &key, qreal x);
     std::optional<PagePosition> beyond(const Passage &passage, bool forward, const CaretKey &key, qreal x);
     std::optional<PagePosition> pageAway(const PagePosition &from, const QTextDocument &text,
                                          const CaretKey &key, qreal x);
     std::optional<PagePosition> pageEnd(bool forward, bool onlyInText) const;
-    /// In the view.
+    /// In the coordinates of the view.
     qreal columnOf(const PagePosition &position);
-    /// From the view into the field of that text.
+    /// Converts `x` from the view to the field of the text.
     qreal inField(const TextAddress &address, qreal x);
 
     PageLayout &m_page;

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// A thin rule that fades out towards both ends.
+/// A thin line that fades out towards both ends.
 BlockRow {
     block: editor
 

@@ -18,7 +18,7 @@ namespace
 constexpr double mostParts = 200'000;
 constexpr qsizetype deepest = 256;
 
-/// What is drawn for a part of a drawing, its references to other parts followed.
+/// The cost of drawing a part, including the parts it refers to.
 struct Extent {
     double parts = 0;
     qsizetype depth = 0;
@@ -26,7 +26,7 @@ struct Extent {
 
 constexpr Extent endless{std::numeric_limits<double>::infinity(), 0};
 
-/// A part that can be referred to, by its id; one without counts to the part around it.
+/// An element with an id, which can be referred to. Elements without one belong to their parent.
 struct Part {
     double own = 0;
     qsizetype depth = 0;
@@ -95,7 +95,7 @@ private:
     QHash<QString, Part> m_parts;
 };
 
-/// Whether the address holds a photo itself, going by how the formats of photos begin.
+/// Returns whether the address contains the data of a photo, by the signatures of photo formats.
 bool isPhoto(QStringView address)
 {
     constexpr QLatin1StringView mark("base64,");
@@ -107,7 +107,7 @@ bool isPhoto(QStringView address)
                                [encoded](auto beginning) { return encoded.startsWith(beginning); });
 }
 
-/// Whether the element would have other files read, or another drawing that is not looked through.
+/// Returns whether the element refers to other files, or contains a drawing that is not inspected.
 bool reachesOut(const QXmlStreamReader &xml)
 {
     if (xml.name() != "image"_L1)
@@ -122,7 +122,7 @@ bool reachesOut(const QXmlStreamReader &xml)
 
 bool DrawingInspector::isHarmless(const QByteArray &bytes)
 {
-    // A compressed drawing could be of any size.
+    // A compressed drawing could have any size.
     if (bytes.startsWith("\x1f\x8b"))
         return false;
     QXmlStreamReader xml(bytes);

@@ -2,12 +2,12 @@
 
 #include <QByteArray>
 
-/// Looks through vector drawings before they are drawn, because drawing one can be made to take forever.
+/// Inspects SVG drawings before they are drawn, because a crafted drawing can take unlimited time.
 namespace DrawingInspector
 {
 
-/// Whether the drawing is complete, refers to nothing outside of itself, and has no more parts than can be
-/// drawn in good time, those that are used again counted each time.
+/// Returns whether the drawing is complete, has no references to other files, and has no more elements than
+/// can be drawn quickly, with repeated use counted.
 bool isHarmless(const QByteArray &bytes);
 
 } // namespace DrawingInspector

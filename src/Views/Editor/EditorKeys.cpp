@@ -44,7 +44,7 @@ QList<EditorKeyBinding> allCaretKeys()
            caretKeys(CaretMove::end, Standard::MoveToEndOfDocument, Standard::SelectEndOfDocument);
 }
 
-/// The program has commands for these, which press the key; see EditingKeys.
+/// Keys that the program also offers as commands, which send the key; see EditingKeys.
 QList<EditorKeyBinding> commandKeys()
 {
     return {

@@ -9,8 +9,7 @@
 
 class QKeyEvent;
 
-/// What a key asks the editor to do. The field, or the control, that has the focus does what the editor
-/// leaves to it.
+/// The actions of the editor's keys. Other keys are handled by the field or control that has the focus.
 enum class EditorAction {
     none,
     moveCaret,
@@ -23,7 +22,7 @@ enum class EditorAction {
     focusPrevious,
     deleteBackward,
     deleteForward,
-    /// To the start or the end of a word or a line.
+    /// Deletes to the start or the end of a word or a line.
     deleteRangeBackward,
     deleteRangeForward,
     undo,
@@ -37,26 +36,26 @@ enum class EditorAction {
     openBlockMenu,
 };
 
-/// A key of the editor.
+/// A key binding of the editor.
 struct EditorKeyBinding {
     EditorAction action = EditorAction::none;
-    /// The keys of the platform for it, or else `combination`.
+    /// The platform's keys for it; if unknown, `combination`.
     QKeySequence::StandardKey standard = QKeySequence::UnknownKey;
     QKeyCombination combination = {};
     /// For `moveCaret`.
     CaretKey caret = {};
-    /// Its line in the shortcut sheet; null for a key that needs none.
+    /// The title of its line in the shortcut sheet; null for keys that are not listed.
     const char *title = nullptr;
 
     bool matches(const QKeyEvent &event) const;
-    /// In portable words.
+    /// Returns the key in Qt's portable format.
     QString text() const;
 };
 
-/// All keys of the editor. The first that matches counts.
+/// All key bindings of the editor. The first match counts.
 const QList<EditorKeyBinding> &editorKeyBindings();
 
-/// A key press as the editor takes it.
+/// The action of a key press.
 struct EditorKey {
     EditorAction action = EditorAction::none;
     /// For `moveCaret`.
@@ -67,5 +66,5 @@ struct EditorKey {
 
 EditorKey editorKey(const QKeyEvent &event);
 
-/// Whether the key does nothing by itself, such as Shift.
+/// Returns whether the key is a modifier, such as Shift.
 bool isModifier(const QKeyEvent &event);

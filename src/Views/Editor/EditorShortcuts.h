@@ -5,7 +5,7 @@
 #include <QObject>
 #include <QtQml/qqml.h>
 
-/// What the shortcut sheet tells of the editor: its keys, those of the editing commands, and what is typed at
+/// The editor's part of the shortcut sheet: its keys, those of the editing commands, and what can be typed at
 /// the start of a line.
 class EditorShortcuts : public QObject
 {

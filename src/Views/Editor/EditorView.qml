@@ -10,14 +10,14 @@ FocusScope {
     property TasksViewModel tasks: null
     /// Whether the page was just saved.
     property bool saved: false
-    /// Why the last save failed; empty while all is well.
+    /// Why the last save failed; empty if it succeeded.
     property string saveError: ""
     property bool navigationShown: false
     property FocusFade focusFade: FocusFade {}
 
     signal navigationRequested
 
-    /// In focus mode there is nowhere else to go.
+    /// In focus mode there is no other place for the focus.
     function walkOut(forward: bool) {
         if (focusFade.focused)
             page.enter(forward)
@@ -34,7 +34,7 @@ FocusScope {
         color: FirePalette.editorSurface
     }
 
-    // Comes before the page for the keyboard and lies above it for the eye.
+    // Before the page in the tab order, and above it in the stacking order.
     Row {
         id: head
 
@@ -66,7 +66,7 @@ FocusScope {
     BlockList {
         id: page
 
-        // Sheets of paper are not mirrored. Each text on them keeps its own direction.
+        // The page is not mirrored; each text on it has its own direction.
         LayoutMirroring.childrenInherit: true
         LayoutMirroring.enabled: false
         anchors { fill: parent; bottomMargin: bar.height * (1 - root.focusFade.glide) }
@@ -103,7 +103,7 @@ FocusScope {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         opacity: root.focusFade.chrome
         visible: opacity > 0
-        // The keyboard does not stay behind.
+        // The focus must not stay in a hidden item.
         onVisibleChanged: if (root.Window.activeFocusItem?.visible === false) page.enter(true)
         onAddRequested: kind => root.editor.addBlock(kind)
         onWalkedBack: page.enter(false)

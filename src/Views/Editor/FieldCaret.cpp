@@ -104,7 +104,7 @@ void FieldCaret::show(const SelectedParts &parts, const std::optional<BlockSelec
 {
     const SelectedPart *part = parts.of(id());
     setSelectedEmpty(part && part->passage.length() == 0 && part != &parts.all().last());
-    // What is selected as a whole is washed over.
+    // A passage that is selected as a whole has an overlay instead.
     if (part && !parts.covers(part->passage.id.blockID))
         showPart(*part, selection);
     else if (selection || !hasFocus())
@@ -138,7 +138,7 @@ void FieldCaret::setWaits(bool waits)
 
 bool FieldCaret::keeps(const QEvent &event)
 {
-    // Keys that come behind others wait with them.
+    // Keys after a waiting one wait as well.
     if (m_isSending || !(m_waits || hasWaitingInput()))
         return false;
     bool isKept = false;
@@ -173,7 +173,7 @@ void FieldCaret::sendNextInput()
 
 void FieldCaret::takeWaitingInput()
 {
-    // A key that is being sent has moved the focus: the next ones follow it.
+    // A key that was sent may have moved the focus: the next ones go to the new item.
     const QPointer guard(this);
     while (guard && !m_isSending && hasWaitingInput())
         send(&field());
@@ -184,7 +184,7 @@ void FieldCaret::takeFocus()
     field().forceActiveFocus(Qt::OtherFocusReason);
 }
 
-// With the same event the field offers what it shows, which is not always what is stored.
+// With the same event the field offers the shown text, which may differ from the stored one.
 void FieldCaret::offerSelectionLater()
 {
     const auto offer = [this] {

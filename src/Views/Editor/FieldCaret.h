@@ -10,9 +10,9 @@
 #include <QQuickItem>
 #include <QQuickTextDocument>
 
-/// Lets the caret of one text field, its parent, leave the field for the rest of the page, and shows in the
-/// field what is selected of it. It sees keys and pointer before the field does. While the field has only the
-/// beginning of its text, keys wait until the caret can be where it is to be.
+/// Extends the caret of one text field, its parent, to the whole page, and shows in the field its part of the
+/// selection. It receives keys and pointer events before the field. While the field contains only the
+/// beginning of its text, keys wait until the caret's place is shown.
 class FieldCaret : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
@@ -31,45 +31,45 @@ public:
 
     const TextAddress &id() const { return m_address; }
     QQuickItem &field() const;
-    /// The row of a block that has left the view is in no window any more, even before it is destroyed.
+    /// A row that has left the view has no window, even before it is destroyed.
     bool isOnPage() const { return m_page && field().window(); }
     const QTextDocument &text() const;
     bool hasFocus() const { return field().hasActiveFocus(); }
-    /// Return ends the writing instead of breaking a line.
+    /// Whether Return finishes the input instead of inserting a line break.
     bool isSingleLine() const { return m_isSingleLine; }
-    /// Whether the end of the text is not shown.
+    /// Whether the end of the text is never shown.
     bool isCut() const { return m_isCut; }
-    /// Whether more of the text is to be shown.
+    /// Whether a part of the text has not been shown yet.
     bool waits() const { return m_waits; }
     void setWaits(bool waits);
     bool hasWaitingInput() const { return !m_waiting.isEmpty(); }
-    /// The first key that waits goes to whatever has the focus.
+    /// Sends the first waiting key to the item that has the focus.
     Q_INVOKABLE void sendNextInput();
-    /// The keys that wait go to the field, whatever has the focus.
+    /// Sends the waiting keys to the field, whatever has the focus.
     Q_INVOKABLE void takeWaitingInput();
 
-    /// The end of the selection where the caret stands, and the other one.
+    /// The moving end and the anchor of the selection.
     int caret() const;
     int anchor() const;
     BlockSelection selection() const;
     LineOperations::Stretch stretch() const;
     bool isAllSelected() const;
-    /// Of the text that is shown, in UTF-16 units.
+    /// The length of the shown text in UTF-16 units.
     int length() const;
     QString textBetween(int start, int end) const;
     void insert(int position, const QString &text);
     void remove(int start, int end);
     /// Whether an input method has preedit text in the field.
     bool isComposing() const { return !field().property("preeditText").toString().isEmpty(); }
-    /// Whether the field can follow that key by itself.
+    /// Returns whether the field handles the key by itself.
     bool follows(const CaretKey &key) const;
-    /// There is no text, yet its line belongs to a selection that goes on below.
+    /// Whether the text is empty and its line belongs to a selection over several passages.
     bool isSelectedEmpty() const { return m_isSelectedEmpty; }
 
-    /// Positions that are not shown yet are selected as soon as they are.
+    /// Selects from `anchor` to `caret`. Positions that are not shown yet are selected later.
     Q_INVOKABLE void select(int anchor, int caret);
     void deselect() { select(caret(), caret()); }
-    /// Shows the part of a selection over several passages, or of none.
+    /// Shows this field's part of a selection over several passages.
     void show(const SelectedParts &parts, const std::optional<BlockSelection> &selection);
     void takeFocus();
 
@@ -99,6 +99,6 @@ private:
     bool m_isSingleLine = false;
     bool m_isSending = false;
     WaitingInput m_waiting;
-    /// The end of the selection where the caret is to stand, and before it the other one.
+    /// The wanted anchor and caret, while they are not shown yet.
     std::optional<std::pair<int, int>> m_wanted;
 };

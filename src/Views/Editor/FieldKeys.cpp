@@ -10,7 +10,7 @@
 namespace
 {
 
-/// An emoji is made of fewer UTF-16 units than that.
+/// An emoji has fewer UTF-16 units.
 constexpr int longestCharacter = 256;
 
 bool hasLineBreak(const QString &text)
@@ -96,7 +96,7 @@ bool FieldKeys::deletesBackward() const
 bool FieldKeys::joinsForward() const
 {
     const bool isAtEnd = isBare() && m_field.caret() == m_field.length();
-    // The end of a text that is cut is somewhere else.
+    // In a cut text the shown end is not the end of the text.
     if (isAtEnd && !m_field.isCut())
         m_editor.keys()->joinForwards(m_field.id());
     return isAtEnd;
@@ -140,7 +140,7 @@ bool FieldKeys::unindents() const
     return true;
 }
 
-// They stay selected, from the start of the first.
+// The lines stay selected.
 void FieldKeys::moveLines(bool inwards) const
 {
     const auto selected = m_field.stretch();

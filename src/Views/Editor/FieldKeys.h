@@ -6,19 +6,19 @@ class EditorViewModel;
 class FieldCaret;
 struct EditorKey;
 
-/// What keys do in one text beyond what its field does by itself: they join, split and break lines, indent
-/// code, and use the clipboard as the page does, because a field would turn some characters into others.
+/// Handles the keys in one text that its field does not handle: joining, splitting and breaking lines,
+/// indenting code, and the clipboard, because a field would change some characters.
 class FieldKeys
 {
 public:
     FieldKeys(FieldCaret &field, EditorViewModel &editor) : m_field(field), m_editor(editor) {}
 
-    /// Tells whether the key has done its work.
+    /// Returns whether the key was handled.
     bool pressed(const EditorKey &key) const;
 
 private:
     bool isBare() const;
-    /// The text as it is stored.
+    /// The text in the store.
     Passage passage() const;
     bool isCode() const;
     bool copies(bool cuts) const;
@@ -29,7 +29,7 @@ private:
     bool splits() const;
     bool indents() const;
     bool unindents() const;
-    /// Moves the selected lines one step inwards or outwards.
+    /// Indents the selected lines, or unindents them.
     void moveLines(bool inwards) const;
 
     FieldCaret &m_field;

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Stands where the entries of an empty checklist would, and makes the first one.
+/// The button in an empty checklist that adds the first entry.
 PressableControl {
     id: root
 

@@ -1,15 +1,15 @@
 import QtQuick
 import Pelko
 
-/// How focus mode comes and goes: everything but the page fades away, and the page glides to its place.
+/// The transition to and from focus mode: everything except the page fades, and the page moves.
 QtObject {
     id: fade
 
     property bool focused: false
 
-    /// The opacity of everything but the page.
+    /// The opacity of everything except the page.
     property real chrome: focused ? 0 : 1
-    /// How far the page is on its way to the place it has in focus mode.
+    /// The progress of the page's movement, from 0 to 1 in focus mode.
     property real glide: focused ? 1 : 0
 
     Behavior on chrome {

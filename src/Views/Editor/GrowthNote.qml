@@ -1,11 +1,11 @@
 import QtQuick
 import Pelko
 
-/// Tells how much of a long text is shown, once that takes longer than a moment.
+/// Shows the progress of showing a long text, if that takes longer than a second.
 GlassSurface {
     id: root
 
-    /// The text that is being shown, if any.
+    /// The text that is being shown, or null.
     required property BlockText text
 
     readonly property int percent: text ? Math.floor(100 * text.shownLength / Math.max(1, text.content.length)) : 0

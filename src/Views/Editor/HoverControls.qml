@@ -1,26 +1,26 @@
 import QtQuick
 import Pelko
 
-/// The buttons over the upper right corner of a block under the pointer.
+/// The buttons at the upper right corner of a block. They are visible while the pointer is over the block.
 Row {
     id: root
 
     required property bool pointedAt
-    /// The keyboard is in the block: out of sight, the buttons can still be walked to.
+    /// Whether the focus is in the block: the hidden buttons can then be reached by keyboard.
     required property bool reachable
-    /// None of them is offered, to nobody.
+    /// Whether the buttons are disabled.
     required property bool quiet
     required property bool offersBanner
     required property bool isBanner
     required property bool offersDelete
-    /// What is seen through their glass.
+    /// The item that is blurred behind their glass.
     property Item backdrop: null
 
     readonly property Item last: quiet ? null : offersDelete ? remove : offersBanner ? toggle : null
 
     signal bannerToggled
     signal deleteRequested
-    /// A button that has the keyboard is shown no longer.
+    /// A button that has the focus was hidden.
     signal focusDropped
 
     opacity: pointedAt || (last !== null && (toggle.activeFocus || remove.activeFocus)) ? 1 : 0

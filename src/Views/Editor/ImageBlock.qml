@@ -1,8 +1,8 @@
 import QtQuick
 import Pelko
 
-/// A picture, or a button that asks for one. `spread` carries it from its place in the column, 0, to the banner across
-/// the page, 1.
+/// A picture, or a button to choose one. `spread` is the progress from its place in the text column, 0, to the banner
+/// across the page, 1.
 BlockRow {
     id: root
 
@@ -10,7 +10,7 @@ BlockRow {
     required property bool isBanner
     required property string bannerTitle
 
-    // Where nothing can be drawn, there still is a block to point at.
+    // Without a picture the block keeps a height, so that it can be hovered.
     readonly property real ratio: Math.min(picture.aspectRatio, Metrics.highestPicture)
     readonly property real inColumn: ratio > 0 ? Math.max(1, Math.round(bodyWidth * ratio)) : Metrics.emptyImageHeight
 

@@ -10,7 +10,7 @@ namespace
 
 constexpr int previewShrink = 4;
 
-/// Rounding may leave a picture a pixel short.
+/// Rounding may make a picture one pixel smaller.
 bool covers(const QSize &one, const QSize &other)
 {
     return one.width() + 1 >= other.width() && one.height() + 1 >= other.height();
@@ -26,7 +26,7 @@ QImage preview(const QImage &image)
 
 ImageCache::ImageCache(QObject *parent) : QObject(parent)
 {
-    // One after the other: a large photo takes much memory while it is being decoded.
+    // One at a time: decoding a large photo takes much memory.
     m_decoder.setMaxThreadCount(1);
 }
 
@@ -72,7 +72,7 @@ void ImageCache::store(const QUuid &id, const QByteArray &data, const QSize &pix
 {
     Entry &entry = m_entries[id];
     if (!isSamePicture(entry.data, data))
-        return; // the block has got another picture meanwhile
+        return; // the block has another picture now
     entry.isDecoding = false;
     if (image.isNull())
         return;

@@ -7,11 +7,10 @@
 #include <QUuid>
 #include <QtQml/qqml.h>
 
-/// The decoded pictures of one editor, by the id of their block. A picture is decoded once, on another
-/// thread, no larger than it is shown, and handed out from then on; only other bytes in the same block or a
-/// larger place on the screen have it decoded again. Entries stay as long as the editor; when they take more
-/// than the budget, those that were asked for longest ago are kept as small previews. Bytes that cannot be
-/// decoded make no entry. Interface thread only.
+/// The decoded pictures of one editor, by block id. A picture is decoded once, on a worker thread, and no
+/// larger than it is shown; it is decoded again only for other bytes or a larger size. Entries live as long
+/// as the editor. Above the memory budget, the least recently used ones are reduced to small previews. Bytes
+/// that cannot be decoded have no entry. Interface thread only.
 class ImageCache : public QObject
 {
     Q_OBJECT
@@ -21,16 +20,16 @@ public:
     explicit ImageCache(QObject *parent = nullptr);
     ~ImageCache() override;
 
-    /// The picture, to be shown as large as `pixels`; null until it has been decoded, which `arrived` tells.
-    /// What is handed out may be smaller for the time being.
+    /// Returns the picture for a size of `pixels`, possibly smaller for now. Null until it is decoded;
+    /// `arrived` is emitted then.
     QImage cachedImage(const QUuid &id, const QByteArray &data, const QSize &pixels);
 
-    /// How large the picture is, upright; empty until it is known.
+    /// Returns the upright size of the picture; empty until it is known.
     QSize sizeOf(const QUuid &id, const QByteArray &data);
 
-    /// How often bytes were given to a decoder.
+    /// The number of decodings that were started; for tests.
     int decodings() const { return m_decodings; }
-    /// How many bytes the decoded pictures may take.
+    /// Sets the limit for the memory of decoded pictures, in bytes; for tests.
     void setBudget(qsizetype bytes) { m_budget = bytes; }
 
 Q_SIGNALS:
@@ -38,7 +37,7 @@ Q_SIGNALS:
 
 private:
     struct Entry {
-        QByteArray data = {}; // the bytes this entry is about, shared with the block
+        QByteArray data = {}; // the bytes of this entry, shared with the block
         QSize size = {};
         QImage image = {};
         QSize decodedFor = {};

@@ -1,8 +1,8 @@
 import QtQuick
 import Pelko
 
-/// What follows the pointer while a block is dragged, and settles in its place when it is let go: a picture of the
-/// block on a card. The picture is taken when the block is pressed, so the row itself may go out of sight, or away.
+/// The dragged block: a picture of it on a card, which follows the pointer and moves to its place after the drop. The
+/// picture is taken at the press, so the row itself may be destroyed during the drag.
 Item {
     id: root
 
@@ -57,7 +57,7 @@ Item {
         target: root.area
     }
 
-    // The rows under the pointer have cursors of their own.
+    // The rows under the pointer have other cursors.
     HoverHandler {
         cursorShape: Qt.DragMoveCursor
         enabled: root.area.dragging

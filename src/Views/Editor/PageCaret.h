@@ -6,8 +6,8 @@
 #include "PageListener.h"
 #include "PointerSelection.h"
 
-/// The one caret and the one selection of a page whose blocks are fields of their own, for QML. What stays
-/// within a field is left to it; keys and the pointer that lead out of it are handled here.
+/// The caret and the selection of a page, for QML. Each block is a field of its own, which handles what stays
+/// within it; this class handles keys and pointer events that leave a field.
 class PageCaret : public PageListener
 {
     Q_OBJECT
@@ -22,14 +22,14 @@ public:
 
     EditorViewModel *editor() const { return m_fields.editor(); }
     void setEditor(EditorViewModel *editor);
-    /// The scrolling view that the fields stand in.
+    /// The scrolling view that contains the fields.
     QQuickItem *view() const { return m_fields.view(); }
     void setView(QQuickItem *view);
-    /// How far Page Up and Page Down go, in device-independent pixels.
+    /// The distance of Page Up and Page Down in device-independent pixels.
     qreal pageStep() const { return m_fields.pageStep(); }
     void setPageStep(qreal step);
-    /// How far the pointer has pulled a selection over an edge of the view, in device-independent pixels;
-    /// negative above.
+    /// The distance of a selecting pointer beyond an edge of the view in device-independent pixels; negative
+    /// above.
     qreal pull() const { return m_pointer.pull(); }
 
     void add(FieldCaret &field) override { m_fields.add(field); }
@@ -38,10 +38,10 @@ public:
     bool handle(FieldCaret &field, QEvent &event) override;
     void offer(const FieldCaret &field) override;
 
-    /// Shift and a click on something that is not text: selects from where the caret is to what is nearest to
-    /// a point in the view, with all of it. Returns whether there is a caret.
+    /// Shift and a click outside of text: selects from the caret to the nearest position, including a block
+    /// without text as a whole. `point` is in the view's coordinates. Returns false if there is no caret.
     Q_INVOKABLE bool extendTo(QPointF point) { return m_fields.extendTo(point); }
-    /// The view has scrolled under the pointer.
+    /// Call it when the view has scrolled under the pointer.
     Q_INVOKABLE void carryOn() { m_pointer.carryOn(); }
 
 Q_SIGNALS:
@@ -49,15 +49,15 @@ Q_SIGNALS:
     void viewChanged();
     void pageStepChanged();
     void pullChanged();
-    /// The row and the field of that text have to be made and brought into sight.
+    /// The view must create the row and the field of this text and scroll to it.
     void rowNeeded(const TextAddress &address);
     void showRequested(QQuickItem *item);
     void scrollRequested(qreal distance);
-    /// The writer pressed a key, so the caret has to be in sight.
+    /// A key was pressed; the caret must be visible.
     void keyPressed();
-    /// The keyboard goes on to the next control of the row that has the focus, or to the next row.
+    /// The focus must go to the next control of its row, or to the next row.
     void walkRequested(bool forward);
-    /// The menu of the block that has the focus is to be opened.
+    /// The menu of the block with the focus must be opened.
     void menuRequested();
 
 private:
@@ -65,6 +65,6 @@ private:
     PageKeys m_keys{m_fields};
     PageKeyFilter m_keyFilter{m_fields, m_keys};
     PointerSelection m_pointer{m_fields};
-    /// What was offered to the middle button last.
+    /// The last selection that was offered as the primary selection.
     std::optional<BlockSelection> m_offered;
 };

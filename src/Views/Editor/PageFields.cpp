@@ -54,12 +54,12 @@ void PageFields::add(BlockPlace &block)
 
 FieldCaret *PageFields::field(const TextAddress &passage)
 {
-    // Every picture has a field for the title of a banner, which others hide.
+    // Every picture has a field for a banner title, which is hidden unless it is a banner.
     if (!isText(m_selection->passages(), passage))
         return nullptr;
     if (FieldCaret *found = m_fields.find(passage))
         return found;
-    const QScopedValueRollback moving(m_isMoving, true); // the view gives its focus to the row
+    const QScopedValueRollback moving(m_isMoving, true); // the view moves its focus to the row
     Q_EMIT rowNeeded(passage);
     return m_fields.find(passage);
 }
@@ -224,10 +224,10 @@ FieldCaret *PageFields::current() const
 
 void PageFields::entered(FieldCaret &field)
 {
-    // Back from a menu or from another window, the writer goes on.
+    // After a menu or another window, the focus returns to the field.
     if (!m_isMoving && m_current != &field)
         m_selection->clear();
-    // There is one selection on a page.
+    // A page has only one selection.
     FieldCaret *last = current();
     if (last && last != &field && !m_selection->isCrossing())
         last->deselect();

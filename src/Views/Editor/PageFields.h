@@ -10,8 +10,7 @@
 class BlockPlace;
 class FieldCaret;
 
-/// The fields and blocks of a page that the view has made, with the one caret and the one selection that they
-/// share.
+/// The fields and blocks of a page that the view has created, and their common caret and selection.
 class PageFields : public QObject, public PageLayout
 {
     Q_OBJECT
@@ -22,7 +21,7 @@ public:
     EditorViewModel *editor() const { return m_editor; }
     void setEditor(EditorViewModel *editor);
     PageSelection &selection() const { return *m_selection; }
-    /// The scrolling view that the fields stand in.
+    /// The scrolling view that contains the fields.
     QQuickItem *view() const { return m_view; }
     void setView(QQuickItem *view) { m_view = view; }
     void setPageStep(qreal step) { m_pageStep = step; }
@@ -38,35 +37,35 @@ public:
     qreal scrollBy(qreal distance) override;
 
     bool isField(const QQuickItem &item) const;
-    /// The block in whose row that item is; null outside of all rows.
+    /// Returns the block whose row contains the item, or nullptr.
     const BlockPlace *blockAround(const QQuickItem &item) const;
-    /// The field that has the focus, or had it last; null when it has left the page.
+    /// Returns the field that has the focus, or had it last; nullptr if it has left the page.
     FieldCaret *current() const;
 
-    /// Puts the caret there; in a block without text, the focus on its control.
+    /// Puts the caret at the position; a block without text gets the focus as a whole.
     void place(const PagePosition &position);
-    /// Selects, and moves the caret along.
+    /// Selects and moves the caret.
     void select(const BlockSelection &selection);
-    /// Selects, and leaves the focus where it is.
+    /// Selects without moving the focus.
     void show(const BlockSelection &selection);
-    /// Selects from where the caret is to what is nearest to a point in the view. A passage without text is
-    /// selected as a whole. Returns whether there is a caret.
+    /// Selects from the caret to the position nearest to a point in the view. A passage without text is
+    /// selected as a whole. Returns false if there is no caret.
     bool extendTo(QPointF point);
-    /// What an input method is composing on the page becomes part of the text.
+    /// Commits the preedit text of an input method.
     void settle() const;
-    /// Selects nothing any more, and leaves the caret where it is.
+    /// Clears the selection and leaves the caret.
     void giveUp();
-    /// A field got the focus.
+    /// Call it when a field gets the focus.
     void entered(FieldCaret &field);
 
 Q_SIGNALS:
-    /// The row and the field of that text have to be made and brought into sight.
+    /// The view must create the row and the field of this text and scroll to it.
     void rowNeeded(const TextAddress &address);
     void showRequested(QQuickItem *item);
     void scrollRequested(qreal distance);
 
 private:
-    /// The field of that text, for which the view makes the row if need be; null for a passage without text.
+    /// Returns the field of the text, creating its row if needed; nullptr for a passage without text.
     FieldCaret *field(const TextAddress &address);
     void focus(FieldCaret &field);
     void focusBlock(const QUuid &blockID);

@@ -7,8 +7,8 @@ class PageFields;
 class PageKeys;
 class QQuickWindow;
 
-/// Gives the page the keys that are pressed outside of its fields: those of a block or a control before the
-/// item itself has them, and what is typed where no item uses it.
+/// Sends keys that are pressed outside of the page's fields to the page: those on a block or control before
+/// the item receives them, and typed text that no item has accepted.
 class PageKeyFilter : public QObject
 {
 public:

@@ -12,8 +12,8 @@ class QInputMethodEvent;
 class QKeyEvent;
 struct EditorKey;
 
-/// Does on a page what its keys ask for. The functions for events tell whether the event has done its work;
-/// what a field or a control can do by itself is left to it.
+/// Runs the actions of the editor's keys on the page. The functions for events return whether the event was
+/// handled; what a field or a control can do by itself is left to it.
 class PageKeys : public QObject
 {
     Q_OBJECT
@@ -21,32 +21,32 @@ class PageKeys : public QObject
 public:
     explicit PageKeys(PageFields &page);
 
-    /// Pressed in a field.
+    /// A key was pressed in a field.
     bool pressed(FieldCaret &field, const QKeyEvent &event);
-    /// Pressed in the row of a block, in no field of it.
+    /// A key was pressed in the row of a block, outside of its fields.
     bool pressed(const BlockPlace &block, const QKeyEvent &event);
-    /// Used by nothing on the page: what is typed goes on at the end of the page.
+    /// A key was not accepted by any item of the page. Typed text is added at the end of the page.
     bool unused(const QKeyEvent &event);
-    /// An input method composes over the selection.
+    /// An input method composes while there is a selection over several passages.
     bool composed(QInputMethodEvent &event);
 
 Q_SIGNALS:
-    /// The writer pressed a key, so the caret has to be in sight.
+    /// A key was pressed; the caret must be visible.
     void keyPressed();
-    /// The keyboard goes on to the next control of the row that has the focus, or to the next row.
+    /// The focus must go to the next control of its row, or to the next row.
     void walkRequested(bool forward);
-    /// The menu of the block that has the focus is to be opened.
+    /// The menu of the block with the focus must be opened.
     void menuRequested();
 
 private:
-    /// The keys that end or leave a line settle the composition and do nothing more.
+    /// Returns whether the key ends or leaves the line; it then only commits preedit text.
     static bool settles(const FieldCaret &field, const EditorKey &key);
     bool inSelection(const EditorKey &key);
     bool changeSelection(const EditorKey &key);
     bool inText(FieldCaret &field, const EditorKey &key);
-    /// On a block that has the focus as a whole.
+    /// Handles a key on a block that has the focus as a whole.
     bool onWhole(const BlockPlace &block, const EditorKey &key);
-    /// In the row of that block, whatever has the focus there.
+    /// Handles a key in the row of the block, whatever has the focus there.
     bool inRow(const QUuid &blockID, const EditorKey &key);
     bool copiesWhole(const BlockPlace &block, const EditorKey &key);
     bool moveBlock(const QUuid &blockID, int rows);

@@ -7,7 +7,7 @@ class BlockPlace;
 class FieldCaret;
 class QEvent;
 
-/// What the fields and blocks of a page report to it.
+/// Receives the events of the fields and blocks of a page.
 class PageListener : public QObject
 {
     Q_OBJECT
@@ -20,8 +20,8 @@ public:
     virtual void add(BlockPlace &block) = 0;
     /// The field got the focus.
     virtual void entered(FieldCaret &field) = 0;
-    /// An event that the field has not seen yet. Returns whether it has done its work.
+    /// Called before the field handles the event. Returns whether the event was handled.
     virtual bool handle(FieldCaret &field, QEvent &event) = 0;
-    /// What is selected in the field is offered to the middle button.
+    /// The selection in the field is to be offered as the primary selection.
     virtual void offer(const FieldCaret &field) = 0;
 };

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <ranges>
 
-/// The fields or the blocks of a page, which the view creates and destroys as it scrolls. A member is found
-/// only while it exists and is on the page: one that has left, or is being destroyed, need not be taken out.
+/// The fields or blocks of a page, which the view creates and destroys as it scrolls. Only members that exist
+/// and are on the page are returned, so a destroyed one need not be removed.
 template <typename Member>
 class PageMembers
 {
@@ -18,7 +18,7 @@ public:
         m_members.append(&member);
     }
 
-    /// The latest comes first: a row that is created anew can stand beside the old one.
+    /// The latest first: a row that is created again can exist beside the old one.
     QList<Member *> all() const
     {
         QList<Member *> found;
@@ -29,7 +29,7 @@ public:
         return found;
     }
 
-    /// The latest member whose `id()` is that one; null if there is none.
+    /// Returns the latest member with this `id()`, or nullptr.
     template <typename ID>
     Member *find(const ID &id) const
     {

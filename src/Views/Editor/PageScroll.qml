@@ -1,27 +1,27 @@
 import QtQuick
 import Pelko
 
-/// Scrolls a list by the wheel, by its bar and by gliding to a place.
+/// Scrolls a list by wheel, by scroll bar and by animated movements to a place.
 Item {
     id: root
 
     required property ListView list
 
     property real margin: 0
-    /// Whether the caret is to stay in sight.
+    /// Whether the caret must stay visible.
     property bool followsCaret: false
 
     readonly property alias gliding: animation.running
     readonly property real currentY: list.currentItem?.y ?? 0
 
-    /// The glide has ended, in its place or because something else scrolls.
+    /// The movement has ended, at its place or because something else scrolls.
     signal ended
-    /// The glide has ended in its place.
+    /// The movement has ended at its place.
     signal arrived
-    /// The page or the view has changed its height while the caret is to stay in sight.
+    /// The height of the page or of the view has changed while the caret must stay visible.
     signal caretMayHaveMoved
 
-    /// Where the list is, or glides to.
+    /// Returns the position of the list, or the one it moves to.
     function goal() : real {
         return animation.running ? animation.to : list.contentY
     }
@@ -37,7 +37,7 @@ Item {
         list.contentY = to
     }
 
-    /// Scrolls just as far as it takes to see that place; if it is higher than the view, its top.
+    /// Scrolls as little as needed to show the place; to its top if it is higher than the view.
     function show(place: rect) {
         const above = place.y - Metrics.pageTop - goal()
         const below = Math.max(place.y + place.height + Metrics.space24 - goal() - list.height, 0)
@@ -56,7 +56,7 @@ Item {
         list.returnToBounds()
     }
 
-    /// A page that stands at its beginning goes with it.
+    /// A page that is scrolled to its start stays there when the start moves.
     function followBeginning() {
         const stood = list.contentY < list.originY - margin + 1
         margin = list.topMargin

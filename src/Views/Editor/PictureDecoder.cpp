@@ -8,10 +8,10 @@
 namespace
 {
 
-// Where the formats of photos tell their size. Looking no further takes next to no time, whatever follows.
+// Photo formats give their size within this length. Reading no further is fast for any file.
 constexpr qsizetype headerLength = 256 * 1024;
 
-// Some decoders need memory for all of a picture to make a small one.
+// Some decoders need memory for the whole picture to make a small one.
 constexpr qint64 mostPixels = 128'000'000;
 constexpr int mostMegabytes = 256;
 
@@ -38,7 +38,7 @@ bool isReasonable(const QImageReader &reader, const QByteArray &bytes)
     return qint64(size.width()) * size.height() <= mostPixels;
 }
 
-/// The reader scales before it turns the picture.
+/// The reader scales before it rotates the picture.
 QSize scaledSize(const QImageReader &reader, const QSize &wanted)
 {
     const QSize full = reader.size();

@@ -3,16 +3,15 @@
 #include <QByteArray>
 #include <QImage>
 
-/// Makes pictures of the bytes of picture files, whatever formats the desktop has decoders for. Bytes may
-/// come from anywhere: what cannot be decoded, or would take unreasonable memory, is a null picture. All of
-/// it may be called from any thread.
+/// Decodes picture files of all formats for which Qt has plugins. Untrusted input: pictures that cannot be
+/// decoded, or need too much memory, are null. Thread-safe.
 namespace PictureDecoder
 {
 
-/// How large the picture is, upright, when its first bytes tell; else an empty size.
+/// Returns the upright size of the picture if its first bytes contain it, otherwise an empty size.
 QSize sizeOf(const QByteArray &bytes);
 
-/// The picture, upright, just large enough to cover `wanted` pixels; a photo is never made larger than it is.
+/// Returns the upright picture, scaled to cover `wanted` pixels; photos are never enlarged.
 QImage decode(const QByteArray &bytes, const QSize &wanted);
 
 } // namespace PictureDecoder

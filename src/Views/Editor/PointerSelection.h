@@ -9,8 +9,8 @@ class FieldCaret;
 class PageFields;
 class QMouseEvent;
 
-/// Selects with the pointer what lies between two fields. As long as the pointer is in the field it was
-/// pressed in, that field selects by itself. The functions tell whether an event has done its work.
+/// Selects with the pointer over several fields. While the pointer is in the field where it was pressed, that
+/// field selects by itself. The functions return whether an event was handled.
 class PointerSelection : public QObject
 {
     Q_OBJECT
@@ -21,12 +21,12 @@ public:
     bool pressed(FieldCaret &field, QMouseEvent &event);
     bool moved(const FieldCaret &field, const QMouseEvent &event);
     bool released();
-    /// The middle button pastes what was selected last, where it is let go.
+    /// The middle button was released: pastes the primary selection there.
     bool pastes(FieldCaret &field, const QMouseEvent &event);
 
-    /// How far the pointer is over an edge of the view, in device-independent pixels; negative above.
+    /// The distance of the pointer beyond an edge of the view in device-independent pixels; negative above.
     qreal pull() const { return m_pull; }
-    /// Goes on to what has come under the pointer.
+    /// Continues with the position under the pointer after scrolling.
     void carryOn();
 
 Q_SIGNALS:
@@ -38,10 +38,10 @@ private:
     void setPull(qreal pull);
 
     PageFields &m_page;
-    /// Pressed in it, and it knows of that.
+    /// The field where the button was pressed.
     QPointer<FieldCaret> m_owner;
     QPointer<FieldCaret> m_pressed;
-    /// What the press itself selected: a place, a word or a line.
+    /// The selection of the press itself: a position, a word or a line.
     PagePosition m_start;
     PagePosition m_end;
     bool m_isFresh = false;

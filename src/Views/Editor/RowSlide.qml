@@ -1,13 +1,13 @@
 import QtQuick
 import Pelko
 
-/// Lets a row glide to its new place when blocks change places. With everything else that moves it, growing
-/// text above or a page that is laid out anew, the row goes along at once.
+/// Animates a row to its new place when blocks are reordered. Other movements, such as by growing text above, are not
+/// animated.
 Translate {
     id: root
 
     required property PageContext page
-    /// Where the block of the row stands on the page.
+    /// The row of the block on the page.
     required property real place
 
     property bool gliding: false
@@ -19,7 +19,7 @@ Translate {
         instant: Motion.reduced
         response: 0.35
     }
-    // Rows that are made while others change places have no place to come from.
+    // Rows that are created during a reordering have no old place.
     readonly property Connections reordering: Connections {
         function onReorderBegan() {
             root.gliding = true

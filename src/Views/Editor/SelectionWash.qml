@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Shows over a block that all of it is selected.
+/// The overlay of a block that is selected as a whole.
 Item {
     id: root
 
@@ -21,7 +21,7 @@ Item {
     }
 
     Rectangle {
-        // A rule alone is too thin to be seen selected.
+        // The line of a divider is too thin to show a selection.
         anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter }
         color: FirePalette.selection
         height: Math.max(parent.height, Metrics.space12)

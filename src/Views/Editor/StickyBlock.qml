@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// A checklist on a warm note.
+/// A checklist.
 BlockRow {
     id: root
 
@@ -14,14 +14,14 @@ BlockRow {
     BlockEditor {
         id: editor
 
-        /// The part of this item that is in sight.
+        /// The visible part of this item.
         readonly property real seenFrom: root.page.viewTop - root.y
         readonly property real seenHeight: root.page.viewHeight
 
         function makeField(address: textAddress) {
             if (address.partID !== "")
                 root.todos?.keep(address)
-            column.forceLayout() // entries that were just created have no place yet
+            column.forceLayout() // new entries have no position yet
         }
 
         function showPart() {

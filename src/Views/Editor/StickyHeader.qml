@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The caption of a checklist.
+/// The header of a checklist.
 Row {
     spacing: Metrics.space8
 

@@ -1,8 +1,8 @@
 import QtQuick
 import Pelko
 
-/// A heading, a body, a quote or a code block. One component for the four, so that a block whose kind changes under the
-/// caret keeps its field.
+/// A heading, body, quote or code block. They share one component, so that a block whose kind changes keeps its field
+/// and caret.
 BlockRow {
     id: root
 
@@ -29,7 +29,7 @@ BlockRow {
         firstLine: field.y + style.lineHeight / 2
         focus: true
         implicitHeight: field.implicitHeight + 2 * field.y + (rest.visible ? rest.height : 0)
-        // With anchors it would have no width when its field lays out the text.
+        // With anchors, the width would be 0 when the field lays out the text.
         width: root.bodyWidth
 
         Rectangle {

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Shows the rest of a long text slice by slice. Of several texts of a page one grows at a time.
+/// Shows the rest of a long text slice by slice, for one text of the page at a time.
 Timer {
     id: root
 

@@ -32,13 +32,13 @@ QTextCursor::MoveOperation operationOf(CaretMove move)
     }
 }
 
-/// One line as drawn; a paragraph may be wrapped into several.
+/// One visual line; a paragraph may be wrapped into several.
 struct Line {
     QTextBlock paragraph;
     QTextLine line;
 };
 
-/// Where the paragraph stands in the field. Lays it out if need be.
+/// Returns the position of the paragraph in the field, after laying it out if needed.
 QPointF originOf(const QTextBlock &paragraph)
 {
     return paragraph.document()->documentLayout()->blockBoundingRect(paragraph).topLeft();
@@ -69,7 +69,7 @@ int placeIn(const Line &at, qreal x)
     const QTextLayout &layout = *at.paragraph.layout();
     const int end = at.line.textStart() + at.line.textLength();
     int place = at.line.xToCursor(x - originOf(at.paragraph).x());
-    // Behind the last character of a wrapped line the caret is drawn in the next one.
+    // Behind the last character of a wrapped line, the caret is drawn in the next line.
     if (place == end && at.line.lineNumber() < layout.lineCount() - 1)
         place = std::max(layout.previousCursorPosition(end), at.line.textStart());
     return at.paragraph.position() + place;

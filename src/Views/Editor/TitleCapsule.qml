@@ -1,16 +1,15 @@
 import QtQuick
 import Pelko
 
-/// The title of the page in a capsule of glass that floats over it. A tick comes and goes quietly when the page was
-/// saved: it is news for nobody who does not look for it, so it is not read out. While the page holds changes that
-/// could not be saved, a sign of warning stands in its place.
+/// The title of the page on a capsule of glass over the page. A tick is shown for a moment after a save; it is not read
+/// out. While there are changes that could not be saved, a warning sign is shown instead.
 GlassSurface {
     id: root
 
     required property string title
     required property real maximumWidth
     property bool saved: false
-    /// Why the last save failed; empty while all is well.
+    /// Why the last save failed; empty if it succeeded.
     property string saveError: ""
     readonly property bool isUnsaved: saveError !== ""
     readonly property real tickWidth: Math.max(tick.opacity, isUnsaved ? 1 : 0) * (Metrics.savedTick + Metrics.space8)
@@ -41,7 +40,7 @@ GlassSurface {
             font: Typography.capsule
             maximumLineCount: 1
             renderType: Text.NativeRendering
-            // A heading can be a megabyte; this is more of it than fits.
+            // A heading can be a megabyte; this is more than fits.
             text: root.title.slice(0, 500).replace(/\s*[\n-\r\u0085\u2028\u2029]\s*/g, " ")
             textFormat: Text.PlainText
             width: Math.min(implicitWidth, root.maximumWidth - 2 * Metrics.space12 - Metrics.capsuleDot - Metrics.space8

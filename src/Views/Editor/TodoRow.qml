@@ -1,15 +1,15 @@
 import QtQuick
 import Pelko
 
-/// One entry of a checklist: tick, text, and a cross to remove it while the pointer or the focus is here, unless the
-/// page is to be quiet.
+/// One entry of a checklist: toggle, text, and a button to remove it, which is shown while the pointer or the focus is
+/// in the row and the page is not quiet.
 FocusScope {
     id: root
 
     required property textAddress address
     required property string text
     required property bool done
-    /// Room above for the entries that are not made.
+    /// The space above for entries without rows.
     required property real gap
     required property PageContext page
 
@@ -19,7 +19,7 @@ FocusScope {
         field.takeFocus(caret)
     }
 
-    /// The keyboard goes on where the entry was.
+    /// Removes the entry; the focus goes to its place.
     function remove() {
         if (cross.activeFocus)
             field.forceActiveFocus(Qt.OtherFocusReason)
@@ -64,7 +64,7 @@ FocusScope {
         anchors { right: parent.right; verticalCenter: toggle.verticalCenter }
         opacity: hover.hovered || activeFocus ? 1 : 0
         visible: !root.page.quiet
-        // The keyboard does not stay behind.
+        // The focus must not stay in a hidden item.
         onVisibleChanged: if (!visible && activeFocus) field.forceActiveFocus(Qt.OtherFocusReason)
         onTriggered: root.remove()
     }

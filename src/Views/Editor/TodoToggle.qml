@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The round tick of a checklist entry. It shows what the store says; a click only asks.
+/// The round check box of a checklist entry. It shows the state in the store; a click only requests a change.
 PressableControl {
     id: root
 
@@ -12,7 +12,7 @@ PressableControl {
     Accessible.checked: done
     Accessible.role: Accessible.CheckBox
     Accessible.onToggleAction: clicked()
-    // Qt 6.4 gives a button that is not checkable the role of a button, whatever stands above.
+    // Qt 6.4 exposes a button that is not checkable as a push button, whatever its role.
     checkable: true
     checked: done
     implicitHeight: Metrics.todoToggleSize

@@ -8,19 +8,18 @@
 class QInputMethodEvent;
 class QKeyEvent;
 
-/// Keys and what input methods compose, kept in their order while the text they are meant for is not shown
-/// as a whole.
+/// A queue of keys and input method events for a text that is not shown completely yet.
 class WaitingInput
 {
 public:
     bool isEmpty() const { return m_events.empty(); }
 
-    /// Whether that key is kept. Escape never is. Ctrl+Z takes back the keys that wait, and is not kept where
-    /// there are none.
+    /// Returns whether the key is queued. Escape never is. Undo clears the queue, and is not handled if
+    /// it is empty.
     bool keepsKey(const QKeyEvent &event);
-    /// Whether that composition is kept. One without any text is kept only behind others.
+    /// Returns whether the event is queued. One without text is queued only behind others.
     bool keepsComposition(const QInputMethodEvent &event);
-    /// There has to be one.
+    /// The queue must not be empty.
     std::unique_ptr<QEvent> takeFirst();
 
 private:

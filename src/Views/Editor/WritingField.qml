@@ -1,8 +1,8 @@
 import QtQuick
 import Pelko
 
-/// A field to write in, as blocks and checklist entries share it: it shows `content`, tells the
-/// editor what the writer makes of it, and never rewrites it under an input method that is composing.
+/// The text field of blocks and checklist entries. It shows `content`, reports changes to the page, and is never
+/// rewritten while an input method composes in it.
 TextEdit {
     id: root
 
@@ -11,7 +11,7 @@ TextEdit {
     required property PageContext page
     required property textAddress address
 
-    /// Whether the text is too tall to be shown as a whole, and how much of it is not.
+    /// Whether the text is too tall to be shown completely, and how much of it is hidden.
     readonly property alias isCut: bridge.isCut
     property alias maximumHeight: bridge.maximumHeight
     property alias isSingleLine: place.isSingleLine
@@ -19,10 +19,10 @@ TextEdit {
 
     property real lineHeight: 0
 
-    /// The writer is done with a field of one line.
+    /// Return was pressed in a field of one line.
     signal finished
 
-    /// -1 stands for the end.
+    /// -1 is the end.
     function takeFocus(caret: int) {
         const end = bridge.isGrowing ? content.length : length
         const position = caret < 0 ? end : Math.min(caret, end)
@@ -35,7 +35,7 @@ TextEdit {
             bridge.showMore()
     }
 
-    /// The keys that wait for the rest of the text get it at once.
+    /// Sends the keys that wait for the rest of the text at once.
     function takeWaitingInput() {
         if (!place.hasWaitingInput)
             return
@@ -43,13 +43,13 @@ TextEdit {
         place.takeWaitingInput()
     }
 
-    // Only preedit text tells that something is being composed: after a commit, `inputMethodComposing` can stay true.
+    // Only the preedit text is reliable: after a commit, `inputMethodComposing` can stay true.
     function reportUnlessComposing() {
         if (preeditText === "")
             bridge.report(cursorPosition)
     }
 
-    /// While a text that was typed is not reported yet, its caret goes with it.
+    /// If a change of the text is not reported yet, the caret is reported with it.
     function reportCaret() {
         if (activeFocus && length === bridge.shownLength)
             page.editor.caretMoved(address, cursorPosition)
@@ -65,7 +65,7 @@ TextEdit {
     Accessible.focusable: true
     activeFocusOnTab: true
     cursorDelegate: Caret {}
-    // What is selected in one field can be part of a selection whose caret is in another.
+    // A selection in this field can be part of one whose caret is in another field.
     persistentSelection: true
     renderType: Text.NativeRendering
     selectByMouse: true
@@ -82,7 +82,7 @@ TextEdit {
     onPreeditTextChanged: reportUnlessComposing()
     onTextChanged: reportUnlessComposing()
 
-    // Above the text, because what is created later is completed first: it selects in a text that is there.
+    // Declared above the text, because objects are completed in reverse order: the text must be set before a selection.
     FieldCaret {
         id: place
 
@@ -102,7 +102,7 @@ TextEdit {
         onEdited: value => root.page.editor.typed(root.address, value, root.cursorPosition)
     }
 
-    // Between two keys the page comes to where the caret is, as between two that are typed.
+    // Between two queued keys the page scrolls to the caret, as it does between typed keys.
     Timer {
         interval: 30
         repeat: true
@@ -115,7 +115,7 @@ TextEdit {
         text: bridge
     }
 
-    // The end of a line that has nothing else to be selected.
+    // Shows the selection of an empty line.
     Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         color: root.selectionColor
@@ -133,7 +133,7 @@ TextEdit {
         renderType: Text.NativeRendering
         text: root.placeholder
         visible: root.length === 0 && root.preeditText === ""
-        // A line of fixed height has its letters at the foot.
+        // In a line of fixed height the letters are at the bottom.
         y: root.lineHeight > 0 ? root.lineHeight - height : 0
     }
 }

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The five places of a space, the taken ones glowing.
+/// Five dots for the places of a space; those of existing pages glow.
 Row {
     id: root
 

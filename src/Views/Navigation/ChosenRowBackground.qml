@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The warm ground of the chosen row of a list; a faint one under the pointer.
+/// The background of a list row: warm if it is selected, faint under the pointer.
 Item {
     id: root
 

@@ -11,7 +11,7 @@ namespace
 constexpr qreal groundMargin = 1.5;
 constexpr qreal groundRadius = 3;
 
-/// Lays all of the text into one line of at most that width, and says how wide the text would be.
+/// Lays out the text as one line of at most this width and returns the natural width of the text.
 qreal layInOneLine(QTextLayout &layout, qreal width)
 {
     layout.beginLayout();
@@ -67,7 +67,7 @@ void HighlightedText::setStartsRight(bool startsRight)
     assign(m_startsRight, startsRight, &HighlightedText::startsRightChanged);
 }
 
-/// Lays the text out, shortened to what fits.
+/// Lays out the text, elided to the width.
 void HighlightedText::layOut(QTextLayout &layout, qreal width) const
 {
     QList<QTextLayout::FormatRange> formats;

@@ -10,8 +10,7 @@
 class QTextLayout;
 
 /// One line of text. Highlighted ranges have a heavier weight, another colour and a background. Text that
-/// does not fit is elided with "…". Text of either direction starts at the same edge, as the other lines of a
-/// list do.
+/// does not fit is elided with "…". Text of either direction is aligned to the same edge.
 class HighlightedText : public PictureItem
 {
     Q_OBJECT
@@ -21,7 +20,7 @@ class HighlightedText : public PictureItem
     Q_PROPERTY(QColor highlightColor READ highlightColor WRITE setHighlightColor NOTIFY highlightColorChanged)
     Q_PROPERTY(QColor highlightBackground READ highlightBackground WRITE setHighlightBackground NOTIFY
                    highlightBackgroundChanged)
-    /// Whether text of either direction starts at the right edge instead of the left.
+    /// Whether the text is aligned to the right edge instead of the left.
     Q_PROPERTY(bool startsRight READ startsRight WRITE setStartsRight NOTIFY startsRightChanged)
     QML_ELEMENT
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// A round piece of glass beside the title that opens the navigation and closes it again.
+/// The round glass button beside the title that opens and closes the navigation.
 PressableControl {
     id: button
 

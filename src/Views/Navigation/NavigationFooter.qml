@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The keys of the navigation, under a hairline.
+/// The keys of the navigation overlay, below a line.
 Item {
     implicitHeight: Metrics.overlayFoot
 

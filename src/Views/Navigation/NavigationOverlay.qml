@@ -1,14 +1,14 @@
 import QtQuick
 import Pelko
 
-/// The navigation overlay, on a sheet of glass above an almost invisible layer: the greeting, the search field, the spaces,
-/// and the pages of one space or of a search. A click beside the sheet ends it, and so does Escape.
+/// The navigation overlay on a sheet of glass: the greeting, the search field, the spaces, and the pages of one space
+/// or of a search. A click beside the sheet or Escape closes it.
 ModalLayer {
     id: overlay
 
     required property MainViewModel main
     property Item backdrop: null
-    /// From the edge where lines begin; the overlay lies over its middle where that is wide enough.
+    /// The width of the page, from the leading edge; the overlay is centred over it if there is room.
     property real pageWidth: width
     readonly property real room: pageWidth < Metrics.overlayWidth + 2 * Metrics.space24 ? width : pageWidth
     readonly property real pageLeft: LayoutMirroring.enabled ? width - room : 0

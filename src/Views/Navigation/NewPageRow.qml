@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The row behind the last page: it makes a new one, and says how many places are left.
+/// The row after the last page, which creates a page and shows how many places are left.
 PressableControl {
     id: root
 

@@ -3,8 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The pages of a space or of a search. It follows the choice and never has the keyboard. Where they do not all fit, it
-/// ends in the middle of a row, to say that more follow.
+/// The pages of a space or of a search. It shows the selected row and never has the focus. If not all rows fit, it ends
+/// in the middle of a row, to show that more follow.
 Item {
     id: root
 
@@ -40,7 +40,7 @@ Item {
         Accessible.role: Accessible.List
         anchors.fill: parent
         boundsBehavior: Flickable.StopAtBounds
-        // Rows made ahead of time are cancelled too late when the model shrinks: Qt complains.
+        // With a cache, rows are cancelled too late when the model shrinks, and Qt warns.
         cacheBuffer: 0
         clip: true
         keyNavigationEnabled: false
@@ -54,7 +54,7 @@ Item {
         }
     }
 
-    // For assistive technology, when all rows stand where they belong.
+    // Sets the order for assistive technology after all rows have their places.
     Timer {
         id: readingOrder
 

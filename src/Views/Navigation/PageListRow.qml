@@ -3,14 +3,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// One page in the list: what it is, its name, a line about it, its marks, and where it is chosen or pointed at the
-/// button that deletes it. Keys are handled by the search field, which keeps the focus.
+/// One page in the list: its symbol, its name, a line of details, its marks, and a delete button while it is selected
+/// or under the pointer. Keys are handled by the search field, which keeps the focus.
 Item {
     id: root
 
     required property int index
     required property string pageID
-    /// All that the row says, to be read out.
+    /// The text of the whole row, for assistive technology.
     required property string name
     required property highlightedLine titleLine
     required property highlightedLine detailLine
@@ -93,7 +93,7 @@ Item {
         anchors { right: parent.right; rightMargin: Metrics.space12; verticalCenter: parent.verticalCenter }
         spacing: Metrics.space12
 
-        // Most rows have none of these, and the list is opened with all its rows in one frame.
+        // Most rows have no marks; creating them only where needed lets the list open within one frame.
         Repeater {
             model: [...(root.isPinned ? ["pin.fill"] : []), ...(root.isArchived ? ["archivebox"] : [])]
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// At the head of a row: a spark, or a dot that glows for the page that is open.
+/// The symbol at the start of a row: a spark, or a dot, which glows for the open page.
 Item {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The round bin at the end of a row.
+/// The round delete button at the end of a row.
 PressableControl {
     id: root
 

@@ -1,8 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The field that finds pages. It keeps the keyboard while the arrow keys choose, so that typing and choosing need no
-/// change of place.
+/// The search field. It keeps the focus while the arrow keys select a row, so that typing can go on.
 FieldBackground {
     id: root
 
@@ -26,7 +25,7 @@ FieldBackground {
     LineField {
         id: field
 
-        // The chosen row is announced here, because this field has the focus.
+        // The selected row is announced here, because this field has the focus.
         Accessible.description: root.navigation.chosenDescription
         Keys.onDeletePressed: event => {
             const nothingToDelete = cursorPosition === length && selectedText === "" && !event.isAutoRepeat

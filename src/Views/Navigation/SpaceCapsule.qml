@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Names the space that a hit lies in.
+/// The name of the space of a search result.
 Rectangle {
     required property string space
 

@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Pelko
 
-/// One of the spaces: its symbol, its name over its five places, and its key. Qt 6.4 tells assistive technology of a
-/// page tab only where the control is one.
+/// The tab of a space: its symbol, its name, its five places, and its shortcut. A TabButton, because Qt 6.4 exposes
+/// other controls as buttons.
 T.TabButton {
     id: root
 

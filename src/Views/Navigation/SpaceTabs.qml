@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The three spaces side by side.
+/// The tabs of the three spaces.
 Rectangle {
     id: root
 

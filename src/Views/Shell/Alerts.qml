@@ -1,13 +1,13 @@
 import QtQuick
 import Pelko
 
-/// The alerts of the whole window but those of `UnsavedAlerts`, each shown while its condition holds.
+/// The alerts of the window except those of `UnsavedAlerts`. Each is shown while its condition is true.
 Item {
     id: root
 
     required property MainViewModel main
     property Item backdrop: null
-    /// Another alert lies over these.
+    /// Whether another alert is above these.
     property bool covered: false
     readonly property ImageImport imageImport: main.editor?.imageImport ?? null
 

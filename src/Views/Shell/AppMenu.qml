@@ -4,13 +4,13 @@ import QtQuick
 import Qt.labs.qmlmodels
 import Pelko
 
-/// The app menu, made from the table of commands.
+/// The app menu, generated from the table of commands.
 PopupMenu {
     id: appMenu
 
     required property ShellCommands commands
 
-    // While it is open no command has its key, not even the one that opened it.
+    // While the menu is open, shortcuts do not work, including the one that opened it.
     Keys.onPressed: event => {
         if (event.key === Qt.Key_F10 && event.modifiers === Qt.NoModifier)
             close()

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The keys of the commands, made from their table. A menu bar has those of its rows.
+/// The shortcuts of the commands. A menu bar has its own.
 Instantiator {
     id: keys
 

@@ -16,7 +16,7 @@ bool EditingKeys::press(QQuickWindow *window, const QString &command)
     const QKeyCombination key = QKeySequence(found->shortcut, QKeySequence::PortableText)[0];
     QKeyEvent press(QEvent::KeyPress, key.key(), key.keyboardModifiers());
     press.ignore();
-    // Sent to the window, the key would be looked up among the shortcuts again.
+    // Sent to the window, the key would trigger the command's shortcut again.
     for (QQuickItem *item = window->activeFocusItem(); item && !press.isAccepted();
          item = item->parentItem()) {
         press.accept();

@@ -4,8 +4,7 @@
 #include <QQuickWindow>
 #include <QtQml/qqml.h>
 
-/// Presses the key of an editing command, so that the command does what its key does in whatever has the
-/// keyboard.
+/// Sends the key of an editing command to the focused item, so that the command does the same as its key.
 class EditingKeys : public QObject
 {
     Q_OBJECT

@@ -29,7 +29,7 @@ FocusScope {
         onTriggered: root.main.toggleNav()
     }
 
-    // Hardly to be seen: the light of the flame on the wall. A small blurred picture, enlarged, is soft enough.
+    // The faint light of the flame. A small blurred picture, enlarged, is soft enough.
     FlameGlow {
         anchors { centerIn: column; verticalCenterOffset: -root.glowRise }
         flameSize: 20

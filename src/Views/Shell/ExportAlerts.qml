@@ -1,13 +1,13 @@
 import QtQuick
 import Pelko
 
-/// The alerts of an export, each shown while its condition holds.
+/// The alerts of an export. Each is shown while its condition is true.
 Item {
     id: root
 
     required property ExportViewModel exports
     property Item backdrop: null
-    /// Another alert lies over these.
+    /// Whether another alert is above these.
     property bool covered: false
 
     AlertDialog {

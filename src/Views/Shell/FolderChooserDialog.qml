@@ -3,9 +3,9 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The app's own file chooser: the user's places at the left, the folder with its pictures at the right, or only with
-/// its folders where one of them is wanted. Arrows and letters walk through the folder, Return opens, Backspace goes up,
-/// Ctrl+L types a path.
+/// The program's own file chooser: the user's standard folders at the left, the shown folder with its pictures at the
+/// right, or only with its folders if a folder is wanted. Arrow keys and letters select, Return opens, Backspace goes
+/// up, Ctrl+L edits the path.
 ModalLayer {
     id: dialog
 
@@ -81,7 +81,7 @@ ModalLayer {
             chooser: dialog.chooser
         }
 
-        // A row may be chosen to walk on; this says where "here" is.
+        // Shows that the button chooses the shown folder, not the selected row.
         Text {
             anchors { left: parent.left; leftMargin: Metrics.space24; right: buttons.left; rightMargin: Metrics.space16 }
             anchors.verticalCenter: buttons.verticalCenter

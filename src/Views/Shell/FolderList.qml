@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The folders and pictures of the folder on show.
+/// The folders and pictures of the shown folder.
 FocusScope {
     id: root
 
@@ -56,7 +56,7 @@ FocusScope {
         activeFocusOnTab: true
         anchors { fill: parent; margins: Metrics.space6; bottomMargin: note.overRows ? root.height - note.y : Metrics.space6 }
         boundsBehavior: Flickable.StopAtBounds
-        // Rows made ahead of time are cancelled too late when the model shrinks: Qt complains.
+        // With a cache, rows are cancelled too late when the model shrinks, and Qt warns.
         cacheBuffer: 0
         clip: true
         focus: true
@@ -82,7 +82,7 @@ FocusScope {
         }
     }
 
-    // In the middle of a list without rows, below those of one that has some.
+    // In the middle of an empty list, otherwise below the rows.
     Text {
         id: note
 

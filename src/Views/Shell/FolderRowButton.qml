@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// A line of the file chooser that can be pressed: a symbol and a name.
+/// A row of the file chooser: a symbol and a name.
 PressableControl {
     id: root
 

@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Window
 import Pelko
 
-/// The main view, covered for the first moments by a card with the flame and the name. The sequence begins with the
-/// first frame that reaches the screen, so that a slow start does not shorten it.
+/// The main view, and the launch card over it at the start. The sequence begins with the first frame on the screen, so
+/// that a slow start does not shorten it.
 FocusScope {
     id: root
 

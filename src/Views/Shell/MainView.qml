@@ -5,8 +5,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Pelko
 
-/// The editor of the open document or the empty state, and beside it the tasks panel; over them the layer that ends the
-/// navigation, the window's frame and the alerts.
+/// The editor of the open document or the empty state, with the tasks panel beside it; above them the navigation, the
+/// window frame and the alerts.
 FocusScope {
     id: root
 
@@ -21,7 +21,7 @@ FocusScope {
                               operation)
     }
 
-    /// The focused item handles the key of the command. Undo and redo that it does not accept go to the page.
+    /// Sends the key of the command to the focused item. Undo and redo that it does not accept go to the page.
     function edit(command: string) {
         const page = content.currentItem as EditorView
         if (EditingKeys.press(root.Window.window, command) || !page || main.appState.showNav)

@@ -49,7 +49,7 @@ Platform.MenuBar {
                     checked: isTicked
                     onTriggered: {
                         bar.commands.run(commandID)
-                        // The menu has turned the tick by itself; the command may not have.
+                        // The menu has toggled the tick itself; the command may not have changed.
                         checked = Qt.binding(() => isTicked)
                     }
                 }

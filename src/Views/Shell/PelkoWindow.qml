@@ -29,7 +29,7 @@ Window {
 
     WindowAccessor {}
 
-    // The frame that was just handed over gets its turn on the screen first.
+    // The frame must reach the screen first.
     Timer {
         id: afterFirstFrame
 

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// Headings, and under each the actions and their keys.
+/// Headings, each followed by actions and their keys.
 Column {
     id: column
 

@@ -3,8 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// All keys on one sheet over the dimmed window, in two columns. Where the window is too low for it, arrows, page keys
-/// and wheel scroll it.
+/// The sheet with all shortcuts in two columns. If the window is too low, the arrow keys, the page keys and the wheel
+/// scroll it.
 ModalLayer {
     id: sheet
 

@@ -4,9 +4,9 @@ import QtQuick
 import QtQuick.Window
 import Pelko
 
-/// The window's own frame: the menu button at the left unless the system has a menu bar, the caption buttons at the
-/// right. It floats over the content and takes no clicks between them. In focus mode it is not seen before it is
-/// pointed at. On a Mac the system brings its own.
+/// The window frame: the menu button at the left, unless the system has a menu bar, and the caption buttons at the
+/// right. It lies over the content and passes clicks between them on. In focus mode it is hidden until the pointer is
+/// over it. On a Mac the system has its own.
 Item {
     id: strip
 
@@ -31,7 +31,7 @@ Item {
             filled ? Window.window.showNormal() : Window.window.showMaximized()
     }
 
-    /// Where on the screen the pomodoro panel belongs.
+    /// Returns the place of the pomodoro panel on the screen.
     function timerPlace() : rect {
         const label = timerLabels.itemAt(0) as Item
         const opener = label?.visible ? label : menuButton
@@ -46,7 +46,7 @@ Item {
         id: hover
     }
 
-    // In focus mode the buttons come back under the pointer.
+    // In focus mode the buttons appear under the pointer.
     Item {
         id: buttons
 
@@ -73,7 +73,7 @@ Item {
             Accessible.role: Accessible.ButtonMenu
         }
 
-        // A tray shows it where there is one. Elsewhere a running timer stays to be seen in focus mode too.
+        // Only without a tray. A running timer stays visible in focus mode.
         Repeater {
             id: timerLabels
 

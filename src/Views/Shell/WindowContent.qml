@@ -3,8 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The contents of the main window: the launch card over the main view, the alerts, the resize edges, and the keys of
-/// the commands or the menu bar that has them.
+/// The contents of the main window: the launch card and the main view, the alerts, the resize borders, and the
+/// shortcuts or the menu bar.
 FocusScope {
     id: root
 

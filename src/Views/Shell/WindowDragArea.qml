@@ -1,9 +1,8 @@
 import QtQuick
 import QtQuick.Window
 
-/// Background by which the window is dragged. The system takes over once the pointer has moved a little with the
-/// button down, so that a double click still arrives; where `maximises` is set, that fills the screen or undoes it. A
-/// window in full screen stays where it is.
+/// A background that drags the window. The system drag begins only after a small movement, so that double clicks still
+/// arrive; with `maximises`, a double click maximises or restores the window. A full-screen window is not moved.
 MouseArea {
     id: area
 
@@ -19,7 +18,7 @@ MouseArea {
     onDragged: Window.window.startSystemMove()
     onPressed: mouse => start = Qt.point(mouse.x, mouse.y)
     onPositionChanged: mouse => {
-        // Qt 6.8 also reports the pointer that only passes over.
+        // Qt 6.8 also reports movements without a button.
         if (pressed && movable && Math.hypot(mouse.x - start.x, mouse.y - start.y) > 4)
             dragged()
     }

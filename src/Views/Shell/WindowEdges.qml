@@ -4,8 +4,7 @@ import QtQuick
 import QtQuick.Window
 import Pelko
 
-/// The resize borders of the window, and the hairline along its edge. A window
-/// that fills the screen has none.
+/// The resize borders of the window, and the line along its edge. A window that fills the screen has none.
 Item {
     id: frame
 

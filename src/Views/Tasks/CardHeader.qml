@@ -8,7 +8,7 @@ Item {
     required property string symbol
     required property string caption
     property font font: Typography.cardCaption
-    /// Of the caption, which is white, and of the symbol, which is amber.
+    /// The opacities of the title and of the symbol.
     property real ink: 0.6
     property real glow: 0.85
     property int count: 0

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The time and the day.
+/// The time and the date.
 PanelCard {
     id: card
 

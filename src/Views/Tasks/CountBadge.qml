@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// A number on a capsule of glass.
+/// A number on a glass capsule.
 GlassPlate {
     id: badge
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The cross that deletes a task.
+/// The button that deletes a task.
 PressableControl {
     id: button
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// How much is written on the open page, and how long ago.
+/// The word count of the open page and the time since its last edit.
 GlassSurface {
     id: pill
 

@@ -1,8 +1,8 @@
 import QtQuick
 import Pelko
 
-/// Lets a row of a list grow when it comes and shrink when it goes: `presence` is how much of it is there. At the edges
-/// of the list the row fades with the part of it that is still in sight.
+/// Animates the insertion and removal of a list row: `presence` is its part from 0 to 1. At the edges of the list a row
+/// fades with its visible part.
 QtObject {
     id: entry
 
@@ -38,7 +38,7 @@ QtObject {
         to: 1
     }
 
-    // The list keeps the row until it has gone.
+    // The list keeps the row until the animation has ended.
     readonly property Animation going: SequentialAnimation {
         PropertyAction { property: "ListView.delayRemove"; target: entry.row; value: true }
         NumberAnimation {

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// One event: a bar, its title and when it starts.
+/// One event: a bar, its title and its start.
 Item {
     id: row
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// A bar that eases to each new length.
+/// A progress bar. Changes of its length are animated.
 Rectangle {
     id: bar
 

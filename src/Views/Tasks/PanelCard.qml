@@ -7,7 +7,7 @@ Item {
 
     default property alias content: column.data
     property alias spacing: column.spacing
-    /// The item that shines through the glass; must not contain the card.
+    /// The item that is blurred behind the glass; must not contain the card.
     property Item backdrop: null
 
     implicitHeight: column.height + 2 * Metrics.cardPaddingY

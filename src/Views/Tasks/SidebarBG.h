@@ -4,8 +4,8 @@
 
 #include <QtQml/qqml.h>
 
-/// The picture behind the tasks panel: ridges at night above embers, dimmed, in one flat layer. It is aligned
-/// to the bottom.
+/// The background of the tasks panel: dark mountain ridges above embers, painted as one picture. It is
+/// aligned to the bottom.
 class SidebarBG : public PictureItem
 {
     Q_OBJECT

@@ -1,12 +1,12 @@
 import QtQuick
 import Pelko
 
-/// For how many days in a row there was a use of the program, beside a flame that burns while it can be seen.
+/// The number of consecutive days on which the program was used, with a flame that moves while it is visible.
 PanelCard {
     id: card
 
     required property TasksPanelViewModel panel
-    /// Whether the card is in the part of the panel that is not scrolled away.
+    /// Whether the card is in the visible part of the panel.
     property bool inSight: true
 
     Row {

@@ -2,14 +2,14 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 
-/// Text of lines of one height that can be struck through in a colour of its own.
+/// Text with lines of equal height that can be struck through in another colour.
 Text {
     id: root
 
     property bool struck: false
     property color strikeColor: color
 
-    /// How wide the words of each line are.
+    /// The width of the text in each line.
     property var lineWidths: []
 
     lineHeightMode: Text.FixedHeight

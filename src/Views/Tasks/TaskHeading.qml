@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The title of the document whose tasks follow.
+/// The title of a document above its tasks.
 Item {
     id: heading
 

@@ -4,20 +4,20 @@ import QtQuick
 import Qt.labs.qmlmodels
 import Pelko
 
-/// The tasks under the titles of their documents. It grows with them up to a height from which on it scrolls. For the
-/// keyboard it is one stop with the arrow keys inside.
+/// The tasks of all documents, each group with its document's title. It grows up to a maximum height and then scrolls.
+/// It is one tab stop; the arrow keys move within it.
 Item {
     id: root
 
     required property TasksPanelViewModel panel
 
-    /// Room around the rows for focus rings and glows.
+    /// Space around the rows for focus rings and glows.
     readonly property int air: Metrics.space10
     readonly property bool empty: list.count === 0
     /// The row that gets the focus.
     readonly property int row: list.count > 0 ? panel.taskNear(list.currentIndex) : -1
 
-    /// The last task was deleted by the keyboard.
+    /// The last task was deleted by keyboard.
     signal emptied
 
     function goTo(index: int) {
@@ -43,7 +43,7 @@ Item {
         anchors.fill: parent
         bottomMargin: root.air
         boundsBehavior: Flickable.StopAtBounds
-        // Rows made ahead of time are cancelled too late when the model shrinks: Qt complains.
+        // With a cache, rows are cancelled too late when the model shrinks, and Qt warns.
         cacheBuffer: 0
         clip: true
         highlightFollowsCurrentItem: false

@@ -11,7 +11,7 @@ FocusScope {
     required property string text
     required property bool done
     required property int index
-    /// Room at both sides.
+    /// The space at both sides.
     required property int air
     /// Whether the row is the tab stop of the list.
     required property bool isTabStop
@@ -35,7 +35,7 @@ FocusScope {
     TaskToggle {
         id: toggle
 
-        // The glyph, not the area that can be hit, stands in the column of the card.
+        // Aligned by the glyph, not by the larger clickable area.
         anchors { left: parent.left; leftMargin: row.air - (width - Metrics.taskToggleGlyph) / 2 + 0.5 }
         anchors.verticalCenter: parent.verticalCenter
         done: row.done

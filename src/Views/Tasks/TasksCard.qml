@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The tasks of the whole library by document, how many are open, and the field that adds one to the open page.
+/// The tasks of the whole library by document, the number of open ones, and the field that adds one to the open page.
 PanelCard {
     id: card
 

@@ -10,7 +10,7 @@ FocusScope {
 
     required property TasksViewModel tasks
 
-    /// Focus mode: the panel is hidden.
+    /// Whether focus mode hides the panel.
     property bool quiet: false
     readonly property bool open: (tasks?.isOpen ?? false) && !quiet
     readonly property real part: Math.max(0, Math.min(1, entrance.value))

@@ -2,14 +2,14 @@ import QtQuick
 import QtQuick.Window
 import Pelko
 
-/// The column of cards beside the editor. It scrolls where the window is too low for it.
+/// The column of cards beside the editor. It scrolls if the window is too low.
 FocusScope {
     id: root
 
     required property TasksPanelViewModel panel
 
     readonly property Item focused: Window.activeFocusItem
-    // It is made before it is in a window, to be seen at once.
+    // True until it is in a window, because it is created shortly before it is shown.
     readonly property bool isSeen: !Window.window || (visible && Window.visibility !== Window.Hidden
                                                       && Window.visibility !== Window.Minimized)
 
@@ -33,7 +33,7 @@ FocusScope {
         anchors.fill: parent
         clip: true
 
-        // Painted anew for every so many pixels only while the window is resized.
+        // While the window is resized, it is repainted in steps of some pixels.
         SidebarBG {
             readonly property int step: 128
 
@@ -107,7 +107,7 @@ FocusScope {
         flickable: scroll
     }
 
-    // The line that divides it from the editor.
+    // The line between panel and editor.
     Rectangle {
         anchors.left: parent.left
         color: FirePalette.white(0.08)

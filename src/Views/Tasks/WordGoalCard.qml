@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The words written so far against the goal.
+/// The word count of the library and the goal.
 PanelCard {
     id: card
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// A symbol that changes into another: the old one shrinks and fades while the new one grows in its place.
+/// A symbol whose changes are animated: the old one shrinks and fades while the new one grows in its place.
 Item {
     id: root
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The field that catches a spark, under its caption, with the button that sends it.
+/// The capture field for sparks with its caption and its button.
 FocusScope {
     id: root
 

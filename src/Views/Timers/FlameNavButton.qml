@@ -1,8 +1,8 @@
 import QtQuick
 import Pelko
 
-/// Starts five minutes of flow; while they run, and after, it shows what is left of them. It warms up and grows a
-/// little while it is active or pointed at.
+/// Starts five minutes of flow and shows the remaining time of a run. It is brighter and a little larger while it is
+/// active or under the pointer.
 PressableControl {
     id: button
 
@@ -46,7 +46,7 @@ PressableControl {
             kind: Glass.warm
         }
 
-        // Half of the fill once more.
+        // The fill once more at half its opacity.
         Rectangle {
             anchors.fill: parent
             visible: opacity > 0

@@ -2,14 +2,14 @@ import QtQuick
 import QtQuick.Window
 import Pelko
 
-/// The flame and, while the pomodoro runs, the time that is left, pulsing. It opens the pomodoro panel. It sits in
-/// the window where the desktop has no tray to put it in.
+/// The flame and, while the pomodoro runs, the remaining time with a pulse. It opens the pomodoro panel. It is shown in
+/// the window if the desktop has no tray.
 PressableControl {
     id: label
 
     required property TimersViewModel timers
 
-    /// True for the one half of the time and false for the other while the timer runs: the two ends of the pulse.
+    /// Alternates while the timer runs; the pulse is animated between its two values.
     property bool pulse: false
     property real flameOpacity: 0.8
 

@@ -27,7 +27,7 @@ PanelWindow::~PanelWindow()
 void PanelWindow::openAt(const QRect &opener)
 {
     m_opener = opener;
-    // The window system may tell only now that it lost the keyboard when it was closed.
+    // The window system may report only now that it lost the focus when it was closed.
     m_wasActive = false;
     place();
     show();
@@ -53,7 +53,7 @@ void PanelWindow::cutCorners()
 
 void PanelWindow::followActive()
 {
-    // Before it has had the keyboard it cannot lose it.
+    // It can lose the focus only after it had it.
     if (m_wasActive && !isActive())
         Q_EMIT left();
     m_wasActive = isActive();

@@ -15,7 +15,7 @@ public:
     explicit PanelWindow(QWindow *parent = nullptr);
     ~PanelWindow() override;
 
-    /// `opener` is in the coordinates of the desktop.
+    /// `opener` is a rectangle on the desktop.
     void openAt(const QRect &opener);
 
 Q_SIGNALS:

@@ -18,7 +18,7 @@ public:
                   QObject *parent = nullptr);
     ~PomodoroPanel() override;
 
-    /// Null before it was created.
+    /// Null until it is created.
     PanelWindow *window() const { return m_window.get(); }
     void prepareSoon();
     void prepare();

@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// The pomodoro panel: the timer, the field that catches a spark, and the latest sparks, one below the other.
+/// The pomodoro panel: the timer, the capture field, and the latest sparks.
 FocusScope {
     id: root
 
@@ -72,7 +72,7 @@ FocusScope {
         backdrop: surface
     }
 
-    // The window's own rim, so that a dark panel does not melt into a dark desktop.
+    // An outline, so that the dark panel is visible on a dark desktop.
     Rectangle {
         anchors.fill: parent
         radius: Metrics.cardRadius

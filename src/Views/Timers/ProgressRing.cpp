@@ -7,14 +7,14 @@
 namespace
 {
 
-constexpr int visibleSteps = 2400; // round the ring
+constexpr int visibleSteps = 2400; // in a full ring
 constexpr qreal fullCircle = 360;
 constexpr qreal top = 90;
-constexpr int sixteenths = 16; // of a degree, in which it wants them
+constexpr int sixteenths = 16; // of a degree: QPainter's unit of angles
 
 constexpr qreal shortArc = 0.06;
 
-/// A beginning arc is too short to show where it came from.
+/// Returns the colour of the tail. A short arc is too short for the whole gradient.
 QColor beginning(const QColor &tail, const QColor &head, qreal progress)
 {
     const float part = float(qMin(1.0, progress / shortArc));
@@ -25,7 +25,7 @@ QColor beginning(const QColor &tail, const QColor &head, qreal progress)
 
 QBrush alongTheArc(const QPointF &centre, qreal progress, const QColor &tail, const QColor &head)
 {
-    // A conical gradient runs against the clock, so the colours stand in it backwards.
+    // A conical gradient runs counterclockwise, so its colours are reversed.
     QConicalGradient gradient(centre, top);
     gradient.setColorAt(0, tail);
     gradient.setColorAt(1 - progress, head);

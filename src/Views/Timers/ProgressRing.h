@@ -6,8 +6,8 @@
 #include <QtQml/qqml.h>
 
 /// A ring that fills clockwise from the top, brightening towards a glowing head. The ring lies `margin`
-/// inside the edges of the item, where the glow has its room. Repainted only when the head has
-/// moved visibly.
+/// inside the edges of the item, which leaves room for the glow. It is repainted only when the head has moved
+/// visibly.
 class ProgressRing : public PictureItem
 {
     Q_OBJECT

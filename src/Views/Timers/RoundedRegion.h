@@ -2,5 +2,5 @@
 
 #include <QRegion>
 
-/// Every pixel that a rectangle with round corners touches; it begins at the origin.
+/// Returns all pixels that a rectangle with rounded corners touches. It begins at the origin.
 QRegion roundedRegion(const QSize &size, int radius);

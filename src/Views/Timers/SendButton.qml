@@ -1,7 +1,7 @@
 import QtQuick
 import Pelko
 
-/// Submits the spark. Dimmed while there is nothing to submit.
+/// Submits the spark. Dimmed if there is nothing to submit.
 PressableControl {
     id: button
 

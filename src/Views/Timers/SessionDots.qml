@@ -3,13 +3,13 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The completed sessions: a dot for each of the first four and a figure for the rest.
+/// The completed sessions: a dot for each of the first four, and the number of further ones.
 Row {
     id: root
 
-    /// Of the dots.
+    /// The number of dots.
     required property int count
-    /// Of the sessions.
+    /// The number of sessions.
     required property int total
     required property string more
 

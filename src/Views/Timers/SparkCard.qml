@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Pelko
 
-/// One spark. The one that was just caught glows. A right click, or Return, the menu key or Shift+F10 while it has the
-/// keyboard, asks for its menu.
+/// One spark. A spark that was just captured glows. A right click, or Return, the menu key or Shift+F10 with the focus,
+/// requests its menu.
 T.AbstractButton {
     id: card
 

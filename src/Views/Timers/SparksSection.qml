@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// The latest sparks on cards under a heading that counts them all, or a hint where there are none.
+/// The latest sparks on cards below a heading with their number, or a hint if there are none.
 Column {
     id: root
 

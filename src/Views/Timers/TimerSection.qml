@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Window
 import Pelko
 
-/// The ring with its flame, the time, the phase, a dot for each session done, and the two buttons.
+/// The ring with its flame, the time, the phase, a dot for each completed session, and the two buttons.
 Column {
     id: root
 
@@ -70,7 +70,7 @@ Column {
 
     Text {
         anchors.horizontalCenter: parent.horizontalCenter
-        // As wide as the letter spacing after the last letter, so that the letters are centred.
+        // Equal to the letter spacing behind the last letter, so that the letters are centred.
         leftPadding: 2
         height: 16
         verticalAlignment: Text.AlignVCenter
