@@ -12,8 +12,6 @@ Platform.MenuBar {
 
     required property ShellCommands commands
 
-    readonly property var systemRoles: ({ about: Platform.MenuItem.AboutRole, quit: Platform.MenuItem.QuitRole })
-
     Instantiator {
         model: bar.commands.menus
         onObjectAdded: (index, menu) => bar.insertMenu(index, menu)
@@ -43,7 +41,8 @@ Platform.MenuBar {
 
                     separator: kind === "separator"
                     text: title
-                    role: bar.systemRoles[systemRole] ?? Platform.MenuItem.NoRole
+                    role: systemRole === "about" ? Platform.MenuItem.AboutRole
+                          : systemRole === "quit" ? Platform.MenuItem.QuitRole : Platform.MenuItem.NoRole
                     enabled: isEnabled
                     checkable: isTickable
                     checked: isTicked

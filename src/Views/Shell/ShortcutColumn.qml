@@ -15,13 +15,13 @@ Column {
         Item {
             id: line
 
-            required property var modelData
+            required property shortcutLine modelData
             required property int index
 
             readonly property bool isHeading: modelData.keys.length === 0
             readonly property real air: isHeading && index > 0 ? Metrics.space12 : 0
 
-            Accessible.name: isHeading ? modelData.title : modelData.title + ", " + modelData.keys.join("+")
+            Accessible.name: isHeading ? modelData.title : modelData.title + ", " + Array.from(modelData.keys).join("+")
             Accessible.role: isHeading ? Accessible.Heading : Accessible.StaticText
             height: air + Math.max(isHeading ? Metrics.sheetHeading : Metrics.sheetRow, label.height + Metrics.space8)
             width: column.width

@@ -10,7 +10,7 @@ Text {
     property color strikeColor: color
 
     /// The width of the text in each line.
-    property var lineWidths: []
+    property list<real> lineWidths: []
 
     lineHeightMode: Text.FixedHeight
     textFormat: Text.PlainText
