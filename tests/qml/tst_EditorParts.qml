@@ -114,6 +114,29 @@ Item {
             verify(row.height > height)
         }
 
+        function test_nothingMovesWithTheFirstLetter_data() {
+            return [
+                { tag: "heading", block: { type: "textLarge" } },
+                { tag: "body", block: { type: "textSmall" } },
+                { tag: "quote", block: { type: "quote" } },
+                { tag: "code", block: { type: "code" } },
+                { tag: "entry", block: { type: "sticky", todos: [{ text: "", done: false }] } },
+            ]
+        }
+
+        function test_nothingMovesWithTheFirstLetter(row) {
+            open([row.block, { type: "textSmall", content: "below" }])
+            const fields = shown(page, item => item instanceof WritingField)
+            const below = fields[1].mapToItem(page, 0, 0).y
+            fields[0].forceActiveFocus()
+            keyClick("x")
+            waitForRendering(page)
+            compare(fields[1].mapToItem(page, 0, 0).y, below)
+            keyClick(Qt.Key_Backspace)
+            waitForRendering(page)
+            compare(fields[1].mapToItem(page, 0, 0).y, below)
+        }
+
         function test_deletingIsMarkedInTheMenu() {
             open([{ type: "textLarge", content: "t" }, { type: "textSmall", content: "b" }])
             const field = shown(page, item => item instanceof WritingField)[1]

@@ -28,7 +28,7 @@ BlockRow {
 
         firstLine: field.y + style.lineHeight / 2
         focus: true
-        implicitHeight: field.implicitHeight + 2 * field.y + (rest.visible ? rest.height : 0)
+        implicitHeight: field.height + 2 * field.y + (rest.visible ? rest.height : 0)
         // With anchors, the width would be 0 when the field lays out the text.
         width: root.bodyWidth
 

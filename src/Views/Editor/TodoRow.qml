@@ -13,7 +13,7 @@ FocusScope {
     required property real gap
     required property PageContext page
 
-    readonly property real entryHeight: Math.max(Typography.checklistRow, field.implicitHeight + Metrics.space6)
+    readonly property real entryHeight: Math.max(Typography.checklistRow, field.height + Metrics.space6)
 
     function takeFocus(caret: int) {
         field.takeFocus(caret)

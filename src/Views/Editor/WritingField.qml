@@ -65,6 +65,8 @@ TextEdit {
     Accessible.focusable: true
     activeFocusOnTab: true
     cursorDelegate: Caret {}
+    // The implicit height of an empty TextEdit is that of the font, not of the line.
+    height: length === 0 && lineHeight > 0 ? lineHeight : implicitHeight
     // A selection in this field can be part of one whose caret is in another field.
     persistentSelection: true
     renderType: Text.NativeRendering
