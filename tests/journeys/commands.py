@@ -142,11 +142,13 @@ def sheet_of_keys(pelko):
 
 
 def pomodoro(pelko):
-    pelko.keys("ctrl+p")
-    pelko.wait_focus_on("Capture a spark")
-    pelko.keys("Escape")
-    pelko.wait_gone("Capture a spark")
-    until(pelko.has_focus, "the window has the keyboard again")
+    for way_out in ("Escape", "ctrl+p"):
+        pelko.keys("ctrl+p")
+        pelko.wait_focus_on("Capture a spark")
+        pelko.type("half a thought")
+        pelko.keys(way_out)
+        pelko.wait_gone("Capture a spark")
+        until(pelko.has_focus, "the window has the keyboard again")
 
 
 def reopened_window(pelko):

@@ -1,7 +1,10 @@
 #include "PomodoroPanel.h"
 
 #include "PanelWindow.h"
+#include "Shell/MenuCommands.h"
 #include "Timers/TimersViewModel.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -36,8 +39,9 @@ void PomodoroPanel::prepare()
         return;
     // Not loaded in the constructor, which would slow down the start.
     m_component.loadUrl(QUrl(u"qrc:/qt/qml/Pelko/Views/Timers/PomodoroWindow.qml"_s));
-    m_window.reset(qobject_cast<PanelWindow *>(
-        m_component.createWithInitialProperties({{u"panel"_s, QVariant::fromValue(&m_timers.panel())}})));
+    const auto command = std::ranges::find(MenuCommand::all(), u"pomodoro"_s, &MenuCommand::id);
+    m_window.reset(qobject_cast<PanelWindow *>(m_component.createWithInitialProperties(
+        {{u"panel"_s, QVariant::fromValue(&m_timers.panel())}, {u"shortcut"_s, command->shortcut}})));
     if (!m_window)
         return;
     connect(m_window.get(), &PanelWindow::left, &m_timers, &TimersViewModel::leavePanel);
