@@ -5,7 +5,7 @@
 #include <QDateTime>
 #include <QTimeZone>
 
-/// A calendar to be looked at through a window, with what is found told in few letters.
+/// Reads calendar texts and returns the events of a time window as short texts.
 struct CalendarFixture {
     QTimeZone zone = QTimeZone::utc();
     QDateTime from = QDateTime(QDate(2026, 11, 21), QTime(9, 0), QTimeZone::utc());
@@ -13,7 +13,7 @@ struct CalendarFixture {
 
     CalendarWindow window() const { return {.from = timestamp(from), .to = timestamp(to), .zone = zone}; }
 
-    /// The window from one local midnight to another.
+    /// Sets the window from one local midnight to another.
     void look(QDate first, QDate end)
     {
         from = QDateTime(first, QTime(0, 0), zone);
@@ -27,7 +27,7 @@ struct CalendarFixture {
         return contents.events([] { return false; });
     }
 
-    /// "21 09:30 Breakfast" for each, by the clock on the user's wall and in the order of time.
+    /// Returns each event as "21 09:30 Breakfast" in local time, sorted by start.
     QStringList told(const QByteArray &text) const
     {
         QList<CalendarEvent> found = events(text);
@@ -47,7 +47,7 @@ struct CalendarFixture {
     }
 };
 
-/// An event of a calendar from its lines, without its first and last.
+/// Returns an event of a calendar, without the enclosing VCALENDAR lines.
 inline QByteArray eventText(const QByteArray &lines)
 {
     return "BEGIN:VEVENT\r\n" + lines + "\r\nEND:VEVENT\r\n";

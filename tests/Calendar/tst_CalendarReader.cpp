@@ -3,7 +3,7 @@
 
 using namespace Qt::StringLiterals;
 
-/// What one text comes to, and what becomes of texts that are none.
+/// The events that one text contains, and malformed texts.
 class TestCalendarReader : public QObject
 {
     Q_OBJECT

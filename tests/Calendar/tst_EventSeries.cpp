@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// Breakfast at nine in Berlin, every day from Monday, the 16th of November.
+/// Breakfast at nine in Berlin, daily from Monday, 16 November.
 const QByteArray breakfast = "UID:b\r\nSUMMARY:Breakfast\r\nDTSTART;TZID=Europe/Berlin:20261116T090000\r\n"
                              "DTEND;TZID=Europe/Berlin:20261116T093000\r\nRRULE:FREQ=DAILY";
 
@@ -17,7 +17,7 @@ QByteArray changed(const QByteArray &lines)
 }
 } // namespace
 
-/// What repeats, and what becomes of it where somebody moved, changed or cancelled a part.
+/// Recurring events with moved, changed and cancelled occurrences.
 class TestEventSeries : public QObject
 {
     Q_OBJECT

@@ -25,7 +25,7 @@ CalendarTime newYork(const QString &text)
     return {.wall = seconds(text), .zone = zone};
 }
 
-/// "2-11,15" of some days of a month.
+/// Returns days of a month as "2-11,15".
 QString runs(const QList<int> &days)
 {
     QStringList parts;
@@ -40,8 +40,8 @@ QString runs(const QList<int> &days)
     return parts.join(u',');
 }
 
-/// "1997 Sep 2-11 Oct 4; 1998 Jan 1" of a list of times. Hours are told where they are not
-/// nine o'clock alone: "1997 Sep 2 at 09:00,12:00".
+/// Returns times as "1997 Sep 2-11 Oct 4; 1998 Jan 1". Times of day other than nine o'clock are included:
+/// "1997 Sep 2 at 09:00,12:00".
 QString written(const std::vector<qint64> &times)
 {
     std::map<int, std::map<int, QList<int>>> years;
@@ -81,7 +81,7 @@ std::vector<qint64> timesOf(const char *rule, const QString &start, const QStrin
 }
 } // namespace
 
-/// Rules, and the days on which they come true.
+/// Rules and the days that they select.
 class TestRecurrenceRule : public QObject
 {
     Q_OBJECT
@@ -111,7 +111,7 @@ private Q_SLOTS:
         const auto all = timesOf(rule, start, start, end);
         QCOMPARE(written(all), days);
 
-        // Who looks only at the later part of it sees the same.
+        // A query for the later part only has the same times.
         for (const double part : {0.25, 0.5, 0.9}) {
             if (all.empty())
                 break;
@@ -213,7 +213,7 @@ private Q_SLOTS:
     }
 };
 
-/// The examples that the standard of calendars gives with its rules, in New York.
+/// The examples of RFC 5545, in New York.
 void TestRecurrenceRule::addExamples()
 {
     row("FREQ=DAILY;COUNT=10", u"19970902T090000"_s, u"19990101T000000"_s, u"1997 Sep 2-11"_s);
@@ -306,7 +306,7 @@ void TestRecurrenceRule::addFurtherExamples()
         u"2007 Jan 15,30 Feb 15 Mar 15,30"_s);
 }
 
-/// Worked out by hand.
+/// Expected days computed by hand.
 void TestRecurrenceRule::addOwnRules()
 {
     row("FREQ=YEARLY", u"20240229T090000"_s, u"20330101T000000"_s,
@@ -383,7 +383,7 @@ void TestRecurrenceRule::addOwnRules()
         u"2026 Nov 2 at 09:00,17:00"_s);
 }
 
-/// Choices among the times of a period, week numbers, rules within a day, and values in disorder.
+/// BYSETPOS, week numbers, rules within a day, and unsorted values.
 void TestRecurrenceRule::addUncommonRules()
 {
     row("FREQ=WEEKLY;BYDAY=MO,TU,WE,TH,FR;BYSETPOS=1", u"20261102T090000"_s, u"20261201T000000"_s,

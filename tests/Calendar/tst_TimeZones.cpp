@@ -5,7 +5,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// Berlin as other programs describe it, under a name that only they know.
+/// Berlin as a VTIMEZONE under a name that is not in the tz database.
 const QByteArray described = "BEGIN:VTIMEZONE\r\nTZID:Our Town\r\n"
                              "BEGIN:STANDARD\r\nDTSTART:19701025T030000\r\nTZOFFSETFROM:+0200\r\n"
                              "TZOFFSETTO:+0100\r\nRRULE:FREQ=YEARLY;BYMONTH=10;BYDAY=-1SU\r\nEND:STANDARD\r\n"
@@ -24,7 +24,7 @@ QByteArray at(const QByteArray &zone, const QByteArray &time)
 }
 } // namespace
 
-/// Where the clocks hang that calendars read their times from.
+/// The time zones that calendars use.
 class TestTimeZones : public QObject
 {
     Q_OBJECT
@@ -58,7 +58,7 @@ private Q_SLOTS:
         row("W. Europe Standard Time", u"21 11:00 Tea"_s);
         row("Eastern Standard Time", u"21 17:00 Tea"_s);
         row("India Standard Time", u"21 06:30 Tea"_s);
-        row("Nowhere/Else", u"21 12:00 Tea"_s); // the user's
+        row("Nowhere/Else", u"21 12:00 Tea"_s); // the user's zone
         row("../../../etc/localtime", u"21 12:00 Tea"_s);
         row("/etc/passwd", u"21 12:00 Tea"_s);
         row(QByteArray("a/").repeated(250'000), u"21 12:00 Tea"_s);

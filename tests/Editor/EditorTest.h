@@ -10,8 +10,8 @@
 #include "support/PageText.h"
 #include "support/TestProgram.h"
 
-/// What every test of the editor's view model begins with: a store on manual time, and an editor on a page of
-/// it.
+/// The base of the tests of the editor's view model: a store with manual time, and an editor on one of its
+/// pages.
 class EditorTest : public QObject
 {
     Q_OBJECT
@@ -24,12 +24,12 @@ protected:
     std::unique_ptr<AppState> state;
     std::unique_ptr<EditorViewModel> editor;
     QUuid pageID;
-    QStringList focused; // what focusRequested asked for, such as "B@3"
+    QStringList focused; // the calls of focusRequested, such as "B@3"
 
-    /// Puts the pages into the store, which opens the first one of the work space.
+    /// Sets the pages of the store, which opens the first one of the work space.
     void store(const QList<PelkoDocument> &documents)
     {
-        ManualDocumentFile before; // so that `file` counts only what the store writes
+        ManualDocumentFile before; // so that `file` counts only writes of the store
         const auto error =
             before.replace([&](ByteSink &sink) { return DocumentWriter().write(documents, sink); });
         QVERIFY(!error);
@@ -46,7 +46,7 @@ protected:
                 });
     }
 
-    /// One page, open, with an editor on it.
+    /// Opens one page with these blocks and an editor for it.
     void edit(const QList<Block> &blocks)
     {
         const PelkoDocument document = PageText::page(blocks);
@@ -71,7 +71,7 @@ protected:
     }
 
     QStringList takeFocused() { return std::exchange(focused, {}); }
-    /// What was asked for last, or "".
+    /// Returns the last call of focusRequested, or an empty text.
     QString takeLastFocused()
     {
         const QStringList all = takeFocused();

@@ -31,7 +31,7 @@ class TestBlockDrag : public QObject
     }
 
 private Q_SLOTS:
-    /// The page ABCD is open, stored and saved.
+    /// Opens and saves a page with the blocks ABCD.
     void init()
     {
         scheduler = {};
@@ -75,7 +75,7 @@ private Q_SLOTS:
     void aDropWhereTheBlockCameFromIsNoReorder()
     {
         drag->begin(id('B'));
-        pass("CC"); // down over a row and up over it again
+        pass("CC"); // over a row downwards and upwards again
         QCOMPARE(order(), u"ABCD"_s);
         drag->drop();
         QCOMPARE(order(), u"ABCD"_s);

@@ -24,14 +24,14 @@ class TestBlockDropDelegate : public QObject
 
     const PelkoDocument &stored() const { return state->documents().constFirst(); }
 
-    /// The delegate of the row of that letter.
+    /// Returns the delegate of the row with this block.
     BlockDropDelegate over(char letter)
     {
         return {block(letter), state->openDocument().value_or(PelkoDocument()), *state, draggingBlockID};
     }
 
 private Q_SLOTS:
-    /// The page ABCD is open, stored and saved.
+    /// Opens and saves a page with the blocks ABCD.
     void init()
     {
         scheduler = {};

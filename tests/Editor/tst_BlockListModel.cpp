@@ -34,14 +34,14 @@ class TestBlockListModel : public QObject
     std::unique_ptr<QAbstractItemModelTester> tester;
     std::unique_ptr<ModelLog> log;
 
-    /// Shows a page and forgets what was announced on the way.
+    /// Publishes a page and clears the log.
     void show(const QList<Block> &blocks)
     {
         model->publish(page(blocks));
         log->take();
     }
 
-    /// What is announced when the page becomes this one.
+    /// Publishes a page and returns what was announced.
     QStringList announcedBy(const QList<Block> &blocks)
     {
         model->publish(page(blocks));
@@ -165,7 +165,7 @@ private Q_SLOTS:
         QTest::addColumn<Block>("after");
         QTest::addColumn<QString>("roles");
         Block changed = image('B');
-        changed.imageData = "drawing"_ba; // as long as the other one
+        changed.imageData = "drawing"_ba; // of the same length
         QTest::newRow("picture") << changed << u"1: hasImage imageData"_s;
         QTest::newRow("full width") << image('B', true) << u"1: isFullWidth"_s;
         QTest::newRow("not full width") << image('B', false) << u"1: isFullWidth"_s;

@@ -19,7 +19,9 @@ struct RememberedPage {
         page = to;
     }
 
-    /// The value of block A after a key, with the caret written as |.
+    /// Types so that block A has this text;
+    ///
+    /// is the caret.
     void type(QString value)
     {
         const auto caret = value.indexOf(u'|');
@@ -56,7 +58,7 @@ PelkoDocument withBlocks(PelkoDocument page, const QList<Block> &blocks)
     return page;
 }
 
-/// One typed value a step: the texts that undo goes back through, the last first.
+/// One typed value per step, and the texts after each undo, the last first.
 struct Typing {
     const char *name;
     QStringList values;

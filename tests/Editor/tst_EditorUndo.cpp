@@ -12,7 +12,7 @@ namespace
 
 using Operation = std::function<void(EditorViewModel &)>;
 
-/// A page that has something for every operation.
+/// A page with a block for every operation.
 QList<Block> onePageForAll()
 {
     return {block('A', heading, u"Title"_s), block('B', body, u"onetwo"_s), image('C'),

@@ -319,7 +319,7 @@ private Q_SLOTS:
         editor->addBlock(u"quote"_s);
         ModelLog log(blocks());
 
-        editor.release()->release(); // from here on it owns itself
+        editor.release()->release(); // it deletes itself then
         state->updateDocument(page({}));
         PelkoDocument changed = stored();
         changed.blocks.removeFirst();
@@ -332,7 +332,7 @@ private Q_SLOTS:
         QCoreApplication::sendPostedEvents(released, QEvent::DeferredDelete);
         QVERIFY(!released);
         scheduler.advance(320ms);
-        QCOMPARE(file.writes(), 1); // what was typed last is saved all the same
+        QCOMPARE(file.writes(), 1); // what was typed before is saved nevertheless
     }
 };
 

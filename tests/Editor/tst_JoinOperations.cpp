@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// A key at the edge of the text that `at` names ("B" or "B.x"), and what becomes of the page.
+/// A key at the edge of the text `at` ("B" or "B.x"), and the expected page.
 struct JoinCase {
     const char *name;
     QList<Block> blocks;

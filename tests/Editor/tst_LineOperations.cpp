@@ -10,7 +10,7 @@ namespace
 
 enum class Key { shiftReturn, returnKey };
 
-/// The selection of a text is written between two bars, the caret as one.
+/// A text with its selection between two bars, or the caret as one bar.
 struct Selected {
     QString text;
     LineOperations::Stretch stretch;
@@ -109,7 +109,7 @@ private Q_SLOTS:
         QCOMPARE(PageText::focus(split->focus), u"A.+@0"_s);
     }
 
-    /// The selection stands between two bars, or the caret at one.
+    /// The selection is between two bars, or the caret is one bar.
     void tabMovesTheSelectedLines_data()
     {
         QTest::addColumn<QString>("written");

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// A page of body blocks called by these letters.
+/// Returns body blocks named by these letters.
 QList<Block> bodyBlocks(const char *letters)
 {
     QList<Block> blocks;

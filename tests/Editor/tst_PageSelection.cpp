@@ -16,7 +16,7 @@ PelkoDocument letter()
     return page({block('A', BlockType::textLarge, u"Dear"_s), block('B', BlockType::textSmall, u"reader"_s)});
 }
 
-/// A selection on a page that takes the edits.
+/// A selection on a page, and the page after its operations.
 struct SelectionDesk {
     explicit SelectionDesk(const PelkoDocument &document) : page(document) { selection.publish(page); }
 

@@ -34,7 +34,9 @@ private Q_SLOTS:
         QCOMPARE(ShownText::of(stored).size(), stored.size());
     }
 
-    /// The text shown is written with a line feed for each break; | is the caret.
+    /// Each break is written as a line feed;
+    ///
+    /// is the caret.
     void keepsWhatWasNotChanged_data()
     {
         QTest::addColumn<QString>("stored");

@@ -20,7 +20,7 @@ qsizetype longestParagraph(const QString &shown)
     return longest;
 }
 
-/// Every break stands for a space, each once, in order.
+/// Returns whether every break is at a space, sorted and unique.
 bool isSound(const SoftBreaks &breaks, const QString &text)
 {
     const QList<qsizetype> &places = breaks.places();

@@ -23,7 +23,7 @@ TextAddress addressOf(const TodoItem &item)
     return {.blockID = blockID, .partID = item.id};
 }
 
-/// The height of all rows and of the gaps around them, where each row has its usual height.
+/// Returns the height of all rows and gaps if each row has its usual height.
 qreal heightOf(const TodoListModel &model)
 {
     qreal height = model.gapBelow();

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// What a text field reports, and what becomes of its block B on the page A (heading), B, C (body).
+/// The text that a field reports for block B of the page A (heading), B, C (body), and the expected page.
 struct TypingCase {
     const char *name;
     BlockType type;
@@ -176,7 +176,7 @@ class TestTypingRules : public QObject
                 << row.type << row.stored << row.typed << row.caret << row.becomes << row.focus;
     }
 
-    /// A text that no rule is waiting for, in a block of that kind.
+    /// Adds a row for a text that no rule applies to.
     static void addStaysText(BlockType type, const QString &typed)
     {
         const QStringList becomes{u"B %1 \"%2\""_s.arg(rawValue(type), typed)};

@@ -137,7 +137,7 @@ a<b
         row(u"###### x"_s, u"\\###### x"_s);
         row(u"> x"_s, u"\\> x"_s);
         row(u"- x"_s, u"\\- x"_s);
-        row(u"-\f\vx"_s, u"\\-\f\vx"_s); // more than CommonMark calls a space, for readers that do
+        row(u"-\f\vx"_s, u"\\-\f\vx"_s); // some readers treat more characters as spaces than CommonMark does
         row(u"+"_s, u"\\+"_s);
         row(u"* x"_s, u"\\* x"_s);
         row(u"1. x"_s, u"1\\. x"_s);

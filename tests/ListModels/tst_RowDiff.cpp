@@ -13,8 +13,8 @@ QList<QChar> rows(const QString &letters)
     return QList<QChar>(letters.begin(), letters.end());
 }
 
-/// Carries the steps out on a list; rows to insert are taken from `after`. Nothing when a step is out of
-/// bounds or moves nothing.
+/// Applies the steps to a list; inserted rows are taken from `after`. Returns std::nullopt if a step is out
+/// of bounds or moves nothing.
 std::optional<QList<QChar>> applied(QList<QChar> list, const std::vector<RowChange> &steps,
                                     const QList<QChar> &after)
 {
@@ -70,14 +70,15 @@ qsizetype movesIn(const std::vector<RowChange> &steps)
     return std::ranges::count(steps, RowChange::Kind::move, &RowChange::kind);
 }
 
-/// The fewest moves there can be: all that stay but one of the longest rising runs. Slow and plain.
+/// Returns the smallest possible number of moves: all rows but those of a longest increasing subsequence,
+/// found by a slow and simple algorithm.
 qsizetype fewestMoves(const QList<QChar> &before, const QList<QChar> &after)
 {
     QList<qsizetype> places;
     for (const QChar letter : before)
         if (after.contains(letter))
             places << after.indexOf(letter);
-    QList<qsizetype> longest(places.size(), 1); // rising run that ends here
+    QList<qsizetype> longest(places.size(), 1); // length of the increasing subsequence that ends here
     for (qsizetype end = 0; end < places.size(); ++end)
         for (qsizetype start = 0; start < end; ++start)
             if (places[start] < places[end])

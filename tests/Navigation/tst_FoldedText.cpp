@@ -52,7 +52,7 @@ private Q_SLOTS:
 
     void mapsFoldedLettersToTheirOrigin()
     {
-        const QString text = u"Zu\u0308ß."_s; // Z u ¨ ß . become z u s s .
+        const QString text = u"Zu\u0308ß."_s; // "Z u ¨ ß ." becomes "z u s s ."
 
         QCOMPARE(FoldedText::origins(text), QList<qsizetype>({0, 1, 3, 3, 4, 5}));
         QCOMPARE(FoldedText::originOf(text, 1), 1);

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// The line with its marks in brackets.
+/// Returns the line with the highlighted ranges in brackets.
 QString bracketed(const QString &text, const QList<HighlightRange> &marks)
 {
     QString result = text;

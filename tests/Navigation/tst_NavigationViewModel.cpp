@@ -20,7 +20,7 @@ PelkoDocument page(Space space, const QString &title, Timestamp createdAt)
     return document;
 }
 
-/// A store that has begun on a library of these pages, and the navigation of it.
+/// A store with these pages and its navigation.
 struct Library {
     ManualScheduler scheduler;
     ManualClock clock;
@@ -51,7 +51,7 @@ struct Library {
     QString name(int row) { return value(row, PageListModel::NameRole).value<HighlightedLine>().text; }
     QString detail(int row) { return value(row, PageListModel::DetailRole).value<HighlightedLine>().text; }
 
-    /// The names of the pages, the open one in brackets, the chosen row behind an arrow.
+    /// Returns the names of the pages, the open one in brackets, the selected row behind an arrow.
     QString list()
     {
         QStringList names;
@@ -65,7 +65,7 @@ struct Library {
         return names.join(u' ');
     }
 
-    /// Each space with its pages, the current one in brackets.
+    /// Returns each space with its pages, the current one in brackets.
     QString spaces()
     {
         auto *model = qobject_cast<SpaceListModel *>(navigation.spaces());

@@ -22,7 +22,7 @@ PelkoDocument spark(const QString &text)
     return document;
 }
 
-/// The rows of the best hits, as letters from A on.
+/// Returns the rows of the best results as letters.
 QString order(const PageHits &hits)
 {
     QString letters;
@@ -89,7 +89,7 @@ private Q_SLOTS:
 
     void theBestComeFirst_data()
     {
-        QTest::addColumn<QStringList>("titles"); // a text follows its title behind a stroke
+        QTest::addColumn<QStringList>("titles"); // the text follows the title behind a slash
         QTest::addColumn<QString>("query");
         QTest::addColumn<QString>("order");
         QTest::newRow("titles before texts") << QStringList{u"a|hour"_s, u"hour|b"_s} << u"hour"_s << u"BA"_s;

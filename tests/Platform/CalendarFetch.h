@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-/// The folders of somebody who keeps calendars, on the real disk.
+/// A home folder with calendar folders on the real disk.
 class CalendarHome
 {
 public:
@@ -23,7 +23,7 @@ public:
         return std::filesystem::path(m_folder.path().toStdString()) / name;
     }
 
-    /// Puts a file below the home, with whatever folders it takes.
+    /// Writes a file below the home and creates its folders.
     void put(const char *name, const QByteArray &bytes) const
     {
         const auto file = path("home") / name;
@@ -37,7 +37,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// What a store answers: "-" for nothing at all, else the titles in its order.
+/// Returns the titles of the events in their order, or "-" for std::nullopt.
 inline QString titles(const std::optional<CalendarStore::Answer> &answer)
 {
     if (!answer)

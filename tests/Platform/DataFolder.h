@@ -8,11 +8,11 @@
 
 #include <fstream>
 
-/// A data folder of its own on the real disk, with the file in it as the program would use it. Removed in the
-/// end, whatever is in it.
+/// A temporary data folder on the real disk, with the file as the program uses it. The destructor removes it
+/// with its contents.
 class DataFolder : public DataLocation
 {
-    QTemporaryDir m_directory; // first, for `support` lies in it
+    QTemporaryDir m_directory; // declared first, because `support` is inside
 
 public:
     using Path = std::filesystem::path;
@@ -35,7 +35,7 @@ public:
         return std::holds_alternative<DocumentFile::Missing>(LocalDocumentFile(*this).read());
     }
 
-    /// Has the program replace the file. What was told; an empty string when all went well.
+    /// Replaces the file as the program does. Returns the error, or an empty text.
     QString replace(const QByteArray &bytes = "new")
     {
         LocalDocumentFile file(*this);
@@ -45,7 +45,7 @@ public:
         return error ? error->description() : QString();
     }
 
-    /// Makes a file and its folder by other means than the program's.
+    /// Writes a file directly and creates its folder.
     static void put(const Path &file, const char *text)
     {
         std::filesystem::create_directories(file.parent_path());

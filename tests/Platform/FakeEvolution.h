@@ -8,13 +8,13 @@
 
 #include <functional>
 
-/// A server of calendars that answers what a test tells it to, or not at all.
+/// A calendar server on the bus with the answers that a test sets.
 class FakeEvolution : public QDBusVirtualObject
 {
 public:
     using Interfaces = QMap<QString, QVariantMap>;
     using Objects = QMap<QDBusObjectPath, Interfaces>;
-    /// Nothing: the call is never answered.
+    /// Returns std::nullopt to leave the call unanswered.
     using Answer = std::function<std::optional<QDBusMessage>(const QDBusMessage &)>;
 
     explicit FakeEvolution(QDBusConnection bus) : m_bus(std::move(bus))

@@ -7,12 +7,11 @@
 #include <csignal>
 #include <cstdio>
 
-/// A session bus of the test's own. The bus of the user's desktop and the services installed on it cannot be
-/// reached from there.
+/// A session bus for one test, separate from the user's bus and the services installed on it.
 class PrivateBus
 {
 public:
-    /// What differs from a bus that starts nothing and forbids nothing.
+    /// Differences from a bus that starts no services and has no restrictions.
     struct Configuration {
         QStringList installedServices = {};         // names; the installed service files are used
         QMap<QString, QByteArray> ownServices = {}; // the command by the name
@@ -37,7 +36,7 @@ public:
                   "<allow own=\"*\"/>" +
                   configuration.policy +
                   "</policy>"
-                  // Those of an ordinary session bus; the daemon's own are for the bus of the system.
+                  // The limits of an ordinary session bus; dbus-daemon's defaults are for the system bus.
                   "<limit name=\"max_incoming_bytes\">1000000000</limit>"
                   "<limit name=\"max_outgoing_bytes\">1000000000</limit>"
                   "<limit name=\"max_message_size\">1000000000</limit>"
@@ -80,7 +79,7 @@ private:
 
     void start()
     {
-        // Not with QProcess, whose way to start a process the thread sanitizer does not follow.
+        // Not with QProcess, because the thread sanitizer does not support how it starts processes.
         const QByteArray command =
             "dbus-daemon --config-file=" + m_folder.filePath(QStringLiteral("session.conf")).toLocal8Bit() +
             " --fork --print-address=1 --print-pid=1";

@@ -9,7 +9,7 @@ namespace
 {
 RecordedDisk *recording = nullptr;
 
-/// The file that a descriptor stands for, when it is the recorded folder or lies in it.
+/// Returns the file of a descriptor if it is the recorded folder or inside it.
 std::optional<fs::path> recordedFile(int descriptor)
 {
     if (!recording)
@@ -26,7 +26,7 @@ void note(DiskEvent::Kind kind, const fs::path &file, const QByteArray &bytes = 
 }
 } // namespace
 
-// The C library's own, in this program, with a look at what they do.
+// Wrappers of the C library's functions that record the calls.
 
 extern "C" ssize_t write(int descriptor, const void *bytes, std::size_t size)
 {

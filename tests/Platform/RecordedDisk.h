@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-/// One thing that happened to the files of a folder, as far as it matters for what a power cut leaves.
+/// A change of the files in a folder that matters after a power cut.
 struct DiskEvent {
     enum class Kind {
         written, ///< `bytes` were appended to `file`
@@ -22,8 +22,8 @@ struct DiskEvent {
     QByteArray bytes = {};
 };
 
-/// While it lives, the system calls of this program that change files in `folder` are noted down. One at a
-/// time.
+/// Records the system calls of this process that change files in `folder`, as long as it lives. Only one
+/// object at a time.
 class RecordedDisk
 {
 public:
@@ -41,17 +41,17 @@ private:
     std::vector<DiskEvent> m_events;
 };
 
-/// A disk that keeps for certain only what was synchronised.
+/// Models a disk that keeps only synchronised data after a power cut.
 class CrashedDisk
 {
 public:
-    /// The data file holds `contents`, safely.
+    /// The data file contains `contents`, synchronised.
     explicit CrashedDisk(const QByteArray &contents);
 
     void apply(const DiskEvent &event);
 
-    /// What the data file may hold when the current comes back: for each of the files that it may be, no
-    /// byte, half and all of what was not synchronised, and zeros in the place of what was lost.
+    /// Returns the possible contents of the data file after a power cut: for each file that may have the
+    /// name, none, half or all of the unsynchronised bytes, and zeros in place of the lost ones.
     QByteArrayList survivors() const;
 
 private:
@@ -61,5 +61,5 @@ private:
     };
 
     std::map<std::string, File> m_files;
-    std::vector<std::string> m_candidates; // the file that certainly has the name, then later ones
+    std::vector<std::string> m_candidates; // the file that has the name for certain, then later ones
 };

@@ -5,8 +5,7 @@
 #include <QDBusContext>
 #include <QDBusMessage>
 
-/// The part of a desktop that keeps the list of tray items, with an answer that a test chooses. It takes the
-/// watcher's name from any other one that has it.
+/// A StatusNotifierWatcher with the answer that a test sets. It takes the name over from another watcher.
 class TrayWatcher : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -40,7 +39,7 @@ public:
         isThere ? Q_EMIT StatusNotifierHostRegistered() : Q_EMIT StatusNotifierHostUnregistered();
     }
 
-    /// Answers the registrations that are still unanswered, and all later ones.
+    /// Answers the pending registrations and all later ones.
     void answer(Registration answer)
     {
         m_answer = answer;

@@ -4,7 +4,7 @@
 
 #include <unistd.h>
 
-/// An ordinary user's rights for as long as it lives: nothing is read-only to root.
+/// Drops root's rights as long as it lives, because root may write read-only files.
 struct Unprivileged {
     Unprivileged() = default;
     ~Unprivileged()

@@ -16,7 +16,7 @@ QByteArray at(const QByteArray &title, const QByteArray &hour)
 }
 } // namespace
 
-/// Calendars that are folders of files.
+/// Calendars that are folders with one file per event.
 class TestCalendarFolders : public QObject
 {
     Q_OBJECT

@@ -14,7 +14,7 @@ QString at(const char *title, const char *lines = "")
         eventText("UID:"_ba + title + "\r\nSUMMARY:" + title + "\r\nDTSTART:20261121T100000Z\r\n" + lines));
 }
 
-/// So many events, each of them every day, none of whose names is part of another.
+/// Returns this number of daily events; no title is part of another.
 QStringList daily(int count)
 {
     QStringList events;
@@ -24,7 +24,7 @@ QStringList daily(int count)
 }
 } // namespace
 
-/// The server of the desktop's calendars as it may behave, played by the test.
+/// A fake calendar server in many states.
 class TestEvolutionCalendars : public QObject
 {
     Q_OBJECT
@@ -111,7 +111,7 @@ private Q_SLOTS:
 
     void aFolderThatMirrorsTheServerAddsNothing()
     {
-        home->put(".calendars/b.ics", at("Tea").toUtf8()); // not yet moved there
+        home->put(".calendars/b.ics", at("Tea").toUtf8()); // not moved yet
         startServer();
         server->addCalendar(u"one"_s, {at("Tea").replace(u"T10"_s, u"T15"_s)});
         QCOMPARE(fetch(), u"Tea Folder"_s);
@@ -210,7 +210,7 @@ private Q_SLOTS:
         timer.start();
         calendars.reset();
         QVERIFY2(timer.elapsed() < 1500, qPrintable(QString::number(timer.elapsed())));
-        // The bus has nothing more to carry for it: what was asked is all.
+        // The bus has no message left for it.
         bus->connection(u"client"_s)
             .call(QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/"_s,
                                                  u"org.freedesktop.DBus.Peer"_s, u"Ping"_s));

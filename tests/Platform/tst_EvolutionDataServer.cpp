@@ -12,7 +12,7 @@ namespace
 {
 const QString serverName = u"org.gnome.evolution.dataserver.Calendar8"_s;
 
-/// Says what the test needs of the server, as another program would.
+/// Writes events to the server as another program would.
 class Writer
 {
 public:
@@ -54,7 +54,7 @@ private:
 };
 } // namespace
 
-/// The real server, on a bus and with folders of its own.
+/// The real server on a private bus with private folders.
 class TestEvolutionDataServer : public QObject
 {
     Q_OBJECT
@@ -72,7 +72,7 @@ class TestEvolutionDataServer : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        // What the bus starts has the environment of the bus.
+        // Services have the environment of the bus that starts them.
         home = std::make_unique<CalendarHome>();
         home->put(".calendars/a.ics", eventText("SUMMARY:Folder\r\nDTSTART:20261121T100000Z"));
         for (const auto &[name, folder] :

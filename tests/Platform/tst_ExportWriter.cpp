@@ -22,8 +22,7 @@ using Existing = ExportFolder::Existing;
 
 namespace
 {
-// The functions below take the place of the C library's in this program, so that a disk fails at the call
-// that a test wants to see fail.
+// These functions replace those of the C library in this program, so that a chosen call fails.
 constexpr int never = -1;
 int callsUntilFailure = never;
 bool knowsFreePlaces = true;
@@ -36,7 +35,7 @@ bool failsNow()
         --callsUntilFailure;
         return false;
     }
-    callsUntilFailure = never; // what is undone must succeed
+    callsUntilFailure = never; // rolling back must succeed
     errno = EIO;
     return true;
 }
@@ -119,7 +118,7 @@ class TestExportWriter : public QObject
         return list;
     }
 
-    /// "written", the paths that are taken, or the error.
+    /// Returns "written", the conflicting paths, or the error.
     static QString told(const ExportFolder::Outcome &outcome)
     {
         if (const auto *error = std::get_if<FileError>(&outcome))

@@ -14,8 +14,7 @@ namespace fs = std::filesystem;
 
 namespace
 {
-// The functions below take the place of the C library's in this program, so that a disk can be made to
-// fail where a test wants it.
+// These functions replace those of the C library in this program, so that a chosen call fails.
 int writeError = 0;
 int flushError = 0;
 int folderFlushError = 0;
@@ -27,7 +26,7 @@ int failWith(int error)
     return -1;
 }
 
-/// No file may grow beyond `bytes` for as long as it lives.
+/// Limits the size of files to `bytes` as long as it lives.
 struct SmallFiles {
     explicit SmallFiles(rlim_t bytes)
     {
@@ -42,7 +41,7 @@ struct SmallFiles {
     rlimit former{};
 };
 
-/// A file system of 256 KB in the memory, mounted on a folder for as long as it lives.
+/// A file system of 256 KB in memory, mounted on a folder as long as it lives.
 struct SmallDisk {
     explicit SmallDisk(const fs::path &folder) : path(folder)
     {

@@ -21,7 +21,8 @@ using namespace std::chrono_literals;
 
 namespace
 {
-// Version N of the library is three pages that can be told from N alone: whatever mixes two versions is none.
+// Version N of the library consists of three pages that are computed from N, so a mixture of two versions is
+// detected.
 
 QString contentOf(int version, int page)
 {
@@ -29,13 +30,13 @@ QString contentOf(int version, int page)
     return line + QString(version * 613 % 20'000, QChar(u'a' + (version + page) % 26));
 }
 
-/// So large that writing it takes a while.
+/// Large, so that writing takes a while.
 QByteArray pictureOf(int version)
 {
     return QByteArray(3'000'000, char(version));
 }
 
-/// Nothing for a library that is no whole version.
+/// Returns std::nullopt for a library that is not one complete version.
 std::optional<int> versionOf(const QList<PelkoDocument> &documents)
 {
     if (documents.isEmpty())
@@ -50,7 +51,7 @@ std::optional<int> versionOf(const QList<PelkoDocument> &documents)
     return documents.size() == 3 ? std::optional(version) : std::nullopt;
 }
 
-/// What the writing process tells about a version, in the order in which it happens.
+/// The messages of the writing process about a version, in order.
 struct Report {
     enum class Kind : int {
         typed,
@@ -93,7 +94,7 @@ private:
     int m_begun = 0;
 };
 
-/// Types in bursts with pauses between them, as a writer does, until it is killed.
+/// Types in bursts with pauses, like a user, until the process is killed.
 class Typist
 {
 public:
@@ -150,13 +151,13 @@ int typeUntilKilled(const char *folder)
     return Typist(location).run();
 }
 
-/// One folder, in which a process writes until it is killed, and then the next.
+/// Starts a process that writes to a folder and kills it, repeatedly.
 class Victims
 {
 public:
     explicit Victims(const QString &program) : m_program(program) {}
 
-    /// What was wrong with what a kill left, or nothing.
+    /// Returns an error if the file is not a valid version after the kill, otherwise an empty text.
     QString killOne()
     {
         QProcess process;
@@ -172,7 +173,7 @@ public:
     int killedWhileSaving() const { return m_killedWhileSaving; }
 
 private:
-    /// Every other moment is aimed at a save.
+    /// Every other kill is aimed at a save.
     static QByteArray waitForSomeMoment(QProcess &process)
     {
         auto *random = QRandomGenerator::global();
@@ -203,7 +204,7 @@ private:
     {
         int begun = m_version;
         int saved = m_version;
-        int overdue = 0; // once may be: a process that was kept waiting sees all its timers at once
+        int overdue = 0; // one is allowed: a process that was suspended handles all its timers at once
         for (const Report &report : reports) {
             overdue = report.kind == Report::Kind::overdue ? overdue + 1 : 0;
             if (overdue > 1)
@@ -231,8 +232,8 @@ private:
 };
 } // namespace
 
-/// A process that types and saves is killed. What is left is one whole version: the last whose save had
-/// returned, or the one that was being saved; and whatever was left alone for half a second was being saved.
+/// Kills a process that types and saves. The file must be one complete version: the last one whose save had
+/// returned, or the one that was being saved; changes older than half a second must have been saved.
 class TestKilledProcess : public QObject
 {
     Q_OBJECT

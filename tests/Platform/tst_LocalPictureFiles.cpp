@@ -32,7 +32,7 @@ class TestLocalPictureFiles : public QObject
         file.write(bytes);
     }
 
-    /// What reading comes to; it has to come to something soon.
+    /// Returns the result, which must arrive soon.
     static std::optional<QByteArray> read(const std::filesystem::path &file)
     {
         LocalPictureFiles files;

@@ -15,7 +15,7 @@ std::optional<FileError> saveInto(DocumentFile &file, const QByteArray &bytes)
     return file.replace([&bytes](ByteSink &sink) { return sink.write(bytes); });
 }
 
-/// A program that has locked its data folder and saved into it.
+/// A program that has locked its data folder and saved a file there.
 struct RunningProgram {
     DataFolder disk;
     SingleInstance instance{disk.folder()};

@@ -17,7 +17,7 @@ using Files = QList<std::filesystem::path>;
 
 const QString service = u"org.freedesktop.portal.Desktop"_s;
 
-/// The dialogs of the portal: notes which of them the program closes.
+/// The dialogs of the portal. Records which of them are closed by the program.
 class Dialogs : public QDBusVirtualObject
 {
 public:
@@ -33,7 +33,7 @@ public:
     QStringList closed;
 };
 
-/// The desktop's side of the bus.
+/// The portal's side of the bus.
 class Portal : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -72,7 +72,7 @@ public:
     QString handle;
     QString parent;
     QVariantMap options;
-    QString handleInstead; // as early versions of the service had it
+    QString handleInstead; // early versions of the service choose the handle themselves
 
 public Q_SLOTS:
     QDBusObjectPath OpenFile(const QString &parentWindow, const QString &, const QVariantMap &given)
@@ -257,7 +257,7 @@ private Q_SLOTS:
         portal->handleInstead = u"/org/freedesktop/portal/desktop/request/own_name"_s;
         choose(program());
         QTRY_VERIFY(!portal->handle.isEmpty());
-        // The program listens under that name once it has heard of it.
+        // The program knows the handle after it has received the reply.
         QTRY_VERIFY((portal->answer(1, {}), !choices.isEmpty()));
         QCOMPARE(choices.constFirst(), u"chosen: "_s);
     }

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// What the disk might hold if the current failed after `events`, cut anywhere.
+/// Checks all states of the disk after a power cut at any point of `events`.
 void verifyEveryCutLeavesAWholeVersion(const std::vector<DiskEvent> &events, const QByteArrayList &versions)
 {
     CrashedDisk disk(versions.first());
@@ -23,13 +23,13 @@ void verifyEveryCutLeavesAWholeVersion(const std::vector<DiskEvent> &events, con
     }
 }
 
-/// The versions that a test writes: of many sizes, each unlike the others.
+/// Returns versions of different sizes with different contents.
 QByteArray version(int number)
 {
     return QByteArray::number(number) + ':' + QByteArray(number * 37'777 % 700'000, char('a' + number % 26));
 }
 
-/// In pieces, as the store does.
+/// Writes in pieces, as the store does.
 bool save(const DataFolder &folder, const QByteArray &bytes)
 {
     LocalDocumentFile file(folder);
@@ -44,8 +44,8 @@ bool save(const DataFolder &folder, const QByteArray &bytes)
 }
 } // namespace
 
-/// The current fails: of what was written but not synchronised any part may be lost, of names that were
-/// changed in an unsynchronised folder any number.
+/// After a power cut, any part of the unsynchronised bytes may be lost, and any number of the renames in an
+/// unsynchronised folder.
 class TestPowerCut : public QObject
 {
     Q_OBJECT

@@ -54,7 +54,7 @@ private Q_SLOTS:
     {
         int calls = 0;
         const ScheduledCall call = scheduler.every(50ms, [&] { ++calls; });
-        QThread::msleep(400); // the machine slept, or somebody stopped the process
+        QThread::msleep(400); // like a suspended machine or a stopped process
         QCoreApplication::processEvents();
         QCoreApplication::processEvents();
 

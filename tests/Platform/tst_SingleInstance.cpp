@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// The real client waits for its answer, so it asks from a thread of its own, as another process would.
+/// Sends a request on another thread, because the real client blocks until the reply.
 std::future<std::optional<InstanceReply>> ask(const std::filesystem::path &folder,
                                               std::vector<std::string> arguments)
 {
@@ -33,13 +33,13 @@ Result settled(std::future<Result> future)
     return QTest::qWaitFor(isReady) ? future.get() : Result();
 }
 
-/// An answer that repeats the question.
+/// Replies with the request.
 CommandLineResult echo(const QStringList &arguments)
 {
     return {arguments.join('|'_L1), int(arguments.size())};
 }
 
-/// Another Pelko that has the folder open, until it is killed.
+/// Another process that has locked the folder, until it is killed.
 class Holder
 {
 public:
@@ -86,7 +86,7 @@ private:
     pid_t m_process = 0;
 };
 
-/// What asking for a lock fails with; 0 to have the system answer.
+/// The error of locking; 0 for the system's result.
 int lockError = 0;
 } // namespace
 

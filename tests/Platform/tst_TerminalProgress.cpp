@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// Both ends of a line to a screen.
+/// Both ends of a pseudoterminal.
 struct Terminal {
     Terminal() : master(::posix_openpt(O_RDWR | O_NOCTTY))
     {

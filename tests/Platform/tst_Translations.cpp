@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// A text of a catalogue and what it is translated to: one form, or as many as numbers ask for.
+/// A text of a catalogue and its translations: one, or one for each plural form.
 struct Message {
     QString source = {};
     QStringList forms = {};
@@ -19,7 +19,7 @@ struct Message {
     bool isCounted = false;
 };
 
-/// From behind the start of a translation to its end.
+/// Reads the rest of a translation element.
 QStringList readForms(QXmlStreamReader &xml)
 {
     QStringList forms = {};
@@ -56,7 +56,7 @@ QList<Message> catalogue(const QString &language)
     return messages;
 }
 
-/// Such as "%1" and "%n", in order.
+/// Returns placeholders such as "%1" and "%n" in their order.
 QStringList placeholders(const QString &text)
 {
     static const QRegularExpression placeholder(u"%L?(?:\\d|n)"_s);

@@ -41,7 +41,7 @@ private:
     std::unique_ptr<Tray> m_tray;
     QString m_item;
 
-    /// Lets the other side, which is this same thread, answer.
+    /// Processes events until the reply has arrived; both sides are on this thread.
     static QDBusMessage answered(const QDBusPendingCall &call)
     {
         QDBusPendingCallWatcher watcher(call);

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// Desktops whose watchers and hosts come, go and replace one another at random, and a tray item among them.
+/// Random watchers and hosts that come, go and replace each other, and a tray item.
 class RandomDesktops
 {
 public:
@@ -23,7 +23,7 @@ public:
         m_tray.connectTo(m_bus.connection(u"pelko"_s));
     }
 
-    /// Does one thing and returns its name.
+    /// Performs one random step and returns its name.
     QString step()
     {
         switch (m_random.bounded(8)) {
@@ -44,8 +44,8 @@ public:
         }
     }
 
-    /// Empty where the item is registered with the watcher, and present where that has accepted it and has
-    /// a host. Otherwise what is there instead.
+    /// Returns an empty text if the item is registered with the watcher and `isPresent` is right. Otherwise
+    /// describes the difference.
     QString complaint() const
     {
         const bool isShown = m_owner && m_owner->hasAccepted() && m_owner->hasHost;
@@ -55,7 +55,7 @@ public:
         return u"items: %1; present: %2, not %3"_s.arg(items.join(u' ')).arg(m_tray.isPresent()).arg(isShown);
     }
 
-    /// Lets all messages arrive that are under way. An answer may lead to another question, up to four deep.
+    /// Processes all messages. A reply may cause another call, up to four in a row.
     void settle()
     {
         for (int round = 0; round < 5; ++round) {
@@ -127,7 +127,8 @@ private:
         return u"host of a former owner"_s;
     }
 
-    /// Messages between two connections keep their order: after the answer, all earlier ones have arrived.
+    /// A round trip: messages between two connections keep their order, so all earlier ones have arrived
+    /// after it.
     static void ping(const QString &from, const QString &to)
     {
         const auto message = QDBusMessage::createMethodCall(QDBusConnection(to).baseService(), u"/"_s,
@@ -145,7 +146,7 @@ private:
 };
 } // namespace
 
-/// Random desktops: wherever a watcher is, the item is registered with it.
+/// After random changes, the item is registered with every watcher there is.
 class TestTrayHandover : public QObject
 {
     Q_OBJECT

@@ -7,7 +7,7 @@
 #include "support/ManualDocumentFile.h"
 #include "support/ManualScheduler.h"
 
-/// A program that has started on a given data file.
+/// A program that was started with the given data file.
 struct StartedProgram {
     ManualScheduler scheduler;
     ManualClock clock;
@@ -23,7 +23,7 @@ struct StartedProgram {
     {
     }
 
-    /// Creates pages one second apart, so that the order of their ages is plain.
+    /// Creates pages one second apart, so that their order by age is defined.
     void createDocuments(int count)
     {
         for (int i = 0; i < count; ++i) {
@@ -32,7 +32,7 @@ struct StartedProgram {
         }
     }
 
-    /// Changes a page, and waits until that is saved or has failed to be.
+    /// Changes a page and waits until the change is saved or saving has failed.
     void typeAndPause()
     {
         if (!appState.openDocument())

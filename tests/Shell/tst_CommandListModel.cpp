@@ -10,8 +10,8 @@ namespace
 {
 using Model = CommandListModel;
 
-/// Rows as "id", "-" for a hairline, with "?" where one is disabled, "+" where it is on and "*" where it has
-/// a key only.
+/// Returns rows as "id", or "-" for a separator, with "?" if it is disabled, "+" if it is ticked and "*" if
+/// it has only a shortcut.
 QStringList rows(const CommandListModel &model)
 {
     QStringList rows;

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// The titles of its rows, "-" for a hairline.
+/// Returns the titles of the rows, "-" for a separator.
 QStringList rows(const CommandMenu &menu)
 {
     QStringList rows;

@@ -26,7 +26,7 @@ ManualDocumentFile fullDisk()
 }
 } // namespace
 
-/// What the main window asks and tells.
+/// The alerts and questions of the main window.
 class TestMainAlerts : public QObject
 {
     Q_OBJECT

@@ -25,7 +25,7 @@ struct CommandedProgram {
     bool isEnabled(const QString &id) { return commands.list()->isEnabled(id); }
 };
 
-/// Counts everything a command can set off.
+/// Counts the effects of commands.
 class Echo
 {
 public:
@@ -69,7 +69,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("id");
         for (const MenuCommand &command : MenuCommand::all()) {
-            if (command.group != CommandGroup::exports) // which are bound by who makes them
+            if (command.group != CommandGroup::exports) // bound by ExportViewModel
                 QTest::newRow(qPrintable(command.id)) << command.id;
         }
     }
@@ -79,7 +79,7 @@ private Q_SLOTS:
         QFETCH(QString, id);
         CommandedProgram program;
         program.appState.createDocument(Space::work);
-        // Of the three spaces, the current one has nothing left to do.
+        // The command of the current space has no effect.
         if (id == u"work"_s)
             program.commands.run(u"journal"_s);
         const Echo echo(program);

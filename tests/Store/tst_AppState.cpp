@@ -36,7 +36,7 @@ class TestAppState : public QObject
 
     QList<PelkoDocument> saved() const { return readDocuments(*file.bytes).value(); }
 
-    /// Opens what `open` opens and tells how often that was announced while the page before was still open.
+    /// Calls `open` and returns how often the change was announced while the old page was still open.
     static int announcements(AppState &state, const std::function<void()> &open)
     {
         const auto before = state.openDocumentID();

@@ -21,7 +21,7 @@ class TestAppStateSaving : public QObject
 
     void edit() { state->updateDocument(state->documents().first()); }
 
-    /// Eight keys a second, without a pause.
+    /// Types eight keys a second without a pause.
     void typeFor(std::chrono::milliseconds duration)
     {
         for (const auto end = scheduler.now() + duration; scheduler.now() < end; scheduler.advance(125ms))

@@ -73,7 +73,7 @@ private Q_SLOTS:
         QVERIFY(readDocuments(json));
     }
 
-    /// Longer than what is given back at once while reading.
+    /// Longer than the part of the text that is freed at once.
     void aLongFileIsReadToItsFirstDocument()
     {
         QByteArrayList pages;

@@ -10,7 +10,7 @@ using Change = std::function<void(QList<PelkoDocument> &)>;
 
 Q_DECLARE_METATYPE(Change)
 
-/// What the writer remembers of what it wrote.
+/// Which texts the writer keeps.
 class TestDocumentWriterMemory : public QObject
 {
     Q_OBJECT

@@ -2,7 +2,7 @@
 #include "support/HandwrittenFile.h"
 #include "support/TestProgram.h"
 
-/// Files that must not be read, not even in part.
+/// Files that must be rejected as a whole.
 class TestHostileFiles : public QObject
 {
     Q_OBJECT

@@ -8,7 +8,7 @@ namespace
 {
 constexpr ObjectLengths each = {.shortest = 0, .run = 0};
 
-/// The texts of the runs that are found, without the places for their brackets, or "nothing".
+/// Returns the texts of the runs, without the characters for the brackets, or "nothing".
 QByteArrayList runsIn(const QByteArray &text, const ObjectLengths &lengths = each, std::size_t start = 0)
 {
     const auto runs = findObjects({text.constData(), std::size_t(text.size())}, start, lengths);

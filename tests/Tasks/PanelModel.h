@@ -9,8 +9,8 @@
 #include <utility>
 #include <vector>
 
-/// What the streak, the clock and the calendar card of the tasks panel should be, worked out with whole
-/// numbers of days and seconds: a second opinion on the code under test. Moments are seconds since 1970.
+/// An independent model of the streak, the clock and the calendar card of the tasks panel, computed with
+/// whole days and seconds. Times are seconds since 1970.
 class PanelModel
 {
 public:
@@ -18,7 +18,7 @@ public:
     QTimeZone zone = QTimeZone::utc();
     bool isSeen = false;
 
-    std::optional<qint64> lastDay; // the stored moment at which the last counted day began
+    std::optional<qint64> lastDay; // the start of the last counted day as it was stored
     qint64 streak = 0;
     QString text; // "7:42 AM Thursday, Oct 16"
     int fetches = 0;
@@ -62,7 +62,7 @@ private:
     }
     qint64 dayOf(qint64 moment) const { return floorDay(wall(moment)); }
 
-    /// The first moment of today. No day is longer than 26 hours or begins in the middle of the one before.
+    /// Returns the first second of today. No day is longer than 26 hours.
     qint64 today() const
     {
         qint64 before = now - 26 * 3600;

@@ -29,7 +29,7 @@ qint64 wordCount(const QList<PelkoDocument> &documents)
     return words;
 }
 
-/// Whether the summary is what one made afresh would be.
+/// Returns whether the summary equals a new one.
 bool tells(const LibrarySummary &summary, const QList<PelkoDocument> &documents)
 {
     const auto toldOf = [&summary](const PelkoDocument &document) {
@@ -41,7 +41,7 @@ bool tells(const LibrarySummary &summary, const QList<PelkoDocument> &documents)
            summary.wordCount() == wordCount(documents) && std::ranges::all_of(documents, toldOf);
 }
 
-/// The row that alone differs, as the store may tell it.
+/// Returns the row of the only document that differs, as AppState::replacedRow does.
 std::optional<qsizetype> onlyDifference(const QList<PelkoDocument> &before, const QList<PelkoDocument> &after)
 {
     std::optional<qsizetype> row;
@@ -55,7 +55,7 @@ std::optional<qsizetype> onlyDifference(const QList<PelkoDocument> &before, cons
     return before.size() == after.size() ? row : std::nullopt;
 }
 
-/// Does something to a library that a writer might do.
+/// Makes a random change to a library.
 void changeByLot(QList<PelkoDocument> &library, QRandomGenerator &lot)
 {
     const int place = library.isEmpty() ? 0 : lot.bounded(int(library.size()));

@@ -5,7 +5,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// A heading, a checklist of these, and a line of text.
+/// Returns a page of a heading, a checklist with these entries, and a body block.
 PelkoDocument checklistOf(const QStringList &texts)
 {
     PelkoDocument document(Space::work, 800'000'000);

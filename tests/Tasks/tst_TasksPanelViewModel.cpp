@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 
 namespace
 {
-/// A library with the panel open beside it.
+/// A library and the open panel.
 struct PanelDesk {
     ManualScheduler scheduler;
     ManualClock clock;
@@ -35,7 +35,7 @@ struct PanelDesk {
             appState, TasksServices{scheduler, clock, preferences, calendars, QLocale(u"en_US"_s)});
     }
 
-    /// Adds a page with that title and a checklist of these, "x" before those that are ticked, and opens it.
+    /// Adds a page with this title and a checklist, with "x" before ticked entries, and opens it.
     PelkoDocument add(const QString &title, const QStringList &tasks = {})
     {
         appState.createDocument(Space::work);
@@ -51,7 +51,7 @@ struct PanelDesk {
         return *appState.openDocument();
     }
 
-    /// The lines of the list: headings as they are, tasks as they were added.
+    /// Returns the rows of the list: headings as they are, tasks as they were added.
     QStringList list() const
     {
         QStringList lines;
@@ -63,7 +63,7 @@ struct PanelDesk {
     }
 
     using Operation = void (TasksPanelViewModel::*)(const QString &, const QString &, const QString &);
-    /// Does that to the task in that line of the list.
+    /// Applies an operation to the task in this row of the list.
     void apply(Operation operation, qsizetype line)
     {
         const TaskListRow row = static_cast<TaskListModel *>(panel->tasks())->rows().at(line);

@@ -19,7 +19,7 @@ namespace
 constexpr auto zeroTime = qint64(referenceDate);
 constexpr qint64 day = 86400;
 
-/// Somebody who uses the tasks panel for a year at random, at home and on journeys, and the model beside it.
+/// A user who uses the tasks panel at random for a year, also while travelling, and the model of the panel.
 class RandomYear
 {
 public:
@@ -31,7 +31,7 @@ public:
 
     bool isOver() const { return m_model.now > 1'790'000'000 + 365 * day; }
 
-    /// Does one thing and returns its name.
+    /// Performs one random step and returns its name.
     QString step()
     {
         switch (m_random.bounded(20)) {
@@ -198,7 +198,7 @@ private:
 };
 } // namespace
 
-/// A year of the tasks panel against an independent model of its streak, its clock and its fetches.
+/// Compares a year of the tasks panel with an independent model of streak, clock and fetches.
 class TestTasksPanelYear : public QObject
 {
     Q_OBJECT

@@ -25,7 +25,7 @@ Timestamp timeIn(const QString &time, const QTimeZone &zone = berlin)
     return timestampOf(moment);
 }
 
-/// Preferences of somebody who has used the program.
+/// The preferences of a user.
 struct User {
     ManualPreferences preferences;
     QTimeZone zone = berlin;

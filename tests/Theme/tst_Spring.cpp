@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// The largest distance between the curve and the spring it stands for, over the curve's whole run.
+/// Returns the largest distance between the curve and the spring over the whole duration.
 qreal largestError(const Spring &spring)
 {
     const QEasingCurve curve = spring.curve();
@@ -134,7 +134,7 @@ void TestSpring::curveFollowsTheSpring()
 {
     QFETCH(qreal, response);
     QFETCH(qreal, dampingFraction);
-    // The springs of single controls swing more often; ten segments hold those a little less closely.
+    // The springs of some controls oscillate more often; ten segments approximate them less closely.
     const qreal allowed = dampingFraction < 0.6 ? 0.0013 : 0.001;
     const qreal error = largestError({response, dampingFraction});
     QVERIFY2(error <= allowed, qPrintable(u"error %1"_s.arg(error)));
@@ -164,7 +164,7 @@ void TestSpring::overshootsAsFarAsTheDampingSays()
 {
     QFETCH(Spring, spring);
     QFETCH(int, thousandths);
-    // The first peak of a damped spring stands at 1 + e^(-pi z / sqrt(1 - z^2)).
+    // The first peak of a damped spring is 1 + e^(-pi z / sqrt(1 - z^2)).
     const qreal damping = spring.dampingFraction;
     const qreal peak = 1 + std::exp(-M_PI * damping / std::sqrt(1 - damping * damping));
     QCOMPARE(qRound(peak * 1000), thousandths);

@@ -12,9 +12,8 @@
 #include <map>
 #include <memory>
 
-/// The fields and blocks of an editor's page, one below the other in a window, each of the same height and
-/// without a row around it. The fields show the texts as they were at first, and events that are sent to them
-/// stay theirs.
+/// The fields and blocks of an editor's page in a window: one below the other, of equal height and without
+/// rows around them. The fields keep their first texts, and events sent to them change nothing else.
 class PageOfFields
 {
 public:
@@ -41,14 +40,14 @@ public:
         return *m_fields.at(key(PageText::address(block, part)));
     }
     BlockPlace &block(char letter) const { return *m_blocks.at(key(PageText::address(letter))); }
-    /// The text as its field shows it now.
+    /// Returns the text that the field shows.
     QString shown(char block) const { return field(block).field().property("text").toString(); }
     QQuickItem *focused() const { return m_window.activeFocusItem(); }
 
     PageFields fields;
 
 private:
-    /// Leaves the events to the fields.
+    /// Ignores the events of the fields.
     class Listener : public PageListener
     {
     public:

@@ -19,7 +19,7 @@ namespace
 constexpr qreal width = 400;
 constexpr qreal viewHeight = 100;
 
-/// A page whose texts stand one below the other, code a little further to the right.
+/// A page with its texts one below the other; code is indented.
 class LaidOutPage : public PageLayout
 {
 public:
@@ -97,7 +97,7 @@ Block divider(char letter)
     return block(letter, BlockType::divider);
 }
 
-/// Where the keys lead, one after the other, such as "B@3"; "-" where the last leads nowhere.
+/// Returns the destinations of consecutive keys, such as "B@3"; "-" if the last one has none.
 QString after(LaidOutPage &page, const TextAddress &text, int offset, const QList<CaretKey> &keys)
 {
     CaretTravel travel(page);

@@ -19,7 +19,7 @@ class TestFieldKeys : public EditorTest
         page = std::make_unique<PageOfFields>(*editor);
     }
 
-    /// With that selected in the text of block A.
+    /// Sends the key with this selection in the text of block A.
     bool press(EditorAction action, int anchor, int caret)
     {
         page->field('A').select(anchor, caret);

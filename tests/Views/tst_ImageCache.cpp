@@ -20,7 +20,7 @@ class TestImageCache : public QObject
         return buffer.data();
     }
 
-    /// Asks, and asks again when the picture has arrived.
+    /// Requests the picture, and again when it has been decoded.
     static QImage decoded(ImageCache &cache, const QUuid &id, const QByteArray &data, const QSize &pixels)
     {
         QSignalSpy arrived(&cache, &ImageCache::arrived);

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Red at the left, blue at the right.
+/// Returns a picture that is red at the left and blue at the right.
 QImage picture(const QSize &size)
 {
     QImage image(size, QImage::Format_RGB32);
@@ -38,7 +38,7 @@ QByteArray drawing(const QByteArray &content, const QByteArray &attributes = "vi
            attributes + ">" + content + "</svg>";
 }
 
-/// Every level draws the one before ten times.
+/// Returns an SVG drawing in which every level uses the level before ten times.
 QByteArray bomb(int levels)
 {
     QByteArray content = "<g id='a0'><rect width='1' height='1'/></g>";
@@ -51,7 +51,7 @@ QByteArray bomb(int levels)
     return drawing("<defs>" + content + "</defs><use xlink:href='#a" + QByteArray::number(levels) + "'/>");
 }
 
-/// A GIF made by hand, since it cannot be written here: one dot.
+/// Returns a GIF of one pixel; Qt cannot write this format.
 QByteArray gif()
 {
     return QByteArray::fromBase64("R0lGODlhAQABAIAAAP8AAP///ywAAAAAAQABAAACAkQBADs=");

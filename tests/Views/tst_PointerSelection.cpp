@@ -24,7 +24,7 @@ class TestPointerSelection : public EditorTest
         QVERIFY(page->isShown());
     }
 
-    /// In the middle of that row, or so far below the view, behind all text of the line.
+    /// Returns the position behind the text of that row.
     static QPointF endOfRow(int row) { return {390, (row + 0.5) * PageOfFields::height}; }
 
     static QMouseEvent mouse(QEvent::Type type, QPointF point, Qt::MouseButton button = Qt::LeftButton,
@@ -85,7 +85,7 @@ private Q_SLOTS:
         press('A', {1, 5});
         QVERIFY(move('A', endOfRow(1)));
         QCOMPARE(selected(), u"A@1 to B@3"_s);
-        QVERIFY(!pointer->released()); // the field that was pressed sees the release too
+        QVERIFY(!pointer->released()); // the field that was pressed receives the release too
         QCOMPARE(selected(), u"A@1 to B@3"_s);
         QCOMPARE(page->focused(), &page->field('B').field());
     }

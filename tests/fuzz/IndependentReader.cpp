@@ -6,7 +6,7 @@
 
 namespace
 {
-/// Thrown where the file breaks a rule: a decoder of its own may well do what the program's must not.
+/// Thrown for malformed files. Unlike the program, a test may use exceptions.
 struct Broken {
 };
 

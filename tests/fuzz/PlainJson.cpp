@@ -35,7 +35,7 @@ void putUtf8(std::string &out, char32_t code)
     put(0x80 | (code & 0x3F));
 }
 
-/// Each function takes its part off the front of the text and is false where that part is not JSON.
+/// Each function consumes its part of the text and returns false if it is not JSON.
 class Parser
 {
 public:
@@ -121,7 +121,7 @@ private:
         return true;
     }
 
-    /// One character as UTF-8 has it: the shortest form, no surrogate, nothing beyond Unicode.
+    /// Reads one character of valid UTF-8: shortest form, no surrogate, at most U+10FFFF.
     char32_t plain()
     {
         const unsigned char first = byte();

@@ -1,5 +1,5 @@
-// Any bytes come back from their base64, which is Qt's with the slashes escaped; and any text is decoded as
-// the independent decoder decodes it, or refused by both.
+// Any bytes can be decoded from their base64, which equals Qt's with escaped slashes; any text is decoded as
+// by the independent decoder, or rejected by both.
 
 #include "IndependentReader.h"
 #include "Store/Base64.h"

@@ -1,5 +1,5 @@
-// Whatever a calendar says, reading it ends soon, with events that begin before the window ends, each of them
-// once; and it makes no difference how its lines end.
+// Reading any calendar text ends soon. Each event begins before the end of the window and is returned once,
+// and the kind of line endings makes no difference.
 
 #include "Calendar/CalendarContents.h"
 

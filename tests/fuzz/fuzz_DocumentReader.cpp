@@ -1,5 +1,5 @@
-// What the program reads, the independent reader reads, to the same documents; and what was read is written
-// so that it is read again.
+// The program's reader and the independent one return the same documents or both reject the file; documents
+// that were read can be written and read again.
 
 #include "IndependentReader.h"
 #include "Store/DocumentReader.h"

@@ -1,5 +1,4 @@
-// Runs a fuzz target over the files of the folders that are named, in the place of the fuzzer's own driver:
-// for compilers without one.
+// Runs a fuzz target with the files of the given folders, for compilers without a fuzzer.
 
 #include <cstdint>
 #include <cstdio>

@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Pelko
 
-/// Shows the controls on the grounds they are made for. `scene` opens one of the dialogs or the menu.
+/// Shows the controls on their usual backgrounds. `scene` opens one of the dialogs or the menu.
 Window {
     id: window
 

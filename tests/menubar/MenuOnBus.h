@@ -8,7 +8,7 @@
 #include <QDBusVariant>
 #include <QTest>
 
-/// A row of a menu as the bus tells of it, with the rows of the menu behind it.
+/// A row of a menu on the bus, with the rows of its submenu.
 struct RowOnBus {
     int id = 0;
     QVariantMap properties = {};
@@ -47,7 +47,7 @@ inline const QDBusArgument &operator>>(const QDBusArgument &argument, RowOnBus &
     return argument;
 }
 
-/// The menu bar of a window as a desktop sees and works it.
+/// The menu bar of a window, read and used over the bus like a desktop does.
 class MenuOnBus
 {
 public:
@@ -71,7 +71,7 @@ public:
         return rows;
     }
 
-    /// The labels of the rows that answer yes.
+    /// Returns the labels of the rows for which `question` returns true.
     template <typename Question>
     QStringList labels(Question question) const
     {
@@ -93,7 +93,7 @@ public:
     }
 
 private:
-    /// Its answer. The program that answers may be this one, so nothing waits meanwhile.
+    /// Calls a method without blocking, because the program that replies may be this one.
     QDBusPendingCall call(const QString &method, const QVariantList &arguments) const
     {
         QDBusMessage message = QDBusMessage::createMethodCall(

@@ -7,15 +7,14 @@
 #include <QMutex>
 #include <QThread>
 
-/// The part of a desktop that keeps the menu bars of all windows. It answers on a thread of its own, because
-/// a window waits for it.
+/// The desktop's registrar of menu bars. It replies on its own thread, because windows wait for it.
 class MenuRegistrar : public QObject, protected QDBusContext
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "com.canonical.AppMenu.Registrar")
 
 public:
-    /// Where the menu bar of a window is.
+    /// The bus address of the menu bar of a window.
     struct Place {
         QString service;
         QString path;
@@ -35,10 +34,10 @@ public:
     }
     Q_DISABLE_COPY_MOVE(MenuRegistrar)
 
-    /// From here on windows get their answer. Waits for an application, as threads do.
+    /// Starts to reply. Needs an application, as threads do.
     void start() { m_thread.start(); }
 
-    /// Of the window that came last; empty when it has gone.
+    /// Returns that of the last registered window; empty after it was closed.
     Place place() const
     {
         const QMutexLocker lock(&m_mutex);

@@ -2,7 +2,7 @@
 
 #include <QProcess>
 
-/// A display that nobody looks at.
+/// A virtual display.
 class PrivateDisplay
 {
 public:

@@ -17,7 +17,7 @@ Q_IMPORT_QML_PLUGIN(PelkoPlugin)
 
 using namespace Qt::StringLiterals;
 
-/// The menu bar of the main window on a desktop that keeps one. What it holds is read and chosen there.
+/// The menu bar of the main window on a desktop with a global menu bar, read and used over the bus.
 class TestMenuBarOnBus : public QObject
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
     }
 
 private:
-    /// The window of a program, with its menu bar on the bus.
+    /// The window of a program with its menu bar on the bus.
     struct Window {
         ShellWithMenuBar program;
         ExportFixture exports;
@@ -134,7 +134,7 @@ private Q_SLOTS:
         QCOMPARE(bar.labels(&RowOnBus::isTicked), QStringList{u"Work"_s});
         bar.choose(u"Journal"_s);
         QTRY_COMPARE(bar.labels(&RowOnBus::isTicked), QStringList{u"Journal"_s});
-        // The bar takes the tick from the row by itself; the space is still the current one.
+        // The menu bar toggles the tick itself; the current space has not changed.
         bar.choose(u"Journal"_s);
         QTRY_COMPARE(bar.labels(&RowOnBus::isTicked), QStringList{u"Journal"_s});
         QVERIFY(window.program.isIn(u"journal"_s));
@@ -145,7 +145,7 @@ int main(int argc, char *argv[])
 {
     const PrivateDisplay display;
     PrivateBus bus;
-    // Which of both there are is found out while the application is made.
+    // Qt decides between the two when the application is created.
     MenuRegistrar registrar(bus.connection(u"registrar"_s));
     qputenv("DISPLAY", display.name());
     qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8());

@@ -5,7 +5,7 @@
 
 #include <QtQml/qqml.h>
 
-/// The app's own file chooser over folders in memory, and what was chosen with it.
+/// The program's own file chooser with folders in memory, and the chosen file.
 class ChooserFixture : public QObject
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ class ChooserFixture : public QObject
 public:
     FolderChooser *chooser() { return &m_chooser; }
 
-    /// Somebody wants a picture.
+    /// Opens the chooser for a picture.
     Q_INVOKABLE void choose()
     {
         m_request = m_chooser.choose(FileChooser::Target::picture, [this](const FileChooser::Choice &choice) {
@@ -24,7 +24,7 @@ public:
         });
     }
 
-    /// The path of the picture, "nothing" when it was called off, or empty while it is not decided.
+    /// The path of the picture, "nothing" after cancellation, or empty while the chooser is open.
     Q_INVOKABLE QString chosen() const { return m_chosen; }
 
 private:

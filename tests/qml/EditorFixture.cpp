@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// A PNG of 400 by 200 pixels in that colour, or the text itself where it names none.
+/// Returns a PNG of 400 × 200 pixels in the named colour, or the text itself if it is no colour.
 QByteArray bytesOf(const QString &picture)
 {
     if (!QColor::isValidColorName(picture))

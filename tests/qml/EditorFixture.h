@@ -13,9 +13,9 @@
 
 #include <memory>
 
-/// One document in a store on manual time, with its editor's view model, for view tests. A block is
-/// described as { type, content, todos: [{ text, done }], picture, isFullWidth, bannerTitle }, where a
-/// picture is the name of a colour or bytes that are none.
+/// One document in a store with manual time, and its editor's view model. A block is described as { type,
+/// content, todos: [{ text, done }], picture, isFullWidth, bannerTitle }; a picture is the name of a colour,
+/// or bytes that cannot be decoded.
 class EditorFixture : public QObject
 {
     Q_OBJECT
@@ -26,48 +26,48 @@ public:
 
     EditorViewModel *editor() const { return m_editor; }
 
-    /// Opens a fresh page of these blocks, which makes a new editor.
+    /// Opens a new page with these blocks in a new editor.
     Q_INVOKABLE void open(const QVariantList &blocks);
-    /// Replaces the page from outside the editor.
+    /// Replaces the page without the editor.
     Q_INVOKABLE void replace(const QVariantList &blocks);
-    /// Adds an entry to the checklist that is the first block, from outside the editor.
+    /// Adds an entry to the checklist in the first block without the editor.
     Q_INVOKABLE void addTask(const QString &text);
-    /// The page of the editor.
+    /// Returns the blocks of the editor's page.
     Q_INVOKABLE QVariantList blocks() const;
     Q_INVOKABLE void advance(int milliseconds);
-    /// Sends what an input method composes to the focused field, and what it settles on.
+    /// Sends the preedit text, or the commit text, of an input method to the focused field.
     Q_INVOKABLE void compose(const QString &preedit);
     Q_INVOKABLE void commit(const QString &text, const QString &preedit = {});
-    /// The pointer's button goes down, up and down again.
+    /// Sends press, release and a second press of the pointer.
     Q_INVOKABLE void pressTwice(QQuickItem *item, QPointF place) const;
-    /// Without a selection of the desktop, a field is given no middle button; the event goes to it by itself.
+    /// Sends the release to the field directly, because Qt sends no middle button to fields on a platform
+    /// without a primary selection.
     Q_INVOKABLE void releaseMiddleButton(QQuickItem *field, QPointF place) const;
-    /// Puts text on the pasteboard, and tells what is there.
+    /// Sets or returns the text of the clipboard.
     Q_INVOKABLE void copy(const QString &text) { m_desktop.pasteboard.put({.text = text}); }
     Q_INVOKABLE QString copied() const { return m_desktop.pasteboard.item.text; }
     Q_INVOKABLE QString copiedMarkdown() const { return m_desktop.pasteboard.item.markdown; }
     Q_INVOKABLE bool copiedPicture() const { return !m_desktop.pasteboard.picture().isEmpty(); }
-    /// The text for the middle button.
+    /// Sets the text of the primary selection.
     Q_INVOKABLE void offer(const QString &text) { m_desktop.pasteboard.putSelectedText(text); }
     Q_INVOKABLE QString offered() const { return m_desktop.pasteboard.selected; }
-    /// Creates another page and opens it; the editor is still the one of the page before.
+    /// Creates and opens another page; the editor still has the previous one.
     Q_INVOKABLE void openAnother();
-    /// How often the data file was written.
+    /// Returns how often the data file was written.
     Q_INVOKABLE int saves() const { return m_file.writes(); }
-    /// The shape of the pointer in the window of that item.
+    /// Returns the shape of the pointer in the window of the item.
     Q_INVOKABLE int cursorOf(QQuickItem *item) const;
-    /// Drags data of another program into the item's window and lets it go there. Tells whether any of it was
-    /// accepted.
+    /// Drops data of another program on the item. Returns whether it was accepted.
     Q_INVOKABLE bool dropFromElsewhere(QQuickItem *item, QPointF place, const QString &format,
                                        const QString &text) const;
 
-    /// The user has chosen the file of that picture, or nothing, or the chooser has failed.
+    /// Ends the chooser with the file of this picture, without a choice, or with an error.
     Q_INVOKABLE void choosePicture(const QString &picture);
     Q_INVOKABLE void chooseNothing();
     Q_INVOKABLE void failToChoose(const QString &why);
-    /// Whether what shows the picture of that row holds the bytes of the store and not a copy of them.
+    /// Returns whether the picture in this row shares its bytes with the store.
     Q_INVOKABLE bool sharesBytes(QObject *picture, int row) const;
-    /// Another program has copied a picture.
+    /// Puts a picture on the clipboard.
     Q_INVOKABLE void copyPicture(const QString &picture);
 
 Q_SIGNALS:

@@ -11,7 +11,7 @@
 
 #include <QtQml/qqml.h>
 
-/// Folders in memory: two, with a picture beside them.
+/// Two folders and a picture in memory.
 class FewFolders : public PictureFolders
 {
 public:
@@ -25,7 +25,7 @@ public:
     }
 };
 
-/// An export without a disk, which ends as a view test says.
+/// An export without a disk, with the result that a test sets.
 class ExportFixture : public QObject
 {
     Q_OBJECT

@@ -3,8 +3,8 @@
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 
-/// Sends the focused field what an input method would send it. As with real ones, an event that changes the
-/// preedit text carries the place of the caret in it, also when there is no preedit text left.
+/// Sends the events of an input method to the focused field. As with real ones, an event that changes the
+/// preedit text contains its caret, even if the preedit text is empty.
 class InputMethodFixture : public QObject
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
         event.setCommitString(text);
         send(event);
     }
-    /// Replaces so many characters from `start` on, counted from the caret.
+    /// Replaces `length` characters from `start` on, relative to the caret.
     Q_INVOKABLE void commitReplacing(const QString &text, int start, int length) const
     {
         QInputMethodEvent event;

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-/// Of dates and times: they are no text, but say what QLocale writes.
+/// Formats of dates and times are not shown; QLocale uses them.
 const QStringList formats{u"MMM d"_s, u"dddd, MMM d"_s, u"h:mm a"_s};
 
 bool isOfQt(const char *context)
@@ -23,7 +23,7 @@ QChar accented(QChar letter)
     return place < 0 ? letter : strange.at(place);
 }
 
-/// All but the places for numbers and words, such as %1, %n and %L2.
+/// Replaces letters with accented ones, except in placeholders such as %1, %n and %L2.
 QString accented(const QString &text)
 {
     static const QRegularExpression place(u"%L?(\\d|n)"_s);

@@ -4,8 +4,8 @@
 #include <QTranslator>
 #include <QtQml/qqml.h>
 
-/// A language that shows where texts are not translated, and where they need more room: each text of the
-/// program is accented, 40 % longer, and in brackets.
+/// A pseudo-translation that reveals untranslated texts and missing space: each text is accented, 40 %
+/// longer, and in brackets.
 class PseudoTranslator : public QTranslator
 {
 public:
@@ -14,8 +14,7 @@ public:
                       int n) const override;
 };
 
-/// The program speaks it for as long as this lives. With `rightToLeft`, everything is laid out from right to
-/// left meanwhile.
+/// Uses the pseudo-translation as long as it lives, and a right-to-left layout if `rightToLeft` is set.
 class PseudoLocale : public QObject
 {
     Q_OBJECT

@@ -11,7 +11,7 @@
 #include <QFile>
 #include <QtQml/qqml.h>
 
-/// A program without a disk, on a time that a view test moves: what the views of the shell are given.
+/// A program with manual time and without a disk, for the views of the shell.
 class ShellFixture : public QObject
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ public:
             m_main.createDocument();
     }
 
-    /// A page that was written a second after the one before.
+    /// Adds a page that was edited one second after the one before.
     Q_INVOKABLE void addPage(const QString &space, const QString &title, const QString &text)
     {
         m_clock.time += 1;
@@ -61,7 +61,7 @@ public:
         m_appState.captureSpark(text);
     }
 
-    /// Opens a new page of empty blocks of these kinds.
+    /// Opens a new page with empty blocks of these kinds.
     Q_INVOKABLE void openPage(const QStringList &kinds)
     {
         PelkoDocument page =
@@ -74,7 +74,7 @@ public:
         m_appState.setOpenDocumentID(page.id);
     }
 
-    /// The chooser of pictures that is open gives up.
+    /// Ends the open picture chooser with an error.
     Q_INVOKABLE void failToChoose(const QString &why) { m_desktop.fileChooser.answer(FileError{why}); }
 
     Q_INVOKABLE void failToSave()
@@ -102,7 +102,7 @@ private:
     LaunchSequence m_launch{m_scheduler};
 };
 
-/// The same where the system keeps a menu bar.
+/// The same with a menu bar of the system.
 class ShellWithMenuBar : public ShellFixture
 {
     Q_OBJECT

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-constexpr qreal tolerance = 2; // places are rounded to pixels, also those of what they are relative to
+constexpr qreal tolerance = 2; // positions are rounded to pixels, as are those of the parents
 
 using Visit = std::function<void(QQuickItem &)>;
 
@@ -60,7 +60,7 @@ bool isVoice(const QString &text)
            PelkoVoice::greetingPool().contains(text);
 }
 
-/// What is neither in brackets nor a name, a key or a part of the day.
+/// Returns the text without parts in brackets, names, keys and AM or PM.
 QString rest(const QString &text)
 {
     QString outside;
@@ -87,7 +87,7 @@ QString told(const QQuickItem &item, const QString &text)
     return u"%1: “%2”"_s.arg(QString::fromLatin1(item.metaObject()->className()), text);
 }
 
-/// Of the item, whatever part of it the words take.
+/// Returns the rectangle of the item, independent of the size of its text.
 QRectF place(const QQuickItem &item)
 {
     return item.mapRectToScene({0, 0, item.width(), item.height()});
@@ -98,7 +98,7 @@ QRectF placeOfWords(const QQuickItem &text)
     return text.mapRectToScene(text.boundingRect());
 }
 
-/// How much of what is left of a line hangs over the sides of `frame`.
+/// Returns whether the text extends beyond the sides of `frame`.
 bool sticksOut(const QRectF &text, const QRectF &frame)
 {
     return text.left() < frame.left() - tolerance || text.right() > frame.right() + tolerance;
@@ -118,8 +118,8 @@ QString whyClipped(QQuickItem &text)
     return {};
 }
 
-/// Whether the closest item that holds both holds hardly any other text: parts of one row, and not a row of
-/// the page and a dialog over it.
+/// Returns whether the closest common parent contains hardly any other text: true for parts of a row, false
+/// for a row of the page and a dialog over it.
 bool standTogether(const QQuickItem &one, const QQuickItem &other, const QList<QQuickItem *> &texts)
 {
     constexpr qsizetype most = 6;

@@ -5,26 +5,27 @@
 #include <QQuickItem>
 #include <QtQml/qqml.h>
 
-/// Looks at what is on show below an item: its texts, its labels, and where they stand.
+/// Inspects the visible texts and labels below an item.
 class ShownTexts : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The translated texts on show.
+    /// Returns the visible translated texts.
     Q_INVOKABLE static QStringList translated(QQuickItem *root);
-    /// What is shown or read out and neither translated nor written by the user, who writes Cyrillic, nor a
-    /// line of the program's voice. Each with the item that has it.
+    /// Returns visible or spoken texts that are neither translated, nor written by the user (in Cyrillic),
+    /// nor a line of PelkoVoice. Each with its item.
     Q_INVOKABLE static QStringList raw(QQuickItem *root);
-    /// The translated texts that do not fit where they stand, with the reason.
+    /// Returns the translated texts that are clipped or elided, with the reason.
     Q_INVOKABLE static QStringList clipped(QQuickItem *root);
-    /// All texts with their places: the same again where nothing moves any more.
+    /// Returns all texts with their positions, to detect when nothing moves any more.
     Q_INVOKABLE static QString picture(QQuickItem *root);
-    /// Takes note where labels and symbols stand.
+    /// Stores the positions of labels and symbols.
     Q_INVOKABLE void remember(QQuickItem *root);
-    /// Those that do not stand there as in a mirror now, or, on a page, at the same place of the page.
+    /// Returns the stored items that are not at the mirrored position now, or, on a page, not at the same
+    /// position of the page.
     Q_INVOKABLE QStringList notMirrored(QQuickItem *root) const;
-    /// How many were remembered.
+    /// Returns the number of stored items.
     Q_INVOKABLE int remembered() const { return int(m_places.size()); }
 
 private:

@@ -13,8 +13,8 @@
 
 #include <QtQml/qqml.h>
 
-/// A library and the tasks panel beside it, on a time that a view test moves. A page is described by its
-/// title and its tasks, "x" before those that are ticked and "-" before the others.
+/// A library with manual time and the tasks panel. A page is described by its title and its tasks, with "x"
+/// before ticked ones and "-" before others.
 class TasksFixture : public QObject
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
     MainViewModel *mainViewModel() { return &m_main; }
     TasksViewModel *tasks() { return &m_tasks; }
 
-    /// Adds such a page and opens it.
+    /// Adds a page and opens it.
     Q_INVOKABLE void add(const QString &title, const QStringList &tasks = {})
     {
         m_appState.createDocument(Space::work);
@@ -37,7 +37,7 @@ public:
         m_appState.updateDocument(document);
     }
 
-    /// The tasks of that page.
+    /// Returns the tasks of a page.
     Q_INVOKABLE QStringList tasksOf(int page) const
     {
         QStringList tasks;
@@ -51,13 +51,13 @@ public:
     Q_INVOKABLE void open(int page) { m_appState.setOpenDocumentID(m_appState.documents()[page].id); }
     Q_INVOKABLE void goTo(const QString &space) { m_appState.setCurrentSpace(*spaceFromRawValue(space)); }
 
-    /// It is that time on a Thursday in October.
+    /// Sets the time on a Thursday in October.
     Q_INVOKABLE void setTime(int hour, int minute)
     {
         m_clock.time = timestampOf(QDateTime(QDate(2025, 10, 16), QTime(hour, minute), QTimeZone::utc()));
     }
 
-    /// The calendars tell of events, like "20 Tea" for one in twenty minutes.
+    /// Sets the events; "20 Tea" is one in twenty minutes.
     Q_INVOKABLE void tellEvents(const QStringList &events)
     {
         QList<CalendarEvent> told;
@@ -70,7 +70,7 @@ public:
         m_calendars.answer(told);
     }
 
-    /// How often the calendars were asked.
+    /// Returns how often events were fetched.
     Q_INVOKABLE int fetches() const { return int(m_calendars.windows.size()); }
 
     Q_INVOKABLE void passMinutes(int minutes)

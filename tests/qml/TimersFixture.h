@@ -14,7 +14,7 @@
 
 #include <memory>
 
-/// The timers and a store of sparks on a time that a view test moves.
+/// The timers and a store of sparks with manual time.
 class TimersFixture : public QObject
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
         m_scheduler.advance(std::chrono::milliseconds(milliseconds));
     }
     Q_INVOKABLE void stopFlow() { m_flow.stop(); }
-    /// The window that the panel has after the click on its label.
+    /// Clicks the timer's label and returns the window of the panel.
     Q_INVOKABLE QObject *toggleWindow()
     {
         if (!m_window)

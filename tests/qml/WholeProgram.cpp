@@ -29,7 +29,7 @@ void WholeProgram::addPage(const QList<Block> &blocks, Space space)
     m_appState.updateDocument(page);
 }
 
-/// A block of every kind, with words and without.
+/// Adds a page with a block of every kind, with and without text.
 void WholeProgram::addFullPage()
 {
     QList<Block> blocks{Block(BlockType::textLarge, u"Страница"_s)};

@@ -19,7 +19,7 @@
 
 #include <QtQml/qqml.h>
 
-/// Folders with names that no language of the program is written in.
+/// Folders with Cyrillic names.
 class CyrillicFolders : public PictureFolders
 {
 public:
@@ -27,7 +27,7 @@ public:
     ScheduledCall list(const std::filesystem::path &folder, Completion completion) override;
 };
 
-/// All that the windows are given, for tests that look at every view. Its user writes Cyrillic.
+/// Everything that the windows need, for tests of all views. The user's texts are in Cyrillic.
 class WholeProgram : public QObject
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ class WholeProgram : public QObject
     Q_PROPERTY(TasksViewModel *tasks READ tasks CONSTANT)
     Q_PROPERTY(ExportViewModel *exports READ exports CONSTANT)
     Q_PROPERTY(FolderChooser *chooser READ chooser CONSTANT)
-    /// Each is a name for `enter`.
+    /// The names for `enter`.
     Q_PROPERTY(QStringList scenes READ scenes CONSTANT)
 
 public:
@@ -51,7 +51,7 @@ public:
     FolderChooser *chooser() { return &m_chooser; }
 
     static QStringList scenes();
-    /// Does what leads to that view.
+    /// Opens the view with this name.
     Q_INVOKABLE void enter(const QString &scene);
 
 private:

@@ -29,7 +29,7 @@ namespace
 {
 QtMessageHandler outputOfTest = nullptr;
 
-/// What the offscreen platform cannot do, and says so, in the tests whose names begin like that.
+/// A warning of the offscreen platform that is expected in tests whose names begin like this.
 struct ExpectedWarning {
     const char *test;
     QLatin1StringView message;
@@ -49,7 +49,7 @@ bool isExpected(const QString &message)
     });
 }
 
-/// A view that Qt complains of is at fault: the test that runs fails.
+/// Makes the current test fail when Qt warns.
 void failOnWarning(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     outputOfTest(type, context, message);
@@ -59,14 +59,13 @@ void failOnWarning(QtMsgType type, const QMessageLogContext &context, const QStr
 }
 } // namespace
 
-/// Gives the view tests the module as the program has it. C++ fixtures that tests need are registered in
-/// `qmlEngineAvailable`, one line each.
+/// Provides the program's QML module to the tests. C++ fixtures are registered in `qmlEngineAvailable`.
 class Setup : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Qt Test installs a message handler of its own as late as with the first test.
+    /// Qt Test installs its message handler only with the first test.
     bool eventFilter(QObject *, QEvent *) override
     {
         const QtMessageHandler before = qInstallMessageHandler(failOnWarning);

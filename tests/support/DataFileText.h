@@ -4,7 +4,7 @@
 #include "Store/DocumentWriter.h"
 #include "support/MemorySink.h"
 
-/// The text that `writer` makes of `documents`.
+/// Returns the text that `writer` produces for `documents`.
 inline QByteArray dataFileText(DocumentWriter &writer, const QList<PelkoDocument> &documents)
 {
     MemorySink sink;
@@ -13,7 +13,7 @@ inline QByteArray dataFileText(DocumentWriter &writer, const QList<PelkoDocument
     return sink.bytes;
 }
 
-/// The text of a data file that holds `documents`.
+/// Returns the text of a data file with `documents`.
 inline QByteArray dataFileText(const QList<PelkoDocument> &documents)
 {
     DocumentWriter writer;

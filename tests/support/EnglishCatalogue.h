@@ -3,8 +3,7 @@
 #include <QCoreApplication>
 #include <QTranslator>
 
-/// The plurals of English, as the program has them, where the tested library brings them. Needs the
-/// application and lives as long.
+/// Loads the English plural forms as long as it lives. Needs the application.
 class EnglishCatalogue
 {
 public:

@@ -2,7 +2,7 @@
 
 #include <QByteArray>
 
-// The files of these tests are written with ' for ", so that they can be read.
+// In these files ' stands for ", for readability.
 inline constexpr auto idA = "0A1B2C3D-4E5F-6789-ABCD-EF0123456789";
 
 inline QByteArray inJson(QByteArray text)
@@ -10,7 +10,7 @@ inline QByteArray inJson(QByteArray text)
     return text.replace('\'', '"');
 }
 
-/// A file of one document with these members beside the required ones.
+/// Returns a file of one document with these members in addition to the required ones.
 inline QByteArray fileWith(const QByteArray &members, const QByteArray &blocks = "[]")
 {
     const QByteArray required = QByteArray("'id':'") + idA + "','space':'work','blocks':" + blocks;

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-/// Calendars that answer when a test says so.
+/// Calendars that reply when the test calls `answer`.
 class ManualCalendarStore : public CalendarStore
 {
 public:
@@ -16,7 +16,7 @@ public:
         return ScheduledCall(request);
     }
 
-    /// Answers all that were asked; nothing happens where nobody waits any more.
+    /// Replies to all pending fetches. Cancelled ones are skipped.
     void answer(const Answer &answer)
     {
         for (const auto &waiting : std::exchange(m_requests, {})) {

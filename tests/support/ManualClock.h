@@ -2,7 +2,7 @@
 
 #include "Services/Clock.h"
 
-/// A clock that stands where a test puts it.
+/// A clock that shows the time set by the test.
 class ManualClock : public Clock
 {
 public:

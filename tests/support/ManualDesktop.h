@@ -7,7 +7,7 @@
 
 #include <map>
 
-/// A chooser that waits for the test to choose.
+/// A chooser that ends when the test calls `answer`.
 class ManualFileChooser : public FileChooser
 {
 public:
@@ -22,7 +22,7 @@ public:
 
     bool isOpen() const { return !m_request.expired(); }
 
-    /// Ends the dialog; nothing happens when nobody waits for it any more.
+    /// Ends the dialog. Does nothing if the request was cancelled.
     void answer(const Choice &choice)
     {
         if (const auto request = m_request.lock())
@@ -36,7 +36,7 @@ private:
     std::weak_ptr<Completion> m_request;
 };
 
-/// Files in memory, handed over at once or when the test says so.
+/// Files in memory, returned at once or when the test calls `answer`.
 class ManualPictureFiles : public PictureFiles
 {
 public:

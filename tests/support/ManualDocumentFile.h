@@ -4,22 +4,22 @@
 
 #include <functional>
 
-/// A file in memory that counts its writes and fails when a test tells it to.
+/// A file in memory that counts its writes and fails on request.
 class ManualDocumentFile : public DocumentFile
 {
 public:
-    /// What the file holds; nothing while it does not exist.
+    /// The contents of the file; std::nullopt if it does not exist.
     std::optional<QByteArray> bytes;
-    /// While set, every read or replacement fails with these words.
+    /// While set, every read or replacement fails with this error.
     std::optional<QString> readError;
     std::optional<QString> writeError;
-    /// While set, a power cut would bring the old bytes back.
+    /// While set, `confirm` fails, as if a power cut could restore the old contents.
     std::optional<QString> confirmError;
     bool looksWritable = true;
     /// Called during each replacement.
     std::function<void()> whileWriting = [] {};
 
-    /// The replacements that succeeded.
+    /// Returns the number of successful replacements.
     int writes() const { return m_writes; }
 
     Contents read() override;

@@ -2,7 +2,7 @@
 
 #include "Services/ExportFolder.h"
 
-/// A folder that writes when the test says so, and ends as the test says.
+/// A folder that writes when the test calls it, with the result that the test sets.
 class ManualExportFolder : public ExportFolder
 {
 public:

@@ -2,7 +2,7 @@
 
 #include "Services/Pasteboard.h"
 
-/// A pasteboard of the test's own, to be filled and looked at.
+/// A clipboard in memory.
 class ManualPasteboard : public Pasteboard
 {
 public:

@@ -5,8 +5,8 @@
 #include <map>
 #include <vector>
 
-/// Folders in memory, shown at once or when the test says so. What is no folder is a file, and what is
-/// called "locked" cannot be opened.
+/// Folders in memory, listed at once or when the test calls `answer`. Paths without a folder are files, and a
+/// folder named "locked" cannot be opened.
 class ManualPictureFolders : public PictureFolders
 {
 public:
@@ -21,7 +21,7 @@ public:
         return ScheduledCall(request);
     }
 
-    /// The disk has found what it was asked for.
+    /// Completes the pending listing.
     void answer()
     {
         for (const auto &[folder, waiting] : std::exchange(m_requests, {})) {
@@ -33,7 +33,7 @@ public:
     bool isSlow = false;
 
 private:
-    /// More than a chooser shows at once, and the last of them is locked.
+    /// Returns more folders than a chooser shows at once; the last one is locked.
     static QList<Entry> manyFolders()
     {
         QList<Entry> folders;

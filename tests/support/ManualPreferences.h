@@ -6,15 +6,15 @@
 
 #include <variant>
 
-/// Preferences in memory that a test fills and looks at.
+/// Preferences in memory.
 class ManualPreferences : public Preferences
 {
 public:
-    /// A text stands for everything that is neither a number nor a date.
+    /// A text represents every value that is neither a number nor a date.
     using Value = std::variant<qint64, Timestamp, QString>;
 
     QHash<QString, Value> values;
-    /// How often a value was stored.
+    /// The number of stored values.
     int writes = 0;
 
     std::optional<qint64> integer(const QString &key) const override { return value<qint64>(key); }

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <vector>
 
-/// A scheduler whose time passes only when a test says so.
+/// A scheduler with manual time.
 class ManualScheduler : public Scheduler
 {
 public:
@@ -15,13 +15,13 @@ public:
     ScheduledCall after(Milliseconds delay, Action action) override;
     ScheduledCall every(Milliseconds interval, Action action) override;
 
-    /// Lets time pass, making every call that falls due, in the order of their times.
+    /// Advances the time and makes every call that is due, in the order of their times.
     void advance(Milliseconds duration);
 
-    /// Lets time pass while the caller is busy: what falls due meanwhile is called by the next `advance`.
+    /// Advances the time without making calls, as if the thread were busy; the next `advance` makes them.
     void block(Milliseconds duration) { m_now += duration; }
 
-    /// Whether no call is asked for any more.
+    /// Returns whether no call is scheduled.
     bool isIdle() const
     {
         return std::ranges::all_of(m_entries, [](const Entry &entry) { return entry.token.expired(); });

@@ -4,7 +4,7 @@
 
 #include <limits>
 
-/// Keeps what is written to it, up to `capacity` bytes; then it is as full as a disk.
+/// Keeps what is written, up to `capacity` bytes; then it fails like a full disk.
 class MemorySink : public ByteSink
 {
 public:

@@ -10,7 +10,7 @@ QString range(QChar sign, int first, int last)
     return u"%1%2..%3"_s.arg(sign).arg(first).arg(last);
 }
 
-/// A move counts its destination before the row is taken out.
+/// The destination of a move is counted before the row is removed.
 QString move(int row, int destination)
 {
     return u"%1>%2"_s.arg(row).arg(destination > row ? destination - 1 : destination);

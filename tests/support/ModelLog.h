@@ -3,14 +3,14 @@
 #include <QAbstractItemModel>
 #include <QStringList>
 
-/// Writes down what a list model announces: "+2..3" for rows inserted, "-2..3" for rows removed, "0>2" for a
-/// row that moved and where it stands now, "1: content kind" for the roles that changed, "reset".
+/// Records the signals of a list model: "+2..3" for inserted rows, "-2..3" for removed rows, "0>2" for a row
+/// moved to row 2, "1: content kind" for changed roles, "reset".
 class ModelLog : public QObject
 {
 public:
     explicit ModelLog(const QAbstractItemModel &model);
 
-    /// What was announced since the last time.
+    /// Returns and clears the log.
     QStringList take() { return std::exchange(m_entries, {}); }
 
 private:

@@ -3,13 +3,13 @@
 #include "Editor/BlockSelection.h"
 #include "Editor/Edit.h"
 
-/// Pages in tests. Blocks and checklist entries are called by letters, and a page can be written down as
-/// text, one line a block with every field that is present, so that a test can assert the whole of it:
+/// Pages for tests. Blocks and checklist entries have letters as ids, and a page can be written as text with
+/// all its fields, one line per block:
 ///
 ///     B quote "said he"
 ///     C sticky "" todos(x[ ] "milk", +[x] "")
 ///
-/// An id that was not made here, so a fresh one, is called "+".
+/// Other ids are written as "+".
 namespace PageText
 {
 
@@ -17,9 +17,9 @@ inline constexpr BlockType body = BlockType::textSmall;
 inline constexpr BlockType heading = BlockType::textLarge;
 
 QUuid idOf(char letter);
-/// As the view models tell it.
+/// As the view models use it.
 QString id(char letter);
-/// Of a block, or of an entry of its checklist.
+/// Returns the address of a block, or of an entry of its checklist.
 TextAddress address(char block, std::optional<char> part = std::nullopt);
 QString nameOf(const QUuid &id);
 
@@ -31,11 +31,11 @@ PelkoDocument page(const QList<Block> &blocks);
 
 QString line(const Block &block);
 QStringList lines(const PelkoDocument &document);
-/// Only the names of the blocks, such as "AB+C".
+/// Returns the letters of the blocks, such as "AB+C".
 QString letters(const PelkoDocument &document);
-/// A selection from a place in the text of one block to a place in another's.
+/// Returns a selection from a position in one block to a position in another.
 BlockSelection between(char first, int from, char last, int to);
-/// Such as "B@3", "B.x@end" for an entry of a checklist, or "" for none.
+/// Returns "B@3", "B.x@end" for an entry of a checklist, or an empty text.
 QString focus(const std::optional<FocusTarget> &target);
 
 } // namespace PageText

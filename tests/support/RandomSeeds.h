@@ -3,8 +3,8 @@
 #include <QRandomGenerator>
 #include <QTest>
 
-/// Adds rows to a random test: three fixed seeds and a new one, or only the one in PELKO_SEED. The name of a
-/// row tells its seed, so that a failure can be replayed: `PELKO_SEED=1234 tests_Tasks tst_TasksPanelYear`.
+/// Adds rows to a random test: three fixed seeds and a new one, or only PELKO_SEED. The row's name contains
+/// the seed, so that a failure can be replayed: `PELKO_SEED=1234 tests_Tasks tst_TasksPanelYear`.
 inline void addRandomSeeds()
 {
     QTest::addColumn<quint32>("seed");

@@ -5,17 +5,17 @@
 
 #include <optional>
 
-/// One thing that a writer does. What it is done to is told in numbers from 0 to 1 and found when its turn
-/// comes, so that an action still means something after those before it were left out.
+/// One action of the random writer. Its target is given by numbers from 0 to 1 and looked up when the action
+/// is performed, so that it stays valid when earlier actions are removed.
 struct Action {
     enum class Kind {
         key,          // text: such as "Ctrl+Shift+Left"
         type,         // text: typed character by character
         paste,        // text: what another program has copied; then Ctrl+V
-        pastePicture, // another program has copied a picture; then Ctrl+V
+        pastePicture, // copies a picture in another program, then presses Ctrl+V
         compose,      // text: what an input method composes and commits
         cancelComposing,
-        startComposing, // text: what an input method composes while the next actions go on
+        startComposing, // text: the preedit text during the next actions
         click,          // field, x, y
         doubleClick,    // field, x, y
         shiftClick,     // field, x, y
@@ -32,7 +32,7 @@ struct Action {
         tickTask, // which
         deleteTask,
         spark,    // text
-        failDisk, // text: in which way; milliseconds, or until it is mended
+        failDisk, // text: the kind of failure; milliseconds, or until it is mended
         mendDisk,
         restart,
         kill,
@@ -46,8 +46,8 @@ struct Action {
     double number(int index) const { return numbers.value(index); }
 };
 
-/// Such as "click".
+/// Returns a name such as "click".
 QString nameOf(const Action &action);
-/// One line of JSON, such as ["click",0.25,0.5,0.1].
+/// Returns a line of JSON, such as ["click",0.25,0.5,0.1].
 QByteArray lineOf(const Action &action);
 std::optional<Action> actionFrom(const QByteArray &line);

@@ -38,7 +38,7 @@ bool PageHistory::travel(const PlainPage &found, bool back)
     return !reached.empty();
 }
 
-/// A change that cannot be seen, such as of a block for another empty one, may have been a step or not.
+/// Adds neighbouring states that look the same: an invisible change may have been a step of its own or not.
 std::set<qsizetype> PageHistory::withNeighbours(std::set<qsizetype> states) const
 {
     for (qsizetype at = 1; at < m_states.size(); ++at) {

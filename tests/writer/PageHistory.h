@@ -4,7 +4,7 @@
 
 #include <set>
 
-/// The states that a page went through since it was opened, to judge undo and redo by.
+/// The states of a page since it was opened, to check undo and redo.
 class PageHistory
 {
 public:
@@ -13,19 +13,19 @@ public:
     const PlainPage &start() const { return m_states.first().page; }
     const PlainPage &now() const { return m_states.at(*m_now.rbegin()).page; }
 
-    /// The page went on; what was taken back is forgotten.
+    /// Adds the states of a change and drops those that could be redone.
     void add(const QList<PageModel::Stage> &stages);
 
-    /// Tells whether undo, or redo, may lead from where the page stands to `found`: one step, where keys
-    /// that followed each other may count as one. If so, the page stands there now.
+    /// Returns whether undo, or redo if `back` is false, may lead from the present state to `found`: one
+    /// step, or consecutive keys as one. If so, `found` becomes the present state.
     bool travel(const PlainPage &found, bool back);
 
 private:
     std::set<qsizetype> withNeighbours(std::set<qsizetype> states) const;
-    /// Whether the page looked the same before the change that led to that state.
+    /// Returns whether the page looked the same before the change that led to that state.
     bool isUnseen(qsizetype change) const;
 
     QList<PageModel::Stage> m_states; // each with the change that led to it
-    // A page can look the same at several times: all of them that it may be at.
+    // Equal states cannot be told apart: all that the page may be in.
     std::set<qsizetype> m_now{0};
 };

@@ -36,7 +36,7 @@ int boundary(const QString &text, int from, bool forward)
     return int(forward ? finder.toNextBoundary() : finder.toPreviousBoundary());
 }
 
-/// Backspace takes an emoji as a whole, and what is put together from letters and marks piece by piece.
+/// Backspace deletes an emoji as a whole and other composed characters code point by code point.
 int startOfLastCharacter(const QString &text, int end)
 {
     const int start = boundary(text, end, false);

@@ -2,8 +2,7 @@
 
 #include "writer/PlainPage.h"
 
-/// A place in the text of a block, or of an entry of its checklist; on a block without text 0 stands before
-/// it and 1 behind it.
+/// A position in the text of a block or of an entry; in a block without text, 0 is before it and 1 behind it.
 struct Spot {
     int block = 0;
     int entry = -1;
@@ -13,7 +12,7 @@ struct Spot {
     bool isInFieldOf(const Spot &other) const { return block == other.block && entry == other.entry; }
 };
 
-/// What is selected; where both are one place, the caret.
+/// A selection; an empty one is the caret.
 struct Marked {
     Spot anchor;
     Spot head;
@@ -21,25 +20,24 @@ struct Marked {
     bool operator==(const Marked &) const = default;
 };
 
-/// The rules of writing on a page, a second time and by plainer means than the editor's: what keys make of
-/// a page. It knows nothing of lines on a screen, so the caret is told where it stands after every key that
-/// only moves it.
+/// A second, simpler implementation of the rules of writing: what keys do to a page. It knows no layout, so
+/// the caret is set from outside after keys that only move it.
 class PageModel
 {
 public:
-    /// A page on the way: `isTyping` where undo may take the change back together with its neighbours.
+    /// A state of the page; `isTyping` if undo may join the change with its neighbours.
     struct Stage {
         PlainPage page;
         bool isTyping;
     };
 
-    /// Without `marked`, nothing on the page has the caret.
+    /// Without `marked`, the caret is not on the page.
     PageModel(PlainPage page, const std::optional<Marked> &marked);
 
     const PlainPage &page() const { return m_page; }
-    /// The pages passed through since the model was made.
+    /// The states since the model was created.
     const QList<Stage> &stages() const { return m_stages; }
-    /// Where the caret has to be after the last change; absent where no rule says so.
+    /// The expected selection after the last change; std::nullopt if no rule defines it.
     const std::optional<Marked> &marked() const { return m_marked; }
 
     void type(const QString &character) { insert(character, true); }
@@ -47,12 +45,12 @@ public:
     void returnKey(bool withShift);
     void backspace();
     void deleteKey();
-    /// Takes what is selected away.
+    /// Removes the selection.
     void cut();
-    /// The text of the selection, or nothing where there is none.
+    /// Returns the text of the selection, or std::nullopt.
     std::optional<QString> selectedText() const;
     bool isCrossing() const;
-    /// Takes a piece out of the text that the caret stands in.
+    /// Removes a range of the text that contains the caret.
     void remove(int start, int end) { removeRange(m_marked->head, start, end, false); }
 
     void addBlock(BlockType kind);
@@ -67,10 +65,10 @@ public:
     void quickAdd(const QString &text);
     /// Backspace or Delete on a block without text.
     void removeWhole(int block);
-    /// Ctrl+X on a block without text, which leaves a line to write on.
+    /// Ctrl+X on a block without text, which leaves an empty body block.
     void cutWhole(int block);
 
-    /// The text that can be written in at that place; null where there is none.
+    /// Returns the editable text at the position, or nullptr.
     const QString *textAt(const Spot &spot) const;
     bool opensWithBanner() const;
 
@@ -94,7 +92,7 @@ private:
     Spot removeMarked();
     void report(Spot field, const QString &value, int caret, bool isTyping);
     void reportText(Spot field, const QString &value, int caret, bool isTyping);
-    /// Of typing, undo first brings the typed characters back.
+    /// If it was typed, undo first restores the typed characters.
     void convert(Spot field, const QString &value, BlockType kind, bool isTyping);
     void splitBlock(Spot field, const QString &value, int caret);
     void breakUpEntry(Spot field, const QString &value, int caret);
@@ -103,8 +101,8 @@ private:
     void entryBackwards(Spot at);
     void joinForwards(Spot at);
     void becomeBody(int block, const QString &text);
-    /// The caret that a change elsewhere leaves alone. A selection over several texts ends with it, and may
-    /// end at either side.
+    /// The caret after a change made elsewhere. A selection over several texts is cleared, with the caret at
+    /// either end.
     std::optional<Spot> lastingCaret() const;
     Spot edgeOf(int block, bool start) const;
     bool takesText(int block) const;

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <numeric>
 
-// What buttons, drags and the tasks panel do to whole blocks and to the entries of checklists. The caret
-// stays with the words it stands in.
+// Operations of buttons, drags and the tasks panel on blocks and checklist entries. The caret stays in its
+// text.
 
 std::optional<Spot> PageModel::lastingCaret() const
 {
@@ -47,7 +47,7 @@ void PageModel::moveBlock(int from, int to)
     std::optional<Spot> caret = lastingCaret();
     if (caret)
         caret->block = int(order.indexOf(caret->block));
-    // A banner that is no longer the first block hides its title.
+    // Only the first block shows its banner title.
     settle(caret && textAt(*caret) ? caret : std::nullopt);
 }
 

@@ -46,7 +46,7 @@ void PageModel::joinBackwards(Spot at)
         return becomeBody(at.block, block.text);
     if (at.block == 0)
         return;
-    // In front of something without text, or as an empty block behind a checklist, only the caret goes on.
+    // Before a block without text, or from an empty block behind a checklist, only the caret moves.
     if (isEmpty || !takesText(at.block - 1)) {
         const Spot edge = edgeOf(at.block - 1, false);
         m_marked = textAt(edge) ? std::optional(Marked{.anchor = edge, .head = edge}) : std::nullopt;

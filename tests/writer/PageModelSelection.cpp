@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-// What happens to a selection that reaches beyond one text.
+// Operations on a selection over several texts.
 
 QList<Spot> PageModel::places() const
 {
@@ -50,8 +50,7 @@ bool PageModel::isCrossing() const
     return all.size() > 1 || (all.size() == 1 && !all.first().hasText);
 }
 
-/// A checklist, banner, picture or divider that is selected from one end to the other by a selection that
-/// has more than it.
+/// A checklist, banner, picture or divider that is completely selected by a selection that extends beyond it.
 bool PageModel::isWhole(const QList<Part> &parts, int block) const
 {
     if (isTextLike(m_page.at(block).kind))
@@ -144,6 +143,6 @@ std::optional<QString> PageModel::selectedText() const
         else if (block.kind == BlockType::sticky)
             lines.append(QString());
     }
-    // A picture takes the place of the text in the clipboard.
+    // The clipboard contains a picture instead of text.
     return lines.isEmpty() && !hasPicture ? std::nullopt : std::optional(lines.join(u'\n'));
 }

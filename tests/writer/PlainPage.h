@@ -2,8 +2,7 @@
 
 #include "Models/Block.h"
 
-/// A page without ids, as the random writer's model keeps it: two pages are equal where a reader could not
-/// tell them apart.
+/// A page without ids, for the model: two pages are equal if a reader cannot tell them apart.
 struct PlainEntry {
     QString text;
     bool done = false;
@@ -15,7 +14,7 @@ struct PlainBlock {
     BlockType kind = BlockType::textSmall;
     QString text = {};
     std::optional<QList<PlainEntry>> entries = std::nullopt;
-    /// Tells pictures apart; empty without one.
+    /// Identifies the picture; empty without one.
     QByteArray picture = {};
     std::optional<bool> isFullWidth = std::nullopt;
     std::optional<QString> title = std::nullopt;
@@ -25,16 +24,16 @@ struct PlainBlock {
 
 using PlainPage = QList<PlainBlock>;
 
-/// What stands for a picture of these bytes.
+/// Returns the identification of a picture with these bytes.
 QByteArray pictureMark(const QByteArray &bytes);
 
 PlainPage plainPage(const QList<Block> &blocks);
 
-/// One line a block, with characters that cannot be seen written as escapes.
+/// Returns one line per block, with invisible characters escaped.
 QStringList linesOf(const PlainPage &page);
 
-/// The text with characters that cannot be seen written as escapes, in double quotes.
+/// Returns the text in double quotes, with invisible characters escaped.
 QString quoted(const QString &text);
 
-/// The lines in which the pages differ: "-" before those expected, "+" before those found.
+/// Returns the lines that differ: "-" before expected ones, "+" before those found.
 QString difference(const PlainPage &expected, const PlainPage &found);

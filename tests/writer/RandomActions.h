@@ -4,8 +4,7 @@
 
 #include <random>
 
-/// What a writer does next, by lot: mostly writing, sometimes anything else. The same seed gives the same
-/// actions on every machine.
+/// Chooses the next action at random, mostly writing. The same seed gives the same actions on every machine.
 class RandomActions
 {
 public:

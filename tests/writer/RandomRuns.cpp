@@ -19,7 +19,7 @@ namespace
 constexpr int longestStart = 120'000;
 constexpr int longestReplay = 120'000;
 constexpr int mostReplays = 150;
-/// In seconds. More time goes to more new seeds.
+/// In seconds. Additional time is used for additional seeds.
 constexpr int longestShare = 60;
 
 void say(const QString &text)
@@ -28,7 +28,7 @@ void say(const QString &text)
     std::fflush(stdout);
 }
 
-/// What of its own stack an address sanitizer tells, or its last words.
+/// Returns the frames of this program in the address sanitizer's report, or the end of the output.
 QString lastWords(const QByteArray &errors)
 {
     QStringList told;
@@ -42,7 +42,7 @@ QString lastWords(const QByteArray &errors)
     return told.join(u'\n');
 }
 
-/// The fault of a run that another process performs; empty where there was none.
+/// Returns the fault of a run in another process; empty if there was none.
 QString perform(const QStringList &arguments, const QString &record, int longest)
 {
     QProcess process;

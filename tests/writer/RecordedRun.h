@@ -4,21 +4,21 @@
 
 #include <functional>
 
-/// A random run on paper: the library that it started from, what was done, and what went wrong.
+/// The record of a random run: its first library, its actions and its fault.
 struct RecordedRun {
     QString startPages;
     QList<Action> actions;
-    /// Empty while all went well. It begins with the kind of the fault and a colon.
+    /// Empty if there was no fault; otherwise it begins with its kind and a colon.
     QString fault;
 
     QString kindOfFault() const { return fault.section(u':', 0, 0); }
 };
 
-/// Nothing where the file cannot be read. A run whose program came to a sudden end has no fault written down.
+/// Returns std::nullopt if the file cannot be read. A run that crashed has no fault in its record.
 std::optional<RecordedRun> readRun(const QString &file);
 void writeRun(const QString &file, const RecordedRun &run);
 
-/// Writes a run down as it goes on, so that what led to a sudden end can be read.
+/// Records a run while it is performed, so that the actions before a crash are known.
 class RunRecorder
 {
 public:
@@ -34,7 +34,7 @@ private:
     QString m_file;
 };
 
-/// Leaves out what is not needed for the run to fail: halves, quarters and so on down to single actions, for
-/// as long as `fails` says yes to what is left. Asks `longest` times at most.
+/// Removes actions while `fails` returns true for the rest: halves, quarters and so on down to single
+/// actions. Calls `fails` at most `longest` times.
 QList<Action> shrink(QList<Action> actions, const std::function<bool(const QList<Action> &)> &fails,
                      int longest);

@@ -15,7 +15,7 @@ namespace
 
 constexpr auto frame = 16ms;
 
-/// Animations, and with them the timers of QML, advance by a frame when they are told to.
+/// Advances animations and QML timers by one frame when told to.
 class ManualAnimations : public QAnimationDriver
 {
 public:
@@ -41,7 +41,7 @@ private:
     explicit ManualAnimations(QObject *parent) : QAnimationDriver(parent)
     {
         install();
-        // Without any animation, timers of QML would go by the time of the system.
+        // Without a running animation, QML timers would use the system's time.
         m_pulse.setLoopCount(-1);
         m_pulse.setStartValue(0);
         m_pulse.setEndValue(1);
@@ -52,14 +52,14 @@ private:
     QVariantAnimation m_pulse;
 };
 
-/// Without a loop of events, nobody else deletes what is to be deleted later.
+/// Without a running event loop, deleteLater() needs this.
 void processEvents()
 {
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-/// Lays out and draws at once, where the window would wait for the next frame of the screen.
+/// Lays out and draws immediately instead of waiting for a frame of the screen.
 void draw(QQuickWindow &window)
 {
     QExposeEvent event(QRect(QPoint(), window.size()));
@@ -103,7 +103,7 @@ void RunningProgram::pass(std::chrono::milliseconds time)
         ManualAnimations::shared().advance();
         processEvents();
     }
-    // New rows have a place once they are drawn.
+    // New rows have a position after they were drawn.
     draw(*m_window);
     processEvents();
 }

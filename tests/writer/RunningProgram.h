@@ -22,8 +22,8 @@
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 
-/// The system under a program in a test: its time passes when it is told to, its disk is memory, and its
-/// clipboard is that of the platform. It outlives the programs that are started on it.
+/// The system for a program under test: manual time, a disk in memory, and the platform's clipboard. It
+/// outlives the programs that run on it.
 struct ManualSystem {
     ManualScheduler scheduler;
     ManualClock clock;
@@ -37,8 +37,8 @@ struct ManualSystem {
     SystemPasteboard pasteboard;
 };
 
-/// The program with its real window, store and view models. Making it loads the documents and waits until
-/// the launch card has gone.
+/// The program with its real window, store and view models. The constructor loads the documents and waits for
+/// the end of the launch card.
 class RunningProgram
 {
 public:
@@ -48,11 +48,11 @@ public:
 
     AppState &store() { return m_appState; }
     MainViewModel &main() { return m_main; }
-    /// The tasks panel, on screen or not.
+    /// The tasks panel, visible or not.
     TasksPanelViewModel &tasksPanel() { return m_tasksPanel; }
     QQuickWindow &window() { return *m_window; }
 
-    /// Lets time pass for the program, its animations included. Scenes are laid out and drawn at the end.
+    /// Advances time and animations. The scene is laid out and drawn at the end.
     void pass(std::chrono::milliseconds time);
 
 private:

@@ -24,7 +24,8 @@ QObject *objectOf(const QObject &object, const char *property)
     return object.property(property).value<QObject *>();
 }
 
-/// What looks the same on the screen: all line breaks, all blanks, and whatever has no picture.
+/// Normalises text to what is visible: all line breaks are equal, and so are all blanks and all characters
+/// without a glyph.
 QString asSeen(QString text)
 {
     text.replace("\r\n"_L1, u"\u200b\n"_s);
@@ -81,7 +82,7 @@ void ShownPage::collect(QQuickItem &item)
         findAll(item, "QQuickListView", lists);
         m_list = lists.value(0);
         findAll(item, "WritingField", m_fields);
-        // A banner has a title; other pictures only have a place for it.
+        // Only a banner shows its title field.
         m_fields.removeIf([](const QQuickItem *field) { return !field->isVisible(); });
         return;
     }

@@ -9,41 +9,41 @@
 
 class EditorViewModel;
 
-/// What the window shows of the page that is open, read from its items.
+/// The open page as shown in the window, read from its items.
 class ShownPage
 {
 public:
     ShownPage(QQuickWindow &window, EditorViewModel &editor, const PelkoDocument &document);
 
-    /// The fields that stand on the page, from top to bottom.
+    /// The fields on the page from top to bottom.
     const QList<QQuickItem *> &fields() const { return m_fields; }
-    /// The items of that type on the page, such as "RemoveTodoButton", from top to bottom.
+    /// The items of this type on the page, such as "RemoveTodoButton", from top to bottom.
     QList<QQuickItem *> controls(const QByteArray &type) const;
-    /// The buttons below the page that add blocks, from left to right.
+    /// The buttons below the page, from left to right.
     QList<QQuickItem *> chips() const;
     /// The scrolling view.
     QQuickItem *list() const { return m_list; }
 
-    /// Where a field stands, without an offset; block -1 when its block is not on the page.
+    /// The position of a field, without an offset; block -1 if its block is not on the page.
     Spot placeOf(const QQuickItem &field) const;
-    /// The block that an item of the page stands in; -1 for none.
+    /// The index of the block that contains the item, or -1.
     int blockOf(const QQuickItem *item) const;
-    /// The entry of a checklist that an item stands in; -1 for none.
+    /// The index of the checklist entry that contains the item, or -1.
     int entryOf(const QQuickItem *item) const;
     bool isOnPage(const QQuickItem *item) const;
-    /// What is selected, or where the caret stands; nothing where no text of the page has it.
+    /// The selection or caret; std::nullopt if no text of the page has the focus.
     std::optional<Marked> marked() const { return markedFrom(focusedField()); }
-    /// The same once the page is given the keyboard back, which an alert has meanwhile.
+    /// The same for when an alert returns the focus.
     std::optional<Marked> markedUnderAlert() const;
-    /// The field that has the keyboard, or null.
+    /// The field with the focus, or nullptr.
     QQuickItem *focusedField() const;
 
-    /// What an input method composes in the field that has the keyboard.
+    /// The preedit text of the field with the focus.
     QString preedit() const;
 
-    /// The first field whose text is another than the page's, told in words; empty for none.
+    /// Describes the first field whose text differs from the page; empty if there is none.
     QString difference() const;
-    /// Empty while the caret is inside the view.
+    /// Describes where the caret is if it is not visible; otherwise empty.
     QString caretOutOfSight() const;
 
 private:

@@ -2,11 +2,11 @@
 
 #include "Models/PelkoDocument.h"
 
-/// The libraries that random runs start from: each has a page of its own kind, which is open, and two more.
+/// The libraries that random runs start with. Each has an open page of one kind and two more pages.
 namespace StartPages
 {
 
-/// Such as "checklists" or "lineSeparators".
+/// Returns names such as "checklists" or "lineSeparators".
 QStringList names();
 
 QList<PelkoDocument> library(const QString &name);

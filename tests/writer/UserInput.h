@@ -3,23 +3,23 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
-/// Keyboard, pointer and input method of a window in a test. Places are told in the scene.
+/// Sends keyboard, pointer and input method events to a window. Positions are in the scene.
 class UserInput
 {
 public:
     explicit UserInput(QQuickWindow &window) : m_window(window) {}
 
-    /// Such as "Ctrl+Shift+Left".
+    /// Presses a combination such as "Ctrl+Shift+Left".
     void press(const QString &keys);
-    /// One key that types these characters, however many units they are.
+    /// Presses one key that types these characters.
     void type(const QString &character);
     void click(QPointF place, Qt::KeyboardModifiers modifiers = {});
     void doubleClick(QPointF place);
-    /// Presses, moves in a few steps and lets go.
+    /// Presses, moves in a few steps and releases.
     void drag(QPointF from, QPointF to);
     void turnWheel(QPointF place, int angle);
-    /// Composes letter by letter as input methods do: with a caret in what is composed, and after the commit
-    /// another event that says where the caret of the empty composition stands.
+    /// Composes letter by letter like an input method: with a caret in the preedit text, and after the commit
+    /// another event with the caret of the empty preedit text.
     void compose(const QString &preedit);
     void commit(const QString &text, bool saysWhereItStands);
 
